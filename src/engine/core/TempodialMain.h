@@ -1,0 +1,132 @@
+#pragma once
+
+#include "base/Watched.h"
+#include "engine/foundation/TracedObject.h"
+#include "platform/Platform.h"
+#include "platform/objectmodel/Application.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+class TempodialAnalyser;
+class TempodialCommonUtils;
+class TempodialConfig;
+class TempodialDataHandler;
+class TempodialProjectManager;
+class TempodialStrings;
+class TempodialUtils;
+class TempodialWorkLog;
+
+/// The hub: it makes and owns all other objects, and they reach each other through its members, which guard each call.
+class TempodialMain final : public TracedObject, public std::enable_shared_from_this<TempodialMain> {
+public:
+    explicit TempodialMain(Ref<const Platform> platform);
+    ~TempodialMain() override;
+
+    Ref<TempodialDebugLog> mTempodialDebugLog;
+    Ref<TempodialStrings> mStrings;
+    Ref<TempodialConfig> mConfig;
+    Ref<TempodialUtils> mUtils;
+    Ref<TempodialCommonUtils> mCommonUtils;
+    Ref<Picture> mTempodialIcon;
+    Ref<Picture> mTempodialIconMask;
+    Ref<Picture> mTempodialRefreshIcon;
+    Ref<Picture> mTempodialRefreshMaskIcon;
+    /// False when Outlook's major version is 8, 9 or 10 or can't be read.
+    bool mOutlook2003orLater = false;
+    /// True when the use of e-mail objects would raise the security prompt; never goes back to false.
+    bool mSecurityPopups = false;
+    /// True when the version in the registry differed as this run started.
+    bool mNewVersion = false;
+    /// The name of the work log's first ordinary calendar view, empty when there is none.
+    std::string mDefaultCalendarView;
+    Ref<NameSpace> mNamespace;
+    Watched<Application> mApplication;
+
+    /// Makes all objects and starts the trace; doesn't touch the mailbox.
+    void Initialize(const std::string& progID, const Ref<Application>& application);
+    /// Sets up the work log, the form, the projects and the icons.
+    void TempodialMain_Run();
+    /// Ends everything, workers first; a second call is harmless.
+    void Terminate();
+    void ZeroReferences();
+    void mApplication_MapiLogonComplete();
+    void mApplication_Quit();
+
+    /// True when an inspector is open on that item.
+    bool IsInspector(const Ref<AppointmentItem>& item);
+
+    void GoToTasklog(bool override);
+    /// The identity of the work log folder, empty when there is none.
+    std::string GetCalendarID();
+    /// Imports the tracker's files of today and that many days before; unless forced only when the last import was long
+    /// enough ago.
+    void SyncData(std::int32_t numDays, bool forceSync);
+    void ChangeViewToCalendar();
+    void ChangeViewToTable();
+    /// The work log folder, nothing when there is none.
+    Ref<MAPIFolder> GetWorkLog();
+    /// A new activity, saved; nothing when it couldn't be made or saved. The duration is in minutes.
+    Ref<AppointmentItem> CreateCalendarItem(const std::string& project, const std::string& newDescription,
+        const std::string& newApplication, const std::string& newContacts, std::int32_t newDuration, Date newStart,
+        Date newEnd, const std::string& body, bool display);
+    bool IsContinuable(const Ref<AppointmentItem>& item);
+    /// Fills an activity anew and saves it; 0 when that went well.
+    std::int32_t UpdateCalendarItem(const Ref<AppointmentItem>& item, const std::string& project,
+        const std::string& newDescription, const std::string& newApplication, const std::string& newContacts,
+        std::int32_t newDuration, Date newStart, Date newEnd, const std::string& body, bool newItem, bool closeIt);
+    void ExtraCalendarItemInfo(const Ref<AppointmentItem>& item, const std::string& newDescription,
+        const std::string& newApplication, const std::string& newProject, const std::string& newContacts, Date newStart,
+        Date newEnd, const std::string& newBody);
+    /// The item's text, empty when it is refused or can't be read.
+    std::string GetBody(const Ref<AppointmentItem>& item);
+    void CreateCalendarDuplicate(const Ref<AppointmentItem>& toDuplicate, bool display);
+    void RefreshCalendarItem(const Ref<AppointmentItem>& item, const std::string& newProject,
+        const std::string& newDescription, bool subjectOnly);
+    /// Gives the item the project when the project's rules match it; true when they did. Saves nothing.
+    bool ApplyProjectToItem(const std::string& project, const Ref<AppointmentItem>& item);
+    /// True when the item is an activity.
+    bool IsOurItem(const Ref<AppointmentItem>& itemToCheck);
+    /// The value of a user property, nothing when it can't be read.
+    Variant GetAttribute(const std::string& attrib, const Ref<AppointmentItem>& item);
+    /// Fills the array with all project names and the special entries asked for; the result is its upper bound.
+    Variant GetProjects(std::vector<std::string>& projArray, bool withAdd, bool withNoProject, bool withAllProjects);
+    /// Adds or changes a project; the result is a message for the user, empty when it went well.
+    std::string UpdateorAddProject(const std::string& project, const std::string& subRule, const std::string& notSubRule,
+        const std::string& peopleRule, const std::string& precedence, bool addOnly);
+    void UpdateorAddProjectRule(
+        const std::string& project, const std::string& newSubRule, const std::string& newPeopleRule);
+    void DeleteProject(const std::string& project);
+    /// A message for the user when a project may not have that name, else empty.
+    std::string ValidateProject(const std::string& project);
+    /// The project that the rules give, "No Project" when none does.
+    std::string WhatProject(const std::string& subject, const std::string& people);
+    bool IsProject(const std::string& project, const std::string& subject, const std::string& people);
+    std::string GetProjectPrecedence(const std::string& project);
+    std::string GetProjectSubRule(const std::string& project);
+    std::string GetProjectNotSubRule(const std::string& project);
+    std::string GetProjectPeopleRule(const std::string& project);
+    void ApplyProject(const std::string& project, std::int32_t numDays);
+    /// The first item whose date property is that moment at minute grain, nothing when there is none.
+    Ref<AppointmentItem> ReturnMatchingItem(const std::string& param, Date paramDate);
+    /// The user has come to the work log folder: applies the view and imports.
+    void SwitchingToTasklog();
+    /// Sets a project on the selected items, on the items of a range, or both.
+    void SetProjectForItems(
+        const std::string& project, bool selected, bool range, Date fromDate, Date toDate, bool override);
+
+private:
+    Ref<TempodialWorkLog> mWorkLog;
+    Ref<TempodialDataHandler> mDataHandler;
+    Ref<TempodialAnalyser> mAnalyser;
+    Ref<TempodialProjectManager> mProjectManager;
+    Ref<Explorers> mExplorers;
+    Ref<Inspectors> mInspectors;
+    Ref<FileSystemObject> mFileSystem;
+};
+
+}

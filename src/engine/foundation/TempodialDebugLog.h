@@ -1,0 +1,56 @@
+#pragma once
+
+#include "base/Date.h"
+#include "base/Ref.h"
+#include "platform/Platform.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tempodial {
+
+class TempodialCommonUtils;
+
+/// The trace: two files in the data folder, the older thrown away when the newer is full.
+class TempodialDebugLog {
+public:
+    explicit TempodialDebugLog(Ref<const Platform> platform);
+
+    /// The context word of the trace's own lines, "TDDebugLog".
+    std::string mTraceInfo;
+    /// 0 flushes after every line; otherwise the buffer is flushed when it is longer, in characters.
+    std::int32_t mFlushLength = 0;
+
+    /// Stores what it is given and touches no file.
+    void Initialize(Ref<TempodialCommonUtils> utils, const std::string& version, const std::string& name1,
+        const std::string& name2, std::int32_t flushLength);
+    /// Writes the start line.
+    void Start();
+    /// Adds a line; never fails.
+    void Out(std::string_view context, std::string_view text) noexcept;
+    /// Collects lines from now on, up to 2500 characters, or stops collecting; writes nothing itself.
+    void SetBufferedTrace(bool buffer);
+    /// Writes the buffer and one line end; never fails.
+    void FlushIt() noexcept;
+    /// Writes the stop line, flushes and lets its references go; later lines do nothing.
+    void Terminate();
+
+private:
+    /// The path to write to, with the roll-over done and a new file begun where there is none.
+    std::string GetTraceFilePath();
+    void BeginFile(const std::string& path);
+    const std::string& Stamp();
+
+    Ref<const Platform> mPlatform;
+    Ref<FileSystemObject> mFileSystem;
+    Ref<TempodialCommonUtils> mCommonUtils;
+    std::string mVersion;
+    std::string mBuffer;
+    std::string mFileName1;
+    std::string mFileName2;
+    Date mStampMoment;
+    std::string mStamp;
+};
+
+}

@@ -1,0 +1,38 @@
+#include "engine/foundation/TracedObject.h"
+
+namespace tempodial {
+
+void Attempt::TraceFailure(const Failure& failure) const
+{
+    const auto& text = failure.Description();
+    const auto& step = mObject.mStage;
+    std::string line(mWords);
+    switch (mShape) {
+    case LineShape::TextColonStep:
+        line += text + ":" + step;
+        break;
+    case LineShape::TextBlankStep:
+        line += text + " " + step;
+        break;
+    case LineShape::TextAmpersandStep:
+        line += text + " & " + step;
+        break;
+    case LineShape::TextStep:
+        line += text + step;
+        break;
+    case LineShape::TextOnly:
+        line += text;
+        break;
+    case LineShape::ColonText:
+        line += ":" + text;
+        break;
+    case LineShape::StepNumberText:
+        line += step + " " + std::to_string(failure.Number()) + " " + text;
+        break;
+    case LineShape::Silent:
+        return;
+    }
+    mObject.Trace(line);
+}
+
+}
