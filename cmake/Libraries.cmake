@@ -1,0 +1,10 @@
+# The libraries behind the platform interfaces; each is used in one folder only.
+
+find_package(Threads REQUIRED)
+find_package(SQLite3 REQUIRED)
+find_package(SQLiteCpp REQUIRED)
+find_package(EXPAT REQUIRED)
+find_package(ICU REQUIRED COMPONENTS uc i18n)
+find_package(tomlplusplus REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)

@@ -1,0 +1,21 @@
+# tempodial_resources(): brings resources/ to share/tempodial, where the program looks: next to its own folder, in a
+# build tree as in an installation. What a tool generates goes there too; its target is added with
+# add_dependencies(resources TARGET).
+function(tempodial_resources)
+    set(from "${PROJECT_SOURCE_DIR}/resources")
+    set(to "${CMAKE_BINARY_DIR}/share/tempodial")
+    file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE "${from}" "${from}/*")
+    list(FILTER files EXCLUDE REGEX "^(README\\.md|CMakeLists\\.txt)$")
+    set(copies "")
+    foreach(file IN LISTS files)
+        add_custom_command(OUTPUT "${to}/${file}"
+            COMMAND "${CMAKE_COMMAND}" -E copy "${from}/${file}" "${to}/${file}"
+            DEPENDS "${from}/${file}" COMMENT "Copying resource ${file}" VERBATIM)
+        list(APPEND copies "${to}/${file}")
+    endforeach()
+    add_custom_target(resources ALL DEPENDS ${copies})
+    if(TARGET tempodial)
+        add_dependencies(tempodial resources)
+    endif()
+    install(DIRECTORY "${to}/" DESTINATION "${CMAKE_INSTALL_DATADIR}/tempodial" OPTIONAL)
+endfunction()

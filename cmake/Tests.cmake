@@ -1,0 +1,67 @@
+# One test program for each folder of tests/ that holds sources: tests/engine/worklog gives engine_worklog_tests.
+# tests/support is the library that all of them use.
+
+include(GoogleTest)
+find_package(GTest REQUIRED)
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+set(tests "${PROJECT_SOURCE_DIR}/tests")
+
+tempodial_folder(test_support tests/support LINK
+    cli engine host_windows host_store host_system forms platform base GTest::gmock GTest::gtest GTest::gmock_main)
+get_target_property(type test_support TYPE)
+if(type STREQUAL "INTERFACE_LIBRARY")
+    set(scope INTERFACE)
+else()
+    set(scope PUBLIC)
+endif()
+target_include_directories(test_support ${scope} "${tests}" "${tests}/support")
+target_compile_definitions(test_support ${scope}
+    TEMPODIAL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+    TEMPODIAL_EXECUTABLE="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/tempodial"
+    TEMPODIAL_SHARE_DIR="${CMAKE_BINARY_DIR}/share/tempodial"
+    TEST_DATA_DIR="${tests}/data")
+
+# The tests' precompiled header, made once.
+file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/TestHeaders.cpp" CONTENT "")
+add_library(test_headers OBJECT "${CMAKE_BINARY_DIR}/TestHeaders.cpp")
+target_link_libraries(test_headers PRIVATE test_support)
+target_precompile_headers(test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <functional> <memory> <string> <vector>)
+
+# Tests see the same surroundings everywhere; a sanitizer's finding ends the test.
+set(environment
+    TZ=set:UTC
+    LC_ALL=set:C.UTF-8
+    ASAN_OPTIONS=set:abort_on_error=0,detect_stack_use_after_return=1,strict_string_checks=1
+    UBSAN_OPTIONS=set:halt_on_error=1,print_stacktrace=1)
+
+file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${tests}/*.cpp")
+list(FILTER sources EXCLUDE REGEX "^${tests}/(support|data)/")
+set(folders "")
+foreach(source IN LISTS sources)
+    cmake_path(GET source PARENT_PATH folder)
+    list(APPEND folders "${folder}")
+endforeach()
+list(REMOVE_DUPLICATES folders)
+
+foreach(folder IN LISTS folders)
+    cmake_path(RELATIVE_PATH folder BASE_DIRECTORY "${tests}" OUTPUT_VARIABLE path)
+    string(REPLACE "/" "_" program "${path}")
+    string(REGEX REPLACE "^scenarios" "scenario" program "${program}")
+    string(APPEND program "_tests")
+    file(GLOB programSources CONFIGURE_DEPENDS "${folder}/*.cpp")
+    add_executable(${program} ${programSources})
+    target_link_libraries(${program} PRIVATE test_support)
+    target_precompile_headers(${program} REUSE_FROM test_headers)
+    set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    set(timeout 60)
+    if(path MATCHES "^(cli|scenarios|contract)")
+        set(timeout 300)
+    endif()
+    if(TARGET tempodial)
+        add_dependencies(${program} tempodial)
+    endif()
+    gtest_discover_tests(${program} TEST_PREFIX "${path}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+        WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
+        PROPERTIES TIMEOUT ${timeout} LABELS "${path}" ENVIRONMENT_MODIFICATION "${environment}")
+endforeach()
