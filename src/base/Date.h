@@ -19,7 +19,7 @@ public:
     /// The moment that many seconds after 1899-12-30 00:00:00.
     static constexpr Date FromSeconds(std::int64_t seconds) { return Date(seconds); }
     /// The midnight of a day, with months and days out of range rolled over and years 0 to 99 taken as 1930 to 2029.
-    /// Fails (5) outside the years 100 to 9999.
+    /// Fails (5) outside the years 100 to 9999, and (6) when a part is beyond 16 bits.
     static Date FromYearMonthDay(std::int32_t year, std::int32_t month, std::int32_t day);
     /// The same from texts; a text that is no number fails (13), one beyond 16 bits (6).
     static Date FromTexts(std::string_view year, std::int32_t month, std::string_view day);

@@ -1,0 +1,356 @@
+#include "base/Text.h"
+
+#include "base/CaseFold.h"
+#include "base/Failure.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto NotFound = std::string_view::npos;
+
+/// Length of the run of ASCII bytes from an offset on, found eight bytes at a time.
+std::size_t AsciiRun(std::string_view text, std::size_t from)
+{
+    constexpr std::uint64_t HighBits = 0x8080808080808080U;
+    auto offset = from;
+    std::uint64_t word = 0;
+    while (offset + sizeof(word) <= text.size()) {
+        std::memcpy(&word, text.data() + offset, sizeof(word));
+        if ((word & HighBits) != 0) {
+            break;
+        }
+        offset += sizeof(word);
+    }
+    while (offset < text.size() && static_cast<unsigned char>(text[offset]) < 0x80) {
+        ++offset;
+    }
+    return offset - from;
+}
+
+bool IsAscii(std::string_view text)
+{
+    return AsciiRun(text, 0) == text.size();
+}
+
+struct Character
+{
+    char32_t code;
+    std::size_t size;
+    bool isValid;
+};
+
+/// The character at an offset; a byte that belongs to no valid character has its own value as code.
+Character Decode(std::string_view text, std::size_t offset)
+{
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(text[offset + index]); };
+    const auto lead = byte(0);
+    if (lead < 0x80) {
+        return { lead, 1, true };
+    }
+    const Character broken = { lead, 1, false };
+    const std::size_t size = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : 2;
+    if (lead < 0xc2 || lead > 0xf4 || text.size() - offset < size) {
+        return broken;
+    }
+    char32_t code = lead & (0xffU >> (size + 1));
+    for (std::size_t index = 1; index < size; ++index) {
+        if ((byte(index) & 0xc0U) != 0x80U) {
+            return broken;
+        }
+        code = (code << 6U) | (byte(index) & 0x3fU);
+    }
+    constexpr std::array<char32_t, 5> Smallest = { 0, 0, 0x80, 0x800, 0x10000 };
+    const bool isSurrogate = code >= 0xd800 && code <= 0xdfff;
+    if (code < Smallest[size] || isSurrogate || code > 0x10ffff) {
+        return broken;
+    }
+    return { code, size, true };
+}
+
+void Encode(std::string& out, char32_t code)
+{
+    const auto tail = [&](unsigned shift) { out += static_cast<char>(0x80U | ((code >> shift) & 0x3fU)); };
+    if (code < 0x80) {
+        out += static_cast<char>(code);
+    } else if (code < 0x800) {
+        out += static_cast<char>(0xc0U | (code >> 6U));
+        tail(0);
+    } else if (code < 0x10000) {
+        out += static_cast<char>(0xe0U | (code >> 12U));
+        tail(6);
+        tail(0);
+    } else {
+        out += static_cast<char>(0xf0U | (code >> 18U));
+        tail(12);
+        tail(6);
+        tail(0);
+    }
+}
+
+/// Number of characters in the bytes up to an offset, which must be the start of a character.
+std::size_t CharactersBefore(std::string_view text, std::size_t end)
+{
+    std::size_t offset = AsciiRun(text.substr(0, end), 0);
+    auto count = offset;
+    while (offset < end) {
+        offset += Decode(text, offset).size;
+        ++count;
+    }
+    return count;
+}
+
+/// The offset that many characters behind another, the end of the text when there are fewer.
+std::size_t Skip(std::string_view text, std::size_t offset, std::size_t characters)
+{
+    const auto run = AsciiRun(text.substr(0, offset + std::min(characters, text.size() - offset)), offset);
+    offset += run;
+    for (auto left = characters - run; left > 0 && offset < text.size(); --left) {
+        offset += Decode(text, offset).size;
+    }
+    return offset;
+}
+
+bool IsWellFormed(std::string_view text)
+{
+    auto offset = AsciiRun(text, 0);
+    while (offset < text.size()) {
+        const auto character = Decode(text, offset);
+        if (!character.isValid) {
+            return false;
+        }
+        offset += character.size;
+    }
+    return true;
+}
+
+/// Offset of the first place, from the start of a character on, where a text that isn't well-formed occurs as whole
+/// characters.
+std::size_t FindBroken(std::string_view text, std::string_view find, std::size_t offset)
+{
+    for (; offset < text.size(); offset += Decode(text, offset).size) {
+        if (!text.substr(offset).starts_with(find)) {
+            continue;
+        }
+        auto end = offset;
+        while (end < offset + find.size()) {
+            end += Decode(text, end).size;
+        }
+        if (end == offset + find.size()) {
+            return offset;
+        }
+    }
+    return NotFound;
+}
+
+/// A text to look for, which isn't empty.
+class Needle
+{
+public:
+    explicit Needle(std::string_view find)
+        : mFind(find)
+        , mIsWellFormed(IsWellFormed(find))
+    {
+    }
+
+    /// Offset of the first occurrence at or behind an offset.
+    std::size_t FindIn(std::string_view text, std::size_t offset) const
+    {
+        // Only a piece of a character can occur inside of one.
+        return mIsWellFormed ? text.find(mFind, offset) : FindBroken(text, mFind, offset);
+    }
+
+private:
+    std::string_view mFind;
+    bool mIsWellFormed;
+};
+
+std::int32_t Position(std::string_view text, std::size_t offset)
+{
+    return offset == NotFound ? 0 : static_cast<std::int32_t>(CharactersBefore(text, offset)) + 1;
+}
+
+std::size_t CheckedLength(std::int32_t length)
+{
+    if (length < 0) {
+        throw Failure(Error::InvalidCall);
+    }
+    return static_cast<std::size_t>(length);
+}
+
+std::size_t CheckedStart(std::int32_t start)
+{
+    if (start < 1) {
+        throw Failure(Error::InvalidCall);
+    }
+    return static_cast<std::size_t>(start) - 1;
+}
+
+constexpr char FoldAscii(char character)
+{
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
+}
+
+}
+
+std::int32_t Length(std::string_view text)
+{
+    return static_cast<std::int32_t>(CharactersBefore(text, text.size()));
+}
+
+std::int32_t InStr(std::int32_t start, std::string_view text, std::string_view find)
+{
+    const auto offset = Skip(text, 0, CheckedStart(start));
+    if (offset == text.size()) {
+        return 0;
+    }
+    return find.empty() ? start : Position(text, Needle(find).FindIn(text, offset));
+}
+
+std::int32_t InStr(std::string_view text, std::string_view find)
+{
+    return InStr(1, text, find);
+}
+
+std::int32_t InStrRev(std::string_view text, std::string_view find)
+{
+    if (find.empty()) {
+        return Length(text);
+    }
+    const Needle needle(find);
+    auto last = NotFound;
+    for (auto offset = needle.FindIn(text, 0); offset != NotFound;
+         offset = needle.FindIn(text, offset + Decode(text, offset).size)) {
+        last = offset;
+    }
+    return Position(text, last);
+}
+
+std::string Left(std::string_view text, std::int32_t length)
+{
+    return std::string(text.substr(0, Skip(text, 0, CheckedLength(length))));
+}
+
+std::string Right(std::string_view text, std::int32_t length)
+{
+    const auto wanted = CheckedLength(length);
+    const auto all = CharactersBefore(text, text.size());
+    return std::string(text.substr(wanted < all ? Skip(text, 0, all - wanted) : 0));
+}
+
+std::string Mid(std::string_view text, std::int32_t start)
+{
+    return std::string(text.substr(Skip(text, 0, CheckedStart(start))));
+}
+
+std::string Mid(std::string_view text, std::int32_t start, std::int32_t length)
+{
+    const auto offset = Skip(text, 0, CheckedStart(start));
+    const auto end = Skip(text, offset, CheckedLength(length));
+    return std::string(text.substr(offset, end - offset));
+}
+
+void Overwrite(std::string& text, std::int32_t start, std::int32_t length, std::string_view by)
+{
+    const auto offset = Skip(text, 0, CheckedStart(start));
+    if (offset == text.size()) {
+        throw Failure(Error::InvalidCall);
+    }
+    const auto room = CharactersBefore(std::string_view(text).substr(offset), text.size() - offset);
+    const auto count = std::min({ CheckedLength(length), CharactersBefore(by, by.size()), room });
+    text.replace(offset, Skip(text, offset, count) - offset, by.substr(0, Skip(by, 0, count)));
+}
+
+std::string Trim(std::string_view text)
+{
+    const auto first = text.find_first_not_of(' ');
+    if (first == NotFound) {
+        return {};
+    }
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string Replace(std::string_view text, std::string_view find, std::string_view by)
+{
+    if (find.empty()) {
+        return std::string(text);
+    }
+    const Needle needle(find);
+    std::string out;
+    std::size_t done = 0;
+    for (auto offset = needle.FindIn(text, 0); offset != NotFound; offset = needle.FindIn(text, done)) {
+        out.append(text.substr(done, offset - done)).append(by);
+        done = offset + find.size();
+    }
+    return out.append(text.substr(done));
+}
+
+std::vector<std::string> Split(std::string_view text, std::string_view separator)
+{
+    std::vector<std::string> pieces;
+    if (text.empty()) {
+        return pieces;
+    }
+    std::size_t done = 0;
+    if (!separator.empty()) {
+        const Needle needle(separator);
+        for (auto offset = needle.FindIn(text, 0); offset != NotFound; offset = needle.FindIn(text, done)) {
+            pieces.emplace_back(text.substr(done, offset - done));
+            done = offset + separator.size();
+        }
+    }
+    pieces.emplace_back(text.substr(done));
+    return pieces;
+}
+
+std::string Fold(std::string_view text)
+{
+    std::string out(text);
+    const auto ascii = AsciiRun(text, 0);
+    std::transform(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(ascii), out.begin(), FoldAscii);
+    if (ascii == text.size()) {
+        return out;
+    }
+    out.resize(ascii);
+    for (auto offset = ascii; offset < text.size();) {
+        const auto character = Decode(text, offset);
+        if (character.isValid) {
+            Encode(out, FoldCharacter(character.code));
+        } else {
+            out += text[offset];
+        }
+        offset += character.size;
+    }
+    return out;
+}
+
+int CompareIgnoringCase(std::string_view a, std::string_view b)
+{
+    if (IsAscii(a) && IsAscii(b)) {
+        const auto common = std::min(a.size(), b.size());
+        for (std::size_t index = 0; index < common; ++index) {
+            const int difference = FoldAscii(a[index]) - FoldAscii(b[index]);
+            if (difference != 0) {
+                return difference;
+            }
+        }
+        return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
+    }
+    return Fold(a).compare(Fold(b));
+}
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b)
+{
+    return CompareIgnoringCase(a, b) == 0;
+}
+
+std::int32_t InStrIgnoringCase(std::string_view text, std::string_view find)
+{
+    return InStr(Fold(text), Fold(find));
+}
+
+}
