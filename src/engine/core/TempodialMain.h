@@ -120,6 +120,11 @@ public:
         const std::string& project, bool selected, bool range, Date fromDate, Date toDate, bool override);
 
 private:
+    /// Compares the version in the registry with this one, and writes this one when they differ.
+    void CompareVersions();
+    void ReadOutlookVersion();
+    void LoadIcons();
+
     Ref<TempodialWorkLog> mWorkLog;
     Ref<TempodialDataHandler> mDataHandler;
     Ref<TempodialAnalyser> mAnalyser;

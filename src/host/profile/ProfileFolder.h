@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+
+namespace tempodial {
+
+/// The folder that holds all that belongs to one user; locked against other processes while this object lives.
+class ProfileFolder {
+public:
+    /// Makes the folder when it is absent, with access for its user alone, and locks it. Fails with `ProfileInUse` when
+    /// another process holds it, with `ProfileError` when it can't be made or opened.
+    explicit ProfileFolder(std::string path);
+    ~ProfileFolder();
+    ProfileFolder(const ProfileFolder&) = delete;
+    ProfileFolder& operator=(const ProfileFolder&) = delete;
+
+    /// The absolute path.
+    const std::string& Path() const { return mPath; }
+
+    /// The folder that is used when none is named: TEMPODIAL_PROFILE, else "tempodial" in the user's data folder.
+    /// Fails with `ProfileError` when the environment names no home.
+    static std::string Default();
+
+private:
+    void Lock();
+    void CloseToOthers() const;
+
+    std::string mPath;
+    int mDescriptor = -1;
+};
+
+}
