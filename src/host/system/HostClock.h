@@ -1,0 +1,26 @@
+#pragma once
+
+#include "host/system/LocalTime.h"
+#include "platform/system/Clock.h"
+
+#include <chrono>
+#include <optional>
+
+namespace tempodial {
+
+/// The clock of the system, or one that was set to another moment and goes on from there.
+class HostClock : public Clock
+{
+public:
+    /// Without a start it shows the system's local time.
+    explicit HostClock(std::optional<Date> start = std::nullopt);
+
+    Date Now() override;
+
+private:
+    std::optional<Date> mStart;
+    std::chrono::steady_clock::time_point mStartedAt;
+    LocalTime mLocalTime;
+};
+
+}
