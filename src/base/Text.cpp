@@ -13,18 +13,32 @@ namespace {
 
 constexpr auto NotFound = std::string_view::npos;
 
-/// Length of the run of ASCII bytes from an offset on, found eight bytes at a time.
+/// Eight bytes, the unit in which ASCII is worked on.
+using Word = std::uint64_t;
+
+constexpr Word EachByte(unsigned char byte)
+{
+    return byte * Word(0x0101010101010101);
+}
+
+Word WordAt(const char* bytes)
+{
+    Word word = 0;
+    std::memcpy(&word, bytes, sizeof(word));
+    return word;
+}
+
+constexpr bool IsAscii(Word word)
+{
+    return (word & EachByte(0x80)) == 0;
+}
+
+/// Length of the run of ASCII bytes from an offset on.
 std::size_t AsciiRun(std::string_view text, std::size_t from)
 {
-    constexpr std::uint64_t HighBits = 0x8080808080808080U;
     auto offset = from;
-    std::uint64_t word = 0;
-    while (offset + sizeof(word) <= text.size()) {
-        std::memcpy(&word, text.data() + offset, sizeof(word));
-        if ((word & HighBits) != 0) {
-            break;
-        }
-        offset += sizeof(word);
+    while (offset + sizeof(Word) <= text.size() && IsAscii(WordAt(text.data() + offset))) {
+        offset += sizeof(Word);
     }
     while (offset < text.size() && static_cast<unsigned char>(text[offset]) < 0x80) {
         ++offset;
@@ -195,6 +209,31 @@ constexpr char FoldAscii(char character)
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
 }
 
+/// Eight ASCII bytes with their case folded: the high bit of a byte tells whether it reaches 'A', and then 'Z'.
+constexpr Word FoldAscii(Word word)
+{
+    const auto isUpper = (word + EachByte(0x80 - 'A')) & ~(word + EachByte(0x80 - 'Z' - 1)) & EachByte(0x80);
+    return word | (isUpper >> 2U);
+}
+
+/// Folds the ASCII bytes at the start of a text in place; the length of that run.
+std::size_t FoldAsciiRun(std::string& text)
+{
+    std::size_t offset = 0;
+    for (; offset + sizeof(Word) <= text.size(); offset += sizeof(Word)) {
+        const auto word = WordAt(text.data() + offset);
+        if (!IsAscii(word)) {
+            break;
+        }
+        const auto folded = FoldAscii(word);
+        std::memcpy(text.data() + offset, &folded, sizeof(folded));
+    }
+    for (; offset < text.size() && static_cast<unsigned char>(text[offset]) < 0x80; ++offset) {
+        text[offset] = FoldAscii(text[offset]);
+    }
+    return offset;
+}
+
 }
 
 std::int32_t Length(std::string_view text)
@@ -310,8 +349,7 @@ std::vector<std::string> Split(std::string_view text, std::string_view separator
 std::string Fold(std::string_view text)
 {
     std::string out(text);
-    const auto ascii = AsciiRun(text, 0);
-    std::transform(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(ascii), out.begin(), FoldAscii);
+    const auto ascii = FoldAsciiRun(out);
     if (ascii == text.size()) {
         return out;
     }
