@@ -29,11 +29,9 @@ target_compile_options(tempodial_options INTERFACE
     $<$<BOOL:${TEMPODIAL_WARNINGS_AS_ERRORS}>:-Werror>)
 target_compile_definitions(tempodial_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND (NOT CMAKE_BUILD_TYPE STREQUAL "Debug" OR TEMPODIAL_SANITIZERS))
     # With optimisation GCC 12 sees overlapping copies and unset values in the standard library that aren't there.
-    target_compile_options(tempodial_options INTERFACE
-        $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>
-        $<$<BOOL:${TEMPODIAL_SANITIZERS}>:-Wno-restrict -Wno-maybe-uninitialized>)
+    target_compile_options(tempodial_options INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
 endif()
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")

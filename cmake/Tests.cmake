@@ -8,7 +8,7 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(tests "${PROJECT_SOURCE_DIR}/tests")
 
 tempodial_folder(test_support tests/support LINK
-    cli engine host_windows host_store host_system forms platform base GTest::gmock GTest::gtest GTest::gmock_main)
+    cli engine host_profile host_windows host_store host_system forms platform base GTest::gmock GTest::gtest GTest::gmock_main)
 get_target_property(type test_support TYPE)
 if(type STREQUAL "INTERFACE_LIBRARY")
     set(scope INTERFACE)
@@ -28,15 +28,8 @@ add_library(test_headers OBJECT "${CMAKE_BINARY_DIR}/TestHeaders.cpp")
 target_link_libraries(test_headers PRIVATE test_support)
 target_precompile_headers(test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <functional> <memory> <string> <vector>)
 
-# Tests see the same surroundings everywhere; a sanitizer's finding ends the test.
-set(environment
-    TZ=set:UTC
-    LC_ALL=set:C.UTF-8
-    ASAN_OPTIONS=set:abort_on_error=0,detect_stack_use_after_return=1,strict_string_checks=1
-    UBSAN_OPTIONS=set:halt_on_error=1,print_stacktrace=1)
-
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${tests}/*.cpp")
-list(FILTER sources EXCLUDE REGEX "^${tests}/(support|data)/")
+list(FILTER sources EXCLUDE REGEX "^${tests}/(support/|(.*/)?data/)")
 set(folders "")
 foreach(source IN LISTS sources)
     cmake_path(GET source PARENT_PATH folder)
@@ -63,5 +56,21 @@ foreach(folder IN LISTS folders)
     endif()
     gtest_discover_tests(${program} TEST_PREFIX "${path}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
         WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
-        PROPERTIES TIMEOUT ${timeout} LABELS "${path}" ENVIRONMENT_MODIFICATION "${environment}")
+        PROPERTIES TIMEOUT ${timeout} LABELS "${path}")
+    list(APPEND programs ${program})
 endforeach()
+
+# Tests see the same surroundings everywhere, and a sanitizer's finding ends the test. CTest learns of the single tests
+# when it starts, so it learns of this then, too; gtest_discover_tests itself can't pass on a list.
+set(script "")
+foreach(program IN LISTS programs)
+    string(APPEND script "set_tests_properties(\${${program}_TESTS} PROPERTIES ENVIRONMENT \""
+        "TZ=UTC;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;"
+        "UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1\")\n")
+endforeach()
+file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/TestEnvironment.cmake" CONTENT "${script}" @ONLY)
+set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${CMAKE_BINARY_DIR}/TestEnvironment.cmake")
+
+if(TEMPODIAL_LINTS)
+    include(Lints)
+endif()
