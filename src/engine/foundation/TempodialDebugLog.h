@@ -7,13 +7,15 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace tempodial {
 
 class TempodialCommonUtils;
 
 /// The trace: two files in the data folder, the older thrown away when the newer is full.
-class TempodialDebugLog {
+class TempodialDebugLog
+{
 public:
     explicit TempodialDebugLog(Ref<const Platform> platform);
 
@@ -37,10 +39,16 @@ public:
     void Terminate();
 
 private:
+    /// True when there are files to write to, made on first use; not before `Initialize` nor after `Terminate`.
+    bool HasFiles();
+    void AddTraceLine(std::string_view context, std::string_view text);
     /// The path to write to, with the roll-over done and a new file begun where there is none.
     std::string GetTraceFilePath();
+    /// Makes room by moving the file to the second name; false when that failed.
+    bool RollOver(const std::string& path);
     void BeginFile(const std::string& path);
-    const std::string& Stamp();
+    /// Makes the head of lines anew when the thread or the present moment is another.
+    void RefreshHead();
 
     Ref<const Platform> mPlatform;
     Ref<FileSystemObject> mFileSystem;
@@ -49,8 +57,10 @@ private:
     std::string mBuffer;
     std::string mFileName1;
     std::string mFileName2;
-    Date mStampMoment;
-    std::string mStamp;
+    /// What stands before the context: thread id and present moment.
+    std::string mHead;
+    std::thread::id mHeadThread;
+    Date mHeadMoment;
 };
 
 }

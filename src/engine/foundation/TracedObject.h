@@ -13,7 +13,8 @@
 namespace tempodial {
 
 /// How a failure line goes on behind the routine's words. "Step" is the object's step word, "text" the description.
-enum class LineShape {
+enum class LineShape
+{
     TextColonStep,
     TextBlankStep,
     TextAmpersandStep,
@@ -27,7 +28,8 @@ enum class LineShape {
 class TracedObject;
 
 /// Runs the statements of one routine one by one: a failed statement costs one trace line and nothing more.
-class Attempt {
+class Attempt
+{
 public:
     Attempt(const TracedObject& object, std::string_view words, LineShape shape)
         : mObject(object)
@@ -79,7 +81,8 @@ private:
 };
 
 /// An object of the engine: it has a context word, a step word and the trace, and runs its routines by attempts.
-class TracedObject {
+class TracedObject
+{
 public:
     virtual ~TracedObject() = default;
 
