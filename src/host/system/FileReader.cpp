@@ -1,0 +1,96 @@
+#include "host/system/FileReader.h"
+
+#include "host/system/TextEncoding.h"
+
+#include <cstring>
+#include <fcntl.h>
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::size_t BufferSize = 65536;
+constexpr std::size_t LongestLine = std::size_t { 1 } << 20;
+constexpr std::size_t LongestText = std::size_t { 64 } << 20;
+
+}
+
+FileReader::FileReader(const NativePath& path, bool create)
+    : mFile(path, O_RDONLY | (create ? O_CREAT | O_NOFOLLOW : 0))
+    , mBuffer(new char[BufferSize])
+{
+    mFile.RequireUnlocked();
+}
+
+std::string FileReader::ReadLine()
+{
+    if (!Fill()) {
+        throw Failure(Error::InputPastEnd);
+    }
+    std::string line;
+    bool isTooLong = false;
+    bool isEnded = false;
+    while (!isEnded && Fill()) {
+        const auto* start = mBuffer.get() + mNext;
+        const auto* lineEnd = static_cast<const char*>(std::memchr(start, '\n', mEnd - mNext));
+        isEnded = lineEnd != nullptr;
+        const auto length = isEnded ? static_cast<std::size_t>(lineEnd - start) : mEnd - mNext;
+        isTooLong = isTooLong || line.size() + length > LongestLine + 1;
+        if (!isTooLong) {
+            line.append(start, length);
+        }
+        mNext += length + (isEnded ? 1 : 0);
+    }
+    if (isEnded && line.ends_with('\r')) {
+        line.pop_back();
+    }
+    if (isTooLong || line.size() > LongestLine) {
+        return {};
+    }
+    return DecodedLine(std::move(line));
+}
+
+std::string FileReader::ReadAll()
+{
+    if (!Fill()) {
+        throw Failure(Error::InputPastEnd);
+    }
+    std::string text;
+    while (Fill()) {
+        if (text.size() + (mEnd - mNext) > LongestText) {
+            throw Failure(Error::OutOfMemory);
+        }
+        text.append(mBuffer.get() + mNext, mEnd - mNext);
+        mNext = mEnd;
+    }
+    return DecodedLines(std::move(text));
+}
+
+void FileReader::Write(const std::string&)
+{
+    throw Failure(Error::BadFileMode);
+}
+
+void FileReader::WriteLine(const std::string&)
+{
+    throw Failure(Error::BadFileMode);
+}
+
+void FileReader::Close()
+{
+    mNext = mEnd = 0;
+    mFile.Close();
+}
+
+bool FileReader::Fill()
+{
+    if (mNext == mEnd) {
+        mNext = 0;
+        mEnd = 0;
+        mEnd = mFile.Read(mBuffer.get(), BufferSize);
+    }
+    return mNext != mEnd;
+}
+
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/system/FileDescriptor.h"
+#include "platform/system/TextStream.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+namespace tempodial {
+
+/// A text file opened for reading, in memory that doesn't grow with the file. Its text is UTF-8, but for lines that
+/// aren't valid, which are read as Windows-1252.
+class FileReader : public TextStream
+{
+public:
+    /// Opens a file, made empty when it is absent and may be; a locked one fails (70).
+    FileReader(const NativePath& path, bool create);
+
+    /// A line of more than 1 MiB is given as an empty one.
+    std::string ReadLine() override;
+    /// More than 64 MiB fail (7).
+    std::string ReadAll() override;
+    void Write(const std::string& text) override;
+    void WriteLine(const std::string& text) override;
+    void Close() override;
+
+private:
+    /// True when there are bytes in the buffer, read now if need be.
+    bool Fill();
+
+    FileDescriptor mFile;
+    std::unique_ptr<char[]> mBuffer;
+    std::size_t mNext = 0;
+    std::size_t mEnd = 0;
+};
+
+}

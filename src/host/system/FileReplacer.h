@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/system/ReplacementFile.h"
+#include "host/system/WritingStream.h"
+
+#include <optional>
+#include <string>
+
+namespace tempodial {
+
+/// A text file opened for writing: what is written takes the place of the old file when it is closed.
+class FileReplacer : public WritingStream
+{
+public:
+    /// Begins with no content; an absent file that may not be made fails (53), a link, a read-only or locked file (70).
+    FileReplacer(const NativePath& path, bool create);
+    ~FileReplacer() override;
+    FileReplacer(const FileReplacer&) = delete;
+    FileReplacer& operator=(const FileReplacer&) = delete;
+
+    void Write(const std::string& text) override;
+    void Close() override;
+
+private:
+    void Flush();
+
+    std::optional<ReplacementFile> mReplacement;
+    std::string mBuffer;
+};
+
+/// Fails when a file may not be replaced: an absent one (53) if it must be there, a folder, a link, a pipe, a
+/// read-only or locked file (70).
+void RequireReplaceable(const NativePath& path, bool mayBeAbsent);
+
+}
