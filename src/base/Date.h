@@ -8,10 +8,12 @@
 namespace tempodial {
 
 /// A local wall-clock moment in whole seconds since 1899-12-30 00:00:00; that moment is the value of an unset date.
-class Date {
+class Date
+{
 public:
     /// Year, month and day of the month, with hour, minute and second of the day.
-    struct Parts {
+    struct Parts
+    {
         int year, month, day, hour, minute, second;
     };
 

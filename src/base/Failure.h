@@ -40,7 +40,8 @@ enum class Error : std::int32_t {
 };
 
 /// A failed statement: an error number and the description that goes to the trace.
-class Failure : public std::exception {
+class Failure : public std::exception
+{
 public:
     /// The failure of that number with the number's own text.
     explicit Failure(Error error);

@@ -13,7 +13,8 @@
 namespace tempodial {
 
 /// An ordered collection: positions count from 1, keys are optional and ignore case.
-template <class T> class OrderedCollection {
+template <class T> class OrderedCollection
+{
 public:
     /// Number of entries.
     std::int32_t Count() const { return static_cast<std::int32_t>(mEntries.size()); }
@@ -23,7 +24,10 @@ public:
     /// Appends an entry under a key; a known key fails (457).
     void AddKeyed(T item, std::string_view key) { Insert(std::move(item), key, mEntries.size()); }
     /// Adds an entry under a key before a position; a known key fails (457), a position out of range (9).
-    void AddKeyedBefore(T item, std::string_view key, std::int32_t before) { Insert(std::move(item), key, Index(before)); }
+    void AddKeyedBefore(T item, std::string_view key, std::int32_t before)
+    {
+        Insert(std::move(item), key, Index(before));
+    }
 
     /// The entry at a position; out of range fails (9).
     const T& Item(std::int32_t position) const { return mEntries[Index(position)].item; }
@@ -37,7 +41,8 @@ public:
     void Clear() { mEntries.clear(); }
 
 private:
-    struct Entry {
+    struct Entry
+    {
         std::optional<std::string> foldedKey;
         T item;
     };

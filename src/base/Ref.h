@@ -8,7 +8,8 @@
 namespace tempodial {
 
 /// A shared reference that may be nothing; using a member of nothing fails (91).
-template <class T> class Ref {
+template <class T> class Ref
+{
 public:
     Ref() = default;
     Ref(std::nullptr_t) { }
@@ -17,14 +18,12 @@ public:
     {
     }
     template <class U>
-        requires std::is_convertible_v<U*, T*>
-    Ref(const Ref<U>& other)
+    requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other)
         : mObject(other.Shared())
     {
     }
     template <class U>
-        requires std::is_convertible_v<U*, T*>
-    Ref(Ref<U>&& other)
+    requires std::is_convertible_v<U*, T*> Ref(Ref<U>&& other)
         : mObject(std::move(other).Shared())
     {
     }

@@ -8,7 +8,8 @@
 namespace tempodial {
 
 /// A running subscription; it ends with this object.
-class Subscription {
+class Subscription
+{
 public:
     Subscription() = default;
     explicit Subscription(std::shared_ptr<void> listener)
@@ -26,7 +27,8 @@ private:
 };
 
 /// One object's events: a list of listeners, each a struct of callbacks of which any may be empty.
-template <class Events> class EventSource {
+template <class Events> class EventSource
+{
 public:
     /// Subscribes until the result ends.
     Subscription Subscribe(Events events)

@@ -9,7 +9,8 @@
 namespace tempodial {
 
 /// A value that may hold nothing, a text, a 32-bit whole number, a date or a boolean.
-class Variant {
+class Variant
+{
 public:
     Variant() = default;
     Variant(std::string text)
@@ -41,7 +42,8 @@ public:
     std::string ToText() const;
     /// The value as a 32-bit number: nothing gives 0, texts are read, true is -1; fails (13) or (6).
     std::int32_t ToInt32() const;
-    /// The value as a boolean: nothing is false, a number is true when it isn't 0, "True" and "False" are read; else (13).
+    /// The value as a boolean: nothing is false, a number is true when it isn't 0, "True" and "False" are read; else
+    /// (13).
     bool ToBoolean() const;
     /// The value as a date: nothing gives the zero date; anything but a date fails (13).
     Date ToDate() const;

@@ -8,7 +8,8 @@
 namespace tempodial {
 
 /// A reference to an object together with the subscription to its events.
-template <class T> class Watched {
+template <class T> class Watched
+{
 public:
     /// Takes another object and subscribes to it; the former subscription ends. Nothing fails (91) and changes nothing.
     void Set(Ref<T> object, typename T::Events events)

@@ -16,7 +16,8 @@
 namespace tempodial {
 
 /// Everything but the object model that the engine needs of its surroundings; a program hands it to `Connect`.
-struct Platform {
+struct Platform
+{
     Ref<FileSystemObject> fileSystem;
     Ref<Registry> registry;
     Ref<Shell> shell;

@@ -11,7 +11,8 @@ namespace tempodial {
 class TempodialMain;
 
 /// The class that a host loads: it makes the add-in and ends it. Nothing that fails inside leaves it.
-class Connect {
+class Connect
+{
 public:
     explicit Connect(Ref<const Platform> platform);
 

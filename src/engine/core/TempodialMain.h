@@ -22,7 +22,8 @@ class TempodialUtils;
 class TempodialWorkLog;
 
 /// The hub: it makes and owns all other objects, and they reach each other through its members, which guard each call.
-class TempodialMain final : public TracedObject, public std::enable_shared_from_this<TempodialMain> {
+class TempodialMain final : public TracedObject, public std::enable_shared_from_this<TempodialMain>
+{
 public:
     explicit TempodialMain(Ref<const Platform> platform);
     ~TempodialMain() override;
@@ -96,8 +97,8 @@ public:
     /// Fills the array with all project names and the special entries asked for; the result is its upper bound.
     Variant GetProjects(std::vector<std::string>& projArray, bool withAdd, bool withNoProject, bool withAllProjects);
     /// Adds or changes a project; the result is a message for the user, empty when it went well.
-    std::string UpdateorAddProject(const std::string& project, const std::string& subRule, const std::string& notSubRule,
-        const std::string& peopleRule, const std::string& precedence, bool addOnly);
+    std::string UpdateorAddProject(const std::string& project, const std::string& subRule,
+        const std::string& notSubRule, const std::string& peopleRule, const std::string& precedence, bool addOnly);
     void UpdateorAddProjectRule(
         const std::string& project, const std::string& newSubRule, const std::string& newPeopleRule);
     void DeleteProject(const std::string& project);

@@ -13,8 +13,7 @@
 namespace tempodial {
 
 /// How a failure line goes on behind the routine's words. "Step" is the object's step word, "text" the description.
-enum class LineShape
-{
+enum class LineShape {
     TextColonStep,
     TextBlankStep,
     TextAmpersandStep,

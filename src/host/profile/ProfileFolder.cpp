@@ -6,12 +6,11 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
-
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tempodial {
@@ -20,22 +19,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-    std::string Environment(const char* name)
-    {
-        const auto* value = std::getenv(name);
-        return value ? value : "";
-    }
+std::string Environment(const char* name)
+{
+    const auto* value = std::getenv(name);
+    return value ? value : "";
+}
 
-    std::string SystemText(int error) { return std::system_category().message(error); }
+std::string SystemText(int error)
+{
+    return std::system_category().message(error);
+}
 
-    /// True for a folder in which nothing but our own files can be.
-    bool IsOurs(const fs::path& folder)
-    {
-        constexpr std::array<const char*, 3> names { "mailbox.db", "registry.toml", "Tempodial" };
-        std::error_code ignored;
-        return fs::is_empty(folder, ignored)
-            || std::any_of(names.begin(), names.end(), [&](auto name) { return fs::exists(folder / name, ignored); });
-    }
+/// True for a folder in which nothing but our own files can be.
+bool IsOurs(const fs::path& folder)
+{
+    constexpr std::array<const char*, 3> names { "mailbox.db", "registry.toml", "Tempodial" };
+    std::error_code ignored;
+    return fs::is_empty(folder, ignored)
+        || std::any_of(names.begin(), names.end(), [&](auto name) { return fs::exists(folder / name, ignored); });
+}
 
 }
 
@@ -57,7 +59,10 @@ ProfileFolder::ProfileFolder(std::string path)
     CloseToOthers();
 }
 
-ProfileFolder::~ProfileFolder() { ::close(mDescriptor); }
+ProfileFolder::~ProfileFolder()
+{
+    ::close(mDescriptor);
+}
 
 void ProfileFolder::Lock()
 {
@@ -80,7 +85,9 @@ void ProfileFolder::Lock()
 
 void ProfileFolder::CloseToOthers() const
 {
-    struct stat status { };
+    struct stat status
+    {
+    };
     // A folder that holds other things too, such as one named by mistake, keeps its mode; our files are closed anyway.
     if (::fstat(mDescriptor, &status) == 0 && (status.st_mode & 077) != 0 && status.st_uid == ::geteuid()
         && IsOurs(mPath)) {

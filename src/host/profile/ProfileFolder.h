@@ -5,7 +5,8 @@
 namespace tempodial {
 
 /// The folder that holds all that belongs to one user; locked against other processes while this object lives.
-class ProfileFolder {
+class ProfileFolder
+{
 public:
     /// Makes the folder when it is absent, with access for its user alone, and locks it. Fails with `ProfileInUse` when
     /// another process holds it, with `ProfileError` when it can't be made or opened.

@@ -9,7 +9,8 @@ namespace tempodial {
 
 /// A registry with the one value that a program knows by itself: an install folder that isn't set is the folder of
 /// templates that belongs to the program.
-class ProgramRegistry final : public Registry {
+class ProgramRegistry final : public Registry
+{
 public:
     ProgramRegistry(Ref<Registry> registry, std::string installFolder);
 

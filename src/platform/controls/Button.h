@@ -9,12 +9,14 @@
 namespace tempodial {
 
 /// What happens to a button.
-struct ButtonEvents {
+struct ButtonEvents
+{
     std::function<void()> Click;
 };
 
 /// A push button.
-class Button : public Control {
+class Button : public Control
+{
 public:
     using Events = ButtonEvents;
 

@@ -8,7 +8,8 @@
 namespace tempodial {
 
 /// A text box with a list.
-class ComboBox : public Control {
+class ComboBox : public Control
+{
 public:
     /// Appends an entry to the list.
     virtual void AddItem(const std::string& text) = 0;

@@ -3,7 +3,8 @@
 namespace tempodial {
 
 /// A control of a form.
-class Control {
+class Control
+{
 public:
     virtual ~Control() = default;
 

@@ -3,7 +3,8 @@
 namespace tempodial {
 
 /// The one point at which a job lets pending messages be processed.
-class EventPump {
+class EventPump
+{
 public:
     virtual ~EventPump() = default;
 

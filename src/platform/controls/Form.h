@@ -14,7 +14,8 @@ namespace tempodial {
 enum class ControlKind { Label, Button, ComboBox, ProgressBar };
 
 /// One control of a form as data: its name, kind, and text or caption.
-struct ControlDefinition {
+struct ControlDefinition
+{
     std::string name;
     ControlKind kind;
     std::string text;
@@ -23,20 +24,23 @@ struct ControlDefinition {
 };
 
 /// A form as data: its class, its title and its controls in their order, a row of the layout each.
-struct FormDefinition {
+struct FormDefinition
+{
     std::string className;
     std::string title;
     std::vector<std::vector<ControlDefinition>> rows;
 };
 
 /// What happens to a form.
-struct FormEvents {
+struct FormEvents
+{
     /// The user closes the form by its frame; a handler that sets `cancel` keeps it open.
     std::function<void(bool& cancel)> QueryClose;
 };
 
 /// A form. It is shown without blocking.
-class Form {
+class Form
+{
 public:
     using Events = FormEvents;
 
@@ -62,7 +66,8 @@ public:
 };
 
 /// Makes forms from their definitions.
-class FormFactory {
+class FormFactory
+{
 public:
     virtual ~FormFactory() = default;
 

@@ -7,7 +7,8 @@
 namespace tempodial {
 
 /// A text on a form.
-class Label : public Control {
+class Label : public Control
+{
 public:
     virtual std::string Caption() const = 0;
     virtual void SetCaption(const std::string& caption) = 0;

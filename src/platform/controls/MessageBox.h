@@ -12,7 +12,8 @@ enum class Answer { Ok, Yes, No, Cancel };
 enum class MessageIcon { None, Question, Exclamation };
 
 /// Shows a message and waits for the answer, letting other events in meanwhile.
-class MessageBox {
+class MessageBox
+{
 public:
     virtual ~MessageBox() = default;
 

@@ -12,13 +12,15 @@
 namespace tempodial {
 
 /// What happens to the application as a whole.
-struct ApplicationEvents {
+struct ApplicationEvents
+{
     std::function<void()> MapiLogonComplete;
     std::function<void()> Quit;
 };
 
 /// Outlook, or what stands in for it.
-class Application {
+class Application
+{
 public:
     using Events = ApplicationEvents;
 

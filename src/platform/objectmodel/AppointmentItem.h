@@ -15,14 +15,16 @@ namespace tempodial {
 class MAPIFolder;
 
 /// What happens to an item; a handler that sets `cancel` refuses it.
-struct AppointmentItemEvents {
+struct AppointmentItemEvents
+{
     std::function<void(bool& cancel)> Open;
     std::function<void(bool& cancel)> Write;
     std::function<void(bool& cancel)> Close;
 };
 
 /// An appointment. Changes stand in the item until `Save`; two references to one item share them.
-class AppointmentItem : public OutlookItem {
+class AppointmentItem : public OutlookItem
+{
 public:
     using Events = AppointmentItemEvents;
 

@@ -9,7 +9,8 @@
 namespace tempodial {
 
 /// A window that shows a folder. Every member fails (462) when the window is gone.
-class Explorer {
+class Explorer
+{
 public:
     virtual ~Explorer() = default;
 
@@ -25,7 +26,8 @@ public:
 };
 
 /// The explorers that are open.
-class Explorers {
+class Explorers
+{
 public:
     virtual ~Explorers() = default;
 

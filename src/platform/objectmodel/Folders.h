@@ -8,7 +8,8 @@
 namespace tempodial {
 
 /// The folders below a folder, or the stores of a session.
-class Folders {
+class Folders
+{
 public:
     virtual ~Folders() = default;
 

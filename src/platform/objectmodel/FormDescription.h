@@ -11,7 +11,8 @@ namespace tempodial {
 enum class FormRegistry : std::int32_t { Personal = 2 };
 
 /// The description of a form, as an item made from a template carries it.
-class FormDescription {
+class FormDescription
+{
 public:
     virtual ~FormDescription() = default;
 

@@ -7,7 +7,8 @@
 namespace tempodial {
 
 /// A window that shows an item. Every member fails (462) when the window is gone.
-class Inspector {
+class Inspector
+{
 public:
     virtual ~Inspector() = default;
 
@@ -16,7 +17,8 @@ public:
 };
 
 /// The inspectors that are open.
-class Inspectors {
+class Inspectors
+{
 public:
     virtual ~Inspectors() = default;
 

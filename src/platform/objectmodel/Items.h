@@ -9,12 +9,14 @@
 namespace tempodial {
 
 /// What happens to a collection of items.
-struct ItemsEvents {
+struct ItemsEvents
+{
     std::function<void(const Ref<OutlookItem>& item)> ItemAdd;
 };
 
 /// The items of a folder, or a fixed subset of them.
-class Items {
+class Items
+{
 public:
     using Events = ItemsEvents;
 

@@ -15,7 +15,8 @@ class Views;
 enum class DefaultFolder : std::int32_t { Inbox = 6, Calendar = 9, Drafts = 16 };
 
 /// A folder of a mailbox. Every member fails with the store's error when the folder is gone.
-class MAPIFolder {
+class MAPIFolder
+{
 public:
     virtual ~MAPIFolder() = default;
 

@@ -5,7 +5,8 @@
 namespace tempodial {
 
 /// The mail session.
-class NameSpace {
+class NameSpace
+{
 public:
     virtual ~NameSpace() = default;
 

@@ -14,7 +14,8 @@ enum class ObjectClass : std::int32_t { Appointment = 26, FormDescription = 37, 
 enum class CloseMode : std::int32_t { Save = 0, Discard = 1 };
 
 /// An item of a folder, of any kind. Every member fails with the store's error when the item is gone.
-class OutlookItem {
+class OutlookItem
+{
 public:
     virtual ~OutlookItem() = default;
 

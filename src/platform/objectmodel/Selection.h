@@ -7,7 +7,8 @@
 namespace tempodial {
 
 /// What is selected in an explorer, as it is at the moment of asking.
-class Selection {
+class Selection
+{
 public:
     virtual ~Selection() = default;
 

@@ -12,7 +12,8 @@ namespace tempodial {
 enum class PropertyType : std::int32_t { Text = 1, DateTime = 5, YesNo = 6 };
 
 /// One user property of an item.
-class UserProperty {
+class UserProperty
+{
 public:
     virtual ~UserProperty() = default;
 
@@ -24,7 +25,8 @@ public:
 };
 
 /// The user properties of an item. "Start" and "Duration" are answered with the item's own values.
-class UserProperties {
+class UserProperties
+{
 public:
     virtual ~UserProperties() = default;
 

@@ -14,7 +14,8 @@ enum class ViewType : std::int32_t { Table = 0, Calendar = 2 };
 enum class ViewSaveOption : std::int32_t { ThisFolderEveryone = 0 };
 
 /// A named view of a folder.
-class View {
+class View
+{
 public:
     virtual ~View() = default;
 
@@ -28,7 +29,8 @@ public:
 };
 
 /// The views of a folder.
-class Views {
+class Views
+{
 public:
     virtual ~Views() = default;
 

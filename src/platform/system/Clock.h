@@ -5,7 +5,8 @@
 namespace tempodial {
 
 /// The clock on the wall.
-class Clock {
+class Clock
+{
 public:
     virtual ~Clock() = default;
 

@@ -17,7 +17,8 @@ enum class OpenMode : std::int32_t { Reading = 1, Writing = 2, Appending = 8 };
 enum class SpecialFolder : std::int32_t { Temporary = 2 };
 
 /// A file as it was when it was looked up.
-struct File {
+struct File
+{
     std::string name;
     std::string path;
     /// Bytes.
@@ -27,14 +28,16 @@ struct File {
 };
 
 /// A folder as it was when it was looked up.
-struct Folder {
+struct Folder
+{
     std::string path;
     /// Its files in the order of their names.
     std::vector<File> files;
 };
 
 /// Files and folders.
-class FileSystemObject {
+class FileSystemObject
+{
 public:
     virtual ~FileSystemObject() = default;
 

@@ -8,10 +8,12 @@ namespace tempodial {
 
 /// Makes an import exactly-once: what the import writes and how far it has come are committed together. Where the
 /// mailbox can't do that, as on Outlook, it does nothing.
-class ImportJournal {
+class ImportJournal
+{
 public:
     /// How far a day's file has been loaded.
-    struct Position {
+    struct Position
+    {
         /// End of the last line loaded, in seconds after midnight, as the history keeps it.
         std::int32_t count = 0;
         /// Lines read behind the first, loaded or not.

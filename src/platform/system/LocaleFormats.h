@@ -7,7 +7,8 @@
 namespace tempodial {
 
 /// The forms of dates and times of the user's locale.
-class LocaleFormats {
+class LocaleFormats
+{
 public:
     virtual ~LocaleFormats() = default;
 
@@ -23,8 +24,8 @@ public:
     virtual std::string LongTime(Date date) = 0;
     /// The abbreviated name of a month from 1 to 12; another fails (5).
     virtual std::string MonthAbbreviation(int month) = 0;
-    /// A text in the forms above as a moment: a date, a time of day (of the zero day) or both, and times of 24 hours with
-    /// or without seconds in every locale; another text fails (13).
+    /// A text in the forms above as a moment: a date, a time of day (of the zero day) or both, and times of 24 hours
+    /// with or without seconds in every locale; another text fails (13).
     virtual Date Parse(const std::string& text) = 0;
 
     /// The general form: short date, blank and long time, without the time at midnight and without the zero day.

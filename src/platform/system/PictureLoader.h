@@ -7,13 +7,15 @@
 namespace tempodial {
 
 /// A picture for a button.
-class Picture {
+class Picture
+{
 public:
     virtual ~Picture() = default;
 };
 
 /// Loads pictures from bitmap files.
-class PictureLoader {
+class PictureLoader
+{
 public:
     virtual ~PictureLoader() = default;
 

@@ -14,7 +14,8 @@ enum class Hive { CurrentUser, LocalMachine };
 enum class RegistryAccess : std::int32_t { Query = 1, All = 63 };
 
 /// The registry.
-class Registry {
+class Registry
+{
 public:
     virtual ~Registry() = default;
 

@@ -6,7 +6,8 @@
 namespace tempodial {
 
 /// The desktop around the program.
-class Shell {
+class Shell
+{
 public:
     virtual ~Shell() = default;
 

@@ -5,7 +5,8 @@
 namespace tempodial {
 
 /// A text file opened for reading, writing or appending; it is closed with its last reference at the latest.
-class TextStream {
+class TextStream
+{
 public:
     virtual ~TextStream() = default;
 

@@ -8,7 +8,8 @@
 namespace tempodial {
 
 /// An element of an XML document.
-class XmlNode {
+class XmlNode
+{
 public:
     virtual ~XmlNode() = default;
 
@@ -21,7 +22,8 @@ public:
 };
 
 /// An XML document; paths are seen from above its root, whose name they begin with.
-class XmlDocument : public XmlNode {
+class XmlDocument : public XmlNode
+{
 public:
     /// Takes a text in the place of what it held; false, and empty, when the text isn't a well-formed document.
     virtual bool LoadXML(const std::string& text) = 0;
@@ -32,7 +34,8 @@ public:
 };
 
 /// Makes documents.
-class XmlFactory {
+class XmlFactory
+{
 public:
     virtual ~XmlFactory() = default;
 
