@@ -1,0 +1,119 @@
+#include "cli/ActivityList.h"
+
+#include "base/Failure.h"
+#include "base/Number.h"
+#include "cli/TextTable.h"
+#include "platform/objectmodel/Folders.h"
+#include "platform/objectmodel/Items.h"
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto ActivityClass = "IPM.Appointment.TDActivity1";
+constexpr auto WorkLogName = "Tempodial";
+
+Ref<MAPIFolder> FindByID(const Ref<Folders>& folders, const std::string& entryID)
+{
+    for (std::int32_t i = 1; i <= folders->Count(); ++i) {
+        const auto folder = folders->Item(i);
+        if (folder->EntryID() == entryID) {
+            return folder;
+        }
+        if (auto below = FindByID(folder->Folders(), entryID)) {
+            return below;
+        }
+    }
+    return nullptr;
+}
+
+Ref<MAPIFolder> FindInCalendar(const Ref<NameSpace>& session)
+{
+    try {
+        return session->GetDefaultFolder(DefaultFolder::Calendar)->Folders()->ItemNamed(WorkLogName);
+    } catch (const Failure& failure) {
+        if (failure.Is(Error::ObjectNotFound) || failure.Is(Error::ObjectNotSet)) {
+            return nullptr;
+        }
+        throw;
+    }
+}
+
+bool HasProject(const Ref<AppointmentItem>& item, const std::string& project)
+{
+    const auto property = item->UserProperties()->Item("Project");
+    return property && property->Value() == Variant(project);
+}
+
+std::string DurationText(std::int64_t minutes)
+{
+    constexpr std::int64_t MinutesOfHour = 60;
+    const auto rest = static_cast<std::int32_t>(minutes % MinutesOfHour);
+    if (minutes < MinutesOfHour) {
+        return std::to_string(rest) + " min";
+    }
+    return std::to_string(minutes / MinutesOfHour) + " h " + Padded(rest, 2) + " min";
+}
+
+}
+
+Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& entryID)
+{
+    auto found = entryID.empty() ? nullptr : FindByID(session->Folders(), entryID);
+    return found ? found : FindInCalendar(session);
+}
+
+std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
+    const DayRange& days, const std::optional<std::string>& project)
+{
+    constexpr std::int64_t LastMinute = 24 * 60 - 1;
+    const auto items = workLog->Items()->Restrict("[Start] >= \"" + formats->Moment(days.first) + "\" and [Start] <= \""
+        + formats->Moment(days.last.AddMinutes(LastMinute)) + "\"");
+    items->Sort("[Start]", false);
+    std::vector<Ref<AppointmentItem>> activities;
+    const auto count = items->Count();
+    for (std::int32_t i = 1; i <= count; ++i) {
+        auto item = items->Item(i).As<AppointmentItem>();
+        if (item && item->MessageClass() == ActivityClass && (!project || HasProject(item, *project))) {
+            activities.push_back(std::move(item));
+        }
+    }
+    return activities;
+}
+
+std::string ActivityTable(
+    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const DayRange& days)
+{
+    using enum TextTable::Side;
+    const bool hasHeadings = days.first != days.last;
+    std::string text;
+    for (std::size_t i = 0; i < activities.size();) {
+        const auto day = activities[i]->Start().Day();
+        TextTable table({ Left, Right, Left });
+        for (; i < activities.size() && activities[i]->Start().Day() == day; ++i) {
+            const auto& item = activities[i];
+            table.Add({ item->Start().HourMinute() + "–" + item->End().HourMinute(), DurationText(item->Duration()),
+                item->Subject() });
+        }
+        if (hasHeadings) {
+            text += (text.empty() ? "" : "\n") + formats->LongDate(day) + "\n";
+        }
+        text += table.Text();
+    }
+    return text;
+}
+
+std::string ActivityTotal(const std::vector<Ref<AppointmentItem>>& activities)
+{
+    if (activities.empty()) {
+        return "No activities.\n";
+    }
+    std::int64_t minutes = 0;
+    for (const auto& item : activities) {
+        minutes += item->Duration();
+    }
+    const auto count = activities.size();
+    return "\n" + std::to_string(count) + (count == 1 ? " activity, " : " activities, ") + DurationText(minutes) + "\n";
+}
+
+}

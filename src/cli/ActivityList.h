@@ -1,0 +1,38 @@
+#pragma once
+
+#include "base/Date.h"
+#include "platform/objectmodel/AppointmentItem.h"
+#include "platform/objectmodel/MAPIFolder.h"
+#include "platform/objectmodel/NameSpace.h"
+#include "platform/system/LocaleFormats.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// Days from the first to the last, both included, each as its midnight.
+struct DayRange
+{
+    Date first;
+    Date last;
+};
+
+/// The work log of a session, without the add-in: the folder of that identity, else the calendar's folder "Tempodial";
+/// nothing when there is neither.
+Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& entryID);
+
+/// The activities of a work log that start in the range, in order of start; with a project only those of exactly that
+/// project. Fails as the store does.
+std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
+    const DayRange& days, const std::optional<std::string>& project);
+
+/// The activities as a table for people, under a heading for each day when the range has several.
+std::string ActivityTable(
+    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const DayRange& days);
+
+/// What stands below the table: how many there are, and how long they took in all.
+std::string ActivityTotal(const std::vector<Ref<AppointmentItem>>& activities);
+
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/Date.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tempodial {
+
+/// The arguments of one kind are read here; `name` is the argument's name for the message. What can't be read fails
+/// with a `UsageError`.
+
+/// The midnight of a day: `YYYY-MM-DD` of the years 100 to 9999, `today` or `yesterday`.
+Date ToDay(std::string_view name, std::string_view text, Date now);
+/// A moment `YYYY-MM-DDTHH:MM`.
+Date ToMoment(std::string_view name, std::string_view text);
+/// A moment `YYYY-MM-DDTHH:MM:SS`.
+Date ToMomentWithSeconds(std::string_view name, std::string_view text);
+/// A whole number between two bounds, both included.
+std::int32_t ToCount(std::string_view name, std::string_view text, std::int32_t least, std::int32_t most);
+
+/// A moment as `YYYY-MM-DDTHH:MM:SS`.
+std::string IsoMoment(Date moment);
+/// A day as `YYYY-MM-DD`.
+std::string IsoDay(Date moment);
+
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "cli/Command.h"
+#include "cli/ExitStatus.h"
+
+#include <CLI/CLI.hpp>
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// The command line: reads the arguments, runs the command that they name, and prints its answer.
+class CommandLine
+{
+public:
+    /// Prints answers to the first stream, and what went wrong to the second.
+    CommandLine(std::vector<std::unique_ptr<Command>> commands, std::ostream& out, std::ostream& error);
+
+    /// Does what the arguments, without the program's name, ask for. Fails never.
+    ExitStatus Run(const std::vector<std::string>& arguments) noexcept;
+
+private:
+    void DeclareOptions();
+    void DeclareCommand(Command& command);
+    ExitStatus Execute(const std::vector<std::string>& arguments);
+    /// Reads the arguments; false when only help or the version was wanted, which is then printed.
+    bool Parse(const std::vector<std::string>& arguments);
+    Options ReadOptions() const;
+    Command& Chosen() const;
+    const CLI::App& ChosenApp() const;
+    std::string UnexpectedArgument() const;
+    ExitStatus Print(const Reply& reply, const Options& options);
+    void Complain(const std::string& message);
+
+    std::vector<std::unique_ptr<Command>> mCommands;
+    std::ostream& mOut;
+    std::ostream& mError;
+    CLI::App mApp;
+    std::map<const CLI::App*, Command*> mCommandOfApp;
+    std::optional<std::string> mProfile;
+    std::optional<std::string> mLocale;
+    std::optional<std::string> mNow;
+    bool mJson = false;
+    bool mQuiet = false;
+};
+
+}

@@ -1,0 +1,200 @@
+#include "cli/DemoTracker.h"
+
+#include "base/Text.h"
+#include "cli/Arguments.h"
+#include "cli/DemoActivities.h"
+
+#include <algorithm>
+#include <random>
+
+namespace tempodial {
+
+namespace {
+
+// Times in this file count slots of five minutes from midnight.
+constexpr int SecondsOfSlot = 300;
+constexpr int SlotsOfHour = 12;
+
+constexpr int At(int hour, int minute = 0)
+{
+    return hour * SlotsOfHour + minute * SlotsOfHour / 60;
+}
+
+/// A stretch of the day that is spent at the PC.
+struct Session
+{
+    int begin, end;
+};
+
+std::string Element(std::string_view name, std::string_view text)
+{
+    auto escaped = Replace(Replace(Replace(text, "&", "&amp;"), "<", "&lt;"), ">", "&gt;");
+    return "<" + std::string(name) + ">" + escaped + "</" + std::string(name) + ">";
+}
+
+/// One day: decides when work was done and writes down what.
+class DemoDay
+{
+public:
+    DemoDay(std::uint32_t seed, Date day)
+        : mDay(day)
+        , mDayNumber(DaysBetween(Date(), day))
+        , mRandom(seed ^ static_cast<std::uint32_t>(mDayNumber) * 2654435761U)
+    {
+    }
+
+    DemoFile File(const std::vector<Session>& sessions)
+    {
+        DemoFile file { "tracker_granules" + mDay.DayKey() + ".out", { "Tempodial demo tracker, " + IsoDay(mDay) } };
+        // The day begins with another kind of application each time, so that all of them occur.
+        const auto* activity = &AnyOfKind(static_cast<std::size_t>(mDayNumber) % DemoKinds);
+        for (std::size_t i = 0; i < sessions.size(); ++i) {
+            auto slot = sessions[i].begin;
+            while (slot < sessions[i].end) {
+                const auto length = std::min(Length(), sessions[i].end - slot);
+                for (int part = 0; part < length; ++part, ++slot) {
+                    const bool isLast = i + 1 == sessions.size() && slot + 1 == sessions[i].end;
+                    AddSlot(file.lines, *activity, slot, part > 0, isLast);
+                }
+                activity = &Another(activity);
+            }
+        }
+        return file;
+    }
+
+    /// The sessions of a day that is over, none when it was free.
+    std::vector<Session> WholeDay()
+    {
+        constexpr int Saturday = 7;
+        constexpr int DaysOfTwoWeeks = 14;
+        constexpr int DaysOfWeek = 7;
+        const auto weekday = mDay.Weekday();
+        if (weekday == Saturday && mDayNumber % DaysOfTwoWeeks < DaysOfWeek) {
+            return MorningAtHome();
+        }
+        if (weekday == Saturday || weekday == 1) {
+            return {};
+        }
+        return WorkDay();
+    }
+
+    /// The sessions of a day that has come to this slot: work up to now, whatever the hour.
+    std::vector<Session> DayUpTo(int now)
+    {
+        auto sessions = WholeDay();
+        if (sessions.empty()) {
+            sessions = MorningAtHome();
+        }
+        std::erase_if(sessions, [now](const auto& session) { return session.begin >= now; });
+        if (!sessions.empty() && sessions.back().end >= now) {
+            sessions.back().end = now;
+        } else if (now > 0) {
+            const auto free = sessions.empty() ? 0 : sessions.back().end;
+            sessions.push_back({ std::max(free, now - Between(SlotsOfHour / 2, SlotsOfHour)), now });
+        }
+        return sessions;
+    }
+
+private:
+    int Between(int least, int most)
+    {
+        return least + static_cast<int>(mRandom() % static_cast<unsigned>(most - least + 1));
+    }
+    bool OneIn(int times) { return Between(1, times) == 1; }
+
+    std::vector<Session> MorningAtHome()
+    {
+        const auto begin = Between(At(9), At(10, 30));
+        return { { begin, begin + Between(At(1), At(2, 30)) } };
+    }
+
+    std::vector<Session> WorkDay()
+    {
+        const auto begin = Between(At(8), At(9, 15));
+        const auto coffee = Between(At(10), At(10, 30));
+        const auto lunch = Between(At(12), At(12, 45));
+        const auto afternoon = lunch + Between(At(0, 30), At(1, 15));
+        std::vector<Session> sessions { { begin, coffee }, { coffee + Between(1, 4), lunch },
+            { afternoon, Between(At(16, 30), At(18, 30)) } };
+        if (OneIn(6)) {
+            const auto evening = Between(At(20), At(21));
+            sessions.push_back({ evening, evening + Between(2, SlotsOfHour) });
+        }
+        return sessions;
+    }
+
+    int Length()
+    {
+        // Mostly short glances, some half hours, now and then a long stretch.
+        if (OneIn(8)) {
+            return Between(SlotsOfHour, 2 * SlotsOfHour);
+        }
+        return OneIn(3) ? Between(4, 9) : Between(1, 3);
+    }
+
+    const DemoActivity& AnyOfKind(std::size_t kind)
+    {
+        std::vector<const DemoActivity*> found;
+        for (const auto& activity : DemoActivities()) {
+            if (activity.application == static_cast<int>(kind)) {
+                found.push_back(&activity);
+            }
+        }
+        return *found[static_cast<std::size_t>(Between(0, static_cast<int>(found.size()) - 1))];
+    }
+
+    const DemoActivity& Another(const DemoActivity* than)
+    {
+        const auto all = DemoActivities();
+        const DemoActivity* activity = than;
+        while (activity == than) {
+            activity = &all[static_cast<std::size_t>(Between(0, static_cast<int>(all.size()) - 1))];
+        }
+        return *activity;
+    }
+
+    void AddSlot(std::vector<std::string>& lines, const DemoActivity& activity, int slot, bool continues, bool isLast)
+    {
+        const auto begin = slot * SecondsOfSlot;
+        const auto end = begin + SecondsOfSlot;
+        lines.push_back(Line(activity, begin, end, continues ? "Continuation" : ""));
+        // A detail at the very end of a file would be taken again at each sync.
+        if (!isLast && OneIn(6)) {
+            const auto aside = begin + Between(1, 4) * SecondsOfSlot / 5;
+            lines.push_back(Line(Another(&activity), aside, end, "Detail"));
+        }
+    }
+
+    static std::string Line(const DemoActivity& activity, int begin, int end, std::string_view mark)
+    {
+        std::string line = "<slot>" + Element("StartTime", std::to_string(begin))
+            + Element("EndTime", std::to_string(end)) + Element("AppType", std::to_string(activity.application));
+        for (const auto& [name, text] : activity.nodes) {
+            line += name.empty() ? "" : Element(name, text);
+        }
+        return line + (mark.empty() ? "" : Element(mark, "1")) + "</slot>";
+    }
+
+    Date mDay;
+    std::int32_t mDayNumber;
+    std::mt19937 mRandom;
+};
+
+}
+
+std::vector<DemoFile> DemoTracker::Files(std::int32_t days) const
+{
+    std::vector<DemoFile> files;
+    const auto today = mNow.Day();
+    for (auto back = days - 1; back > 0; --back) {
+        DemoDay day(mSeed, today.AddDays(-back));
+        if (const auto sessions = day.WholeDay(); !sessions.empty()) {
+            files.push_back(day.File(sessions));
+        }
+    }
+    DemoDay day(mSeed, today);
+    files.push_back(day.File(day.DayUpTo(static_cast<int>(mNow.SecondOfDay() / SecondsOfSlot))));
+    return files;
+}
+
+}

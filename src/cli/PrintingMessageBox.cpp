@@ -1,0 +1,14 @@
+#include "cli/PrintingMessageBox.h"
+
+#include "cli/TerminalText.h"
+
+namespace tempodial {
+
+Answer PrintingMessageBox::Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon)
+{
+    mStream << "tempodial: " << HarmlessLine(text) << "\n";
+    mStream.flush();
+    return buttons.empty() ? Answer::Ok : buttons.front();
+}
+
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "cli/ExitStatus.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// What a command answers, in both forms in which it can be printed.
+struct Reply
+{
+    /// The machine-readable answer.
+    nlohmann::ordered_json document;
+    /// The answer for people: lines that each end in a line feed.
+    std::string text;
+    /// What stands behind it unless the run is quiet: lines that each end in a line feed.
+    std::string summary;
+    /// What couldn't be done, a message each.
+    std::vector<std::string> complaints;
+    ExitStatus status = ExitStatus::Done;
+};
+
+}
