@@ -1,0 +1,173 @@
+#include "engine/reports/TempodialAnalyser.h"
+
+#include "engine/dialogs/ProgressBarForm.h"
+#include "engine/foundation/TempodialStrings.h"
+#include "platform/objectmodel/Items.h"
+
+namespace tempodial {
+
+TempodialAnalyser::TempodialAnalyser(Ref<const Platform> platform)
+    : TracedObject(std::move(platform))
+{
+}
+
+void TempodialAnalyser::Initialize(
+    const Ref<TempodialMain>& main, const Ref<Application>& application, const Ref<TempodialDebugLog>& log)
+{
+    mMain = main;
+    mApplication = application;
+    mLog = log;
+    mTraceInfo = "TDAnalyser";
+    Trace("TempodialAnalyser 1");
+}
+
+void TempodialAnalyser::Terminate()
+{
+    mMain = nullptr;
+    mApplication = nullptr;
+    mLog = nullptr;
+    mStage.clear();
+}
+
+Ref<AppointmentItem> TempodialAnalyser::ReturnMatchingItem(const std::string& param, Date paramDate)
+{
+    const auto attempt = Failing("ReturnMatchingItem", LineShape::ColonText);
+    const auto folder = attempt.Get([&] { return mMain->GetWorkLog(); });
+    const auto filter
+        = attempt.Get([&] { return "[" + param + "] = \"" + mPlatform->formats->Moment(paramDate) + "\""; });
+    attempt([&] {
+        Trace("ReturnItem by " + param + ": " + mPlatform->formats->General(paramDate) + " search on: " + filter);
+    });
+    const auto item = attempt.Get([&] { return folder->Items()->Find(filter).As<AppointmentItem>(); });
+    Trace(item ? "found one" : "didn't find one");
+    return item;
+}
+
+void TempodialAnalyser::ApplyProject(const std::string& project, std::int32_t numDays)
+{
+    const auto attempt = Failing("ApplyProject", LineShape::ColonText);
+    // The progress form lets events in, and they may end the add-in.
+    const auto self = shared_from_this();
+    attempt([&] { mMain->GoToTasklog(false); });
+    mStage = "looping through days";
+    const auto progress = attempt.Get([&] { return MakeRef<ProgressBarForm>(mPlatform); });
+    Trace("ApplyProject called");
+    const auto today = attempt.Get([&] { return mPlatform->clock->Now().Day(); });
+    bool cancelled = false;
+    for (std::int32_t offset = 0; offset < numDays && !cancelled; ++offset) {
+        cancelled = ApplyProjectForDay(project, today.AddDays(-offset), progress);
+    }
+    attempt([&] { progress->Unload(); });
+}
+
+bool TempodialAnalyser::ApplyProjectForDay(const std::string& project, Date day, const Ref<ProgressBarForm>& progress)
+{
+    const auto attempt = Failing("ApplyProject", LineShape::ColonText);
+    const auto folder = attempt.Get([&] { return mMain->GetWorkLog(); });
+    mStage = "format start";
+    const auto dayText = attempt.Get([&] { return mPlatform->formats->ShortDate(day); });
+    const auto start = attempt.Get([&] { return mPlatform->formats->Moment(day.Day()); });
+    const auto end = attempt.Get([&] { return mPlatform->formats->Moment(day.Day().AddMinutes(23 * 60 + 59)); });
+    Trace("start: " + start + " end: " + end);
+    const auto dayItems = attempt.Get(
+        [&] { return folder->Items()->Restrict("[Start] >= \"" + start + "\" and [Start] <= \"" + end + "\""); });
+    Trace("create dayitm");
+    mStage = "iterate";
+    Trace("init progress bar");
+    attempt([&] {
+        const auto& strings = *mMain->mStrings;
+        progress->Initialise(strings.mLogName, "Updating items...", "updating " + dayText, strings.mCancel, 40, true);
+    });
+    Trace("show progress bar");
+    attempt([&] { progress->Show(); });
+    Trace("iterate");
+
+    const auto count = attempt.Get([&] { return dayItems->Count(); });
+    for (std::int32_t index = 1; index <= count; ++index) {
+        const auto item = attempt.Get([&] { return dayItems->Item(index).As<AppointmentItem>(); });
+        attempt([&] { Trace("iterate item: " + item->Subject()); });
+        if (!mMain->IsInspector(item)) {
+            attempt([&] { Trace("trying apply to item: " + item->Subject()); });
+            if (mMain->ApplyProjectToItem(project, item)) {
+                Trace("matched, save it");
+                attempt([&] { item->Save(); });
+                attempt([&] { item->Close(CloseMode::Discard); });
+            }
+        }
+        Trace("checked getinspector");
+        attempt([&] { progress->Update(index); });
+        const bool ended = !mMain;
+        if (ended || attempt.Get([&] { return progress->IsCancelled(); })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void TempodialAnalyser::SetProjectForSelectedItems(const std::string& project, bool override)
+{
+    const auto attempt = Failing("setprojectforitems", LineShape::ColonText);
+    // Going to the log may import, which lets events in, and they may end the add-in.
+    const auto self = shared_from_this();
+    mStage = "setprojectsel";
+    const auto selection = attempt.Get([&] { return mApplication->ActiveExplorer()->Selection(); });
+    const auto count = attempt.Get([&] { return selection->Count(); });
+    for (std::int32_t index = 1; index <= count; ++index) {
+        const auto item = attempt.Get([&] { return selection->Item(index).As<AppointmentItem>(); });
+        if (!item || !mMain->IsOurItem(item)) {
+            continue;
+        }
+        if (attempt.Get([&] { return selection->Count() == 1; })) {
+            mMain->GoToTasklog(false);
+            SetProjectForItem(project, item, override);
+            return;
+        }
+        Trace("Set selected item's project to" + project);
+        SetProjectForItem(project, item, override);
+    }
+}
+
+void TempodialAnalyser::SetProjectForRange(const std::string& project, Date fromdate, Date todate, bool override)
+{
+    const auto attempt = Failing("setprojectforitemrange", LineShape::ColonText);
+    const auto self = shared_from_this();
+    Trace("Set project range to " + project);
+    mStage = "setprojectrange";
+    const auto folder = attempt.Get([&] { return mMain->GetWorkLog(); });
+    mStage = "format start";
+    const auto start = attempt.Get([&] { return mPlatform->formats->Moment(fromdate); });
+    const auto end = attempt.Get([&] { return mPlatform->formats->Moment(todate); });
+    Trace("start: " + start + " end: " + end);
+    mMain->GoToTasklog(false);
+    // kept: the end is left out here, unlike that of a day
+    const auto items = attempt.Get(
+        [&] { return folder->Items()->Restrict("[Start] >= \"" + start + "\" and [Start] < \"" + end + "\""); });
+    const auto count = attempt.Get([&] { return items->Count(); });
+    for (std::int32_t index = 1; index <= count; ++index) {
+        const auto item = attempt.Get([&] { return items->Item(index).As<AppointmentItem>(); });
+        SetProjectForItem(project, item, override);
+    }
+}
+
+void TempodialAnalyser::SetProjectForItem(const std::string& project, const Ref<AppointmentItem>& item, bool override)
+{
+    const auto attempt = Failing("setproject", LineShape::ColonText);
+    Trace("Set project to " + project);
+    mStage = "setprojec";
+    const bool apply = override
+        || attempt.Get([&] { return mMain->GetAttribute("Project", item).ToText() == mMain->mStrings->mNoProject; });
+    if (!apply || mMain->IsInspector(item)) {
+        return;
+    }
+    mStage = "UserProps";
+    const auto properties = attempt.Get([&] { return item->UserProperties(); });
+    mStage = "attrib";
+    attempt([&] { properties->Item("Project")->SetValue(project); });
+    mStage = "value";
+    const auto description = attempt.Get([&] { return properties->Item("Description")->Value().ToText(); });
+    mMain->RefreshCalendarItem(item, project, description, false);
+    attempt([&] { item->Save(); });
+    attempt([&] { item->Close(CloseMode::Discard); });
+}
+
+}
