@@ -20,7 +20,7 @@ void TempodialProject::Initialize(const Ref<TempodialDebugLog>& log, const std::
     mLog = log;
     mName = name;
     mPrecedence = precedence;
-    attempt([&] { Trace("Initialize TempodialProject 1"); });
+    attempt([&] { Trace("Initialize revision 1 TempodialProject"); });
     attempt([&] { Trace("Project Init: " + name + " " + subjectRule + " " + peopleRule + " " + notSubjectRule); });
     SetSubjectRule(subjectRule);
     SetPeopleRule(peopleRule);

@@ -32,7 +32,7 @@ void TempodialProjectManager::Initialize(const Ref<TempodialMain>& main, const R
     mMain = main;
     mFlushing = false;
     mTraceInfo = "TDProjectMan";
-    Trace("TempodialProjectManager 1");
+    Trace("revision 1 TempodialProjectManager");
 }
 
 void TempodialProjectManager::Terminate()

@@ -18,7 +18,7 @@ void TempodialAnalyser::Initialize(
     mApplication = application;
     mLog = log;
     mTraceInfo = "TDAnalyser";
-    Trace("TempodialAnalyser 1");
+    Trace("revision 1 TempodialAnalyser");
 }
 
 void TempodialAnalyser::Terminate()
@@ -97,7 +97,7 @@ bool TempodialAnalyser::ApplyProjectForDay(const std::string& project, Date day,
         Trace("checked getinspector");
         attempt([&] { progress->Update(index); });
         const bool ended = !mMain;
-        if (ended || attempt.Get([&] { return progress->IsCancelled(); })) {
+        if (ended || attempt.Get([&] { return progress->IsCancelled().ToBoolean(); })) {
             return true;
         }
     }

@@ -16,7 +16,7 @@ void TempodialCalendar::Initialize(const Ref<TempodialMain>& main, const Ref<App
     mNamespace = nameSpace;
     mLog = log;
     mTraceInfo = "TDCalendar";
-    Trace("TempodialCalendar 1");
+    Trace("revision 1 TempodialCalendar");
     attempt([&] {
         mCalendarItems.Set(mNamespace->GetDefaultFolder(DefaultFolder::Calendar)->Items(),
             { .ItemAdd = Handler(shared_from_this(), &TempodialCalendar::mCalendarItems_ItemAdd) });

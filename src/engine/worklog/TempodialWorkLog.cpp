@@ -18,7 +18,7 @@ void TempodialWorkLog::Initialize(const Ref<TempodialMain>& main, const Ref<Appl
     mLog = log;
     mTraceInfo = "TDWorklog";
     mCurrentView = mMain->mStrings->mCalendarViewName;
-    Trace("TempodialWorkLog 1");
+    Trace("revision 1 TempodialWorkLog");
 }
 
 void TempodialWorkLog::Terminate()
