@@ -1,0 +1,42 @@
+#include "forms/ComboBoxModel.h"
+
+#include "base/Failure.h"
+
+namespace tempodial {
+
+void ComboBoxModel::AddItem(const std::string& text)
+{
+    mList.push_back(text);
+    Changed();
+}
+
+void ComboBoxModel::SetText(const std::string& text)
+{
+    mListIndex = -1;
+    Change(mText, text);
+}
+
+void ComboBoxModel::Reset()
+{
+    ControlState::Reset();
+    mList.clear();
+    mListIndex = -1;
+}
+
+void ComboBoxModel::Choose(std::int32_t index)
+{
+    CheckCanBeWorked();
+    if (index < 0 || index >= static_cast<std::int32_t>(mList.size())) {
+        throw Failure(Error::InvalidCall);
+    }
+    mListIndex = index;
+    Change(mText, mList[static_cast<std::size_t>(index)]);
+}
+
+void ComboBoxModel::Type(const std::string& text)
+{
+    CheckCanBeWorked();
+    SetText(text);
+}
+
+}

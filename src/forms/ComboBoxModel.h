@@ -1,0 +1,36 @@
+#pragma once
+
+#include "forms/ControlModel.h"
+#include "platform/controls/ComboBox.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// A text box with a list as a plain model.
+class ComboBoxModel final : public ControlModel<ComboBox>
+{
+public:
+    using ControlModel::ControlModel;
+
+    void AddItem(const std::string& text) override;
+    std::string Text() const override { return mText; }
+    void SetText(const std::string& text) override;
+    std::int32_t ListIndex() const override { return mListIndex; }
+    void Reset() override;
+
+    /// The entries of the list.
+    const std::vector<std::string>& List() const { return mList; }
+    /// A person picks the entry at a position from 0; an absent one, or a box that can't be worked, fails (5).
+    void Choose(std::int32_t index);
+    /// A person types a text in the place of the present one; a box that can't be worked fails (5).
+    void Type(const std::string& text);
+
+private:
+    std::vector<std::string> mList;
+    std::int32_t mListIndex = -1;
+};
+
+}

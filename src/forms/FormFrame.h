@@ -1,0 +1,38 @@
+#pragma once
+
+#include "base/Subscription.h"
+
+#include <functional>
+
+namespace tempodial {
+
+/// What whoever draws a form wants to know.
+struct FormModelEvents
+{
+    /// Something that is seen may have changed, or is to be drawn at once.
+    std::function<void()> Changed;
+};
+
+/// What a form shares with its controls.
+class FormFrame
+{
+public:
+    bool Visible() const { return mVisible; }
+    void SetVisible(bool visible)
+    {
+        mVisible = visible;
+        Changed();
+    }
+    /// The form is gone, so that a control of it which is still held can't be seen any more.
+    void End() noexcept { mVisible = false; }
+
+    /// Tells whoever draws the form.
+    void Changed() const { mEvents.Raise(&FormModelEvents::Changed); }
+    Subscription Subscribe(FormModelEvents events) { return mEvents.Subscribe(std::move(events)); }
+
+private:
+    bool mVisible = false;
+    EventSource<FormModelEvents> mEvents;
+};
+
+}

@@ -1,0 +1,211 @@
+#include "base/Failure.h"
+#include "forms/ButtonModel.h"
+#include "forms/ComboBoxModel.h"
+#include "forms/FormModel.h"
+#include "forms/LabelModel.h"
+#include "forms/ProgressBarModel.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace tempodial {
+namespace {
+
+std::int32_t NumberOf(const std::function<void()>& call)
+{
+    try {
+        call();
+        return 0;
+    } catch (const Failure& failure) {
+        return failure.Number();
+    }
+}
+
+class ControlModelTest : public testing::Test
+{
+protected:
+    template <class Model> Ref<Model> Get(const std::string& name) const { return mForm->Control(name).As<Model>(); }
+
+    Ref<FormModel> mForm = MakeRef<FormModel>(FormDefinition { .className = "SampleForm",
+        .title = "Sample",
+        .rows = { { { .name = "Line", .kind = ControlKind::Label, .text = "a line" } },
+            { { .name = "Month", .kind = ControlKind::ComboBox, .text = "" },
+                { .name = "Bar", .kind = ControlKind::ProgressBar, .text = "" } },
+            { { .name = "OK", .kind = ControlKind::Button, .text = "&OK" },
+                { .name = "Outside", .kind = ControlKind::Button, .text = "x", .onForm = false } } } });
+    Ref<LabelModel> mLine = Get<LabelModel>("Line");
+    Ref<ComboBoxModel> mMonth = Get<ComboBoxModel>("Month");
+    Ref<ProgressBarModel> mBar = Get<ProgressBarModel>("Bar");
+    Ref<ButtonModel> mOk = Get<ButtonModel>("OK");
+    Ref<ButtonModel> mOutside = Get<ButtonModel>("Outside");
+};
+
+TEST_F(ControlModelTest, Made_EachKind_HasItsDefinitionsText)
+{
+    EXPECT_EQ(mLine->Caption(), "a line");
+    EXPECT_EQ(mOk->Caption(), "&OK");
+    EXPECT_EQ(mMonth->Text(), "");
+    EXPECT_EQ(mMonth->ListIndex(), -1);
+    EXPECT_TRUE(mOk->Enabled());
+    EXPECT_TRUE(mOk->Visible());
+    EXPECT_EQ(mOk->Definition().kind, ControlKind::Button);
+}
+
+TEST_F(ControlModelTest, SetCaption_LabelAndButton_IsTaken)
+{
+    mLine->SetCaption("other");
+    mOk->SetCaption("&Go");
+    EXPECT_EQ(mLine->Caption(), "other");
+    EXPECT_EQ(mOk->Caption(), "&Go");
+}
+
+TEST_F(ControlModelTest, Click_ShownButton_RaisesClick)
+{
+    int clicks = 0;
+    const auto subscription = mOk->Subscribe({ .Click = [&] { ++clicks; } });
+    mForm->Show();
+    mOk->Click();
+    mOk->Click();
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ControlModelTest, Click_ButtonThatCanNotBeWorked_Fails)
+{
+    int clicks = 0;
+    const auto subscription = mOk->Subscribe({ .Click = [&] { ++clicks; } });
+    const auto outside = mOutside->Subscribe({ .Click = [&] { ++clicks; } });
+    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "form not shown";
+    mForm->Show();
+    EXPECT_EQ(NumberOf([&] { mOutside->Click(); }), 5) << "outside of the visible part";
+    mOk->SetEnabled(false);
+    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "disabled";
+    mOk->SetEnabled(true);
+    mOk->SetVisible(false);
+    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "hidden";
+    mOk->SetVisible(true);
+    mForm->Hide();
+    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "form hidden";
+    EXPECT_EQ(clicks, 0);
+    mForm->Show();
+    mOk->Click();
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ControlModelTest, Click_ListenerDropsTheForm_Finishes)
+{
+    mForm->Show();
+    bool clicked = false;
+    const auto button = mOk;
+    const auto subscription = mOk->Subscribe({ .Click = [&] {
+        mForm = nullptr;
+        mOk = nullptr;
+        clicked = true;
+    } });
+    button->Click();
+    EXPECT_TRUE(clicked);
+    EXPECT_EQ(NumberOf([&] { button->Click(); }), 5) << "the form is gone";
+}
+
+TEST_F(ControlModelTest, Choose_Entry_SetsTextAndIndex)
+{
+    mMonth->AddItem("Jan");
+    mMonth->AddItem("Feb");
+    mForm->Show();
+    mMonth->Choose(1);
+    EXPECT_EQ(mMonth->Text(), "Feb");
+    EXPECT_EQ(mMonth->ListIndex(), 1);
+    EXPECT_EQ(mMonth->List(), (std::vector<std::string> { "Jan", "Feb" }));
+}
+
+TEST_F(ControlModelTest, Choose_AbsentEntryOrBoxThatCanNotBeWorked_FailsAndChangesNothing)
+{
+    mMonth->AddItem("Jan");
+    EXPECT_EQ(NumberOf([&] { mMonth->Choose(0); }), 5);
+    EXPECT_EQ(NumberOf([&] { mMonth->Type("x"); }), 5);
+    mForm->Show();
+    EXPECT_EQ(NumberOf([&] { mMonth->Choose(1); }), 5);
+    EXPECT_EQ(NumberOf([&] { mMonth->Choose(-1); }), 5);
+    EXPECT_EQ(mMonth->Text(), "");
+    EXPECT_EQ(mMonth->ListIndex(), -1);
+}
+
+TEST_F(ControlModelTest, SetText_EvenAnEntrysOwn_ClearsTheSelection)
+{
+    mMonth->AddItem("Jan");
+    mForm->Show();
+    mMonth->Choose(0);
+    mMonth->SetText("Jan");
+    EXPECT_EQ(mMonth->Text(), "Jan");
+    EXPECT_EQ(mMonth->ListIndex(), -1);
+}
+
+TEST_F(ControlModelTest, Type_Text_ReplacesTheTextAndClearsTheSelection)
+{
+    mMonth->AddItem("Jan");
+    mForm->Show();
+    mMonth->Choose(0);
+    mMonth->Type("Oct");
+    EXPECT_EQ(mMonth->Text(), "Oct");
+    EXPECT_EQ(mMonth->ListIndex(), -1);
+}
+
+TEST_F(ControlModelTest, SetValue_InsideOfTheRange_IsTaken)
+{
+    mBar->SetMax(50);
+    mBar->SetValue(50);
+    EXPECT_EQ(mBar->Value(), 50);
+    mBar->SetValue(0);
+    EXPECT_EQ(mBar->Value(), 0);
+}
+
+TEST_F(ControlModelTest, SetValue_OutsideOfTheRange_FailsAndChangesNothing)
+{
+    mBar->SetValue(5);
+    EXPECT_EQ(NumberOf([&] { mBar->SetValue(-1); }), 380);
+    EXPECT_EQ(NumberOf([&] { mBar->SetValue(101); }), 380);
+    EXPECT_EQ(mBar->Value(), 5);
+}
+
+TEST_F(ControlModelTest, SetBounds_ValueOutside_IsMovedIntoThem)
+{
+    mBar->SetValue(80);
+    mBar->SetMax(50);
+    EXPECT_EQ(mBar->Value(), 50);
+    mBar->SetValue(0);
+    mBar->SetMin(10);
+    EXPECT_EQ(mBar->Value(), 10);
+    EXPECT_EQ(NumberOf([&] { mBar->SetMax(9); }), 380);
+    EXPECT_EQ(NumberOf([&] { mBar->SetMin(51); }), 380);
+    EXPECT_EQ(mBar->Min(), 10);
+    EXPECT_EQ(mBar->Max(), 50);
+}
+
+TEST_F(ControlModelTest, Change_OfAnyControl_IsToldToWhoeverDrawsTheForm)
+{
+    int changes = 0;
+    const auto subscription = mForm->SubscribeToChanges({ .Changed = [&] { ++changes; } });
+    const std::function<void()> steps[] = {
+        [&] { mLine->SetCaption("x"); },
+        [&] { mOk->SetEnabled(false); },
+        [&] { mOk->SetVisible(false); },
+        [&] { mMonth->SetText("x"); },
+        [&] { mMonth->AddItem("y"); },
+        [&] { mBar->SetMax(10); },
+        [&] { mBar->SetValue(1); },
+        [&] { mForm->SetCaption("x"); },
+        [&] { mForm->Show(); },
+        [&] { mForm->BringToFront(); },
+        [&] { mForm->Refresh(); },
+        [&] { mForm->Hide(); },
+    };
+    for (const auto& step : steps) {
+        const auto before = changes;
+        step();
+        EXPECT_EQ(changes, before + 1);
+    }
+}
+
+}
+}

@@ -1,0 +1,52 @@
+#include "forms/FormModelFactory.h"
+
+#include <gtest/gtest.h>
+
+namespace tempodial {
+namespace {
+
+class FormModelFactoryTest : public testing::Test
+{
+protected:
+    Ref<Form> Create(const std::string& className) { return mFactory.Create({ className, "", {} }); }
+
+    FormModelFactory mFactory;
+};
+
+TEST_F(FormModelFactoryTest, Forms_OnlyThoseAlive_InTheirOrder)
+{
+    const auto first = Create("A");
+    auto second = Create("B");
+    const auto third = Create("A");
+    ASSERT_EQ(mFactory.Forms().size(), 3U);
+    second = nullptr;
+    const auto forms = mFactory.Forms();
+    ASSERT_EQ(forms.size(), 2U);
+    EXPECT_EQ(Ref<Form>(forms[0]), first);
+    EXPECT_EQ(Ref<Form>(forms[1]), third);
+}
+
+TEST_F(FormModelFactoryTest, Create_Form_IsNotShown)
+{
+    EXPECT_FALSE(Create("A")->Visible());
+}
+
+TEST_F(FormModelFactoryTest, NewestVisible_ClassName_SkipsHiddenAndOtherForms)
+{
+    const auto first = Create("A");
+    const auto second = Create("A");
+    const auto third = Create("A");
+    const auto other = Create("B");
+    EXPECT_FALSE(mFactory.NewestVisible("A"));
+    second->Show();
+    first->Show();
+    other->Show();
+    EXPECT_EQ(Ref<Form>(mFactory.NewestVisible("A")), second);
+    EXPECT_EQ(Ref<Form>(mFactory.NewestVisible("B")), other);
+    second->Hide();
+    EXPECT_EQ(Ref<Form>(mFactory.NewestVisible("A")), first);
+    EXPECT_FALSE(mFactory.NewestVisible("C"));
+}
+
+}
+}
