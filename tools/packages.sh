@@ -1,0 +1,53 @@
+# Installing Debian packages and configuring a preset, for ./start and ./check, which set `here` and read this file.
+
+# What the product is built with and from.
+build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev libexpat1-dev libicu-dev
+    libtomlplusplus-dev libcli11-dev nlohmann-json3-dev libgsf-1-dev)
+
+# What the tests and lints need besides.
+check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix
+    libemail-outlook-message-perl python3-olefile)
+
+# install_missing PACKAGE...: installs those of the packages that are missing; asks dpkg once and nothing else when
+# none is.
+install_missing() {
+    local package state missing=() sudo=()
+    local -A installed=()
+    if ! command -v dpkg-query apt-get >/dev/null; then
+        echo "This isn't a Debian system, so the packages must be there already: $*" >&2
+        return
+    fi
+    while read -r state package; do
+        [ "$state" = ii ] && installed[$package]=1
+    done < <(dpkg-query --show --showformat='${db:Status-Abbrev} ${Package}\n' "$@" 2>/dev/null)
+    for package; do
+        [ -n "${installed[$package]:-}" ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    if [ "$(id -u)" != 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are missing, and there is no sudo; as root: apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        sudo=(sudo)
+    fi
+    echo "Installing ${missing[*]}" >&2
+    local apt=("${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --quiet --yes -o DPkg::Lock::Timeout=300)
+    "${apt[@]}" update </dev/null >&2 && "${apt[@]}" install --no-install-recommends "${missing[@]}" </dev/null >&2
+}
+
+# configure PRESET: makes the build folder of a preset, unless it is there; ninja itself sees to later changes.
+configure() {
+    local folder="$here/build/$1" fresh=()
+    # A build folder that moved with its checkout can't be used any more.
+    if [ -e "$folder/CMakeCache.txt" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$here" "$folder/CMakeCache.txt"
+    then
+        fresh=(--fresh)
+    elif [ -e "$folder/build.ninja" ]; then
+        return 0
+    fi
+    (cd "$here" && cmake --preset "$1" "${fresh[@]}" </dev/null >"$folder.log" 2>&1) || {
+        cat "$folder.log" >&2
+        return 1
+    }
+}
