@@ -1,0 +1,238 @@
+#include "engine/core/TempodialMain.h"
+
+#include "base/Number.h"
+#include "engine/foundation/TempodialCommonUtils.h"
+#include "engine/foundation/TempodialConfig.h"
+#include "engine/foundation/TempodialStrings.h"
+#include "engine/foundation/TempodialUtils.h"
+#include "engine/import/TempodialDataHandler.h"
+#include "engine/projects/TempodialProjectManager.h"
+#include "engine/reports/TempodialAnalyser.h"
+#include "engine/worklog/TempodialWorkLog.h"
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto Revision = "TempodialMain revision 1 ";
+
+}
+
+TempodialMain::TempodialMain(Ref<const Platform> platform)
+    : TracedObject(std::move(platform))
+{
+}
+
+TempodialMain::~TempodialMain() = default;
+
+void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Application>& application)
+{
+    const auto silently = Failing("", LineShape::Silent);
+    ZeroReferences();
+    mWorkLog = MakeRef<TempodialWorkLog>(mPlatform);
+    mDataHandler = MakeRef<TempodialDataHandler>(mPlatform);
+    mTempodialDebugLog = MakeRef<TempodialDebugLog>(mPlatform);
+    mAnalyser = MakeRef<TempodialAnalyser>(mPlatform);
+    mProjectManager = MakeRef<TempodialProjectManager>(mPlatform);
+    mStrings = MakeRef<TempodialStrings>();
+    mConfig = MakeRef<TempodialConfig>();
+    mUtils = MakeRef<TempodialUtils>(mPlatform);
+    mCommonUtils = MakeRef<TempodialCommonUtils>(mPlatform);
+    mFileSystem = mPlatform->fileSystem;
+    mLog = mTempodialDebugLog;
+    mTraceInfo = "TDMain";
+    mOutlook2003orLater = true;
+    mNewVersion = false;
+    mDefaultCalendarView.clear();
+
+    silently([&] {
+        mApplication.Set(application,
+            ApplicationEvents {
+                .MapiLogonComplete = Handler(shared_from_this(), &TempodialMain::mApplication_MapiLogonComplete),
+                .Quit = Handler(shared_from_this(), &TempodialMain::mApplication_Quit),
+            });
+    });
+    silently([&] { mNamespace = application->GetNamespace("MAPI"); });
+    silently([&] { mStrings->Initialize(); });
+    silently([&] { mConfig->Initialize(); });
+    silently([&] {
+        mTempodialDebugLog->Initialize(mCommonUtils, mConfig->mTDVersion, "WorkLogTrace1.out", "WorkLogTrace2.out", 0);
+    });
+    // Without a version the data folder must be found all the same.
+    const auto version = silently.Get([&] { return application->Version(); });
+    silently([&] { mCommonUtils->Initialize(mTempodialDebugLog, mStrings->mFolderName, version); });
+    silently([&] { mUtils->Initialize(mTempodialDebugLog, shared_from_this()); });
+    silently([&] { mTempodialDebugLog->Start(); });
+
+    const auto attempt = Failing("TDMaininit failed on a call: ", LineShape::TextBlankStep);
+    attempt([&] { mSecurityPopups = mCommonUtils->EmailObjectGuardInPlace(); });
+    attempt([&] { CompareVersions(); });
+    attempt([&] { Trace(std::string(Revision) + "Initialize "); });
+    attempt([&] { mWorkLog->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
+    attempt([&] { mDataHandler->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
+    attempt([&] { mAnalyser->Initialize(shared_from_this(), application, mTempodialDebugLog); });
+    attempt([&] { mProjectManager->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
+    attempt([&] { mUtils->CleanUpOldFiles(); });
+    attempt([&] { Trace("Initialized, run next "); });
+}
+
+void TempodialMain::CompareVersions()
+{
+    const auto attempt = Failing("TDMaininit failed on a call: ", LineShape::TextBlankStep);
+    const auto previous = attempt.Get([&] {
+        return mUtils->GetRegistryValue(mStrings->mRegistryValueVersion, "", Hive::CurrentUser, RegistryAccess::All)
+            .ToText();
+    });
+    attempt([&] { Trace("Oldver: " + previous + " currVer: " + mConfig->mTDVersion); });
+    if (previous != mConfig->mTDVersion) {
+        mNewVersion = true;
+        attempt([&] {
+            mUtils->SetRegistryValue(mStrings->mRegistryValueVersion, mConfig->mTDVersion, "", Hive::CurrentUser);
+        });
+    }
+}
+
+void TempodialMain::TempodialMain_Run()
+{
+    const auto attempt = Failing("Run failed ", LineShape::TextBlankStep);
+    mStage = "entry";
+    attempt([&] { Trace("Entering run"); });
+    ReadOutlookVersion();
+
+    mStage = "create log";
+    attempt([&] { Trace("new version? " + std::string(BooleanText(mNewVersion))); });
+    attempt([&] { mWorkLog->TempodialWorkLog_CreateWorkLog(mNewVersion); });
+    attempt([&] { Trace("created log "); });
+    mStage = "log created";
+
+    mStage = "load forms";
+    attempt([&] { mWorkLog->LoadForms(); });
+    attempt([&] { Trace("loaded forms"); });
+
+    mStage = "init projects";
+    attempt([&] { mProjectManager->InitProjects(); });
+    attempt([&] { Trace("inited projects"); });
+
+    mStage = "load icons";
+    LoadIcons();
+
+    mStage = "Create explorers";
+    attempt([&] { mExplorers = mApplication->Explorers(); });
+    const auto explorers = attempt.Get([&] { return mExplorers->Count(); });
+    for (std::int32_t i = 1; i <= explorers; ++i) {
+        attempt([&] { Trace("Explorer caption: " + mExplorers->Item(i)->Caption()); });
+    }
+    attempt([&] { mInspectors = mApplication->Inspectors(); });
+    mStage = "Create inspectors";
+}
+
+void TempodialMain::ReadOutlookVersion()
+{
+    const auto attempt = Failing("Run failed ", LineShape::TextBlankStep);
+    std::string version;
+    if (!attempt([&] { version = mApplication->Version(); }, [&](const Failure&) { mOutlook2003orLater = false; })) {
+        return;
+    }
+    attempt([&] { Trace("version: " + version); });
+    std::int32_t major = 0;
+    // A version that is no number can't be read either.
+    if (!attempt([&] { major = MajorVersion(version); }) || (major >= 8 && major <= 10)) {
+        mOutlook2003orLater = false;
+    }
+}
+
+void TempodialMain::LoadIcons()
+{
+    const auto attempt = Failing("Run failed ", LineShape::TextBlankStep);
+    const auto folder = attempt.Get([&] { return mUtils->GetInstallFolderName(); });
+    const auto load = [&](Ref<Picture>& picture, const char* name) {
+        attempt([&] { picture = mPlatform->pictures->Load(mFileSystem->BuildPath(folder, name)); });
+    };
+    const auto test = [&](const Ref<Picture>& picture, const char* text) {
+        if (!picture) {
+            attempt([&] { Trace(text); });
+        }
+    };
+    load(mTempodialIcon, "TDSettingsIconImage.bmp");
+    load(mTempodialIconMask, "TDSettingsIconMask.bmp");
+    test(mTempodialIcon, "icon load failed");
+    test(mTempodialIconMask, "mask load failed");
+    load(mTempodialRefreshIcon, "TDRefreshIcon.bmp");
+    test(mTempodialRefreshIcon, "clock load failed");
+    // kept: the last picture has no test of its own.
+    load(mTempodialRefreshMaskIcon, "TDRefreshIconMask.bmp");
+}
+
+void TempodialMain::Terminate()
+{
+    if (!mLog) {
+        return; // Never initialised, or ended before: nothing is left to do.
+    }
+    const auto attempt = Failing("TDMain Term failed on a call: ", LineShape::TextStep);
+    const auto end = [&](auto& worker, const char* word) {
+        if (worker) {
+            attempt([&] { Trace(word); });
+            attempt([&] { worker->Terminate(); });
+            worker = nullptr;
+        }
+    };
+    attempt([&] { Trace("Main terminate"); });
+    end(mWorkLog, "clean worklog");
+    end(mAnalyser, "clean analyser");
+    end(mProjectManager, "clean ProjMan");
+    end(mDataHandler, "clean data handler");
+
+    attempt([&] { mTempodialDebugLog->Terminate(); });
+    attempt([&] { mCommonUtils->Terminate(); });
+    mLog = nullptr;
+    ZeroReferences();
+    mFileSystem = nullptr;
+    mTempodialIcon = nullptr;
+    mTempodialIconMask = nullptr;
+    mTempodialRefreshIcon = nullptr;
+    mTempodialRefreshMaskIcon = nullptr;
+    mStage.clear();
+}
+
+void TempodialMain::ZeroReferences()
+{
+    mWorkLog = nullptr;
+    mAnalyser = nullptr;
+    mProjectManager = nullptr;
+    mDataHandler = nullptr;
+    mTempodialDebugLog = nullptr;
+    mNamespace = nullptr;
+    mApplication.Clear();
+    mStrings = nullptr;
+    mConfig = nullptr;
+    mUtils = nullptr;
+    mCommonUtils = nullptr;
+    mExplorers = nullptr;
+    mInspectors = nullptr;
+}
+
+void TempodialMain::mApplication_MapiLogonComplete()
+{
+    Failing("", LineShape::Silent)([&] { TempodialMain_Run(); });
+}
+
+void TempodialMain::mApplication_Quit()
+{
+    Failing("", LineShape::Silent)([&] { Trace("Quit received"); });
+}
+
+bool TempodialMain::IsInspector(const Ref<AppointmentItem>& item)
+{
+    const auto attempt = Failing("IsInspector error ", LineShape::TextColonStep);
+    const auto inspectors = mInspectors;
+    const auto count = inspectors ? attempt.Get([&] { return inspectors->Count(); }) : 0;
+    for (std::int32_t i = 1; i <= count; ++i) {
+        if (attempt.Get([&] { return inspectors->Item(i)->CurrentItem()->EntryID() == item->EntryID(); })) {
+            attempt([&] { Trace("IsInspector - open"); });
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace tempodial
