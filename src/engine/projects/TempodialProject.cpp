@@ -85,53 +85,53 @@ bool TempodialProject::IsSemiColonSeparator(const std::string& rule) const
 
 bool TempodialProject::isSubjectMatch(const std::string& subject)
 {
-    return isFoldedSubjectMatch(Fold(subject));
+    return isFoldedSubjectMatch(FoldedText(subject));
 }
 
 bool TempodialProject::isPeopleMatch(const std::string& people)
 {
-    return isFoldedPeopleMatch(Fold(people));
+    return isFoldedPeopleMatch(FoldedText(people));
 }
 
-bool TempodialProject::isFoldedSubjectMatch(std::string_view foldedSubject)
+bool TempodialProject::isFoldedSubjectMatch(const FoldedText& subject)
 {
     const auto attempt = Failing("isSubjectMatch ", LineShape::TextColonStep);
-    mStage = "match sub";
-    const bool match = attempt.Get([&] { return isMatch(foldedSubject, mSubjectRule); });
-    const bool excluded = attempt.Get([&] { return isMatch(foldedSubject, mNotSubjectRule); });
+    const bool match = attempt.Get([&] { return isMatch(subject, mSubjectRule); });
+    const bool excluded = attempt.Get([&] { return isMatch(subject, mNotSubjectRule); });
     return match && !excluded;
 }
 
-bool TempodialProject::isFoldedPeopleMatch(std::string_view foldedPeople)
+bool TempodialProject::isFoldedPeopleMatch(const FoldedText& people)
 {
     const auto attempt = Failing("isPeopleMatch ", LineShape::TextColonStep);
-    mStage = "match peop";
-    return attempt.Get([&] { return isMatch(foldedPeople, mPeopleRule); });
+    return attempt.Get([&] { return isMatch(people, mPeopleRule); });
 }
 
-bool TempodialProject::isMatch(std::string_view foldedText, const ProjectRule& rule)
+bool TempodialProject::isMatch(const FoldedText& text, const ProjectRule& rule)
 {
     const auto attempt = Failing("isMatch ", LineShape::TextColonStep);
-    mStage = "match thing";
+    // Only a lone quote can fail, so the step word waits until there is one.
+    const char* step = "match thing";
     for (const auto& term : rule.MatchTerms()) {
         if (term.loneQuote) {
+            mStage = step;
             // kept: its one quote has gone as the opening one, and taking the closing one off fails at each test
             attempt([] { Left("", -1); });
         }
-        const bool hit = term.quoted ? !foldedText.empty() && foldedText.find(term.parts.front()) != std::string::npos
-                                     : isandMatch(foldedText, term);
-        if (hit) {
+        if (!term.quoted) {
+            step = "iterate";
+        }
+        if (term.quoted ? text.Contains(term.parts.front()) : isandMatch(text, term)) {
             return true;
         }
     }
     return false;
 }
 
-bool TempodialProject::isandMatch(std::string_view foldedText, const ProjectRule::Term& term)
+bool TempodialProject::isandMatch(const FoldedText& text, const ProjectRule::Term& term)
 {
-    mStage = "iterate";
     for (const auto& word : term.parts) {
-        if (foldedText.find(word) == std::string_view::npos) {
+        if (!text.Contains(word)) {
             return false;
         }
     }

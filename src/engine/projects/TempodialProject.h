@@ -2,10 +2,10 @@
 
 #include "base/Variant.h"
 #include "engine/foundation/TracedObject.h"
+#include "engine/projects/FoldedText.h"
 #include "engine/projects/ProjectRule.h"
 
 #include <string>
-#include <string_view>
 
 namespace tempodial {
 
@@ -44,14 +44,14 @@ public:
     bool isSubjectMatch(const std::string& subject);
     /// True when a list of people meets a people term.
     bool isPeopleMatch(const std::string& people);
-    /// `isSubjectMatch` for a subject whose case is folded already.
-    bool isFoldedSubjectMatch(std::string_view foldedSubject);
-    /// `isPeopleMatch` for people whose case is folded already.
-    bool isFoldedPeopleMatch(std::string_view foldedPeople);
+    /// `isSubjectMatch` for a subject that is ready for searches.
+    bool isFoldedSubjectMatch(const FoldedText& subject);
+    /// `isPeopleMatch` for people that are ready for searches.
+    bool isFoldedPeopleMatch(const FoldedText& people);
 
 private:
-    bool isMatch(std::string_view foldedText, const ProjectRule& rule);
-    bool isandMatch(std::string_view foldedText, const ProjectRule::Term& term);
+    bool isMatch(const FoldedText& text, const ProjectRule& rule);
+    bool isandMatch(const FoldedText& text, const ProjectRule::Term& term);
 
     ProjectRule mSubjectRule;
     ProjectRule mPeopleRule;

@@ -341,8 +341,8 @@ std::string TempodialProjectManager::WhatProject(const std::string& subject, con
     mStage = "loop through lists";
     const auto noProject = attempt.Get([&] { return mMain->mStrings->mNoProject; });
     auto result = noProject;
-    const auto foldedSubject = Fold(subject);
-    const auto foldedPeople = Fold(people);
+    const FoldedText foldedSubject(subject);
+    const FoldedText foldedPeople(people);
     for (const auto* list : { &mHighProjects, &mMediumProjects, &mLowProjects }) {
         if (result == noProject) {
             attempt([&] { result = TestProjectList(*list, foldedSubject, foldedPeople); });
@@ -353,15 +353,15 @@ std::string TempodialProjectManager::WhatProject(const std::string& subject, con
 }
 
 std::string TempodialProjectManager::TestProjectList(
-    const ProjectList& list, std::string_view foldedSubject, std::string_view foldedPeople)
+    const ProjectList& list, const FoldedText& subject, const FoldedText& people)
 {
     const auto attempt = Failing("PM TestProjectList error ", LineShape::TextColonStep);
     mStage = "loop through list";
     for (std::int32_t index = 1; index <= list.Count(); ++index) {
         auto& project = *list.Item(index);
         // kept: people are asked although the subject holds an excluded word
-        if (attempt.Get([&] { return project.isFoldedSubjectMatch(foldedSubject); })
-            || (!foldedPeople.empty() && attempt.Get([&] { return project.isFoldedPeopleMatch(foldedPeople); }))) {
+        if (attempt.Get([&] { return project.isFoldedSubjectMatch(subject); })
+            || (!people.IsEmpty() && attempt.Get([&] { return project.isFoldedPeopleMatch(people); }))) {
             return project.GetName();
         }
     }

@@ -68,7 +68,7 @@ private:
         std::string precedence);
     void AddProject(const std::string& name, const std::string& subjectRule, const std::string& notSubjectRule,
         const std::string& peopleRule, const std::string& precedence);
-    std::string TestProjectList(const ProjectList& list, std::string_view foldedSubject, std::string_view foldedPeople);
+    std::string TestProjectList(const ProjectList& list, const FoldedText& subject, const FoldedText& people);
     Ref<TempodialProject> FindProject(const std::string& name);
     ProjectList& GetList(const std::string& precedence);
     void AlphaAdd(ProjectList& list, const Ref<TempodialProject>& project, const std::string& name);

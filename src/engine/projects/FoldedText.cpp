@@ -1,0 +1,25 @@
+#include "engine/projects/FoldedText.h"
+
+#include "base/Text.h"
+
+namespace tempodial {
+
+FoldedText::FoldedText(std::string_view text)
+    : mText(Fold(text))
+{
+    for (std::size_t index = 1; index < mText.size(); ++index) {
+        mPairs.set(Pair(mText[index - 1], mText[index]));
+    }
+}
+
+bool FoldedText::Contains(std::string_view folded) const
+{
+    for (std::size_t index = 1; index < folded.size(); ++index) {
+        if (!mPairs.test(Pair(folded[index - 1], folded[index]))) {
+            return false;
+        }
+    }
+    return !mText.empty() && mText.find(folded) != std::string::npos;
+}
+
+}
