@@ -1,0 +1,35 @@
+#include "host/store/EntryIds.h"
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::size_t RowDigits = 15;
+
+}
+
+std::string EntryIds::Make(char kind, std::int64_t row) const
+{
+    std::array<char, 16> digits {};
+    const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), row, 16).ptr;
+    const auto length = static_cast<std::size_t>(end - digits.data());
+    return mMailbox + kind + std::string(RowDigits - length, '0') + std::string(digits.data(), length);
+}
+
+std::int64_t EntryIds::Row(char kind, const std::string& entryId) const
+{
+    const auto prefix = mMailbox + kind;
+    if (entryId.size() != prefix.size() + RowDigits || !entryId.starts_with(prefix)) {
+        return 0;
+    }
+    std::int64_t row = 0;
+    const auto* const end = entryId.data() + entryId.size();
+    const auto [stop, problem] = std::from_chars(entryId.data() + prefix.size(), end, row, 16);
+    return problem == std::errc() && stop == end && row > 0 ? row : 0;
+}
+
+}

@@ -1,0 +1,218 @@
+#include "host/store/ItemTable.h"
+
+#include "host/store/ItemSpan.h"
+#include "host/store/MailboxDatabase.h"
+#include "host/store/PropertyCodec.h"
+#include "host/store/Query.h"
+
+#include <algorithm>
+
+namespace tempodial {
+
+namespace {
+
+const std::string Columns = "item.id, item.folder, item.kind, item.message_class, item.starts, item.ends, "
+                            "item.recurring, item.subject, item.mileage, item.billing, item.properties, item.body";
+
+StoredItem Read(const Query& query)
+{
+    int column = 0;
+    StoredItem item;
+    item.row = query.Int(column++);
+    item.folder = query.Int(column++);
+    item.data.kind = static_cast<ObjectClass>(query.Int(column++));
+    item.data.messageClass = query.Text(column++);
+    item.data.start = Date::FromSeconds(query.Int(column++));
+    item.data.end = Date::FromSeconds(query.Int(column++));
+    item.data.recurring = query.Int(column++) != 0;
+    item.data.subject = query.Text(column++);
+    item.data.mileage = query.Text(column++);
+    item.data.billingInformation = query.Text(column++);
+    item.data.properties = PropertyCodec::Decode(query.Text(column++));
+    item.data.body = query.Text(column++);
+    return item;
+}
+
+std::string JsonList(std::span<const std::int64_t> rows)
+{
+    std::string json = "[";
+    for (const auto row : rows) {
+        json += (json.size() > 1 ? "," : "") + std::to_string(row);
+    }
+    return json + "]";
+}
+
+std::vector<std::int64_t> RowsOf(Query& query)
+{
+    std::vector<std::int64_t> rows;
+    while (query.Step()) {
+        rows.push_back(query.Int(0));
+    }
+    return rows;
+}
+
+std::string OrderSql(const ItemOrder& order)
+{
+    if (!order.field) {
+        return "";
+    }
+    const auto value = order.field->type == FilterField::Type::Text ? "fold_text(ifnull(" + order.field->sql + ", ''))"
+                                                                    : order.field->sql;
+    return value + (order.descending ? " DESC, " : ", ");
+}
+
+void BindOrder(Query& query, const ItemOrder& order)
+{
+    if (order.field && order.field->bound) {
+        query.Bind(*order.field->bound);
+    }
+}
+
+}
+
+ItemTable::ItemTable(MailboxDatabase& database)
+    : mDatabase(database)
+    , mLastRow(database.Number("SELECT seq FROM sqlite_sequence WHERE name = 'item'"))
+{
+}
+
+std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
+{
+    mDatabase.CheckWhole();
+    // Rows go up even over insertions that were undone, whose identity somebody may still hold.
+    const auto row = ++mLastRow;
+    static const std::string sql
+        = "INSERT INTO item (id, folder, kind, message_class, starts, ends, recurring, subject, "
+          "mileage, billing, properties, body) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+    Query(mDatabase, sql)
+        .Bind(row)
+        .Bind(folder)
+        .Bind(static_cast<std::int64_t>(data.kind))
+        .Bind(data.messageClass)
+        .Bind(data.start.Seconds())
+        .Bind(data.end.Seconds())
+        .Bind(std::int64_t { data.recurring })
+        .Bind(data.subject)
+        .Bind(data.mileage)
+        .Bind(data.billingInformation)
+        .Bind(PropertyCodec::Encode(data.properties))
+        .Bind(data.body)
+        .Run();
+    ++mChanges;
+    return row;
+}
+
+void ItemTable::Update(std::int64_t row, const ItemData& data)
+{
+    mDatabase.CheckWhole();
+    static const std::string sql = "UPDATE item SET starts = ?, ends = ?, recurring = ?, subject = ?, mileage = ?, "
+                                   "billing = ?, properties = ?, body = ? WHERE id = ?";
+    Query(mDatabase, sql)
+        .Bind(data.start.Seconds())
+        .Bind(data.end.Seconds())
+        .Bind(std::int64_t { data.recurring })
+        .Bind(data.subject)
+        .Bind(data.mileage)
+        .Bind(data.billingInformation)
+        .Bind(PropertyCodec::Encode(data.properties))
+        .Bind(data.body)
+        .Bind(row)
+        .Run();
+    ++mChanges;
+}
+
+void ItemTable::Move(std::int64_t row, std::int64_t folder)
+{
+    mDatabase.CheckWhole();
+    Query(mDatabase, "UPDATE item SET folder = ? WHERE id = ?").Bind(folder).Bind(row).Run();
+    ++mChanges;
+}
+
+void ItemTable::Delete(std::int64_t row)
+{
+    mDatabase.CheckWhole();
+    Query(mDatabase, "DELETE FROM item WHERE id = ?").Bind(row).Run();
+    ++mChanges;
+}
+
+std::optional<StoredItem> ItemTable::Load(std::int64_t row)
+{
+    static const std::string sql = "SELECT " + Columns + " FROM item WHERE id = ?";
+    Query query(mDatabase, sql);
+    query.Bind(row);
+    return query.Step() ? std::optional(Read(query)) : std::nullopt;
+}
+
+std::vector<StoredItem> ItemTable::Load(std::span<const std::int64_t> rows)
+{
+    static const std::string sql
+        = "SELECT " + Columns + " FROM json_each(?) AS list CROSS JOIN item ON item.id = list.value ORDER BY list.id";
+    std::vector<StoredItem> items;
+    items.reserve(rows.size());
+    Query query(mDatabase, sql);
+    query.Bind(JsonList(rows));
+    while (query.Step()) {
+        items.push_back(Read(query));
+    }
+    return items;
+}
+
+std::vector<std::int64_t> ItemTable::All(std::int64_t folder, const ItemOrder& order)
+{
+    Query query(mDatabase, "SELECT item.id FROM item WHERE item.folder = ? ORDER BY " + OrderSql(order) + "item.id");
+    query.Bind(folder);
+    BindOrder(query, order);
+    return RowsOf(query);
+}
+
+std::vector<std::int64_t> ItemTable::Select(std::int64_t folder, const FilterCondition& condition)
+{
+    return Rows(folder, condition, " ORDER BY item.id");
+}
+
+std::int64_t ItemTable::First(std::int64_t folder, const FilterCondition& condition)
+{
+    const auto rows = Rows(folder, condition, " ORDER BY item.id LIMIT 1");
+    return rows.empty() ? 0 : rows.front();
+}
+
+std::vector<std::int64_t> ItemTable::Sorted(std::span<const std::int64_t> rows, const ItemOrder& order)
+{
+    Query query(mDatabase,
+        "SELECT item.id FROM json_each(?) AS list CROSS JOIN item ON item.id = list.value ORDER BY " + OrderSql(order)
+            + "list.id");
+    query.Bind(JsonList(rows));
+    BindOrder(query, order);
+    return RowsOf(query);
+}
+
+std::vector<std::int64_t> ItemTable::Rows(
+    std::int64_t folder, const FilterCondition& condition, const std::string& ending)
+{
+    static const std::string bySpan = "SELECT item.id FROM (VALUES " + ItemSpan::ClassRows()
+        + ") AS class CROSS JOIN item INDEXED BY item_span WHERE item.folder = ? AND item.span = class.column1 "
+          "AND item.starts >= max(?, ? - class.column2) AND item.starts < ? AND ";
+    static const std::string byEnd = "SELECT item.id FROM item INDEXED BY item_end WHERE item.folder = ? "
+                                     "AND item.ends >= ? AND item.ends < ? AND ";
+    static const std::string byFolder = "SELECT item.id FROM item WHERE item.folder = ? AND ";
+
+    const auto& start = condition.start;
+    const auto& end = condition.end;
+    const bool endNamed = end.IsBoundedBelow() && end.IsBoundedAbove();
+    const bool startNamed = start.IsBoundedBelow() && start.IsBoundedAbove();
+    const bool useStart = (start.IsBoundedBelow() || start.IsBoundedAbove()) && (startNamed || !endNamed);
+    const bool useEnd = !useStart && (end.IsBoundedBelow() || end.IsBoundedAbove());
+    Query query(mDatabase, (useStart ? bySpan : useEnd ? byEnd : byFolder) + condition.sql + ending);
+    query.Bind(folder);
+    if (useStart) {
+        query.Bind(start.from).Bind(end.from).Bind(start.until);
+    } else if (useEnd) {
+        query.Bind(end.from).Bind(end.until);
+    }
+    for (const auto& value : condition.values) {
+        std::visit([&](const auto& bound) { query.Bind(bound); }, value);
+    }
+    return RowsOf(query);
+}
+
+}

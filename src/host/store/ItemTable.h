@@ -1,0 +1,62 @@
+#pragma once
+
+#include "host/store/FilterSql.h"
+#include "host/store/ItemData.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+class MailboxDatabase;
+
+/// How a list of items is ordered; without a field in the order in which they came into the mailbox.
+struct ItemOrder
+{
+    std::optional<FilterField> field;
+    bool descending = false;
+};
+
+/// The rows of all items. Every member fails as a statement does.
+class ItemTable
+{
+public:
+    explicit ItemTable(MailboxDatabase& database);
+
+    /// Stores a new item and answers its row, which no other item ever had.
+    std::int64_t Insert(std::int64_t folder, const ItemData& data);
+    void Update(std::int64_t row, const ItemData& data);
+    void Move(std::int64_t row, std::int64_t folder);
+    void Delete(std::int64_t row);
+    /// Changes to stored items so far; what was read before the last change may be out of date.
+    std::int64_t Changes() const { return mChanges; }
+    /// Counts a change that came from outside of this class.
+    void NoteChange() { ++mChanges; }
+
+    /// The item of a row, nothing when it is gone.
+    std::optional<StoredItem> Load(std::int64_t row);
+    /// The items of rows in that order; one that is gone is left out.
+    std::vector<StoredItem> Load(std::span<const std::int64_t> rows);
+
+    /// The rows of a folder.
+    std::vector<std::int64_t> All(std::int64_t folder, const ItemOrder& order);
+    /// The rows of a folder that a filter lets through, in the order in which they came into the mailbox.
+    std::vector<std::int64_t> Select(std::int64_t folder, const FilterCondition& condition);
+    /// The first of these, 0 when there is none.
+    std::int64_t First(std::int64_t folder, const FilterCondition& condition);
+    /// Those rows in another order; rows of equal value keep theirs, and those that are gone are left out.
+    std::vector<std::int64_t> Sorted(std::span<const std::int64_t> rows, const ItemOrder& order);
+
+private:
+    std::vector<std::int64_t> Rows(std::int64_t folder, const FilterCondition& condition, const std::string& ending);
+
+    MailboxDatabase& mDatabase;
+    std::int64_t mLastRow = 0;
+    std::int64_t mChanges = 0;
+};
+
+}

@@ -1,0 +1,224 @@
+#include "host/store/MailboxDatabase.h"
+
+#include "base/Text.h"
+#include "host/store/PropertyCodec.h"
+#include "host/store/Query.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+#include <sqlite3.h>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::size_t StatementsKept = 100;
+constexpr int BusyMilliseconds = 5000;
+
+std::string_view TextOf(sqlite3_value* value)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return text == nullptr ? std::string_view()
+                           : std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+}
+
+void GiveText(sqlite3_context* context, const std::string& text)
+{
+    sqlite3_result_text64(context, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+}
+
+/// Runs a function of SQL, in which no exception may leave.
+template <class Body> void Guarded(sqlite3_context* context, Body&& body)
+{
+    try {
+        body();
+    } catch (const std::exception& problem) {
+        sqlite3_result_error(context, problem.what(), -1);
+    }
+}
+
+void FoldText(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    Guarded(context, [&] {
+        if (sqlite3_value_type(arguments[0]) == SQLITE_TEXT) {
+            GiveText(context, Fold(TextOf(arguments[0])));
+        }
+    });
+}
+
+void ItemPropertyOf(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    Guarded(context, [&] {
+        const auto properties = PropertyCodec::Decode(TextOf(arguments[0]));
+        const auto* property = FindProperty(properties, TextOf(arguments[1]));
+        if (property == nullptr) {
+            return;
+        }
+        if (const auto* text = property->value.If<std::string>()) {
+            GiveText(context, *text);
+        } else if (const auto* date = property->value.If<Date>()) {
+            sqlite3_result_int64(context, date->Seconds());
+        } else if (const auto* flag = property->value.If<bool>()) {
+            sqlite3_result_int(context, *flag ? 1 : 0);
+        }
+    });
+}
+
+void MinuteOf(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    sqlite3_result_int64(context, Date::FromSeconds(sqlite3_value_int64(arguments[0])).Minute().Seconds() / 60);
+}
+
+}
+
+MailboxDatabase::MailboxDatabase(const std::string& path)
+    : mPath(path)
+{
+    try {
+        mConnection = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE, BusyMilliseconds);
+    } catch (const SQLite::Exception& problem) {
+        throw Failed(problem.getErrorCode(), problem.what());
+    }
+    sqlite3_db_config(mConnection->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    sqlite3_extended_result_codes(mConnection->getHandle(), 1);
+    AddFunctions();
+    Execute("PRAGMA trusted_schema = OFF");
+    Execute("PRAGMA cell_size_check = ON");
+    Execute("PRAGMA foreign_keys = ON");
+    Execute("PRAGMA synchronous = FULL");
+    Execute("PRAGMA temp_store = MEMORY");
+    Execute("PRAGMA cache_size = -16384");
+}
+
+MailboxDatabase::~MailboxDatabase()
+{
+    if (mHeld) {
+        RollBack();
+    }
+}
+
+void MailboxDatabase::Trust()
+{
+    sqlite3_db_config(mConnection->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+}
+
+bool MailboxDatabase::IsSound()
+{
+    Query check(*this, "PRAGMA integrity_check(1)");
+    if (!check.Step() || check.Text(0) != "ok") {
+        return false;
+    }
+    return !Query(*this, "PRAGMA foreign_key_check").Step();
+}
+
+void MailboxDatabase::Execute(const std::string& sql)
+{
+    char* text = nullptr;
+    const auto code = sqlite3_exec(mConnection->getHandle(), sql.c_str(), nullptr, nullptr, &text);
+    if (code != SQLITE_OK) {
+        const std::string message = text == nullptr ? std::string() : text;
+        sqlite3_free(text);
+        throw Failed(code, message);
+    }
+}
+
+std::int64_t MailboxDatabase::Number(const std::string& sql)
+{
+    Query query(*this, sql);
+    return query.Step() ? query.Int(0) : 0;
+}
+
+void MailboxDatabase::Hold()
+{
+    CheckWhole();
+    Execute("BEGIN IMMEDIATE");
+    mHeld = true;
+}
+
+void MailboxDatabase::CommitHeld()
+{
+    CheckWhole();
+    Execute("COMMIT");
+    mHeld = false;
+}
+
+void MailboxDatabase::CheckWhole() const
+{
+    if (mUndone) {
+        throw Failure(*mUndone);
+    }
+}
+
+SQLite::Statement& MailboxDatabase::Prepare(const std::string& sql)
+{
+    if (const auto known = mStatements.find(sql); known != mStatements.end()) {
+        return *known->second;
+    }
+    if (mStatements.size() >= StatementsKept && mRunning == 0) {
+        mStatements.clear();
+    }
+    try {
+        return *mStatements.emplace(sql, std::make_unique<SQLite::Statement>(*mConnection, sql)).first->second;
+    } catch (const SQLite::Exception& problem) {
+        throw Failed(problem.getExtendedErrorCode(), problem.what());
+    }
+}
+
+void MailboxDatabase::AddFunctions()
+{
+    constexpr int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
+    auto* handle = mConnection->getHandle();
+    sqlite3_create_function_v2(handle, "fold_text", 1, flags, nullptr, FoldText, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, "item_property", 2, flags, nullptr, ItemPropertyOf, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, "minute_of", 1, flags, nullptr, MinuteOf, nullptr, nullptr, nullptr);
+}
+
+void MailboxDatabase::RollBack()
+{
+    if (sqlite3_get_autocommit(mConnection->getHandle()) == 0) {
+        sqlite3_exec(mConnection->getHandle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+Failure MailboxDatabase::Failed(int code, const std::string& text)
+{
+    auto failure = Described(code, text);
+    if (mHeld) {
+        mHeld = false;
+        mUndone = failure;
+        RollBack();
+        if (mOnUndone) {
+            mOnUndone();
+        }
+    }
+    return failure;
+}
+
+Failure MailboxDatabase::Described(int code, const std::string& text) const
+{
+    const auto named = [&](Error error) {
+        return Failure(error, std::string(ErrorText(static_cast<std::int32_t>(error))) + ": the mailbox " + mPath);
+    };
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return named(Error::DiskFull);
+    case SQLITE_IOERR:
+        return named(Error::DeviceError);
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_CANTOPEN:
+        return named(Error::PermissionDenied);
+    case SQLITE_NOMEM:
+        return Failure(Error::OutOfMemory);
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return { Error::Automation, "The mailbox " + mPath + " is damaged" };
+    default:
+        return { Error::Automation, "The mailbox " + mPath + " refused: " + text };
+    }
+}
+
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "base/Failure.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace SQLite {
+class Database;
+class Statement;
+}
+
+namespace tempodial {
+
+/// The connection to the mailbox's file: prepared statements, transactions, and SQLite's errors as failures.
+class MailboxDatabase
+{
+public:
+    /// Called when what was written since the last commit of a held transaction has been undone.
+    std::function<void()> mOnUndone;
+
+    /// Opens a mailbox's file, or an empty mailbox in memory for ":memory:"; fails as a statement does.
+    explicit MailboxDatabase(const std::string& path);
+    MailboxDatabase(const MailboxDatabase&) = delete;
+    MailboxDatabase& operator=(const MailboxDatabase&) = delete;
+    ~MailboxDatabase();
+
+    const std::string& Path() const { return mPath; }
+    /// Lets the file take up its journal when it is closed; until then closing writes nothing.
+    void Trust();
+    /// True when the whole file is sound; reads all of it.
+    bool IsSound();
+
+    /// Runs statements that take no values.
+    void Execute(const std::string& sql);
+    /// The whole number that a query without values gives.
+    std::int64_t Number(const std::string& sql);
+
+    /// Runs work whose writes are kept together or not at all.
+    template <class Work> void Atomically(Work&& work)
+    {
+        CheckWhole();
+        // Within a held transaction a failure undoes more than this work.
+        if (mHeld) {
+            work();
+            return;
+        }
+        Execute("BEGIN IMMEDIATE");
+        try {
+            work();
+            Execute("COMMIT");
+        } catch (...) {
+            RollBack();
+            throw;
+        }
+    }
+
+    /// Begins to hold all writes. A failure undoes what wasn't committed, and from then on every write fails in the
+    /// same way until `Recover`.
+    void Hold();
+    /// Makes the held writes durable and ends the holding.
+    void CommitHeld();
+    /// Lets writes go on after held ones were undone.
+    void Recover() { mUndone.reset(); }
+    /// True while writes are held.
+    bool IsHolding() const { return mHeld; }
+    /// Fails again when held writes were undone.
+    void CheckWhole() const;
+
+private:
+    friend class Query;
+
+    SQLite::Statement& Prepare(const std::string& sql);
+    void AddFunctions();
+    void RollBack();
+    Failure Described(int code, const std::string& text) const;
+    Failure Failed(int code, const std::string& text);
+
+    std::string mPath;
+    std::unique_ptr<SQLite::Database> mConnection;
+    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> mStatements;
+    std::size_t mRunning = 0;
+    bool mHeld = false;
+    std::optional<Failure> mUndone;
+};
+
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tempodial {
+
+/// The mailbox's file as it lies on disk, looked at without SQLite: what isn't a mailbox is never touched.
+class MailboxFile
+{
+public:
+    /// What was found under the name.
+    enum class State {
+        Absent,
+        /// A mailbox that was closed in good order.
+        Clean,
+        /// A mailbox whose last user didn't get to close it.
+        Unclean,
+    };
+
+    /// The number by which a mailbox is told from other SQLite files.
+    static constexpr std::uint32_t ApplicationId = 0x54444d42;
+
+    explicit MailboxFile(std::string path);
+
+    /// What lies under the name; throws `MailboxError` for anything but nothing or a mailbox of at most that version.
+    State Examine(int newestVersion) const;
+    /// The name of a new, empty file beside the mailbox, private to the user, in which a new mailbox is made; throws
+    /// `MailboxError` when there can be none.
+    std::string NewDraft() const;
+    /// Puts the finished draft in the mailbox's place, safe on disk.
+    void TakeDraft() const;
+    /// Removes what is left of a draft.
+    void RemoveDraft() const;
+
+private:
+    std::string DraftPath() const { return mPath + ".new"; }
+    bool HasJournal() const;
+    void CheckHeader(const unsigned char* header, std::uint64_t size, int newestVersion) const;
+    [[noreturn]] void Refuse(const std::string& what, const std::string& remedy) const;
+
+    std::string mPath;
+};
+
+}

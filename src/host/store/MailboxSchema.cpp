@@ -1,0 +1,138 @@
+#include "host/store/MailboxSchema.h"
+
+#include "base/Text.h"
+#include "host/store/ItemSpan.h"
+#include "host/store/MailboxDatabase.h"
+#include "host/store/MailboxError.h"
+#include "host/store/MailboxFile.h"
+
+namespace tempodial {
+
+namespace {
+
+std::string Tables()
+{
+    return R"(
+CREATE TABLE mailbox (
+    id TEXT NOT NULL
+) STRICT;
+CREATE TABLE folder (
+    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    parent INTEGER REFERENCES folder (id) ON DELETE CASCADE,
+    name TEXT NOT NULL,
+    kind INTEGER NOT NULL,
+    role INTEGER UNIQUE
+) STRICT;
+CREATE INDEX folder_parent ON folder (parent);
+CREATE TABLE folder_field (
+    folder INTEGER NOT NULL REFERENCES folder (id) ON DELETE CASCADE,
+    name TEXT NOT NULL,
+    type INTEGER NOT NULL,
+    PRIMARY KEY (folder, name)
+) STRICT, WITHOUT ROWID;
+CREATE TABLE item (
+    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    folder INTEGER NOT NULL REFERENCES folder (id) ON DELETE CASCADE,
+    kind INTEGER NOT NULL,
+    message_class TEXT NOT NULL,
+    starts INTEGER NOT NULL,
+    ends INTEGER NOT NULL CHECK (ends >= starts),
+    span INTEGER NOT NULL GENERATED ALWAYS AS ()"
+        + ItemSpan::ClassSql("ends - starts") + R"() VIRTUAL,
+    recurring INTEGER NOT NULL,
+    subject TEXT NOT NULL,
+    mileage TEXT NOT NULL,
+    billing TEXT NOT NULL,
+    properties TEXT NOT NULL,
+    body TEXT NOT NULL
+) STRICT;
+CREATE INDEX item_span ON item (folder, span, starts);
+CREATE INDEX item_end ON item (folder, ends);
+CREATE TABLE view (
+    id INTEGER PRIMARY KEY,
+    folder INTEGER NOT NULL REFERENCES folder (id) ON DELETE CASCADE,
+    name TEXT NOT NULL,
+    type INTEGER NOT NULL,
+    xml TEXT NOT NULL,
+    UNIQUE (folder, name)
+) STRICT;
+CREATE TABLE form (
+    message_class TEXT NOT NULL PRIMARY KEY,
+    display_name TEXT NOT NULL,
+    fields TEXT NOT NULL,
+    page TEXT NOT NULL
+) STRICT;
+CREATE TABLE import_position (
+    day TEXT NOT NULL PRIMARY KEY,
+    count INTEGER NOT NULL,
+    lines INTEGER NOT NULL
+) STRICT;
+)";
+}
+
+std::string DefaultFolderSql(const std::string& name, DefaultFolder role, DefaultFolder kind)
+{
+    const auto number = [](DefaultFolder folder) { return std::to_string(static_cast<std::int32_t>(folder)); };
+    return "INSERT INTO folder (parent, name, kind, role) SELECT id, '" + name + "', " + number(kind) + ", "
+        + number(role) + " FROM folder WHERE parent IS NULL;\n"
+        + "INSERT INTO view (folder, name, type, xml) SELECT id, '" + MailboxSchema::FirstViewName(kind) + "', "
+        + (kind == DefaultFolder::Calendar ? "2" : "0") + ", '"
+        + MailboxSchema::ViewDefinition(kind, MailboxSchema::FirstViewName(kind))
+        + "' FROM folder WHERE role = " + number(role) + ";\n";
+}
+
+std::string Contents()
+{
+    return "INSERT INTO mailbox VALUES (lower(hex(randomblob(16))));\n"
+           "INSERT INTO folder (parent, name, kind, role) VALUES (NULL, 'Mailbox', 6, NULL);\n"
+        + DefaultFolderSql("Inbox", DefaultFolder::Inbox, DefaultFolder::Inbox)
+        + DefaultFolderSql("Calendar", DefaultFolder::Calendar, DefaultFolder::Calendar)
+        + DefaultFolderSql("Drafts", DefaultFolder::Drafts, DefaultFolder::Inbox);
+}
+
+}
+
+const std::vector<std::string>& MailboxSchema::Steps()
+{
+    static const std::vector<std::string> steps = { Tables() + Contents() };
+    return steps;
+}
+
+void MailboxSchema::Migrate(MailboxDatabase& database, const std::vector<std::string>& steps)
+{
+    const auto version = static_cast<std::size_t>(database.Number("PRAGMA user_version"));
+    if (version > steps.size()) {
+        throw MailboxError("The mailbox " + database.Path()
+            + " comes from a newer version of Tempodial (mailbox version " + std::to_string(version)
+            + "). Use that version, or a newer one.");
+    }
+    if (version == steps.size()) {
+        return;
+    }
+    database.Atomically([&] {
+        for (auto step = version; step < steps.size(); ++step) {
+            database.Execute(steps[step]);
+        }
+        database.Execute("PRAGMA application_id = " + std::to_string(MailboxFile::ApplicationId));
+        database.Execute("PRAGMA user_version = " + std::to_string(steps.size()));
+    });
+}
+
+std::string MailboxSchema::FirstViewName(DefaultFolder kind)
+{
+    return kind == DefaultFolder::Calendar ? "Calendar" : "Messages";
+}
+
+std::string MailboxSchema::ViewDefinition(DefaultFolder kind, const std::string& name)
+{
+    const auto title = "<viewname>" + Replace(Replace(name, "&", "&amp;"), "<", "&lt;") + "</viewname>";
+    if (kind == DefaultFolder::Calendar) {
+        return "<?xml version=\"1.0\"?>\n<view type=\"calendar\">" + title
+            + "<mode>0</mode><displaytimeunits>30</displaytimeunits></view>";
+    }
+    return "<?xml version=\"1.0\"?>\n<view type=\"table\">" + title
+        + "<column><heading>Subject</heading><prop>urn:schemas:httpmail:subject</prop><type>string</type></column></"
+          "view>";
+}
+
+}

@@ -1,0 +1,233 @@
+#include "host/store/PropertyCodec.h"
+
+#include "base/Failure.h"
+#include "base/Text.h"
+
+#include <charconv>
+#include <cstdint>
+
+namespace tempodial {
+
+const ItemProperty* FindProperty(const std::vector<ItemProperty>& properties, std::string_view name)
+{
+    for (const auto& property : properties) {
+        if (property.name == name) {
+            return &property;
+        }
+    }
+    for (const auto& property : properties) {
+        if (EqualIgnoringCase(property.name, name)) {
+            return &property;
+        }
+    }
+    return nullptr;
+}
+
+namespace {
+
+void AppendText(std::string& json, std::string_view text)
+{
+    static constexpr std::string_view digits = "0123456789abcdef";
+    json += '"';
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (character == '"' || character == '\\') {
+            json += '\\';
+            json += character;
+        } else if (byte < 0x20) {
+            json += "\\u00";
+            json += digits[byte >> 4];
+            json += digits[byte & 15];
+        } else {
+            json += character;
+        }
+    }
+    json += '"';
+}
+
+/// Reads the JSON of user properties from left to right.
+class Reader
+{
+public:
+    explicit Reader(std::string_view json)
+        : mRest(json)
+    {
+    }
+
+    std::vector<ItemProperty> Properties()
+    {
+        std::vector<ItemProperty> properties;
+        Expect('{');
+        if (!Take('}')) {
+            do {
+                properties.push_back(Property());
+            } while (Take(','));
+            Expect('}');
+        }
+        SkipBlanks();
+        if (!mRest.empty()) {
+            Fail();
+        }
+        return properties;
+    }
+
+private:
+    [[noreturn]] static void Fail()
+    {
+        throw Failure(Error::Automation, "The user properties of an item can't be read");
+    }
+
+    void SkipBlanks() { mRest.remove_prefix(std::min(mRest.find_first_not_of(" \t\r\n"), mRest.size())); }
+    bool Take(char character)
+    {
+        SkipBlanks();
+        if (mRest.empty() || mRest.front() != character) {
+            return false;
+        }
+        mRest.remove_prefix(1);
+        return true;
+    }
+    void Expect(char character)
+    {
+        if (!Take(character)) {
+            Fail();
+        }
+    }
+    bool TakeWord(std::string_view word)
+    {
+        SkipBlanks();
+        if (!mRest.starts_with(word)) {
+            return false;
+        }
+        mRest.remove_prefix(word.size());
+        return true;
+    }
+
+    ItemProperty Property()
+    {
+        ItemProperty property;
+        property.name = Text();
+        Expect(':');
+        Expect('[');
+        property.type = Type(Number());
+        if (Take(',')) {
+            property.value = Value(property.type);
+        }
+        Expect(']');
+        return property;
+    }
+    static PropertyType Type(std::int64_t number)
+    {
+        for (const auto type : { PropertyType::Text, PropertyType::DateTime, PropertyType::YesNo }) {
+            if (static_cast<std::int64_t>(type) == number) {
+                return type;
+            }
+        }
+        Fail();
+    }
+    Variant Value(PropertyType type)
+    {
+        switch (type) {
+        case PropertyType::Text:
+            return Text();
+        case PropertyType::DateTime:
+            return Date::FromSeconds(Number());
+        case PropertyType::YesNo:
+            if (TakeWord("true")) {
+                return true;
+            }
+            if (TakeWord("false")) {
+                return false;
+            }
+            break;
+        }
+        Fail();
+    }
+    std::int64_t Number()
+    {
+        SkipBlanks();
+        std::int64_t number = 0;
+        const auto [end, problem] = std::from_chars(mRest.data(), mRest.data() + mRest.size(), number);
+        if (problem != std::errc()) {
+            Fail();
+        }
+        mRest.remove_prefix(static_cast<std::size_t>(end - mRest.data()));
+        return number;
+    }
+    std::string Text()
+    {
+        Expect('"');
+        std::string text;
+        while (true) {
+            const auto plain = mRest.find_first_of("\"\\");
+            if (plain == std::string_view::npos) {
+                Fail();
+            }
+            text += mRest.substr(0, plain);
+            const bool ended = mRest[plain] == '"';
+            mRest.remove_prefix(plain + 1);
+            if (ended) {
+                return text;
+            }
+            Escape(text);
+        }
+    }
+    void Escape(std::string& text)
+    {
+        if (mRest.empty()) {
+            Fail();
+        }
+        const char letter = mRest.front();
+        mRest.remove_prefix(1);
+        if (letter == 'u') {
+            text += ControlCharacter();
+        } else if (letter == '"' || letter == '\\') {
+            text += letter;
+        } else {
+            Fail();
+        }
+    }
+    char ControlCharacter()
+    {
+        // Only control characters are written like this; all others stand as they are.
+        unsigned code = 0;
+        const auto digits = mRest.substr(0, 4);
+        const auto [end, problem] = std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
+        if (problem != std::errc() || end != digits.data() + 4 || code >= 0x20) {
+            Fail();
+        }
+        mRest.remove_prefix(4);
+        return static_cast<char>(code);
+    }
+
+    std::string_view mRest;
+};
+
+}
+
+std::string PropertyCodec::Encode(const std::vector<ItemProperty>& properties)
+{
+    std::string json = "{";
+    for (const auto& property : properties) {
+        json += json.size() > 1 ? "," : "";
+        AppendText(json, property.name);
+        json += ":[" + std::to_string(static_cast<std::int32_t>(property.type));
+        if (const auto* text = property.value.If<std::string>()) {
+            json += ',';
+            AppendText(json, *text);
+        } else if (const auto* date = property.value.If<Date>()) {
+            json += "," + std::to_string(date->Seconds());
+        } else if (const auto* flag = property.value.If<bool>()) {
+            json += *flag ? ",true" : ",false";
+        }
+        json += ']';
+    }
+    return json + "}";
+}
+
+std::vector<ItemProperty> PropertyCodec::Decode(std::string_view json)
+{
+    return Reader(json).Properties();
+}
+
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace SQLite {
+class Statement;
+}
+
+namespace tempodial {
+
+class MailboxDatabase;
+
+/// One run of a prepared statement; values are bound from left to right, columns count from 0. Every member fails when
+/// SQLite refuses: a full disk (61), a locked or read-only file (70), a device error (57), anything else (440).
+class Query
+{
+public:
+    /// Takes the statement of that text, which must not be running already.
+    Query(MailboxDatabase& database, const std::string& sql);
+    Query(const Query&) = delete;
+    Query& operator=(const Query&) = delete;
+    ~Query();
+
+    Query& Bind(std::int64_t value);
+    /// Binds a text that outlives the run.
+    Query& Bind(const std::string& text);
+    Query& Bind(std::string&& text);
+    /// Goes to the next row; false when there is none.
+    bool Step();
+    /// Runs a statement that gives no rows.
+    void Run();
+
+    std::int64_t Int(int column) const;
+    std::string Text(int column) const;
+    bool IsNull(int column) const;
+
+private:
+    template <class Binding> void Checked(Binding&& binding);
+
+    MailboxDatabase& mDatabase;
+    SQLite::Statement& mStatement;
+    int mBound = 0;
+};
+
+}

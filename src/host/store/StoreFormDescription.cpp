@@ -1,0 +1,35 @@
+#include "host/store/StoreFormDescription.h"
+
+#include "host/store/Mailbox.h"
+
+#include <utility>
+
+namespace tempodial {
+
+StoreFormDescription::StoreFormDescription(Ref<Mailbox> mailbox, FormTemplate form)
+    : mMailbox(std::move(mailbox))
+    , mForm(std::move(form))
+{
+}
+
+ObjectClass StoreFormDescription::Class() const
+{
+    return ObjectClass::FormDescription;
+}
+
+void StoreFormDescription::SetDisplayName(const std::string& name)
+{
+    mForm.displayName = name;
+}
+
+std::string StoreFormDescription::MessageClass() const
+{
+    return mForm.messageClass;
+}
+
+void StoreFormDescription::PublishForm(FormRegistry)
+{
+    mMailbox->Forms().Publish(mForm);
+}
+
+}

@@ -1,0 +1,108 @@
+#include "host/store/StoreImportJournal.h"
+
+#include "base/Failure.h"
+#include "host/store/Mailbox.h"
+#include "host/store/MailboxDatabase.h"
+#include "host/store/Query.h"
+
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::int32_t MostLines = 2000;
+constexpr std::chrono::seconds LongestHold { 2 };
+
+}
+
+StoreImportJournal::StoreImportJournal(Ref<Mailbox> mailbox)
+    : mMailbox(std::move(mailbox))
+{
+}
+
+void StoreImportJournal::Begin()
+{
+    mMailbox->Database().Recover();
+    if (mMailbox->Database().IsHolding()) {
+        Commit();
+    } else {
+        Hold();
+    }
+}
+
+void StoreImportJournal::Loaded(const std::string& dayKey, const Position& position)
+{
+    mMailbox->Database().CheckWhole();
+    if (!mMailbox->Database().IsHolding()) {
+        throw Failure(Error::InvalidCall, "No import was begun");
+    }
+    mPositions[dayKey] = position;
+    if (++mLines >= MostLines || std::chrono::steady_clock::now() - mLastCommit >= LongestHold) {
+        Commit();
+    }
+}
+
+void StoreImportJournal::Commit()
+{
+    if (Keep()) {
+        Hold();
+    }
+}
+
+std::optional<ImportJournal::Position> StoreImportJournal::Committed(const std::string& dayKey)
+{
+    Query query(mMailbox->Database(), "SELECT count, lines FROM import_position WHERE day = ?");
+    query.Bind(dayKey);
+    if (!query.Step()) {
+        return std::nullopt;
+    }
+    return Position { static_cast<std::int32_t>(query.Int(0)), query.Int(1) };
+}
+
+void StoreImportJournal::HistorySaved()
+{
+    mPositions.clear();
+    Query(mMailbox->Database(), "DELETE FROM import_position").Run();
+    if (mMailbox->Database().IsHolding()) {
+        Commit();
+    }
+}
+
+void StoreImportJournal::End()
+{
+    try {
+        Keep();
+    } catch (...) {
+        mMailbox->Database().Recover();
+        throw;
+    }
+}
+
+bool StoreImportJournal::Keep()
+{
+    mMailbox->Database().CheckWhole();
+    if (!mMailbox->Database().IsHolding()) {
+        return false;
+    }
+    for (const auto& [day, position] : mPositions) {
+        Query(mMailbox->Database(), "INSERT OR REPLACE INTO import_position (day, count, lines) VALUES (?, ?, ?)")
+            .Bind(day)
+            .Bind(std::int64_t { position.count })
+            .Bind(position.lines)
+            .Run();
+    }
+    mMailbox->Database().CommitHeld();
+    mMailbox->Committed();
+    return true;
+}
+
+void StoreImportJournal::Hold()
+{
+    mPositions.clear();
+    mLines = 0;
+    mLastCommit = std::chrono::steady_clock::now();
+    mMailbox->Database().Hold();
+}
+
+}

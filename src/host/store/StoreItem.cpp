@@ -1,0 +1,300 @@
+#include "host/store/StoreItem.h"
+
+#include "base/Failure.h"
+#include "host/store/Mailbox.h"
+#include "host/store/StoreFolder.h"
+#include "host/store/StoreFormDescription.h"
+#include "host/store/StoreUserProperties.h"
+
+#include <utility>
+
+namespace tempodial {
+
+StoreItem::StoreItem(Ref<Mailbox> mailbox, StoredItem item)
+    : mMailbox(std::move(mailbox))
+    , mRow(item.row)
+    , mFolder(item.folder)
+    , mData(std::move(item.data))
+{
+}
+
+StoreItem::~StoreItem()
+{
+    if (mRow != 0) {
+        mMailbox->Forget(mRow);
+    }
+}
+
+ObjectClass StoreItem::Class() const
+{
+    return Data().kind;
+}
+
+std::string StoreItem::MessageClass() const
+{
+    return Data().messageClass;
+}
+
+std::string StoreItem::EntryID() const
+{
+    CheckAlive();
+    return mRow == 0 ? std::string() : mMailbox->Ids().OfItem(mRow);
+}
+
+std::string StoreItem::Subject() const
+{
+    return Data().subject;
+}
+
+void StoreItem::SetSubject(const std::string& subject)
+{
+    Change().subject = subject;
+}
+
+std::string StoreItem::Body() const
+{
+    return Data().body;
+}
+
+void StoreItem::SetBody(const std::string& body)
+{
+    Change().body = body;
+}
+
+Date StoreItem::Start() const
+{
+    return Data().start;
+}
+
+void StoreItem::SetStart(Date start)
+{
+    const auto duration = Duration();
+    auto& data = Change();
+    data.start = start;
+    data.end = start.AddMinutes(duration);
+}
+
+Date StoreItem::End() const
+{
+    return Data().end;
+}
+
+void StoreItem::SetEnd(Date end)
+{
+    if (end < Data().start) {
+        throw Failure(Error::InvalidCall, "An item can't end before it starts");
+    }
+    Change().end = end;
+}
+
+std::int32_t StoreItem::Duration() const
+{
+    return MinutesBetween(Data().start, Data().end);
+}
+
+void StoreItem::SetDuration(std::int32_t minutes)
+{
+    if (minutes < 0) {
+        throw Failure(Error::InvalidCall, "A duration can't be negative");
+    }
+    auto& data = Change();
+    data.end = data.start.AddMinutes(minutes);
+}
+
+std::string StoreItem::Mileage() const
+{
+    return Data().mileage;
+}
+
+void StoreItem::SetMileage(const std::string& mileage)
+{
+    Change().mileage = mileage;
+}
+
+std::string StoreItem::BillingInformation() const
+{
+    return Data().billingInformation;
+}
+
+void StoreItem::SetBillingInformation(const std::string& billingInformation)
+{
+    Change().billingInformation = billingInformation;
+}
+
+bool StoreItem::IsRecurring() const
+{
+    return Data().recurring;
+}
+
+Ref<UserProperties> StoreItem::UserProperties()
+{
+    CheckAlive();
+    return MakeRef<StoreUserProperties>(shared_from_this());
+}
+
+Ref<FormDescription> StoreItem::FormDescription()
+{
+    CheckAlive();
+    return mFormDescription;
+}
+
+void StoreItem::Save()
+{
+    CheckAlive();
+    const auto self = shared_from_this();
+    bool cancel = false;
+    mEvents.Raise(&AppointmentItemEvents::Write, cancel);
+    CheckAlive();
+    mMailbox->Save(*this, cancel);
+}
+
+void StoreItem::Close(CloseMode mode)
+{
+    CheckAlive();
+    const auto self = shared_from_this();
+    bool cancel = false;
+    mEvents.Raise(&AppointmentItemEvents::Close, cancel);
+    // A close from code can't be refused.
+    if (mDeleted) {
+        return;
+    }
+    if (mode == CloseMode::Save) {
+        Save();
+    } else {
+        Revert();
+    }
+}
+
+void StoreItem::Display()
+{
+    CheckAlive();
+    mMailbox->Display(shared_from_this());
+}
+
+void StoreItem::Delete()
+{
+    CheckAlive();
+    mMailbox->Delete(*this);
+}
+
+Ref<AppointmentItem> StoreItem::Copy()
+{
+    return MakeRef<StoreItem>(mMailbox, StoredItem { 0, mFolder, Data() });
+}
+
+Ref<AppointmentItem> StoreItem::Move(const Ref<MAPIFolder>& folder)
+{
+    CheckAlive();
+    const auto target = mMailbox->RowOf(folder);
+    if (mRow != 0) {
+        mMailbox->Move(*this, target);
+    } else {
+        const auto before = std::exchange(mFolder, target);
+        try {
+            Save();
+        } catch (...) {
+            mFolder = before;
+            throw;
+        }
+    }
+    return Ref<StoreItem>(shared_from_this());
+}
+
+Subscription StoreItem::Subscribe(AppointmentItemEvents events)
+{
+    CheckAlive();
+    return mEvents.Subscribe(std::move(events));
+}
+
+bool StoreItem::RaiseOpen()
+{
+    CheckAlive();
+    const auto self = shared_from_this();
+    bool cancel = false;
+    mEvents.Raise(&AppointmentItemEvents::Open, cancel);
+    return !cancel;
+}
+
+bool StoreItem::RaiseClose()
+{
+    CheckAlive();
+    const auto self = shared_from_this();
+    bool cancel = false;
+    mEvents.Raise(&AppointmentItemEvents::Close, cancel);
+    return !cancel;
+}
+
+Ref<MAPIFolder> StoreItem::Parent()
+{
+    CheckAlive();
+    return mMailbox->Folder(mFolder);
+}
+
+bool StoreItem::HasChanges() const
+{
+    return mRow == 0 || (mBefore && *mBefore != mData);
+}
+
+const ItemData& StoreItem::Data() const
+{
+    CheckAlive();
+    return mData;
+}
+
+ItemData& StoreItem::Change()
+{
+    CheckAlive();
+    if (mRow != 0 && !mBefore) {
+        mBefore = mData;
+    }
+    return mData;
+}
+
+void StoreItem::Describe(const FormTemplate& form)
+{
+    mFormDescription = MakeRef<StoreFormDescription>(mMailbox, form);
+}
+
+void StoreItem::MarkStored(std::int64_t row)
+{
+    mRow = row;
+    mBefore.reset();
+}
+
+void StoreItem::MarkDeleted()
+{
+    if (mRow != 0) {
+        mMailbox->Forget(mRow);
+    }
+    mRow = 0;
+    mDeleted = true;
+}
+
+void StoreItem::MarkUndone(std::optional<StoredItem> stored)
+{
+    if (!stored) {
+        mMailbox->Forget(mRow);
+        mRow = 0;
+        mBefore.reset();
+        return;
+    }
+    mFolder = stored->folder;
+    mBefore = std::move(stored->data);
+}
+
+void StoreItem::CheckAlive() const
+{
+    if (mDeleted) {
+        throw Failure(Error::ObjectNotFound);
+    }
+}
+
+void StoreItem::Revert()
+{
+    if (mBefore) {
+        mData = std::move(*mBefore);
+        mBefore.reset();
+    }
+}
+
+}

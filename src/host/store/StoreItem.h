@@ -1,0 +1,99 @@
+#pragma once
+
+#include "base/Ref.h"
+#include "host/store/FormTemplate.h"
+#include "host/store/ItemData.h"
+#include "platform/objectmodel/AppointmentItem.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace tempodial {
+
+class Mailbox;
+
+/// An appointment of the mailbox; there is one object for an item as long as anybody holds it. Once the item is
+/// deleted every member fails (-2147221233). What a failed commit undid is undone here too: an item that was first
+/// saved since the last commit is unsaved again, and what was changed since then is an unsaved change again.
+class StoreItem final : public AppointmentItem, public std::enable_shared_from_this<StoreItem>
+{
+public:
+    StoreItem(Ref<Mailbox> mailbox, StoredItem item);
+    StoreItem(const StoreItem&) = delete;
+    StoreItem& operator=(const StoreItem&) = delete;
+    ~StoreItem() override;
+
+    ObjectClass Class() const override;
+    std::string MessageClass() const override;
+    std::string EntryID() const override;
+    std::string Subject() const override;
+    void SetSubject(const std::string& subject) override;
+    std::string Body() const override;
+    void SetBody(const std::string& body) override;
+    Date Start() const override;
+    void SetStart(Date start) override;
+    Date End() const override;
+    void SetEnd(Date end) override;
+    std::int32_t Duration() const override;
+    void SetDuration(std::int32_t minutes) override;
+    std::string Mileage() const override;
+    void SetMileage(const std::string& mileage) override;
+    std::string BillingInformation() const override;
+    void SetBillingInformation(const std::string& billingInformation) override;
+    bool IsRecurring() const override;
+    Ref<tempodial::UserProperties> UserProperties() override;
+    Ref<tempodial::FormDescription> FormDescription() override;
+    void Save() override;
+    void Close(CloseMode mode) override;
+    void Display() override;
+    void Delete() override;
+    Ref<AppointmentItem> Copy() override;
+    Ref<AppointmentItem> Move(const Ref<MAPIFolder>& folder) override;
+    Subscription Subscribe(AppointmentItemEvents events) override;
+
+    /// Raises `Open`, as a window about to show the item does; false when a handler refused it.
+    bool RaiseOpen();
+    /// Raises `Close`, as a window about to close does; false when a handler refused it.
+    bool RaiseClose();
+    /// The folder that the item is in, or will be in once it is saved.
+    Ref<MAPIFolder> Parent();
+    /// True when something was changed since the last save, or nothing was ever saved.
+    bool HasChanges() const;
+
+    // What the mailbox and the item's own objects share.
+    const Ref<Mailbox>& Owner() const { return mMailbox; }
+    /// The row, 0 while the item isn't stored.
+    std::int64_t Row() const { return mRow; }
+    /// The row of the folder.
+    std::int64_t FolderRow() const { return mFolder; }
+    /// What the item holds now.
+    const ItemData& Data() const;
+    /// What the item holds, to be changed.
+    ItemData& Change();
+    /// What was last saved, null when nothing was changed since.
+    const ItemData* DataBefore() const { return mBefore ? &*mBefore : nullptr; }
+    /// True once the item is deleted.
+    bool IsDeleted() const { return mDeleted; }
+    void Describe(const FormTemplate& form);
+    void MarkStored(std::int64_t row);
+    void MarkMoved(std::int64_t folder) { mFolder = folder; }
+    void MarkDeleted();
+    /// Takes the stored state after an undone commit: nothing when the item isn't stored any more.
+    void MarkUndone(std::optional<StoredItem> stored);
+
+private:
+    void CheckAlive() const;
+    void Revert();
+
+    Ref<Mailbox> mMailbox;
+    std::int64_t mRow;
+    std::int64_t mFolder;
+    ItemData mData;
+    std::optional<ItemData> mBefore;
+    bool mDeleted = false;
+    EventSource<AppointmentItemEvents> mEvents;
+    Ref<tempodial::FormDescription> mFormDescription;
+};
+
+}
