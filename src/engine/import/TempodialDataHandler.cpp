@@ -92,6 +92,7 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
     ReadHistory(attempt, historyPath, historyStream, sync.history);
 
     mStage = "looping through";
+    mUncommittedLines = 0;
     attempt([&] { mLastCommit = mPlatform->clock->Now(); });
     sync.today = mLastCommit.Day();
     sync.loadRange = loadRange;
@@ -187,6 +188,10 @@ void TempodialDataHandler::SyncDay(const Attempt& attempt, Sync& sync, std::int3
         mLineLoaded = true;
         mNewLastCount = day.committed->count;
     }
+    if (!cancelled && daysBack != 0 && position > 0 && !mLineLoaded) {
+        // Nothing was new; noted all the same, since a run that is killed now has still to take the entry out.
+        attempt([&] { mPlatform->importJournal->Loaded(day.key, { sync.lastCount, mLinesRead }); });
+    }
     if (!Commit(attempt, day.key)) {
         cancelled = true;
     }
@@ -267,6 +272,7 @@ bool TempodialDataHandler::Commit(const Attempt& attempt, const std::string& day
         GoBackToCommitted(attempt, dayKey);
         return false;
     }
+    mUncommittedLines = 0;
     attempt([&] { mLastCommit = mPlatform->clock->Now(); });
     return true;
 }

@@ -83,7 +83,8 @@ private:
     void LeaveDay(const Attempt& attempt, Sync& sync, const DayFile& day);
     /// Commits what the import has written; when that fails it goes back to the last commit and answers false.
     bool Commit(const Attempt& attempt, const std::string& dayKey);
-    /// The same now and then, where no later line depends on the item in hand.
+    /// The same every second or 1,000 lines. It is called where no later line depends on the item in hand, so that a
+    /// run that goes on from here ends as an undisturbed one.
     bool CommitInTime(const Attempt& attempt, const std::string& dayKey);
     void GoBackToCommitted(const Attempt& attempt, const std::string& dayKey);
     void Release();
@@ -125,6 +126,7 @@ private:
     Date mLastSynced;
     /// Lines of the file in hand read behind its first.
     std::int64_t mLinesRead = 0;
+    std::int32_t mUncommittedLines = 0;
     Date mLastCommit;
     /// The parsed line, one document for all lines.
     Ref<XmlDocument> mSlot;

@@ -14,8 +14,9 @@ namespace {
 constexpr auto ParseLineWords = "ParseLine error ";
 constexpr std::int32_t ProgressLimit = 50;
 constexpr std::int32_t LinesPerProgressStep = 4;
-/// Seconds between two commits in the midst of a file.
-constexpr std::int64_t CommitInterval = 2;
+/// Seconds, and lines loaded, between two commits in the midst of a file.
+constexpr std::int64_t CommitSeconds = 1;
+constexpr std::int32_t CommitLines = 1000;
 
 }
 
@@ -138,6 +139,7 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
     mLineLoaded = true;
     mNewLastCount = endCount;
     attempt([&] { Trace(" new Last count: " + std::to_string(mNewLastCount)); });
+    ++mUncommittedLines;
     if (!attempt([&] { mPlatform->importJournal->Loaded(day.key, { mNewLastCount, mLinesRead }); })) {
         GoBackToCommitted(attempt, day.key);
         return true;
@@ -244,7 +246,8 @@ void TempodialDataHandler::ForgetLastItem()
 bool TempodialDataHandler::CommitInTime(const Attempt& attempt, const std::string& dayKey)
 {
     const auto now = attempt.Get([&] { return mPlatform->clock->Now(); });
-    return SecondsBetween(mLastCommit, now) < CommitInterval || Commit(attempt, dayKey);
+    const bool isTime = mUncommittedLines >= CommitLines || SecondsBetween(mLastCommit, now) >= CommitSeconds;
+    return !isTime || Commit(attempt, dayKey);
 }
 
 }
