@@ -46,8 +46,6 @@ Ref<AppointmentItem> TempodialAnalyser::ReturnMatchingItem(const std::string& pa
 void TempodialAnalyser::ApplyProject(const std::string& project, std::int32_t numDays)
 {
     const auto attempt = Failing("ApplyProject", LineShape::ColonText);
-    // The progress form lets events in, and they may end the add-in.
-    const auto self = shared_from_this();
     attempt([&] { mMain->GoToTasklog(false); });
     mStage = "looping through days";
     const auto progress = attempt.Get([&] { return MakeRef<ProgressBarForm>(mPlatform); });
@@ -96,8 +94,8 @@ bool TempodialAnalyser::ApplyProjectForDay(const std::string& project, Date day,
         }
         Trace("checked getinspector");
         attempt([&] { progress->Update(index); });
-        const bool ended = !mMain;
-        if (ended || attempt.Get([&] { return progress->IsCancelled().ToBoolean(); })) {
+        // The progress form lets events in, and they may have ended the add-in.
+        if (!mMain || attempt.Get([&] { return progress->IsCancelled(); })) {
             return true;
         }
     }
@@ -107,8 +105,6 @@ bool TempodialAnalyser::ApplyProjectForDay(const std::string& project, Date day,
 void TempodialAnalyser::SetProjectForSelectedItems(const std::string& project, bool override)
 {
     const auto attempt = Failing("setprojectforitems", LineShape::ColonText);
-    // Going to the log may import, which lets events in, and they may end the add-in.
-    const auto self = shared_from_this();
     mStage = "setprojectsel";
     const auto selection = attempt.Get([&] { return mApplication->ActiveExplorer()->Selection(); });
     const auto count = attempt.Get([&] { return selection->Count(); });
@@ -130,7 +126,6 @@ void TempodialAnalyser::SetProjectForSelectedItems(const std::string& project, b
 void TempodialAnalyser::SetProjectForRange(const std::string& project, Date fromdate, Date todate, bool override)
 {
     const auto attempt = Failing("setprojectforitemrange", LineShape::ColonText);
-    const auto self = shared_from_this();
     Trace("Set project range to " + project);
     mStage = "setprojectrange";
     const auto folder = attempt.Get([&] { return mMain->GetWorkLog(); });

@@ -6,7 +6,6 @@
 #include "platform/objectmodel/Application.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 namespace tempodial {
@@ -14,7 +13,7 @@ namespace tempodial {
 class ProgressBarForm;
 
 /// Walks over past activities: gives projects to them, and finds one by a date.
-class TempodialAnalyser final : public TracedObject, public std::enable_shared_from_this<TempodialAnalyser>
+class TempodialAnalyser final : public TracedObject
 {
 public:
     explicit TempodialAnalyser(Ref<const Platform> platform);

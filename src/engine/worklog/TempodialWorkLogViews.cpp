@@ -233,8 +233,6 @@ void TempodialWorkLog::SwitchingToTasklog()
 void TempodialWorkLog::GoToLog(bool /*override*/)
 {
     const auto attempt = Failing("gotolog error ", LineShape::TextBlankStep);
-    // Going there may import, which lets events in, and they may end the add-in.
-    const auto self = shared_from_this();
     mStage = "display";
     const auto folder = GetSyncedWorkLog(false);
     Trace("go to log");
