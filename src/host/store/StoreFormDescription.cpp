@@ -1,5 +1,6 @@
 #include "host/store/StoreFormDescription.h"
 
+#include "base/Text.h"
 #include "host/store/Mailbox.h"
 
 #include <utility>
@@ -19,6 +20,10 @@ ObjectClass StoreFormDescription::Class() const
 
 void StoreFormDescription::SetDisplayName(const std::string& name)
 {
+    // The class of a form that was never named ends in its first name.
+    if (mForm.displayName.empty() && EqualIgnoringCase(mForm.messageClass, "IPM.Appointment")) {
+        mForm.messageClass += "." + name;
+    }
     mForm.displayName = name;
 }
 
