@@ -1,10 +1,10 @@
 #include "engine/import/HistoryText.h"
 
+#include "base/Failure.h"
 #include "base/Number.h"
 #include "base/Text.h"
 
 #include <utility>
-#include <vector>
 
 namespace tempodial {
 
@@ -34,7 +34,11 @@ std::int32_t HistoryText::Find(const std::string& dayKey) const
 
 std::int32_t HistoryText::Count(std::int32_t position) const
 {
-    return ToInt32(Split(Mid(mText, position, EntryLength), "_").at(1));
+    const auto pieces = Split(Mid(mText, position, EntryLength), "_");
+    if (pieces.size() < 2) {
+        throw Failure(Error::SubscriptOutOfRange);
+    }
+    return ToInt32(pieces[1]);
 }
 
 std::string HistoryText::Tail(std::int32_t position) const
