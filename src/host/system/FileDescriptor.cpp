@@ -2,6 +2,7 @@
 
 #include "host/system/SystemFailure.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -81,6 +82,19 @@ std::size_t FileDescriptor::Read(char* buffer, std::size_t length) const
         throw SystemFailure(errno);
     }
     return static_cast<std::size_t>(count);
+}
+
+std::string FileDescriptor::ReadAll(std::size_t limit) const
+{
+    std::string content;
+    std::array<char, 65536> buffer {};
+    while (const auto count = Read(buffer.data(), buffer.size())) {
+        if (content.size() + count > limit) {
+            throw Failure(Error::OutOfMemory);
+        }
+        content.append(buffer.data(), count);
+    }
+    return content;
 }
 
 void FileDescriptor::Write(std::string_view bytes) const

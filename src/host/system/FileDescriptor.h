@@ -3,6 +3,7 @@
 #include "host/system/NativePath.h"
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <sys/stat.h>
 
@@ -31,6 +32,8 @@ public:
     void RequireUnlocked() const;
     /// Reads up to that many bytes, 0 at the end of the file.
     std::size_t Read(char* buffer, std::size_t length) const;
+    /// Reads the rest; more than that many bytes fail (7).
+    std::string ReadAll(std::size_t limit) const;
     /// Writes all of it; fails when the disk refuses (61, 57).
     void Write(std::string_view bytes) const;
     /// Makes what was written safe on disk.

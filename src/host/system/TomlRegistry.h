@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/system/Registry.h"
+
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace tempodial {
+
+/// A registry file that can't be used; the message names the file, the line and what to do.
+class RegistryFileError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The registry in one file, with both hives, that can be read and edited by hand. Keys and values are found in any
+/// case. Changes replace the file as a whole; what doesn't change anything isn't written.
+class TomlRegistry : public Registry
+{
+public:
+    /// Reads the file, or begins with nothing when it is absent. A file that is damaged throws a `RegistryFileError`.
+    explicit TomlRegistry(std::string path);
+    ~TomlRegistry() override;
+    TomlRegistry(const TomlRegistry&) = delete;
+    TomlRegistry& operator=(const TomlRegistry&) = delete;
+
+    /// A key that is made by reading reaches the file with the next change.
+    Variant Read(Hive hive, const std::string& key, const std::string& value, RegistryAccess access) override;
+    /// Fails for texts that aren't UTF-8 (5), where the file has something else of the key's name (75), and when the
+    /// disk refuses (61, 57); then nothing has changed.
+    void Write(Hive hive, const std::string& key, const std::string& value, const std::string& text) override;
+    /// A text or a number, nothing when there is none; makes no key.
+    Variant Get(Hive hive, const std::string& key, const std::string& value) const;
+    /// Writes a number, making the key; fails as `Write` does.
+    void WriteNumber(Hive hive, const std::string& key, const std::string& value, std::int32_t number);
+    /// Deletes a value; false when there was none. Fails as `Write` does.
+    bool Delete(Hive hive, const std::string& key, const std::string& value);
+
+private:
+    class Tables;
+
+    void Set(Hive hive, const std::string& key, const std::string& value, const Variant& data);
+    void Save(const Tables& tables) const;
+
+    std::string mPath;
+    std::unique_ptr<Tables> mTables;
+};
+
+}

@@ -1,0 +1,261 @@
+#include "host/system/TomlRegistry.h"
+
+#include "support/FailureNumber.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <sys/stat.h>
+
+namespace tempodial {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string Key = "Software\\Lindenfold\\Tempodial";
+constexpr auto User = Hive::CurrentUser;
+constexpr auto Machine = Hive::LocalMachine;
+
+class TomlRegistryTest : public testing::Test
+{
+protected:
+    TomlRegistry Open() { return TomlRegistry(mFolder.Path("registry.toml")); }
+    std::string Content() { return mFolder.Read("registry.toml"); }
+    Variant Reopened(Hive hive, const std::string& key, const std::string& value)
+    {
+        return Open().Get(hive, key, value);
+    }
+    /// The message of a file that can't be used, "" when it can.
+    std::string Refusal()
+    {
+        try {
+            Open();
+        } catch (const RegistryFileError& error) {
+            return error.what();
+        }
+        return "";
+    }
+
+    TempFolder mFolder;
+};
+
+/// A character as UTF-8.
+std::string Utf8(char32_t character)
+{
+    const auto tail = [character](int shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80) {
+        return { static_cast<char>(character) };
+    }
+    if (character < 0x800) {
+        return { static_cast<char>(0xC0 | (character >> 6)), tail(0) };
+    }
+    if (character < 0x10000) {
+        return { static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0) };
+    }
+    return { static_cast<char>(0xF0 | (character >> 18)), tail(12), tail(6), tail(0) };
+}
+
+TEST_F(TomlRegistryTest, Open_NoFile_IsEmptyAndMakesNone)
+{
+    auto registry = Open();
+    EXPECT_TRUE(registry.Read(User, Key, "CurrentVersion", RegistryAccess::All).IsEmpty());
+    EXPECT_FALSE(mFolder.Has("registry.toml"));
+}
+
+TEST_F(TomlRegistryTest, Write_Values_AreReadableByHandAndComeBack)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "CurrentVersion", "1.2.0");
+    registry.Write(Machine, Key, "Install Directory", "C:\\Program Files\\T");
+    registry.WriteNumber(User, "Software\\Office", "CalDefStart", 480);
+    EXPECT_EQ(Content(),
+        "[HKCU.\"Software\\\\Lindenfold\\\\Tempodial\"]\n"
+        "CurrentVersion = \"1.2.0\"\n\n"
+        "[HKCU.\"Software\\\\Office\"]\n"
+        "CalDefStart = 480\n\n"
+        "[HKLM.\"Software\\\\Lindenfold\\\\Tempodial\"]\n"
+        "\"Install Directory\" = \"C:\\\\Program Files\\\\T\"\n");
+    EXPECT_EQ(Reopened(User, Key, "CurrentVersion"), Variant("1.2.0"));
+    EXPECT_EQ(Reopened(Machine, Key, "Install Directory"), Variant("C:\\Program Files\\T"));
+    EXPECT_EQ(Reopened(User, "Software\\Office", "CalDefStart"), Variant(480));
+    EXPECT_TRUE(Reopened(Machine, Key, "CurrentVersion").IsEmpty());
+    struct stat status
+    {
+    };
+    ::stat(mFolder.Path("registry.toml").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    EXPECT_FALSE(mFolder.Has(".registry.toml.new"));
+}
+
+TEST_F(TomlRegistryTest, Read_AnyCase_FindsTheValueAndKeepsTheSpelling)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "CurrentVersion", "1");
+    EXPECT_EQ(
+        registry.Read(User, "SOFTWARE\\lindenfold\\TEMPODIAL", "currentVERSION", RegistryAccess::Query), Variant("1"));
+    registry.Write(User, "software\\lindenfold\\tempodial", "CURRENTVERSION", "2");
+    EXPECT_EQ(Content(), "[HKCU.\"Software\\\\Lindenfold\\\\Tempodial\"]\nCurrentVersion = \"2\"\n");
+    EXPECT_TRUE(registry.Delete(User, Key, "currentversion"));
+    EXPECT_TRUE(registry.Get(User, Key, "CurrentVersion").IsEmpty());
+}
+
+TEST_F(TomlRegistryTest, Read_AbsentKey_IsInTheFileAfterTheNextWrite)
+{
+    auto registry = Open();
+    registry.Read(Machine, "Software\\Policies", "CheckAdminSettings", RegistryAccess::All);
+    registry.Get(User, "Software\\NotMade", "x");
+    EXPECT_FALSE(mFolder.Has("registry.toml"));
+    registry.Write(User, Key, "a", "b");
+    EXPECT_NE(Content().find("[HKLM.\"Software\\\\Policies\"]"), std::string::npos);
+    EXPECT_EQ(Content().find("NotMade"), std::string::npos);
+    EXPECT_TRUE(Reopened(Machine, "Software\\Policies", "CheckAdminSettings").IsEmpty());
+}
+
+TEST_F(TomlRegistryTest, Write_SameValue_TouchesNoFile)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "a", "b");
+    registry.WriteNumber(User, Key, "n", 5);
+    fs::remove(mFolder.Path("registry.toml"));
+    registry.Write(User, Key, "a", "b");
+    registry.Write(User, Key, "A", "b");
+    registry.WriteNumber(User, Key, "n", 5);
+    registry.Read(User, Key, "a", RegistryAccess::All);
+    EXPECT_FALSE(registry.Delete(User, Key, "absent"));
+    EXPECT_FALSE(registry.Delete(User, "absent", "a"));
+    EXPECT_FALSE(mFolder.Has("registry.toml"));
+    registry.Write(User, Key, "n", "5");
+    EXPECT_EQ(Reopened(User, Key, "n"), Variant("5"));
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
+TEST_F(TomlRegistryTest, Write_EmptyText_IsAValue)
+{
+    Open().Write(User, Key, "a", "");
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant(""));
+    EXPECT_TRUE(Open().Delete(User, Key, "a"));
+    EXPECT_TRUE(Reopened(User, Key, "a").IsEmpty());
+}
+
+TEST_F(TomlRegistryTest, Write_AnyCharacters_ComeBack)
+{
+    const std::string odd
+        = "'''\"\"\"\\ [x]\r\n\t|\b\x1F\x7F = # \u0085\u2028\u20AC\U0001F600 " + std::string("\0", 1) + " ";
+    {
+        auto registry = Open();
+        registry.Write(User, odd, odd, odd);
+        registry.Write(User, "", "", "nameless");
+        registry.Write(User, "a.b", "c.d", "dotted");
+    }
+    EXPECT_EQ(Reopened(User, odd, odd), Variant(odd));
+    EXPECT_EQ(Reopened(User, "", ""), Variant("nameless"));
+    EXPECT_EQ(Reopened(User, "a.b", "c.d"), Variant("dotted"));
+}
+
+TEST_F(TomlRegistryTest, Write_EveryCharacterThereIs_ComesBack)
+{
+    std::string all;
+    for (char32_t character = 0; character <= 0x10FFFF; ++character) {
+        if (character < 0xD800 || character > 0xDFFF) {
+            all += Utf8(character);
+        }
+    }
+    Open().Write(User, Key, "all", all);
+    EXPECT_TRUE(Reopened(User, Key, "all") == Variant(all));
+}
+
+TEST_F(TomlRegistryTest, Write_NotUtf8_FailsAndChangesNothing)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "a", "b");
+    EXPECT_EQ(FailureNumber([&] { registry.Write(User, Key, "a", "\xFF"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { registry.Write(User, Key, "\xFF", "b"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { registry.Write(User, "\xFF", "a", "b"); }), 5);
+    EXPECT_TRUE(registry.Read(User, "\xFF", "a", RegistryAccess::All).IsEmpty());
+    registry.Write(User, Key, "c", "d");
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
+TEST_F(TomlRegistryTest, Write_FolderIsGone_FailsAndChangesNothing)
+{
+    fs::create_directory(mFolder.Path("profile"));
+    TomlRegistry registry(mFolder.Path("profile/registry.toml"));
+    registry.Write(User, Key, "a", "old");
+    fs::remove_all(mFolder.Path("profile"));
+    EXPECT_EQ(FailureNumber([&] { registry.Write(User, Key, "a", "new"); }), 76);
+    EXPECT_EQ(FailureNumber([&] { registry.Delete(User, Key, "a"); }), 76);
+    EXPECT_EQ(registry.Get(User, Key, "a"), Variant("old"));
+    fs::create_directory(mFolder.Path("profile"));
+    registry.Write(User, Key, "a", "new");
+    EXPECT_EQ(registry.Get(User, Key, "a"), Variant("new"));
+}
+
+TEST_F(TomlRegistryTest, Read_EditedByHand_TakesTextsAndNumbersOnly)
+{
+    mFolder.Write("registry.toml",
+        "# mine\r\n[hkcu.'Software\\Lindenfold\\Tempodial']\r\n"
+        "text = 'a\\b'\nlong = \"\"\"\none\ntwo\"\"\"\nnumber = 0x10\nlowest = -2147483648\n"
+        "highest = 2147483647\nlarge = 2147483648\nsmall = -2147483649\nreal = 1.5\nflag = true\n"
+        "day = 2006-10-10\nlist = [1]\ntable = { a = 1 }\n[HKLM]\nloose = 5\n");
+    auto registry = Open();
+    EXPECT_EQ(registry.Get(User, Key, "text"), Variant("a\\b"));
+    EXPECT_EQ(registry.Get(User, Key, "long"), Variant("one\ntwo"));
+    EXPECT_EQ(registry.Get(User, Key, "number"), Variant(16));
+    EXPECT_EQ(registry.Get(User, Key, "lowest"), Variant(INT32_MIN));
+    EXPECT_EQ(registry.Get(User, Key, "highest"), Variant(INT32_MAX));
+    for (const auto* value : { "large", "small", "real", "flag", "day", "list", "table", "absent" }) {
+        EXPECT_TRUE(registry.Get(User, Key, value).IsEmpty()) << value;
+    }
+    EXPECT_TRUE(registry.Read(Machine, "loose", "x", RegistryAccess::All).IsEmpty());
+    EXPECT_EQ(FailureNumber([&] { registry.Write(Machine, "loose", "x", "y"); }), 75);
+
+    registry.Write(User, Key, "real", "text now");
+    for (const auto* kept : { "flag = true", "day = 2006-10-10", "large = 2147483648", "loose = 5", "list = [ 1 ]" }) {
+        EXPECT_NE(Content().find(kept), std::string::npos) << kept;
+    }
+    EXPECT_EQ(Reopened(User, Key, "real"), Variant("text now"));
+}
+
+TEST_F(TomlRegistryTest, Open_DamagedFile_SaysWhereAndWhatToDo)
+{
+    const struct
+    {
+        const char *content, *line;
+    } rows[] = {
+        { "[HKCU.\"a\"]\nb = \"c\n", "line 2" },
+        { "\n\nnonsense", "line 3" },
+        { "[HKCU.a]\nb = 1\nb = 2\n", "line 3" },
+        { "[HKCU.a]\nb = \"\xFF\"\n", "line 2" },
+        { "x = 1\nHKCU = 5\n", "line 2" },
+        { "[[hklm]]\na = 1\n", "line 1" },
+    };
+    for (const auto& row : rows) {
+        mFolder.Write("registry.toml", row.content);
+        const auto refusal = Refusal();
+        EXPECT_NE(refusal.find(row.line), std::string::npos) << refusal;
+        EXPECT_NE(refusal.find(mFolder.Path("registry.toml")), std::string::npos) << refusal;
+        EXPECT_NE(refusal.find(": correct that line, or move the file away"), std::string::npos) << refusal;
+        EXPECT_EQ(Content(), row.content);
+    }
+}
+
+TEST_F(TomlRegistryTest, Open_NoReadableFile_SaysSo)
+{
+    fs::create_directory(mFolder.Path("registry.toml"));
+    EXPECT_NE(Refusal().find("Permission denied"), std::string::npos);
+    fs::remove(mFolder.Path("registry.toml"));
+    ASSERT_EQ(::mkfifo(mFolder.Path("registry.toml").c_str(), 0600), 0);
+    EXPECT_NE(Refusal().find(mFolder.Path("registry.toml")), std::string::npos);
+}
+
+TEST_F(TomlRegistryTest, Open_EmptyFile_IsAnEmptyRegistry)
+{
+    mFolder.Write("registry.toml", "");
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_TRUE(Reopened(User, Key, "a").IsEmpty());
+}
+
+}
+}
