@@ -78,7 +78,7 @@ foreach(folder IN LISTS folders)
     if(TARGET tempodial AND path MATCHES "^(cli|scenarios)")
         add_dependencies(${program} tempodial)
     endif()
-    gtest_discover_tests(${program} TEST_PREFIX "${path}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+    gtest_discover_tests(${program} TEST_PREFIX "${path}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES
         WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
         PROPERTIES TIMEOUT ${timeout} LABELS "${path}")
     list(APPEND programs ${program})
