@@ -1,10 +1,10 @@
 #pragma once
 
-#include "base/Number.h"
 #include "base/Text.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialDebugLog.h"
 #include "host/system/HostFileSystem.h"
+#include "host/system/IcuLocaleFormats.h"
 #include "platform/Platform.h"
 #include "support/ManualClock.h"
 #include "support/TempFolder.h"
@@ -17,30 +17,15 @@
 
 namespace tempodial {
 
-/// Date forms that no test looks at: the head of a trace line needs some.
-class PlainFormats : public LocaleFormats
-{
-public:
-    std::string ShortDate(Date date) override { return date.DayKey(); }
-    std::string LongDate(Date date) override { return date.DayKey(); }
-    std::string MediumDate(Date date) override { return date.DayKey(); }
-    std::string ShortTime(Date date) override { return date.HourMinute(); }
-    std::string LongTime(Date date) override { return "at " + date.HourMinute(); }
-    std::string MonthAbbreviation(int month) override { return std::to_string(month); }
-    Date Parse(const std::string&) override { throw Failure(Error::TypeMismatch); }
-};
-
 /// A trace in a folder of its own, for classes that need nothing else.
 class TraceFixture : public testing::Test
 {
 protected:
     TraceFixture()
     {
-        const auto platform = MakeRef<Platform>();
-        platform->fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
-        platform->clock = MakeRef<ManualClock>(Date::FromYearMonthDay(2006, 10, 10));
-        platform->formats = MakeRef<PlainFormats>();
-        mPlatform = platform;
+        mPlatform->fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
+        mPlatform->clock = mClock;
+        mPlatform->formats = MakeRef<IcuLocaleFormats>("en_US");
         const auto utils = MakeRef<TempodialCommonUtils>(mPlatform);
         utils->Initialize(nullptr, "Tempodial", "16.0");
         mLog = MakeRef<TempodialDebugLog>(mPlatform);
@@ -64,7 +49,9 @@ protected:
     void ForgetTrace() { Traced(); }
 
     TempFolder mFolder;
-    Ref<const Platform> mPlatform;
+    /// Ten past nine on Tuesday, October 10, 2006.
+    Ref<ManualClock> mClock = MakeRef<ManualClock>(Date::FromYearMonthDay(2006, 10, 10).AddMinutes(9 * 60 + 10));
+    Ref<Platform> mPlatform = MakeRef<Platform>();
     Ref<TempodialDebugLog> mLog;
 
 private:
