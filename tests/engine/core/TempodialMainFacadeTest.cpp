@@ -1,0 +1,128 @@
+#include "engine/core/CoreFixture.h"
+#include "engine/core/TempodialMain.h"
+#include "engine/foundation/TempodialStrings.h"
+
+namespace tempodial {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+class TempodialMainFacadeTest : public CoreFixture
+{
+protected:
+    TempodialMainFacadeTest()
+    {
+        ConnectAddIn();
+        mApplication->LogOn();
+        Traced();
+    }
+};
+
+TEST_F(TempodialMainFacadeTest, ValidateProject_TracesAlsoOnSuccess)
+{
+    EXPECT_EQ(Main().ValidateProject("Alpha"), "");
+    EXPECT_THAT(Traced(), ElementsAre("PM Validate Proj", "validate error: "));
+    EXPECT_EQ(Main().ValidateProject("No Project"), "Invalid project selected");
+    EXPECT_THAT(Traced(), Contains("validate error: Invalid project selected"));
+}
+
+TEST_F(TempodialMainFacadeTest, WorkersGone_MembersAnswerEmptyWithOneLine)
+{
+    // The trace is kept, as it is while the workers end.
+    auto& main = Main();
+    const auto log = main.mTempodialDebugLog;
+    main.ZeroReferences();
+    main.mTempodialDebugLog = log;
+    const std::string unset = "Object variable or With block variable not set";
+
+    EXPECT_EQ(main.GetCalendarID(), "");
+    EXPECT_THAT(Traced(), ElementsAre("GetCalendarID error " + unset + ":Create inspectors"));
+    main.GoToTasklog(false);
+    EXPECT_THAT(Traced(), ElementsAre("Switch to the task log now", "GoTo error " + unset + ":switch", "Switched"));
+    main.SyncData(21, true);
+    EXPECT_THAT(Traced(), ElementsAre("load 21 days", "sd error " + unset + ":sd"));
+    main.ChangeViewToCalendar();
+    EXPECT_THAT(Traced(), ElementsAre("Switch to cal view now", "CalView error " + unset + ":switch"));
+    main.ChangeViewToTable();
+    EXPECT_THAT(Traced(), ElementsAre("Switch to table view now", "tableview error " + unset + ":switch"));
+    EXPECT_FALSE(main.GetWorkLog());
+    EXPECT_THAT(Traced(), ElementsAre("Get log", "getlog error " + unset + ":getlog"));
+    EXPECT_FALSE(main.CreateCalendarItem("", "", "", "", 0, {}, {}, "", false));
+    EXPECT_THAT(Traced(), ElementsAre("Create item", "create item error " + unset + ":create item"));
+    EXPECT_FALSE(main.IsContinuable(nullptr));
+    EXPECT_THAT(Traced(), ElementsAre("IsContinuable error " + unset + ":create item"));
+    EXPECT_EQ(main.ValidateProject("x"), "");
+    EXPECT_THAT(Traced(), ElementsAre("validate proj error " + unset + ":create item", "validate error: "));
+    EXPECT_EQ(main.WhatProject("s", ""), "");
+    EXPECT_THAT(Traced(), ElementsAre("What proj error " + unset + ":create item"));
+    EXPECT_FALSE(main.IsProject("p", "s", ""));
+    EXPECT_THAT(Traced(), ElementsAre("Is proj error " + unset + ":create item"));
+    EXPECT_EQ(main.GetProjectPrecedence("p"), "");
+    EXPECT_THAT(Traced(), ElementsAre("get projectprecedence error " + unset + ":create item"));
+    EXPECT_EQ(main.GetProjectSubRule("p"), "");
+    EXPECT_THAT(Traced(), ElementsAre("get projectsubrule error " + unset + ":create item"));
+    EXPECT_EQ(main.GetProjectNotSubRule("p"), "");
+    EXPECT_THAT(Traced(), ElementsAre("get projectnotsubrule error " + unset + ":create item"));
+    EXPECT_EQ(main.GetProjectPeopleRule("p"), "");
+    EXPECT_THAT(Traced(), ElementsAre("get projectpeoplerule error " + unset + ":create item"));
+    main.ApplyProject("p", 7);
+    EXPECT_THAT(Traced(), ElementsAre("ApplyProject" + unset + ":create item"));
+    EXPECT_FALSE(main.ReturnMatchingItem("End", {}));
+    EXPECT_THAT(Traced(), ElementsAre("ReturnMatchingItem" + unset + ":create item"));
+    main.SwitchingToTasklog();
+    EXPECT_THAT(Traced(), Contains("SwitchingTo error " + unset + ":call syncdata"));
+    main.SetProjectForItems("p", true, true, {}, {}, false);
+    EXPECT_THAT(Traced(), Contains("setprojectforitems" + unset + ":setproject"));
+}
+
+TEST_F(TempodialMainFacadeTest, WorkersGone_MembersWithoutWordsAnswerEmptySilently)
+{
+    auto& main = Main();
+    const auto log = main.mTempodialDebugLog;
+    main.ZeroReferences();
+    main.mTempodialDebugLog = log;
+    std::vector<std::string> names { "kept" };
+
+    EXPECT_EQ(main.UpdateCalendarItem(nullptr, "", "", "", "", 0, {}, {}, "", false, true), 0);
+    main.ExtraCalendarItemInfo(nullptr, "", "", "", "", {}, {}, "");
+    EXPECT_EQ(main.GetBody(nullptr), "");
+    main.CreateCalendarDuplicate(nullptr, false);
+    main.RefreshCalendarItem(nullptr, "", "", false);
+    EXPECT_FALSE(main.ApplyProjectToItem("", nullptr));
+    EXPECT_FALSE(main.IsOurItem(nullptr));
+    EXPECT_TRUE(main.GetAttribute("Project", nullptr).IsEmpty());
+    EXPECT_TRUE(main.GetProjects(names, false, false, false).IsEmpty());
+    EXPECT_THAT(names, ElementsAre("kept"));
+    EXPECT_EQ(main.UpdateorAddProject("a", "", "", "", "2", false), "");
+    main.UpdateorAddProjectRule("a", "", "");
+    main.DeleteProject("a");
+    EXPECT_THAT(Traced(), ElementsAre());
+}
+
+TEST_F(TempodialMainFacadeTest, SwitchingToTasklog_WithinTheLimit_StillCleansUp)
+{
+    // The file is made by the system's clock, so that this one, put ahead, finds it old.
+    mClock->Set(Date::FromYearMonthDay(2200, 1, 1));
+    Main().SwitchingToTasklog();
+    EXPECT_THAT(Traced(), Contains("Exiting syncdata"));
+    mFolder.Write("Tempodial/tracker_granules20060901.out", "x");
+    Main().SwitchingToTasklog();
+    EXPECT_FALSE(mFolder.Has("Tempodial/tracker_granules20060901.out"));
+    const auto lines = Traced();
+    EXPECT_EQ(lines.front(), "User has switched to our folder");
+    EXPECT_THAT(lines, Not(Contains("Exiting syncdata")));
+    EXPECT_EQ(lines.back(), "old enough to delete");
+}
+
+TEST_F(TempodialMainFacadeTest, SetProjectForItems_NeitherSelectedNorRange_AddsTheProjectAlone)
+{
+    Main().SetProjectForItems("Alpha", false, false, {}, {}, true);
+    std::vector<std::string> names;
+    Main().GetProjects(names, false, false, false);
+    EXPECT_THAT(names, Contains("Alpha"));
+    EXPECT_EQ(Main().GetProjectPrecedence("Alpha"), "2");
+    EXPECT_EQ(Traced().front(), "Set project toAlpha");
+}
+
+}
