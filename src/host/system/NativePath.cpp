@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
+#include <utility>
 
 namespace tempodial {
 
-NativePath::NativePath(const std::string& path)
-    : mText(path)
+NativePath::NativePath(std::string path)
+    : mText(std::move(path))
 {
     if (mText.find('\0') != std::string::npos) {
         throw Failure(Error::BadFileName);

@@ -11,7 +11,7 @@ class NativePath
 {
 public:
     /// Fails (52) when the text can't be a path.
-    explicit NativePath(const std::string& path);
+    explicit NativePath(std::string path);
 
     const std::string& Text() const { return mText; }
     const char* CText() const { return mText.c_str(); }

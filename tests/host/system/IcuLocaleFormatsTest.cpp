@@ -165,9 +165,9 @@ TEST_F(IcuLocaleFormatsTest, Parse_WhatWasFormatted_ComesBackInEachLocale)
     for (const auto* locale : { "en_US", "de_DE", "sv_SE", "ja_JP", "en_GB", "fr_CA", "da_DK", "ko_KR", "ar_EG",
              "th_TH", "fa_IR", "zh_TW", "bg_BG", "es_419", "fi_FI", "he_IL", "hi_IN", "tr_TR", "vi_VN", "lt_LT" }) {
         IcuLocaleFormats formats(locale);
-        for (int step = 0; step < 1500; ++step) {
+        for (int step = 0; step < 400; ++step) {
             const auto moment
-                = Date::FromParts({ 1930, 1, 1, 0, 0, 0 }).AddDays(step * 24).AddSeconds(step * 6151 % 86400);
+                = Date::FromParts({ 1930, 1, 1, 0, 0, 0 }).AddDays(step * 91).AddSeconds(step * 6151 % 86400);
             const auto time = Date::FromSeconds(moment.SecondOfDay());
             ASSERT_EQ(formats.Parse(formats.ShortDate(moment)), moment.Day()) << locale << formats.ShortDate(moment);
             ASSERT_EQ(formats.Parse(formats.LongDate(moment)), moment.Day()) << locale << formats.LongDate(moment);
