@@ -141,8 +141,7 @@ TEST_F(TempodialCommonUtilsTest, EmailObjectGuardInPlace_Version10_IsTrueWithIts
     Initialize("10.0.2627");
     EXPECT_TRUE(mUtils->EmailObjectGuardInPlace());
     EXPECT_THAT(Traced(),
-        ElementsAre("TempodialCommonUtils Check for Outlook 2002",
-            "TempodialCommonUtils Outlook version is 10.0.2627",
+        ElementsAre("TempodialCommonUtils Check for Outlook 2002", "TempodialCommonUtils Outlook version is 10.0.2627",
             "TempodialCommonUtils Outlook version is 2002 so abandon ship"));
 }
 

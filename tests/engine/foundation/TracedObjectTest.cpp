@@ -94,8 +94,8 @@ TEST_F(TracedObjectTest, Attempt_ForeignException_IsMappedToAFailure)
 {
     mWorker.Failing("words ", LineShape::StepNumberText)([] { throw std::out_of_range("any"); });
     mWorker.Failing("words ", LineShape::StepNumberText)([] { throw 1; });
-    EXPECT_THAT(Traced(),
-        ElementsAre("Worker words step 9 Subscript out of range", "Worker words step 440 Automation error"));
+    EXPECT_THAT(
+        Traced(), ElementsAre("Worker words step 9 Subscript out of range", "Worker words step 440 Automation error"));
 }
 
 TEST_F(TracedObjectTest, Attempt_WithHandler_HandsItTheFailureInPlaceOfTheLine)
