@@ -1,10 +1,11 @@
-# tempodial_folder(NAME FOLDER [OBJECT] [EXCEPT FILE] [LINK TARGET...])
+# tempodial_folder(NAME FOLDER [OBJECT] [EXCEPT FILE] [LINK TARGET...] [USES TARGET...])
 #
-# A library of all sources in FOLDER and below. A folder that doesn't exist yet, or has only headers, gives a target
+# A library of all sources in FOLDER and below. It passes on what it links, but not the libraries that it uses: those
+# stay in the folder. A folder that doesn't exist yet, or has only headers, gives a target
 # that passes on its links. OBJECT makes an object library, for parts that know each other; such parts are linked
 # through the target that tempodial_collect makes of them.
 function(tempodial_folder name folder)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "OBJECT" "EXCEPT" "LINK")
+    cmake_parse_arguments(PARSE_ARGV 2 arg "OBJECT" "EXCEPT" "LINK;USES")
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
     if(arg_EXCEPT)
         list(REMOVE_ITEM sources "${PROJECT_SOURCE_DIR}/${folder}/${arg_EXCEPT}")
@@ -18,7 +19,7 @@ function(tempodial_folder name folder)
         else()
             add_library(${name} STATIC ${sources})
         endif()
-        target_link_libraries(${name} PUBLIC tempodial_options ${arg_LINK})
+        target_link_libraries(${name} PUBLIC tempodial_options ${arg_LINK} PRIVATE ${arg_USES})
     endif()
     set_property(GLOBAL APPEND PROPERTY TEMPODIAL_FOLDERS ${name})
     set_property(GLOBAL PROPERTY TEMPODIAL_FOLDER_${name} "${folder}")

@@ -3,6 +3,8 @@
 
 include(GoogleTest)
 find_package(GTest REQUIRED)
+# The system's own Python comes first: it is the one that has the Debian packages.
+find_program(Python3_EXECUTABLE python3 PATHS /usr/bin NO_DEFAULT_PATH)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
 set(tests "${PROJECT_SOURCE_DIR}/tests")
