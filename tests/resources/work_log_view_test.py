@@ -39,6 +39,8 @@ class WorkLogViewTest(unittest.TestCase):
             "Type": "string",
             "Description": "string",
             "People": "string",
+            "Keyword": "string",
+            "ApplyPast": "boolean",
         })
         self.assertEqual(set(types.values()), {"datetime", "string", "i4"})
         for column in self.view.findall("column")[1:]:

@@ -14,7 +14,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Revision = "TempodialMain revision 1 ";
+constexpr auto Revision = "revision 1 TempodialMain ";
 
 }
 

@@ -5,8 +5,10 @@
 #include "engine/core/TempodialMain.h"
 #include "forms/FormModelFactory.h"
 #include "host/profile/MailboxEventPump.h"
+#include "host/store/FormTemplate.h"
 #include "host/store/Mailbox.h"
 #include "host/store/StoreImportJournal.h"
+#include "host/store/StoreItem.h"
 #include "host/system/ExpatXml.h"
 #include "host/system/HostFileSystem.h"
 #include "host/system/IcuLocaleFormats.h"
@@ -86,6 +88,11 @@ protected:
         mPlatform->importJournal = MakeRef<StoreImportJournal>(mMailbox);
         mPlatform->eventPump = MakeRef<MailboxEventPump>(mMailbox);
         mApplication->nameSpace = mMailbox->NameSpace();
+        mApplication->fromTemplate = [this](const std::string&, const Ref<MAPIFolder>& folder) {
+            FormTemplate form;
+            form.messageClass = "IPM.Appointment.TDActivity1";
+            return Ref<AppointmentItem>(mMailbox->NewItem(folder, form));
+        };
         mExplorer->folder = mMailbox->FolderByPath("Inbox");
         mApplication->activeExplorer = mExplorer;
         mApplication->explorers->windows = { mExplorer };

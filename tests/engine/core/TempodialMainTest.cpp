@@ -21,10 +21,9 @@ TEST_F(TempodialMainTest, Initialize_TracesItsStepsInOrder)
     EXPECT_THAT(Traced(),
         ElementsAre("revision 1 TempodialDebugLog TRACE SESSION START ", "Check for Outlook 2002",
             "Outlook version is 11.0.0.8010", "not 2002", "server security settings: ", "Oldver:  currVer: 1.2.0",
-            "SetRegistryValue: CurrentVersion to 1.2.0", "TempodialMain revision 1 Initialize ",
-            "Initialize revision 1 TempodialWorkLog", "Initialize revision 1 TempodialDataHandler",
-            "Initialize revision 1 TempodialAnalyser", "Initialize revision 1 TempodialProjectManager",
-            "Initialized, run next "));
+            "SetRegistryValue: CurrentVersion to 1.2.0", "revision 1 TempodialMain Initialize ",
+            "revision 1 TempodialWorkLog", "Initialize revision 1 TempodialDataHandler", "revision 1 TempodialAnalyser",
+            "revision 1 TempodialProjectManager", "Initialized, run next "));
     EXPECT_EQ(Main().mTraceInfo, "TDMain");
 }
 
