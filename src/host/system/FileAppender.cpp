@@ -8,7 +8,6 @@ FileAppender::FileAppender(const NativePath& path, bool create)
     : mFile(path, O_WRONLY | O_APPEND | O_NOFOLLOW | (create ? O_CREAT : 0))
 {
     mFile.RequireWritable();
-    mFile.RequireUnlocked();
 }
 
 void FileAppender::Write(const std::string& text)

@@ -3,6 +3,7 @@
 #include "base/Date.h"
 
 #include <ctime>
+#include <limits>
 
 namespace tempodial {
 
@@ -15,7 +16,7 @@ public:
     Date At(std::time_t moment);
 
 private:
-    std::time_t mQuarter = -1;
+    std::time_t mQuarter = std::numeric_limits<std::time_t>::min();
     std::time_t mOffset = 0;
 };
 

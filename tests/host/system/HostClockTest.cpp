@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <ctime>
-#include <stdlib.h>
 #include <string>
 
 namespace tempodial {
@@ -57,6 +57,7 @@ TEST_F(HostClockTest, LocalTime_ZoneEastOfGreenwich_IsAhead)
 {
     SetZone("TST-5:30");
     EXPECT_EQ(TextOf(LocalTime().At(0)), "19700101 05:30:0");
+    EXPECT_EQ(TextOf(LocalTime().At(-1200)), "19700101 05:10:0");
     EXPECT_EQ(TextOf(LocalTime().At(1160471105)), "20061010 14:35:5");
 }
 

@@ -51,7 +51,7 @@ TEST_F(HostFileSystemTest, BuildPath_AnyParts_JoinsThemByOneSeparator)
         { "C:\\a\\", "b", "C:\\a\\b" },
         { "C:\\a", "\\b", "C:\\a\\b" },
         { "C:\\a\\", "\\b", "C:\\a\\b" },
-        { "C:\\a", "\\\\b", "C:\\a\\\\b" },
+        { "C:\\a", R"(\\b)", R"(C:\a\\b)" },
         { "", "b", "b" },
         { "a", "", "a" },
         { "", "", "" },
@@ -61,7 +61,7 @@ TEST_F(HostFileSystemTest, BuildPath_AnyParts_JoinsThemByOneSeparator)
         { "/a/", "/b", "/a/b" },
         { "/", "b", "/b" },
         { "a", "b", "a/b" },
-        { "/opt/x\\\\userguide", "FAQ.html", "/opt/x\\\\userguide\\FAQ.html" },
+        { R"(/opt/x\\userguide)", "FAQ.html", R"(/opt/x\\userguide\FAQ.html)" },
         { "C:\\a/b", "c", "C:\\a/b/c" },
     };
     for (const auto& row : rows) {
@@ -73,7 +73,7 @@ TEST_F(HostFileSystemTest, Path_WithBackslashes_IsReadWithSlashesWhenItDoesNotEx
 {
     fs::create_directory(mFolder.Path("userguide"));
     mFolder.Write("userguide/FAQ.html", "questions");
-    const auto path = mFolder.Path() + "\\\\userguide\\FAQ.html";
+    const auto path = mFolder.Path() + R"(\\userguide\FAQ.html)";
     EXPECT_TRUE(mFiles.FileExists(path));
     EXPECT_EQ(mFiles.OpenTextFile(path, OpenMode::Reading, false)->ReadAll(), "questions");
     const auto file = mFiles.GetFile(path);

@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <stdlib.h>
 #include <string>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -50,9 +49,9 @@ TEST_F(HostShellTest, Open_OtherOpener_GetsTheDocumentAsItIs)
 {
     std::vector<std::string> opened;
     HostShell shell([&](const std::string& document) { opened.push_back(document); });
-    shell.Open("C:\\T\\\\userguide\\FAQ.html");
+    shell.Open(R"(C:\T\\userguide\FAQ.html)");
     shell.Open("https://example.org/?a=1&b=2");
-    EXPECT_EQ(opened, (std::vector<std::string> { "C:\\T\\\\userguide\\FAQ.html", "https://example.org/?a=1&b=2" }));
+    EXPECT_EQ(opened, (std::vector<std::string> { R"(C:\T\\userguide\FAQ.html)", "https://example.org/?a=1&b=2" }));
 }
 
 TEST_F(HostShellTest, Open_Address_StartsTheDesktopsProgramDetached)

@@ -110,13 +110,13 @@ TEST_F(HostTextStreamTest, OpenTextFile_Link_IsFollowedForReadingOnly)
     EXPECT_EQ(mFolder.Read("kept"), "old");
 }
 
-TEST_F(HostTextStreamTest, OpenTextFile_LockedByAnother_Fails)
+TEST_F(HostTextStreamTest, OpenTextFile_LockedByAnother_FailsUnlessAppending)
 {
     const auto lock = ::open(mFolder.Write("file", "x").c_str(), O_RDWR | O_CLOEXEC);
     ASSERT_EQ(::flock(lock, LOCK_EX), 0);
     EXPECT_EQ(OpenFailure("file", OpenMode::Reading, false), 70);
     EXPECT_EQ(OpenFailure("file", OpenMode::Writing, true), 70);
-    EXPECT_EQ(OpenFailure("file", OpenMode::Appending, true), 70);
+    EXPECT_EQ(OpenFailure("file", OpenMode::Appending, true), 0);
     ASSERT_EQ(::flock(lock, LOCK_SH), 0);
     EXPECT_EQ(OpenFailure("file", OpenMode::Reading, false), 0);
     ASSERT_EQ(::flock(lock, LOCK_UN), 0);

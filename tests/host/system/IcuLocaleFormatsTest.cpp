@@ -6,7 +6,6 @@
 
 #include <cstdlib>
 #include <map>
-#include <stdlib.h>
 #include <string>
 
 namespace tempodial {
