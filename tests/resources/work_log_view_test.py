@@ -42,7 +42,7 @@ class WorkLogViewTest(unittest.TestCase):
             "Keyword": "string",
             "ApplyPast": "boolean",
         })
-        self.assertEqual(set(types.values()), {"datetime", "string", "i4"})
+        self.assertEqual(set(types.values()), {"datetime", "string", "i4", "boolean"})
         for column in self.view.findall("column")[1:]:
             self.assertTrue(column.findtext("heading"))
             self.assertGreater(int(column.findtext("width")), 0)
