@@ -32,33 +32,40 @@ public:
     Ref<Picture> Load(const std::string&) override { throw Failure(Error::FileNotFound); }
 };
 
-/// A stream that tells before it writes.
+/// A file opened for writing, which takes the place of the old one when it is closed, unless a write has failed.
 class ToldStream : public TextStream
 {
 public:
-    ToldStream(Ref<TextStream> stream, std::function<void()> tell)
-        : mStream(std::move(stream))
-        , mTell(std::move(tell))
+    ToldStream(std::function<void(const std::string&)> tell, std::function<void(const std::string&)> save)
+        : mTell(std::move(tell))
+        , mSave(std::move(save))
     {
     }
 
-    std::string ReadLine() override { return mStream->ReadLine(); }
-    std::string ReadAll() override { return mStream->ReadAll(); }
+    std::string ReadLine() override { throw Failure(Error::BadFileMode); }
+    std::string ReadAll() override { throw Failure(Error::BadFileMode); }
     void Write(const std::string& text) override
     {
-        mTell();
-        mStream->Write(text);
+        mHasFailed = true;
+        mTell("write");
+        mHasFailed = false;
+        mText += text;
     }
-    void WriteLine(const std::string& text) override
+    void WriteLine(const std::string& text) override { Write(text + "\r\n"); }
+    void Close() override
     {
-        mTell();
-        mStream->WriteLine(text);
+        if (mHasFailed) {
+            throw Failure(Error::DeviceError);
+        }
+        mTell("save");
+        mSave(mText);
     }
-    void Close() override { mStream->Close(); }
 
 private:
-    Ref<TextStream> mStream;
-    std::function<void()> mTell;
+    std::function<void(const std::string&)> mTell;
+    std::function<void(const std::string&)> mSave;
+    std::string mText;
+    bool mHasFailed = false;
 };
 
 std::string ContentOf(const std::string& path)
@@ -114,9 +121,15 @@ void TestFileSystem::DeleteFile(const std::string& path, bool force)
 Ref<TextStream> TestFileSystem::OpenTextFile(const std::string& path, OpenMode mode, bool create)
 {
     Tell("open", path);
-    auto stream = HostFileSystem::OpenTextFile(path, mode, create);
-    return mode == OpenMode::Writing ? MakeRef<ToldStream>(std::move(stream), [this, path] { Tell("write", path); })
-                                     : stream;
+    if (mode != OpenMode::Writing) {
+        return HostFileSystem::OpenTextFile(path, mode, create);
+    }
+    return MakeRef<ToldStream>([this, path](const std::string& operation) { Tell(operation, path); },
+        [this, path, create](const std::string& text) {
+            const auto stream = HostFileSystem::OpenTextFile(path, OpenMode::Writing, create);
+            stream->Write(text);
+            stream->Close();
+        });
 }
 
 void TestFileSystem::Tell(const std::string& operation, const std::string& path) const

@@ -55,7 +55,8 @@ class TestFileSystem : public HostFileSystem
 public:
     using HostFileSystem::HostFileSystem;
 
-    /// Told of "open", "write" (for a file opened for writing), "copy", "delete" and "move" with the path.
+    /// Told of "open", "copy", "delete" and "move" with the path, and of "write" and "save" for a file opened for
+    /// writing: each text, and the moment at which all of it takes the place of the old file.
     std::function<void(const std::string& operation, const std::string& path)> hook;
 
     void MoveFile(const std::string& source, const std::string& target) override;
@@ -174,7 +175,7 @@ protected:
         mAddIn.Trace();
     }
 
-    TempFolder mFolder;
+    TempFolder mFolder { TempFolder::InMemory() };
     TestAddIn mAddIn { mFolder.Path() };
 };
 

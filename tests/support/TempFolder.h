@@ -14,9 +14,9 @@ namespace tempodial {
 class TempFolder
 {
 public:
-    TempFolder()
+    explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
     {
-        auto pattern = (std::filesystem::temp_directory_path() / "tempodial-test-XXXXXX").string();
+        auto pattern = (parent / "tempodial-test-XXXXXX").string();
         if (::mkdtemp(pattern.data()) == nullptr) {
             throw std::runtime_error("no folder for the test can be made");
         }
@@ -29,6 +29,12 @@ public:
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
+
+    /// Where files live in memory, so that tests that need no disk don't wait for it; else the usual place.
+    static std::filesystem::path InMemory()
+    {
+        return std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path();
+    }
 
     const std::string& Path() const { return mPath; }
     /// The path of a name in the folder.
