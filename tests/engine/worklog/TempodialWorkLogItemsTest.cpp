@@ -1,0 +1,575 @@
+#include "engine/foundation/TempodialCommonUtils.h"
+#include "engine/worklog/WorkLogFixture.h"
+#include "host/store/StoreItem.h"
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+namespace tempodial {
+
+namespace {
+
+class TempodialWorkLogItemsTest : public WorkLogFixture
+{
+protected:
+    std::int32_t Update(const Ref<AppointmentItem>& item, const std::string& project, const std::string& description,
+        bool newItem = false, bool closeIt = true, bool saveIt = true)
+    {
+        return mWorkLog->UpdateCalendarItem(
+            item, project, description, "Notepad", "Eve;", 10, At(9, 0), At(9, 10), "", newItem, closeIt, saveIt);
+    }
+    void Detail(const Ref<AppointmentItem>& item, const std::string& description, const std::string& body,
+        const std::string& project = "", const std::string& contacts = "")
+    {
+        mWorkLog->ExtraCalendarItemInfo(item, description, "Notepad", project, contacts, At(1, 0), At(2, 0), body);
+    }
+};
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_Values_FillTheWholeItem)
+{
+    const auto item = mWorkLog->CreateCalendarItem(
+        "Alpha", "Plan", "Notepad", "Ann;Bob;", 5, At(9, 0, 30), At(9, 5, 30), "http://a", false, true);
+    ASSERT_TRUE(item);
+    EXPECT_EQ(item->MessageClass(), ActivityClass);
+    EXPECT_EQ(item->Subject(), "[Alpha] Notepad, Plan");
+    EXPECT_EQ(item->Start(), At(9, 0, 30));
+    EXPECT_EQ(item->End(), At(9, 5, 30));
+    EXPECT_EQ(item->Duration(), 5);
+    EXPECT_EQ(item->Body(), "http://a");
+    EXPECT_EQ(item->Mileage(), "Alpha");
+    EXPECT_EQ(item->BillingInformation(), "Plan");
+    const auto properties = item->UserProperties();
+    EXPECT_EQ(properties->Item("Type")->Value(), Variant("Notepad"));
+    EXPECT_EQ(properties->Item("Day")->Value(), Variant(At(0, 0)));
+    EXPECT_EQ(properties->Item("StartTime")->Value(), Variant("09:00"));
+    EXPECT_EQ(properties->Item("Project")->Value(), Variant("Alpha"));
+    EXPECT_EQ(properties->Item("Description")->Value(), Variant("Plan"));
+    EXPECT_EQ(properties->Item("People")->Value(), Variant("Ann;Bob;"));
+    EXPECT_EQ(properties->Item("Keyword")->Value(), Variant("<word or phrase to match an activity to this project>"));
+    EXPECT_EQ(properties->Item("ApplyPast")->Value(), Variant(false));
+    EXPECT_NE(item->EntryID(), "");
+    EXPECT_EQ(mLogFolder->Items()->Count(), 1);
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_NoProject_TracesTheWholeRoad)
+{
+    ASSERT_TRUE(mWorkLog->CreateCalendarItem("", "Plan", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, true));
+    EXPECT_THAT(Traced(),
+        ElementsAre("TDWorklog CreateCalendarItem - Plan", "TDWorklog GetSyncedWorkLog called",
+            "TDWorklog message class of new item: IPM.Appointment.TDActivity1", "TDWorklog Update item ",
+            "TDWorklog createsubject: Notepad, Plan", "TDProjectMan PM What Proj: Notepad, Plan  = No Project",
+            "TDWorklog createsubject: Notepad, Plan", "TDWorklog calendar item create exit"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_ToBeShown_IsDisplayedOnceAndStaysOpen)
+{
+    int shown = 0;
+    mMailbox->SetDisplay([&](const Ref<StoreItem>&) { ++shown; });
+    const auto item = mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", true, true);
+    EXPECT_EQ(shown, 1);
+    const auto traced = Traced();
+    ASSERT_GE(traced.size(), 2U);
+    EXPECT_EQ(traced[traced.size() - 2], "TDWorklog display");
+    EXPECT_EQ(traced.back(), "TDWorklog calendar item create exit");
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_NotToBeSaved_IsDiscarded)
+{
+    const auto item = mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, false);
+    ASSERT_TRUE(item);
+    EXPECT_EQ(item->EntryID(), "");
+    EXPECT_EQ(mLogFolder->Items()->Count(), 0);
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_NoFolder_GivesNothing)
+{
+    const auto other = MakeRef<TempodialWorkLog>(mPlatform);
+    mMailbox->DeleteFolder(mLogFolder);
+    other->Initialize(mMain, mApplication, mNamespace, mLog);
+    ForgetTrace();
+    EXPECT_FALSE(other->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, true));
+    EXPECT_EQ(Traced().back(), "TDWorklog no Work log");
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_AddFails_GoesOnToItsExit)
+{
+    mMailbox->DeleteFolder(mLogFolder);
+    ForgetTrace();
+    EXPECT_FALSE(mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, true));
+    const auto traced = Traced();
+    ASSERT_GE(traced.size(), 2U);
+    EXPECT_EQ(traced[traced.size() - 2], "TDWorklog Add failed");
+    EXPECT_EQ(traced.back(), "TDWorklog calendar item create exit");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ProjectByRule_MatchesApplicationAndDescription)
+{
+    AddProject("Beta", "notepad plan");
+    EXPECT_EQ(Activity("")->Mileage(), "Beta");
+    EXPECT_EQ(Activity("", "Other")->Mileage(), "No Project");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ProjectByPeople_IsNotOffered)
+{
+    AddProject("Beta", "", "Ann");
+    EXPECT_EQ(Activity("", "Plan", "Notepad", "Ann;")->Mileage(), "No Project");
+}
+
+struct ProjectCase
+{
+    const char* given;
+    const char* present;
+    const char* written;
+};
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_Continuation_KeepsAProjectOnceGiven)
+{
+    AddProject("R", "more");
+    for (const auto& [given, present, written] : { ProjectCase { "X", "A", "X" }, ProjectCase { "", "A", "A" },
+             ProjectCase { "", "No Project", "R" }, ProjectCase { "", "", "" } }) {
+        const auto item = Activity("A");
+        item->UserProperties()->Item("Project")->SetValue(present);
+        EXPECT_EQ(Update(item, given, "more"), 0);
+        EXPECT_EQ(Property(item, "Project"), written);
+        EXPECT_EQ(item->Mileage(), written);
+    }
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_NewItem_IgnoresItsProjectProperty)
+{
+    AddProject("R", "more");
+    const auto item = Activity("A");
+    EXPECT_EQ(Update(item, "", "more", true), 0);
+    EXPECT_EQ(Property(item, "Project"), "R");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ProjectPropertyAbsent_KeepsTheRulesAnswer)
+{
+    AddProject("R", "more");
+    const auto item = Appointment("plain");
+    EXPECT_EQ(Update(item, "", "more"), 0);
+    EXPECT_EQ(Property(item, "Project"), "R");
+    EXPECT_THAT(Traced(),
+        Contains("TDWorklog update item error Object variable or With block variable not set Fill in Item").Times(1));
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_Continuation_ReplacesEverythingButTheBody)
+{
+    const auto item
+        = mWorkLog->CreateCalendarItem("A", "Plan", "Notepad", "Ann;", 5, At(9, 0), At(9, 5), "text", false, true);
+    item->UserProperties()->Item("Keyword")->SetValue("k");
+    item->UserProperties()->Item("ApplyPast")->SetValue(true);
+    EXPECT_EQ(Update(item, "", "More"), 0);
+    EXPECT_EQ(item->End(), At(9, 10));
+    EXPECT_EQ(item->Duration(), 10);
+    EXPECT_EQ(item->Subject(), "[A] Notepad, More");
+    EXPECT_EQ(item->BillingInformation(), "More");
+    EXPECT_EQ(item->Body(), "text");
+    EXPECT_EQ(Property(item, "Description"), "More");
+    EXPECT_EQ(Property(item, "People"), "Eve;");
+    EXPECT_EQ(Property(item, "Keyword"), "<word or phrase to match an activity to this project>");
+    EXPECT_EQ(Property(item, "ApplyPast"), "False");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_PropertiesAbsent_AreAdded)
+{
+    const auto item = Appointment("plain");
+    EXPECT_EQ(Update(item, "A", "d"), 0);
+    for (const auto* name : { "Type", "StartTime", "Project", "Description", "People", "Keyword", "ApplyPast" }) {
+        EXPECT_NE(Property(item, name), "(absent)") << name;
+    }
+    EXPECT_EQ(item->UserProperties()->Item("Day")->Value(), Variant(At(0, 0)));
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ItemIsOpen_ChangesNothing)
+{
+    const auto item = Activity("A");
+    Open(item);
+    EXPECT_EQ(Update(item, "B", "More"), 0);
+    EXPECT_EQ(item->End(), At(9, 5));
+    EXPECT_EQ(item->Subject(), "[A] Notepad, Plan");
+    EXPECT_EQ(Property(item, "Project"), "A");
+    EXPECT_EQ(Property(item, "People"), "");
+    EXPECT_THAT(
+        Traced(), ElementsAre("TDWorklog Update item ", "TDMain IsInspector - open", "TDWorklog It's open, abort"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_NewItemIsOpen_IsFilledAllTheSame)
+{
+    const auto item = Activity("A");
+    Open(item);
+    EXPECT_EQ(Update(item, "B", "More", true), 0);
+    EXPECT_EQ(item->Subject(), "[B] Notepad, More");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_SaveFails_AnswersOneAndStillCloses)
+{
+    const auto item = Activity("A");
+    std::vector<std::string> members;
+    const auto observed = MakeRef<ObservedItem>(item, [&](const std::string& member) {
+        members.push_back(member);
+        if (member == "Save") {
+            throw Failure(Error::DiskFull);
+        }
+    });
+    EXPECT_EQ(Update(observed, "B", "More"), 1);
+    EXPECT_EQ(members.back(), "Close");
+    EXPECT_EQ(Traced().back(), "TDWorklog save failed Disk full");
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_SaveFails_GivesNothing)
+{
+    Observe(FailingAt({ "Save" }, Error::DiskFull));
+    EXPECT_FALSE(mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", true, true));
+    const auto traced = Traced();
+    EXPECT_THAT(traced, Contains("TDWorklog save failed Disk full"));
+    EXPECT_THAT(traced, Not(Contains("TDWorklog display")));
+    EXPECT_THAT(traced, Not(Contains("TDWorklog calendar item create exit")));
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_FormNotPublished_DropsTheItem)
+{
+    mFormClass = "IPM.Appointment.Other";
+    const auto mailbox = Mailbox::Open(":memory:", mPlatform->formats, mPlatform->xml);
+    const auto nameSpace = mailbox->NameSpace();
+    mWorkLog = MakeRef<TempodialWorkLog>(mPlatform);
+    mWorkLog->Initialize(mMain, mApplication, nameSpace, mLog);
+    const auto folder = mWorkLog->GetSyncedWorkLog(true);
+    ForgetTrace();
+    EXPECT_FALSE(mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, true));
+    EXPECT_EQ(folder->Items()->Count(), 0);
+    EXPECT_THAT(Traced(),
+        ElementsAre("TDWorklog CreateCalendarItem - d", "TDWorklog GetSyncedWorkLog called",
+            "TDWorklog message class of new item: IPM.Appointment"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_ClassCantBeRead_DropsTheItem)
+{
+    Observe(FailingAt({ "MessageClass" }));
+    EXPECT_FALSE(mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, true));
+    EXPECT_EQ(Traced().back(), "TDWorklog CCI error Automation error set registry");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_AnyMemberFails_WritesTheRestAndTracesTheFailure)
+{
+    std::vector<std::string> members;
+    const auto count = [&](const std::string& member) { members.push_back(member); };
+    ASSERT_EQ(Update(MakeRef<ObservedItem>(Appointment("first"), count), "", "d"), 0);
+    const auto calls = members;
+    ASSERT_GT(calls.size(), 30U);
+    for (std::size_t failing = 0; failing < calls.size(); ++failing) {
+        members.clear();
+        const auto item = Appointment("plain");
+        ForgetTrace();
+        const auto observed = MakeRef<ObservedItem>(item, [&](const std::string& member) {
+            members.push_back(member);
+            if (members.size() == failing + 1) {
+                throw Failure(Error::Automation);
+            }
+        });
+        const auto code = Update(observed, "", "d");
+        EXPECT_EQ(code, calls[failing] == "Save" ? 1 : 0) << calls[failing];
+        EXPECT_THAT(Traced(), Contains(HasSubstr("Automation error"))) << calls[failing];
+        EXPECT_EQ(members.back(), "Close") << calls[failing];
+        if (calls[failing] != "SetSubject" && calls[failing] != "Save") {
+            EXPECT_EQ(item->Subject(), "Notepad, d") << calls[failing];
+        }
+    }
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ProjectCantBeWritten_NamesItsOldValue)
+{
+    const auto item = MakeRef<ObservedItem>(Activity("A"), FailingAt({ "SetValue of Project" }));
+    EXPECT_EQ(Update(item, "B", "d"), 0);
+    EXPECT_THAT(
+        Traced(), Contains("TDWorklog update item error Automation error write props Value - current Value: A"));
+    EXPECT_EQ(item->Mileage(), "B");
+    EXPECT_EQ(Property(item, "Description"), "d");
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_StepsFail_AreNamed)
+{
+    const auto traced = [&](const char* member) {
+        Update(MakeRef<ObservedItem>(Appointment("plain"), FailingAt({ member })), "B", "d");
+        return Traced();
+    };
+    const std::string words = "TDWorklog update item error Automation error ";
+    EXPECT_THAT(traced("UserProperties"), Contains(words + "get item properties"));
+    EXPECT_THAT(traced("SetStart"), Contains(words + "Fill in Item"));
+    EXPECT_THAT(traced("Item Type"), Contains(words + "get props"));
+    EXPECT_THAT(traced("Add Day"), Contains(words + "add props"));
+    EXPECT_THAT(traced("SetValue of People"), Contains(words + "write props"));
+    EXPECT_THAT(traced("Close"), Contains(words + "write props"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_NoItem_AnswersOneForTheSave)
+{
+    EXPECT_EQ(Update(nullptr, "B", "d"), 1);
+}
+
+TEST_F(TempodialWorkLogItemsTest, IsContinuable_AnyItem_IsTrue)
+{
+    EXPECT_TRUE(mWorkLog->IsContinuable(Activity("A")));
+    EXPECT_TRUE(mWorkLog->IsContinuable(nullptr));
+    EXPECT_THAT(Traced(), IsEmpty());
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_FirstDetail_ReplacesDescriptionPeopleAndProject)
+{
+    AddProject("Beta", "x");
+    const auto item = Activity("", "Plan", "Notepad", "a;");
+    Detail(item, "x", "\r\nx\r\n", "", "b");
+    EXPECT_EQ(item->Body(), "Your activities include: \r\n\r\nx\r\n");
+    EXPECT_EQ(Property(item, "Description"), "including: x");
+    EXPECT_EQ(Property(item, "People"), "b;a;");
+    EXPECT_EQ(Property(item, "Project"), "Beta");
+    EXPECT_EQ(item->Mileage(), "Beta");
+    EXPECT_EQ(item->BillingInformation(), "including: x");
+    EXPECT_EQ(item->Subject(), "[Beta] Notepad, including: x");
+    EXPECT_EQ(item->Start(), At(9, 0));
+    EXPECT_EQ(item->End(), At(9, 5));
+    EXPECT_FALSE(item.As<StoreItem>()->HasChanges());
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_FirstDetail_TracesTheWholeRoad)
+{
+    const auto item = Activity("", "Plan");
+    Detail(item, "x", "\r\nx\r\n");
+    EXPECT_THAT(Traced(),
+        ElementsAre("TDWorklog add xtra info to: Notepad, Planstart 10/10/2006 9:00:00 AM end 10/10/2006 9:05:00 AM",
+            "TDWorklog replace desc a: Plan", "TDWorklog createsubject: Notepad, x",
+            "TDProjectMan PM What Proj: Notepad, x  = No Project", "TDWorklog RefreshCalendarItem : including: x",
+            "TDWorklog old: No Project new: No Project", "TDWorklog RefreshCalendarItem oldDesc : Plan",
+            "TDWorklog createsubject: Notepad, including: x", "TDWorklog save and close"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_ProjectOfTheSlot_GoesBeforeTheRules)
+{
+    AddProject("Beta", "x");
+    const auto item = Activity("A");
+    Detail(item, "x", "b", "C");
+    EXPECT_EQ(Property(item, "Project"), "C");
+    EXPECT_EQ(item->Mileage(), "C");
+}
+
+struct DescriptionCase
+{
+    const char* description;
+    const char* detail;
+    const char* after;
+};
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_Description_IsReplacedOnceAndNeverWhenItHoldsAUrl)
+{
+    for (const auto& [description, detail, after] :
+        { DescriptionCase { "Plan", "x", "including: x" }, DescriptionCase { "my including: z", "y", "including: y" },
+            DescriptionCase { "including: x", "y", "including: x" },
+            DescriptionCase { "see HTTP://q", "y", "including: y" },
+            DescriptionCase { "(http://q)", "y", "(http://q)" }, DescriptionCase { "", "y", "including: y" } }) {
+        const auto item = Activity("A", description, "Notepad", "a;");
+        const auto subject = item->Subject();
+        Detail(item, detail, "body", "B", "b");
+        EXPECT_EQ(Property(item, "Description"), after);
+        EXPECT_EQ(item->Body(), "Your activities include: \r\nbody");
+        const bool kept = std::string(after) == description;
+        EXPECT_EQ(Property(item, "People"), kept ? "a;" : "b;a;") << description;
+        EXPECT_EQ(Property(item, "Project"), kept ? "A" : "B") << description;
+        EXPECT_EQ(item->Subject() == subject, kept) << description;
+        EXPECT_FALSE(item.As<StoreItem>()->HasChanges());
+    }
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_NoContacts_LeavesThePeople)
+{
+    const auto item = Activity("A", "Plan", "Notepad", "a;");
+    Detail(item, "x", "body");
+    EXPECT_EQ(Property(item, "People"), "a;");
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_BodyReadBack_CarriesTheHeadingTwice)
+{
+    const auto item = Activity("A");
+    Detail(item, "x", "\r\nx\r\n");
+    Detail(item, "y", mWorkLog->GetBody(item) + "y\r\n");
+    EXPECT_EQ(item->Body(), "Your activities include: \r\nYour activities include: \r\n\r\nx\r\ny\r\n");
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_ItemIsOpen_StopsSilently)
+{
+    const auto item = Activity("A");
+    Open(item);
+    Detail(item, "x", "body");
+    EXPECT_EQ(item->Body(), "");
+    EXPECT_EQ(Property(item, "Description"), "Plan");
+    EXPECT_THAT(Traced(), ElementsAre(HasSubstr("TDWorklog add xtra info to: "), "TDMain IsInspector - open"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_AnyMemberFails_StillSavesAndCloses)
+{
+    std::vector<std::string> members;
+    const auto count = [&](const std::string& member) { members.push_back(member); };
+    const auto item = Activity("", "Plan", "Notepad", "a;");
+    Detail(MakeRef<ObservedItem>(item, count), "x", "body", "", "b");
+    const auto calls = members;
+    ASSERT_GT(calls.size(), 20U);
+    for (std::size_t failing = 0; failing < calls.size(); ++failing) {
+        const auto fresh = Activity("", "Plan", "Notepad", "a;");
+        members.clear();
+        Detail(MakeRef<ObservedItem>(fresh,
+                   [&](const std::string& member) {
+                       members.push_back(member);
+                       if (members.size() == failing + 1) {
+                           throw Failure(Error::Automation);
+                       }
+                   }),
+            "x", "body", "", "b");
+        EXPECT_THAT(Traced(), Contains(HasSubstr("Automation error"))) << calls[failing];
+        EXPECT_EQ(members.back(), "Close") << calls[failing];
+    }
+}
+
+TEST_F(TempodialWorkLogItemsTest, RefreshCalendarItem_OtherProject_IsWrittenAndMadeKnown)
+{
+    const auto item = Activity("A");
+    mWorkLog->RefreshCalendarItem(item, "New", "Plan", false);
+    EXPECT_EQ(item->Mileage(), "New");
+    EXPECT_EQ(item->Subject(), "[New] Notepad, Plan");
+    EXPECT_EQ(Property(item, "Project"), "A");
+    EXPECT_TRUE(item.As<StoreItem>()->HasChanges());
+    EXPECT_EQ(Registered("Project List"), "New");
+    const auto traced = Traced();
+    EXPECT_THAT(std::vector<std::string>(traced.begin(), traced.begin() + 4),
+        ElementsAre("TDWorklog RefreshCalendarItem : Plan", "TDWorklog old: A new: New",
+            "TDWorklog Project has changed", "TDProjectMan PM Update Proj: New    2 True"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, RefreshCalendarItem_KnownProject_KeepsItsRules)
+{
+    AddProject("New", "rule");
+    mWorkLog->RefreshCalendarItem(Activity("A"), "New", "Plan", false);
+    EXPECT_EQ(mMain->GetProjectSubRule("New"), "rule");
+}
+
+TEST_F(TempodialWorkLogItemsTest, RefreshCalendarItem_SubjectOnly_TakesTheProjectIntoTheSubjectAlone)
+{
+    const auto item = Activity("A");
+    mWorkLog->RefreshCalendarItem(item, "New", "Plan", true);
+    EXPECT_EQ(item->Mileage(), "A");
+    EXPECT_EQ(item->Subject(), "[A] Notepad, Plan");
+    mWorkLog->RefreshCalendarItem(item, "New", "Other", true);
+    EXPECT_EQ(item->Mileage(), "A");
+    EXPECT_EQ(item->Subject(), "[New] Notepad, Other");
+    EXPECT_EQ(item->BillingInformation(), "Other");
+    EXPECT_EQ(Registered("Project List"), "");
+}
+
+TEST_F(TempodialWorkLogItemsTest, RefreshCalendarItem_NothingChanged_WritesNothing)
+{
+    const auto item = Activity("A");
+    mWorkLog->RefreshCalendarItem(item, "A", "Plan", false);
+    EXPECT_FALSE(item.As<StoreItem>()->HasChanges());
+}
+
+TEST_F(TempodialWorkLogItemsTest, RefreshCalendarItem_TypeAbsent_TracesOneFailure)
+{
+    const auto item = Appointment("plain");
+    mWorkLog->RefreshCalendarItem(item, "A", "Plan", true);
+    EXPECT_EQ(item->Subject(), "[A] Plan");
+    EXPECT_THAT(Traced(),
+        Contains(HasSubstr("TDWorklog RefreshCalendarItem error Object variable or With block variable not set "))
+            .Times(1));
+}
+
+TEST_F(TempodialWorkLogItemsTest, GetBody_Item_IsRead)
+{
+    const auto item = Activity("A");
+    item->SetBody("text");
+    EXPECT_EQ(mWorkLog->GetBody(item), "text");
+    EXPECT_THAT(Traced(), ElementsAre("TDWorklog GetBody"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, GetBody_SecurityPopups_LeavesTheItemAlone)
+{
+    mMain->mSecurityPopups = true;
+    const auto item = MakeRef<ObservedItem>(
+        Appointment("plain", "text"), [](const std::string& member) { ADD_FAILURE() << member; });
+    EXPECT_EQ(mWorkLog->GetBody(item), "");
+    EXPECT_THAT(Traced(), ElementsAre("TDWorklog GetBody"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, GetBody_Refused_IsRememberedForTheWholeSystem)
+{
+    const auto item
+        = MakeRef<ObservedItem>(Appointment("plain", "text"), FailingAt({ "Body" }, Error::SecurityRefusal));
+    EXPECT_EQ(mWorkLog->GetBody(item), "");
+    EXPECT_TRUE(mMain->mSecurityPopups);
+    EXPECT_EQ(mRegistry->Read(Hive::LocalMachine, ProductKey, "Outlook Security Popups", RegistryAccess::Query),
+        Variant("true"));
+    EXPECT_THAT(Traced(),
+        ElementsAre("TDWorklog GetBody",
+            "TDWorklog security exception on getbodyApplication-defined or object-defined error",
+            "TDWorklog security popup seen! drop all email guarded function from now on",
+            "TempodialCommonUtils MarkEmailObjectGuardInPlace"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, GetBody_NoItem_IsNoRefusal)
+{
+    EXPECT_EQ(mWorkLog->GetBody(nullptr), "");
+    EXPECT_FALSE(mMain->mSecurityPopups);
+    EXPECT_THAT(Traced(),
+        ElementsAre("TDWorklog GetBody",
+            "TDWorklog security exception on getbodyObject variable or With block variable not set"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, ApplyProjectToItem_RulesMatch_WritesTheProjectWithoutSaving)
+{
+    AddProject("Beta", "plan");
+    const auto item = Activity("A");
+    EXPECT_TRUE(mWorkLog->ApplyProjectToItem("Beta", item));
+    EXPECT_EQ(Property(item, "Project"), "Beta");
+    EXPECT_EQ(item->Mileage(), "Beta");
+    EXPECT_EQ(item->Subject(), "[Beta] Notepad, Plan");
+    EXPECT_TRUE(item.As<StoreItem>()->HasChanges());
+    const auto traced = Traced();
+    EXPECT_THAT(std::vector<std::string>(traced.begin(), traced.begin() + 6),
+        ElementsAre("TDWorklog check if project matches", "TDWorklog createsubject: Notepad, Plan",
+            "TDProjectMan PM isProject: Beta desc: Notepad, Plan", "TDProject unquoted match",
+            "TDWorklog project matches", "TDWorklog refresh project"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, ApplyProjectToItem_PeopleMatch_AreTheItems)
+{
+    AddProject("Beta", "", "Ann");
+    EXPECT_TRUE(mWorkLog->ApplyProjectToItem("Beta", Activity("A", "Plan", "Notepad", "Ann;")));
+    EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", Activity("A", "Plan", "Notepad", "Bob;")));
+}
+
+TEST_F(TempodialWorkLogItemsTest, ApplyProjectToItem_ProjectInSubject_IsNoMatch)
+{
+    AddProject("Beta", "alpha");
+    const auto item = Activity("Alpha");
+    EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", item));
+    EXPECT_FALSE(item.As<StoreItem>()->HasChanges());
+}
+
+TEST_F(TempodialWorkLogItemsTest, ApplyProjectToItem_ProjectCantBeWritten_IsFalse)
+{
+    AddProject("Beta", "plan");
+    const auto item = MakeRef<ObservedItem>(Activity("A"), FailingAt({ "SetValue of Project" }));
+    EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", item));
+    EXPECT_THAT(Traced(), Contains("TDWorklog applyproject error Automation error set properties"));
+}
+
+TEST_F(TempodialWorkLogItemsTest, ApplyProjectToItem_NoItemOrUnknownProject_IsFalse)
+{
+    AddProject("Beta", "plan");
+    EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", nullptr));
+    EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Unknown", Activity("A")));
+}
+
+}
+
+}
