@@ -163,27 +163,13 @@ Ref<StoreItem> StoreItems::Paged(std::size_t index)
     if (auto live = mMailbox->Live(row)) {
         return live;
     }
-    auto& table = mMailbox->Table();
     const bool within = index >= mPageStart && index < mPageStart + mPage.size();
-    if (within && mPage[index - mPageStart] && mPageReadAt != table.Changes()) {
+    if (within && mPage[index - mPageStart] && mPageReadAt != mMailbox->Table().Changes()) {
         // The page may be out of date, as in a walk that saves what it visits: this row alone is read again.
         return mMailbox->Item(row);
     }
     if (!within || !mPage[index - mPageStart]) {
-        mPageLength = within ? FirstPage : std::clamp(mPageLength * 2, FirstPage, LargestPage);
-        const auto length = std::min(mPageLength, mRows->size() - index);
-        const std::span<const std::int64_t> wanted(mRows->data() + index, length);
-        auto read = table.Load(wanted);
-        mPage.assign(length, std::nullopt);
-        mPageStart = index;
-        mPageReadAt = table.Changes();
-        std::size_t position = 0;
-        for (auto& item : read) {
-            while (wanted[position] != item.row) {
-                ++position;
-            }
-            mPage[position] = std::move(item);
-        }
+        ReadPage(index);
     }
     auto& slot = mPage[index - mPageStart];
     if (!slot) {
@@ -192,6 +178,29 @@ Ref<StoreItem> StoreItems::Paged(std::size_t index)
     auto item = std::move(*slot);
     slot.reset();
     return mMailbox->Share(std::move(item));
+}
+
+void StoreItems::ReadPage(std::size_t index)
+{
+    // A walk in either direction gets longer and longer pages, a single look a short one.
+    const bool forward = !mPage.empty() && index == mPageStart + mPage.size();
+    const bool backward = !mPage.empty() && index + 1 == mPageStart;
+    auto length = forward || backward ? std::min(mPage.size() * 2, LargestPage) : FirstPage;
+    const auto start = backward ? index + 1 - std::min(length, index + 1) : index;
+    length = std::min(length, mRows->size() - start);
+
+    const std::span<const std::int64_t> wanted(mRows->data() + start, length);
+    auto read = mMailbox->Table().Load(wanted);
+    mPage.assign(length, std::nullopt);
+    mPageStart = start;
+    mPageReadAt = mMailbox->Table().Changes();
+    std::size_t position = 0;
+    for (auto& item : read) {
+        while (wanted[position] != item.row) {
+            ++position;
+        }
+        mPage[position] = std::move(item);
+    }
 }
 
 }

@@ -45,6 +45,8 @@ private:
     void Take();
     std::vector<std::int64_t> Select(const std::string& filter);
     Ref<StoreItem> Paged(std::size_t index);
+    /// Reads items ahead, that of the index among them.
+    void ReadPage(std::size_t index);
 
     Ref<Mailbox> mMailbox;
     std::int64_t mFolder;
@@ -56,7 +58,6 @@ private:
     /// Items read ahead, from a position on; one that was handed out is taken out.
     std::vector<std::optional<StoredItem>> mPage;
     std::size_t mPageStart = 0;
-    std::size_t mPageLength = 0;
     std::int64_t mPageReadAt = 0;
     std::vector<Ref<StoreItem>> mArrivals;
     EventSource<ItemsEvents> mEvents;
