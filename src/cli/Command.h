@@ -12,7 +12,7 @@ class App;
 
 namespace tempodial {
 
-/// One command of the program. It stands in a file of its own and in the list in Commands.cpp.
+/// One command of the program. It stands in a file of its own, and in the list of Commands.cpp.
 class Command
 {
 public:

@@ -3,9 +3,12 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "cli/Arguments.h"
+#include "cli/ProductFacts.h"
 #include "cli/TerminalText.h"
 #include "cli/UsageError.h"
 #include "host/profile/ProfileError.h"
+#include "host/system/IcuLocaleFormats.h"
+#include "host/system/TextEncoding.h"
 
 #include <algorithm>
 #include <exception>
@@ -14,29 +17,28 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Version = "tempodial 1.2.0";
+constexpr auto ProgramDescription = "Turns what you do at your PC into a calendar of activities, each with the\n"
+                                    "project it belongs to.\n"
+                                    "\n"
+                                    "A tracker writes down, in slots of five minutes, which window you work in.\n"
+                                    "\"sync\" makes activities of that and gives each a project by your rules;\n"
+                                    "\"list\" shows them; \"projects\" keeps the rules.\n";
 
-constexpr auto ProgramDescription
-    = "Turns what you do at your PC into a calendar of activities, each with the project it belongs to.\n"
-      "\n"
-      "A tracker writes down, in slots of five minutes, which window you work in. \"sync\" makes activities of\n"
-      "that and gives each a project by your rules; \"list\" shows them; \"projects\" keeps the rules.";
+constexpr auto ProgramFooter = "An example session, with an invented working life instead of a tracker:\n"
+                               "  tempodial demo                    write three weeks of tracker files\n"
+                               "  tempodial sync                    make activities of them\n"
+                               "  tempodial list --from yesterday   look at them\n"
+                               "  tempodial projects set Riverside --subject riverside\n"
+                               "                                    add a project with a rule\n"
+                               "  tempodial apply Riverside         give it to the past seven days\n"
+                               "\n"
+                               "\"tempodial COMMAND --help\" tells more about a command.\n"
+                               "\n"
+                               "Exit status: 0 done; 1 not done, or not all of it; 2 unusable arguments; 3 the\n"
+                               "profile is in use by another process; 130 interrupted.";
 
-constexpr auto ProgramFooter
-    = "An example session, with an invented working life instead of a tracker:\n"
-      "  tempodial demo                                       write three weeks of tracker files\n"
-      "  tempodial sync                                       make activities of them\n"
-      "  tempodial list --from yesterday                      look at them\n"
-      "  tempodial projects set Riverside --subject riverside add a project with a rule\n"
-      "  tempodial apply Riverside                            give it to the past seven days\n"
-      "\n"
-      "\"tempodial COMMAND --help\" tells more about a command.\n"
-      "\n"
-      "Exit status: 0 done; 1 not done, or not all of it; 2 unusable arguments; 3 the profile is in use by another\n"
-      "process; 130 interrupted.";
-
-constexpr auto CommandFooter
-    = "The options of every command, such as --profile and --json, are listed by \"tempodial --help\".";
+constexpr auto CommandFooter = "\"tempodial --help\" lists the options of every command, such as --profile and\n"
+                               "--json.";
 
 /// The arguments as the parser wants them: it takes "--option=" for an option whose value is yet to come.
 std::vector<std::string> Prepared(const std::vector<std::string>& arguments)
@@ -73,7 +75,6 @@ CommandLine::CommandLine(std::vector<std::unique_ptr<Command>> commands, std::os
     , mApp(ProgramDescription, "tempodial")
 {
     mApp.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    mApp.get_formatter()->label("Subcommands", "Commands");
     mApp.get_formatter()->label("Positionals", "Arguments");
     mApp.get_formatter()->label("TEXT", "");
     mApp.get_formatter()->label("REQUIRED", "");
@@ -88,12 +89,11 @@ CommandLine::CommandLine(std::vector<std::unique_ptr<Command>> commands, std::os
 void CommandLine::DeclareOptions()
 {
     mApp.set_help_flag("-h,--help", "Show this help, or that of a command");
-    mApp.set_version_flag("--version", Version, "Show the version");
+    mApp.set_version_flag("--version", ProductVersion, "Show the version");
     mApp.add_option("--profile", mProfile,
-            "The folder that holds all that belongs to you; default TEMPODIAL_PROFILE, else tempodial in your data "
-            "folder")
+            "The folder that holds all that belongs to you; default\nTEMPODIAL_PROFILE, else ~/.local/share/tempodial")
         ->option_text("DIR");
-    mApp.add_option("--locale", mLocale, "The locale of dates and names, such as en_US; default from the environment")
+    mApp.add_option("--locale", mLocale, "The locale of dates and names, such as en_US; default\nfrom the environment")
         ->option_text("NAME");
     mApp.add_option("--now", mNow, "Run as if it were this moment; the clock goes on from there")
         ->option_text("YYYY-MM-DDTHH:MM:SS");
@@ -110,6 +110,7 @@ void CommandLine::DeclareCommand(Command& command)
     }
     app->description(command.About().summary);
     app->footer(command.About().details + "\n\n" + CommandFooter);
+    app->group("Commands");
     app->fallthrough();
     app->get_parent()->require_subcommand(0, 1);
     command.Declare(*app);
@@ -153,7 +154,7 @@ bool CommandLine::Parse(const std::vector<std::string>& arguments)
         mApp.parse(std::move(words));
         return true;
     } catch (const CLI::CallForVersion&) {
-        mOut << Version << "\n";
+        mOut << "tempodial " << ProductVersion << "\n";
     } catch (const CLI::Success&) {
         mOut << mApp.help();
     } catch (const CLI::ExtrasError&) {
@@ -171,6 +172,12 @@ bool CommandLine::Parse(const std::vector<std::string>& arguments)
 Options CommandLine::ReadOptions() const
 {
     Options options { .profile = mProfile, .locale = mLocale, .json = mJson, .quiet = mQuiet };
+    if (mProfile && mProfile->empty()) {
+        throw UsageError("--profile names no folder: give the path of one");
+    }
+    if (mLocale && !IcuLocaleFormats::IsKnown(*mLocale)) {
+        throw UsageError("there is no locale \"" + *mLocale + "\": give one such as en_US or de_DE");
+    }
     if (mNow) {
         options.now = ToMomentWithSeconds("--now", *mNow);
     }

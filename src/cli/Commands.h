@@ -10,4 +10,17 @@ namespace tempodial {
 /// All commands of the program, in the order in which the help lists them.
 std::vector<std::unique_ptr<Command>> AllCommands();
 
+/// The makers of the commands; each stands in the file of its command.
+std::unique_ptr<Command> MakeSyncCommand();
+std::unique_ptr<Command> MakeListCommand();
+std::unique_ptr<Command> MakeProjectsCommand();
+std::unique_ptr<Command> MakeProjectsSetCommand();
+std::unique_ptr<Command> MakeProjectsRemoveCommand();
+std::unique_ptr<Command> MakeProjectsMatchCommand();
+std::unique_ptr<Command> MakeApplyCommand();
+std::unique_ptr<Command> MakeAssignCommand();
+std::unique_ptr<Command> MakeDemoCommand();
+std::unique_ptr<Command> MakeTraceCommand();
+std::unique_ptr<Command> MakeRegistryCommand();
+
 }

@@ -2,7 +2,6 @@
 
 #include "base/Failure.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tempodial {
@@ -16,13 +15,14 @@ bool IsOrdinary(const Failure& failure)
 
 /// Runs an operation on a file and notes its failure.
 template <class Operation>
-auto Noting(FileProblems& problems, const char* what, const std::string& path, Operation&& operation)
+auto Noting(Problems& problems, const char* what, const std::string& path, Operation&& operation)
 {
     try {
         return operation();
     } catch (const Failure& failure) {
         if (!IsOrdinary(failure)) {
-            problems.Note(what, path, failure.Description());
+            problems.Note(path + " couldn't be " + what + ": " + failure.Description()
+                + ": see to the file and run the command again");
         }
         throw;
     }
@@ -31,7 +31,7 @@ auto Noting(FileProblems& problems, const char* what, const std::string& path, O
 class RecordingTextStream final : public TextStream
 {
 public:
-    RecordingTextStream(Ref<TextStream> inner, Ref<FileProblems> problems, std::string path)
+    RecordingTextStream(Ref<TextStream> inner, Ref<Problems> problems, std::string path)
         : mInner(std::move(inner))
         , mProblems(std::move(problems))
         , mPath(std::move(path))
@@ -61,21 +61,13 @@ public:
 
 private:
     Ref<TextStream> mInner;
-    Ref<FileProblems> mProblems;
+    Ref<Problems> mProblems;
     std::string mPath;
 };
 
 }
 
-void FileProblems::Note(const std::string& what, const std::string& path, const std::string& reason)
-{
-    auto message = path + " couldn't be " + what + ": " + reason + ": see to the file and run the command again";
-    if (std::find(mMessages.begin(), mMessages.end(), message) == mMessages.end()) {
-        mMessages.push_back(std::move(message));
-    }
-}
-
-RecordingFileSystem::RecordingFileSystem(Ref<FileSystemObject> inner, Ref<FileProblems> problems)
+RecordingFileSystem::RecordingFileSystem(Ref<FileSystemObject> inner, Ref<Problems> problems)
     : mInner(std::move(inner))
     , mProblems(std::move(problems))
 {

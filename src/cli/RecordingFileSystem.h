@@ -1,30 +1,18 @@
 #pragma once
 
+#include "cli/Problems.h"
 #include "platform/system/FileSystemObject.h"
 
 #include <string>
-#include <vector>
 
 namespace tempodial {
-
-/// What went wrong with files, one message each.
-class FileProblems
-{
-public:
-    /// Notes a failure, once for each file, what was done with it and reason.
-    void Note(const std::string& what, const std::string& path, const std::string& reason);
-    const std::vector<std::string>& Messages() const { return mMessages; }
-
-private:
-    std::vector<std::string> mMessages;
-};
 
 /// A file system that notes which files couldn't be read, written, copied, moved or deleted, and fails as before. That
 /// a file is absent, or at its end, is no problem.
 class RecordingFileSystem final : public FileSystemObject
 {
 public:
-    RecordingFileSystem(Ref<FileSystemObject> inner, Ref<FileProblems> problems);
+    RecordingFileSystem(Ref<FileSystemObject> inner, Ref<Problems> problems);
 
     std::string GetSpecialFolder(SpecialFolder folder) override;
     std::string BuildPath(const std::string& path, const std::string& name) override;
@@ -40,7 +28,7 @@ public:
 
 private:
     Ref<FileSystemObject> mInner;
-    Ref<FileProblems> mProblems;
+    Ref<Problems> mProblems;
 };
 
 }

@@ -147,11 +147,4 @@ int DisplayWidth(std::string_view text)
     return width;
 }
 
-bool IsUtf8(std::string_view text)
-{
-    bool valid = true;
-    ForEach(text, [&valid](const Decoded& decoded, std::string_view) { valid = valid && decoded.valid; });
-    return valid;
-}
-
 }

@@ -12,7 +12,5 @@ std::string Harmless(std::string_view text);
 std::string HarmlessLine(std::string_view text);
 /// Columns that a harmless text takes on a terminal: wide characters take two, combining ones none.
 int DisplayWidth(std::string_view text);
-/// True when the text is valid UTF-8.
-bool IsUtf8(std::string_view text);
 
 }

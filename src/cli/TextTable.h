@@ -10,11 +10,7 @@ class TextTable
 {
 public:
     /// Which side of its column a cell stands on.
-    enum class Side
-    {
-        Left,
-        Right
-    };
+    enum class Side { Left, Right };
 
     explicit TextTable(std::vector<Side> columns)
         : mColumns(std::move(columns))

@@ -1,0 +1,59 @@
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/ConnectedRun.h"
+#include "cli/Interruption.h"
+#include "cli/KnownProject.h"
+#include "cli/ProductFacts.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tempodial {
+
+namespace {
+
+class ApplyCommand final : public Command
+{
+public:
+    ApplyCommand()
+        : Command({ "apply", "Give a project to the past activities that its rules match",
+            "Goes over today's activities and those of the days before. Those that the\n"
+            "project's rules match get the project, also when they have another one\n"
+            "already. Ctrl-C stops it.\n"
+            "\n"
+            "  tempodial apply Riverside\n"
+            "  tempodial apply Riverside --days 21" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("NAME", mName, "The project")->required();
+        app.add_option("--days", mDays, "How many days, today being the last; default 7")->option_text("N");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        constexpr std::int32_t MostDays = 100'000;
+        const auto days = ToCount("--days", mDays, 1, MostDays);
+        const Interruption interruption;
+        ConnectedRun run(options);
+        const auto name = KnownProject::NameOf(run.AddIn(), mName);
+        if (!Interruption::IsRequested()) {
+            run.AddIn().ApplyProject(name, days);
+        }
+        return run.ConcludedWithChanges();
+    }
+
+private:
+    std::string mName;
+    std::string mDays = ApplyBackDays;
+};
+
+}
+
+std::unique_ptr<Command> MakeApplyCommand()
+{
+    return std::make_unique<ApplyCommand>();
+}
+
+}

@@ -1,0 +1,68 @@
+#include "cli/Arguments.h"
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/ConnectedRun.h"
+#include "cli/KnownProject.h"
+#include "cli/UsageError.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tempodial {
+
+namespace {
+
+class AssignCommand final : public Command
+{
+public:
+    AssignCommand()
+        : Command({ "assign", "Set a project on the activities of a span of time",
+            "Sets the project on the activities that start in the span, the first moment\n"
+            "included and the last one not, whatever the rules say. A project that there\n"
+            "isn't yet comes into being. Activities that have a project keep it, unless\n"
+            "--overwrite is given.\n"
+            "\n"
+            "  tempodial assign Riverside --from 2006-10-10T09:00 --to 2006-10-10T12:30" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("NAME", mName, "The project")->required();
+        app.add_option("--from", mFrom, "The first moment")->option_text("YYYY-MM-DDTHH:MM")->required();
+        app.add_option("--to", mTo, "The moment behind the last")->option_text("YYYY-MM-DDTHH:MM")->required();
+        app.add_flag("--overwrite", mOverwrite, "Also change activities that have a project");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        const auto from = ToMoment("--from", mFrom);
+        const auto to = ToMoment("--to", mTo);
+        if (from >= to) {
+            throw UsageError(
+                "--from " + mFrom + " isn't earlier than --to " + mTo + ": give the earlier moment as --from");
+        }
+        ConnectedRun run(options);
+        auto& addIn = run.AddIn();
+        const auto name = KnownProject::NameOrNew(addIn, mName);
+        if (const auto refusal = addIn.ValidateProject(name); !refusal.empty()) {
+            throw CommandError(refusal);
+        }
+        addIn.SetProjectForItems(name, false, true, from, to, mOverwrite);
+        return run.ConcludedWithChanges();
+    }
+
+private:
+    std::string mName;
+    std::string mFrom;
+    std::string mTo;
+    bool mOverwrite = false;
+};
+
+}
+
+std::unique_ptr<Command> MakeAssignCommand()
+{
+    return std::make_unique<AssignCommand>();
+}
+
+}

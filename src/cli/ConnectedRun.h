@@ -1,0 +1,39 @@
+#pragma once
+
+#include "cli/AddInSession.h"
+#include "cli/Options.h"
+#include "cli/Problems.h"
+#include "cli/Reply.h"
+#include "engine/core/TempodialMain.h"
+#include "host/profile/Profile.h"
+#include "host/store/Mailbox.h"
+
+#include <optional>
+
+namespace tempodial {
+
+/// A command's work through the add-in: the profile is opened, the add-in connected, and what goes wrong is noted.
+class ConnectedRun
+{
+public:
+    /// Fails with `ProfileInUse` or `ProfileError`.
+    explicit ConnectedRun(const Options& options);
+
+    /// The add-in's own members.
+    TempodialMain& AddIn() const { return mSession->Main(); }
+    /// What was saved since the add-in was connected.
+    const SaveStatistics& Saves() const { return mProfile.Mailbox()->Statistics(); }
+    /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.
+    Reply Concluded(Reply reply);
+    /// The same for a reply that tells how many items were saved.
+    Reply ConcludedWithChanges();
+
+private:
+    Ref<const Platform> Surroundings(const Options& options) const;
+
+    Profile mProfile;
+    Ref<Problems> mProblems = MakeRef<Problems>();
+    std::optional<AddInSession> mSession;
+};
+
+}

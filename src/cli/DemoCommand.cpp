@@ -1,0 +1,96 @@
+#include "cli/Arguments.h"
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/DemoTracker.h"
+#include "cli/OpenProfile.h"
+#include "cli/ProductFacts.h"
+#include "host/system/HostClock.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <limits>
+
+namespace tempodial {
+
+namespace {
+
+class DemoCommand final : public Command
+{
+public:
+    DemoCommand()
+        : Command({ "demo", "Write tracker files of an invented working life, for trying the program",
+            "Writes the files that a tracker would have written in the days up to now into\n"
+            "the data folder of the profile, unless tracker files are there already.\n"
+            "\"tempodial sync\" then makes activities of them. Older days than the 21 before\n"
+            "today wouldn't be imported, so there are at most 22.\n"
+            "\n"
+            "  tempodial --profile /tmp/try demo\n"
+            "  tempodial --profile /tmp/try sync" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("--days", mDays, "How many days, the last being today: 1 to 22; default 21")->option_text("N");
+        app.add_option("--seed", mSeed, "Another number gives another life; default 1")->option_text("N");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        constexpr auto MostSeed = std::numeric_limits<std::int32_t>::max();
+        const auto days = ToCount("--days", mDays, 1, SavedDataDays + 1);
+        const auto seed = static_cast<std::uint32_t>(ToCount("--seed", mSeed, 0, MostSeed));
+        const auto profile = OpenProfile(options);
+        const auto files = DemoTracker(seed, HostClock(options.now).Now()).Files(days);
+        RequireNoTrackerFiles(*profile.Surroundings().fileSystem, profile.DataFolder());
+        std::size_t lines = 0;
+        for (const auto& file : files) {
+            Write(profile, file);
+            lines += file.lines.size() - 1;
+        }
+        Reply reply;
+        reply.document["files"] = files.size();
+        reply.document["lines"] = lines;
+        reply.summary = std::to_string(files.size()) + " tracker files with " + std::to_string(lines) + " slots in "
+            + profile.DataFolder() + "\n\"tempodial sync\" makes activities of them.\n";
+        return reply;
+    }
+
+private:
+    static void RequireNoTrackerFiles(FileSystemObject& fileSystem, const std::string& folder)
+    {
+        if (!fileSystem.FolderExists(folder)) {
+            fileSystem.CreateFolder(folder);
+        }
+        const auto files = fileSystem.GetFolder(folder).files;
+        const auto found = std::find_if(
+            files.begin(), files.end(), [](const auto& file) { return file.name.starts_with("tracker_granules"); });
+        if (found != files.end()) {
+            throw CommandError(
+                "there are tracker files already, such as " + found->path + ": name an empty profile with --profile");
+        }
+    }
+
+    static void Write(const Profile& profile, const DemoFile& file)
+    {
+        const auto stream
+            = profile.Surroundings().fileSystem->OpenTextFile(DataPath(profile, file.name), OpenMode::Writing, true);
+        for (const auto& line : file.lines) {
+            stream->WriteLine(line);
+        }
+        stream->Close();
+    }
+
+    std::string mDays = "21";
+    std::string mSeed = "1";
+};
+
+}
+
+std::unique_ptr<Command> MakeDemoCommand()
+{
+    return std::make_unique<DemoCommand>();
+}
+
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "engine/core/TempodialMain.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// A project as the add-in keeps it.
+struct KnownProject
+{
+    std::string name;
+    /// "1", "2" or "3".
+    std::string precedence;
+    std::string subject;
+    std::string notSubject;
+    std::string people;
+
+    /// The project of that name.
+    static KnownProject Read(TempodialMain& addIn, const std::string& name);
+    /// All projects in the order in which they are tried.
+    static std::vector<KnownProject> ReadAll(TempodialMain& addIn);
+    /// The name of a project as it is kept, whatever the case of the letters given; fails with a `CommandError` when
+    /// there is no such project.
+    static std::string NameOf(TempodialMain& addIn, const std::string& name);
+    /// The same, or the name as it was given when there is no such project.
+    static std::string NameOrNew(TempodialMain& addIn, const std::string& name);
+
+    nlohmann::ordered_json ToJson() const;
+};
+
+}

@@ -1,0 +1,67 @@
+#include "cli/Commands.h"
+#include "cli/ConnectedRun.h"
+#include "cli/KnownProject.h"
+#include "cli/TextTable.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tempodial {
+
+namespace {
+
+std::string PrecedenceName(const std::string& precedence)
+{
+    if (precedence == "1") {
+        return "high";
+    }
+    return precedence == "3" ? "low" : "medium";
+}
+
+class ProjectsCommand final : public Command
+{
+public:
+    ProjectsCommand()
+        : Command({ "projects", "Show the projects and their rules, or change them",
+            "Without a command of its own it shows the projects in the order in which they\n"
+            "are tried. A rule is a list of words or phrases, commas or semicolons between.\n"
+            "An activity gets the first project of which a term of the subject rule is in\n"
+            "its subject, while none of the not-subject rule is, or of which the people\n"
+            "rule names one of its people.\n"
+            "\n"
+            "  tempodial projects\n"
+            "  tempodial projects set Riverside --subject \"riverside, kick-off\" --precedence high\n"
+            "  tempodial projects match \"Microsoft Word, \\\"Proposal Riverside.doc\\\"\"" })
+    {
+    }
+
+    void Declare(CLI::App&) override { }
+
+    Reply Run(const Options& options) override
+    {
+        using enum TextTable::Side;
+        ConnectedRun run(options);
+        const auto projects = KnownProject::ReadAll(run.AddIn());
+        Reply reply { .document = nlohmann::ordered_json::array() };
+        TextTable table({ Left, Left, Left, Left, Left });
+        if (!projects.empty()) {
+            table.Add({ "PROJECT", "PRECEDENCE", "SUBJECT", "NOT SUBJECT", "PEOPLE" });
+        }
+        for (const auto& project : projects) {
+            reply.document.push_back(project.ToJson());
+            table.Add({ project.name, PrecedenceName(project.precedence), project.subject, project.notSubject,
+                project.people });
+        }
+        reply.text = table.Text();
+        reply.summary = projects.empty() ? "No projects.\n" : "";
+        return run.Concluded(std::move(reply));
+    }
+};
+
+}
+
+std::unique_ptr<Command> MakeProjectsCommand()
+{
+    return std::make_unique<ProjectsCommand>();
+}
+
+}

@@ -1,0 +1,95 @@
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/ConnectedRun.h"
+#include "cli/KnownProject.h"
+#include "cli/UsageError.h"
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+
+namespace tempodial {
+
+namespace {
+
+std::string PrecedenceNumber(const std::string& name)
+{
+    if (name == "high") {
+        return "1";
+    }
+    if (name == "medium") {
+        return "2";
+    }
+    if (name == "low") {
+        return "3";
+    }
+    throw UsageError("--precedence can't be \"" + name + "\": give high, medium or low");
+}
+
+class ProjectsSetCommand final : public Command
+{
+public:
+    ProjectsSetCommand()
+        : Command({ "projects set", "Add a project or change one",
+            "What isn't named stays as it is; a new project has no rules and medium\n"
+            "precedence unless said.\n"
+            "\n"
+            "  tempodial projects set Riverside --subject \"riverside, kick-off\"\n"
+            "  tempodial projects set Riverside --people \"Ann Berger;Zoë Müller\" --precedence high\n"
+            "  tempodial projects set Riverside --subject \"\"" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("NAME", mName, "The project")->required();
+        app.add_option("--subject", mSubject, "Words and phrases of a subject that belong to the project")
+            ->option_text("RULE");
+        app.add_option("--not-subject", mNotSubject, "Words and phrases of a subject that don't")->option_text("RULE");
+        app.add_option("--people", mPeople, "People with whom the work is for the project")->option_text("RULE");
+        app.add_option("--precedence", mPrecedence, "Which projects are tried first: high, medium or low")
+            ->option_text("PRECEDENCE");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        const auto precedence = mPrecedence ? std::optional(PrecedenceNumber(*mPrecedence)) : std::nullopt;
+        for (const auto& rule : { mSubject, mNotSubject, mPeople }) {
+            if (rule && rule->find('|') != std::string::npos) {
+                throw CommandError(
+                    "a rule can't hold \"|\", since the list of projects couldn't be read back: leave it "
+                    "out of \""
+                    + *rule + "\"");
+            }
+        }
+        ConnectedRun run(options);
+        auto& addIn = run.AddIn();
+        const auto name = KnownProject::NameOrNew(addIn, mName);
+        const auto former = KnownProject::Read(addIn, name);
+        const auto refusal
+            = addIn.UpdateorAddProject(name, mSubject.value_or(former.subject), mNotSubject.value_or(former.notSubject),
+                mPeople.value_or(former.people), precedence.value_or(former.precedence), false);
+        if (!refusal.empty()) {
+            throw CommandError(refusal);
+        }
+        Reply reply { .document = KnownProject::Read(addIn, name).ToJson() };
+        reply.summary = "The project " + name + " is kept.\n";
+        return run.Concluded(std::move(reply));
+    }
+
+private:
+    std::string mName;
+    std::optional<std::string> mSubject;
+    std::optional<std::string> mNotSubject;
+    std::optional<std::string> mPeople;
+    std::optional<std::string> mPrecedence;
+};
+
+}
+
+std::unique_ptr<Command> MakeProjectsSetCommand()
+{
+    return std::make_unique<ProjectsSetCommand>();
+}
+
+}

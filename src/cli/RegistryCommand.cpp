@@ -1,0 +1,108 @@
+#include "base/Text.h"
+#include "cli/CommandError.h"
+#include "cli/Commands.h"
+#include "cli/OpenProfile.h"
+#include "cli/ProductFacts.h"
+#include "cli/UsageError.h"
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+
+namespace tempodial {
+
+namespace {
+
+Hive ToHive(const std::string& text)
+{
+    if (EqualIgnoringCase(text, "HKCU")) {
+        return Hive::CurrentUser;
+    }
+    if (EqualIgnoringCase(text, "HKLM")) {
+        return Hive::LocalMachine;
+    }
+    throw UsageError("there is no hive \"" + text + "\": give HKCU or HKLM");
+}
+
+class RegistryCommand final : public Command
+{
+public:
+    RegistryCommand()
+        : Command({ "registry", "Read and write the registry store",
+            "ACTION is get, set or delete, HIVE is HKCU or HKLM, and an empty KEY is the\n"
+            "product's own, Software\\Lindenfold\\Tempodial. get prints a value; set writes\n"
+            "TEXT; delete takes the value away and prints what it was. Getting or deleting\n"
+            "an absent value is an error.\n"
+            "\n"
+            "  tempodial registry get HKCU \"\" CurrentVersion\n"
+            "  tempodial registry set HKLM \"\" \"Install Directory\" /opt/templates\n"
+            "  tempodial registry delete HKLM \"\" \"Install Directory\"" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("ACTION", mAction, "get, set or delete")->required();
+        app.add_option("HIVE", mHive, "HKCU or HKLM")->required();
+        app.add_option("KEY", mKey, "The key, names with \\ between; \"\" for the product's own")->required();
+        app.add_option("VALUE", mValue, "The name of the value")->required();
+        app.add_option("TEXT", mText, "The text to set");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        const auto hive = ToHive(mHive);
+        const bool sets = mAction == "set";
+        if (!sets && mAction != "get" && mAction != "delete") {
+            throw UsageError("registry can't \"" + mAction + "\": give get, set or delete");
+        }
+        if (sets != mText.has_value()) {
+            throw UsageError(sets ? "registry set needs the text to set: give it behind the value's name"
+                                  : "registry " + mAction + " takes no text: leave \"" + *mText + "\" out");
+        }
+        const auto key = mKey.empty() ? ProductKey : mKey;
+        const auto profile = OpenProfile(options);
+        const auto& registry = profile.Registry();
+        if (sets) {
+            registry->Write(hive, key, mValue, *mText);
+        }
+        const auto value = registry->Get(hive, key, mValue);
+        if (value.IsEmpty()) {
+            throw CommandError("there is no value \"" + mValue + "\" under " + mHive + "\\" + key
+                + ": see to the names of hive, key and value");
+        }
+        if (mAction == "delete") {
+            registry->Delete(hive, key, mValue);
+        }
+        return ReplyWith(value, mAction == "get");
+    }
+
+private:
+    static Reply ReplyWith(const Variant& value, bool isAnswer)
+    {
+        Reply reply;
+        if (const auto* number = value.If<std::int32_t>()) {
+            reply.document["number"] = *number;
+        } else {
+            reply.document["text"] = value.ToText();
+        }
+        auto text = (value.If<std::int32_t>() ? std::to_string(value.ToInt32()) : value.ToText()) + "\n";
+        (isAnswer ? reply.text : reply.summary) = std::move(text);
+        return reply;
+    }
+
+    std::string mAction;
+    std::string mHive;
+    std::string mKey;
+    std::string mValue;
+    std::optional<std::string> mText;
+};
+
+}
+
+std::unique_ptr<Command> MakeRegistryCommand()
+{
+    return std::make_unique<RegistryCommand>();
+}
+
+}

@@ -1,0 +1,61 @@
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/OpenProfile.h"
+#include "cli/TraceTail.h"
+
+#include <CLI/CLI.hpp>
+
+#include <limits>
+
+namespace tempodial {
+
+namespace {
+
+class TraceCommand final : public Command
+{
+public:
+    TraceCommand()
+        : Command({ "trace", "Show the last lines of the trace",
+            "The trace tells step by step what was done and what went wrong. Its older\n"
+            "lines stand in WorkLogTrace2.out and the newer ones in WorkLogTrace1.out, in\n"
+            "the data folder of the profile.\n"
+            "\n"
+            "  tempodial trace\n"
+            "  tempodial trace --lines 200" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("--lines", mLines, "How many lines; default 20")->option_text("N");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        constexpr auto Most = std::numeric_limits<std::int32_t>::max();
+        TraceTail tail(static_cast<std::size_t>(ToCount("--lines", mLines, 1, Most)));
+        const auto profile = OpenProfile(options);
+        for (const auto* name : { "WorkLogTrace2.out", "WorkLogTrace1.out" }) {
+            tail.Read(*profile.Surroundings().fileSystem, DataPath(profile, name));
+        }
+        Reply reply;
+        const auto lines = tail.Lines();
+        reply.document["lines"] = lines;
+        for (const auto& line : lines) {
+            reply.text += line + "\n";
+        }
+        return reply;
+    }
+
+private:
+    std::string mLines = "20";
+};
+
+}
+
+std::unique_ptr<Command> MakeTraceCommand()
+{
+    return std::make_unique<TraceCommand>();
+}
+
+}
