@@ -1,0 +1,155 @@
+#include "scenarios/ProfileState.h"
+#include "support/Program.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto Now = "2006-10-10T17:00:00";
+
+std::string Slot(int start, int end, const std::string& nodes)
+{
+    return "<slot><StartTime>" + std::to_string(start) + "</StartTime><EndTime>" + std::to_string(end) + "</EndTime>"
+        + nodes + "</slot>\r\n";
+}
+
+std::string Word(const std::string& document)
+{
+    return "<AppType>2</AppType><WordDocName>" + document + "</WordDocName>";
+}
+
+/// A day of slots with everything that may stand in a file: continuations, details at a slot's end, end times that
+/// are equal or fall back, lines that aren't well-formed, a slot without times.
+std::string MixedDay(const std::string& prefix)
+{
+    std::string text = "tracker 1\r\n";
+    int time = 32400;
+    for (int i = 0; i < 12; ++i) {
+        const auto name = prefix + std::to_string(i) + ".doc";
+        text += Slot(time, time + 300, Word(name));
+        text += Slot(time + 300, time + 600, Word(name) + "<Continuation>1</Continuation>");
+        text += Slot(time + 400, time + 600, Word("aside " + name) + "<Detail>1</Detail>");
+        text += Slot(time + 450, time + 600, Word("more " + name) + "<Detail>1</Detail>");
+        time += 600;
+    }
+    text += "<slot><half written\r\n\r\n";
+    text += Slot(time, time + 300, Word(prefix + "first of two"));
+    text += Slot(time, time + 300, Word(prefix + "second of two"));
+    text += Slot(time - 600, time - 300, Word(prefix + "out of order"));
+    text += "<slot><AppType>8</AppType><WindowText>a.txt - Notepad</WindowText></slot>\r\n";
+    text += Slot(time + 300, time + 600, Word(prefix + "behind") + "<Project>Crash</Project>");
+    return text;
+}
+
+struct DataSet
+{
+    std::string name;
+    /// Day key and content of each tracker file.
+    std::vector<std::pair<std::string, std::string>> days;
+    std::string history;
+};
+
+void PrintTo(const DataSet& data, std::ostream* stream)
+{
+    *stream << data.name;
+}
+
+std::vector<DataSet> DataSets()
+{
+    return {
+        { "todayAndTwoPastDays",
+            { { "20061010", MixedDay("t") }, { "20061009", MixedDay("y") }, { "20061007", MixedDay("s") } }, "" },
+        { "pastDaysAlone", { { "20061009", MixedDay("y") }, { "20061008", MixedDay("s") } },
+            "|20061008_32700|20061009_33000" },
+        { "goingOnToday", { { "20061010", MixedDay("t") } }, "20061010_34200" },
+    };
+}
+
+void MakeProfile(const fs::path& profile, const DataSet& data)
+{
+    fs::create_directories(profile / "Tempodial");
+    for (const auto& [day, content] : data.days) {
+        std::ofstream(profile / "Tempodial" / ("tracker_granules" + day + ".out"), std::ios::binary) << content;
+    }
+    if (!data.history.empty()) {
+        std::ofstream(profile / "Tempodial" / "TempodialHistory.out", std::ios::binary) << data.history;
+    }
+}
+
+/// What is in one sorted list and not in the other, a line each.
+std::string Difference(const std::vector<std::string>& expected, const std::vector<std::string>& found)
+{
+    std::vector<std::string> missing;
+    std::vector<std::string> added;
+    std::set_difference(expected.begin(), expected.end(), found.begin(), found.end(), std::back_inserter(missing));
+    std::set_difference(found.begin(), found.end(), expected.begin(), expected.end(), std::back_inserter(added));
+    std::string text;
+    for (const auto& item : missing) {
+        text += "- " + item + "\n";
+    }
+    for (const auto& item : added) {
+        text += "+ " + item + "\n";
+    }
+    return text;
+}
+
+std::vector<std::string> Sync(const fs::path& profile)
+{
+    return { "--profile", profile.string(), "--locale", "en_US", "--now", Now, "--quiet", "sync" };
+}
+
+}
+
+class CrashTest : public testing::TestWithParam<DataSet>
+{
+};
+
+TEST_P(CrashTest, Sync_KilledAnywhere_EndsAsUndisturbedAfterTheNext)
+{
+    const TempFolder folder;
+    const auto& data = GetParam();
+    const auto undisturbed = fs::path(folder.Path()) / "undisturbed";
+    MakeProfile(undisturbed, data);
+    const auto whole = RunTempodialKilledAt(Sync(undisturbed), 0);
+    if (!whole) {
+        GTEST_SKIP() << "this system doesn't let a process be observed";
+    }
+    ASSERT_EQ(whole->status, 0) << whole->error;
+    const auto expected = StateOf(undisturbed, Now);
+    ASSERT_FALSE(expected.items.empty());
+
+    constexpr int Points = 25;
+    for (int i = 1; i <= Points; ++i) {
+        const auto call = whole->systemCalls * i / (Points + 1);
+        SCOPED_TRACE("killed at system call " + std::to_string(call) + " of " + std::to_string(whole->systemCalls));
+        const auto profile = fs::path(folder.Path()) / ("killed" + std::to_string(i));
+        MakeProfile(profile, data);
+        const auto killed = RunTempodialKilledAt(Sync(profile), call);
+        ASSERT_EQ(killed->status, 128 + 9);
+        const auto next = RunTempodial(Sync(profile));
+        EXPECT_EQ(next.status, 0) << next.error;
+        const auto state = StateOf(profile, Now);
+        EXPECT_EQ(Difference(expected.items, state.items), "");
+        EXPECT_EQ(state.history, expected.history);
+        EXPECT_EQ(state.trackerFiles, expected.trackerFiles);
+        fs::remove_all(profile);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    DataSets, CrashTest, testing::ValuesIn(DataSets()), [](const auto& data) { return data.param.name; });
+
+}
