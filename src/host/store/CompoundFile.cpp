@@ -12,9 +12,21 @@ namespace tempodial {
 
 namespace {
 
+/// Readies the library, which would tell of damaged files on the program's standard error; they are failures here.
+bool Initialise()
+{
+    gsf_init();
+    constexpr auto all = static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK | G_LOG_FLAG_FATAL | G_LOG_FLAG_RECURSION);
+    const auto drop = [](const gchar*, GLogLevelFlags, const gchar*, gpointer) {};
+    for (const char* domain : { static_cast<const char*>(nullptr), "libgsf", "libgsf:msole" }) {
+        g_log_set_handler(domain, all, drop, nullptr);
+    }
+    return true;
+}
+
 GsfInfile* Open(const std::string& bytes)
 {
-    static const bool initialised = (gsf_init(), true);
+    static const bool initialised = Initialise();
     static_cast<void>(initialised);
     const auto* data = static_cast<const guint8*>(static_cast<const void*>(bytes.data()));
     auto* input = gsf_input_memory_new(data, static_cast<gsf_off_t>(bytes.size()), FALSE);

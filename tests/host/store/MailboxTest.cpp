@@ -1,0 +1,238 @@
+#include "host/store/MailboxDatabase.h"
+#include "host/store/StoreFolder.h"
+#include "platform/objectmodel/Views.h"
+#include "support/FailureNumber.h"
+#include "support/TempFolder.h"
+#include "support/TestMailbox.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tempodial {
+
+using testing::HasSubstr;
+
+class MailboxTest : public testing::Test
+{
+protected:
+    static constexpr auto NotFound = static_cast<std::int32_t>(Error::ObjectNotFound);
+
+    Ref<Mailbox> mMailbox = OpenTestMailbox();
+};
+
+TEST_F(MailboxTest, FolderByPath_FindsFoldersBelowTheStore)
+{
+    mMailbox->FolderByPath("Calendar")->Folders()->Add("Tempodial", DefaultFolder::Calendar);
+    EXPECT_EQ(mMailbox->FolderByPath("calendar/TEMPODIAL")->FullFolderPath(), "\\\\Mailbox\\Calendar\\Tempodial");
+    EXPECT_EQ(mMailbox->FolderByPath("")->FullFolderPath(), "\\\\Mailbox");
+    EXPECT_EQ(mMailbox->PathOf(mMailbox->FolderByPath("")), "");
+    for (const auto* path : { "Absent", "Calendar/Absent", "Calendar//Tempodial", "/Calendar", "Calendar/" }) {
+        EXPECT_EQ(FailureNumber([&] { mMailbox->FolderByPath(path); }), NotFound) << path;
+    }
+}
+
+TEST_F(MailboxTest, Folder_Kind_IsAppointmentsOrMessages)
+{
+    const auto kind = [](const Ref<MAPIFolder>& folder) { return folder.As<StoreFolder>()->Kind(); };
+    EXPECT_EQ(kind(mMailbox->FolderByPath("Calendar")), DefaultFolder::Calendar);
+    EXPECT_EQ(kind(mMailbox->FolderByPath("Drafts")), DefaultFolder::Inbox);
+    EXPECT_EQ(kind(mMailbox->FolderByPath("Inbox")->Folders()->Add("x", DefaultFolder::Drafts)), DefaultFolder::Inbox);
+}
+
+TEST_F(MailboxTest, ItemById_UnknownIdentity_Fails)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    auto id = item->EntryID();
+    EXPECT_EQ(mMailbox->ItemById(id), item);
+    EXPECT_EQ(FailureNumber([&] { mMailbox->ItemById(""); }), NotFound);
+    EXPECT_EQ(FailureNumber([&] { mMailbox->ItemById(mMailbox->FolderByPath("Inbox")->EntryID()); }), NotFound);
+    EXPECT_EQ(FailureNumber([&] { mMailbox->ItemById(id + "0"); }), NotFound);
+    id.back() = 'x';
+    EXPECT_EQ(FailureNumber([&] { mMailbox->ItemById(id); }), NotFound);
+}
+
+TEST_F(MailboxTest, NewItem_RecurringItem_StaysRecurring)
+{
+    ItemData data;
+    data.messageClass = "IPM.Appointment";
+    data.recurring = true;
+    mMailbox->NewItem(mMailbox->FolderByPath("Calendar"), data)->Save();
+    EXPECT_TRUE(TestItems(mMailbox)->Find("[IsRecurring] = True").As<AppointmentItem>()->IsRecurring());
+}
+
+TEST_F(MailboxTest, Item_NobodyHoldsIt_UnsavedChangesAreGone)
+{
+    auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    item->SetSubject("b");
+    const auto id = item->EntryID();
+    item = nullptr;
+    EXPECT_EQ(mMailbox->ItemById(id)->Subject(), "a");
+}
+
+TEST_F(MailboxTest, HasChanges_TellsUnsavedOnes)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    EXPECT_TRUE(item->HasChanges());
+    item->Save();
+    EXPECT_FALSE(item->HasChanges());
+    item->SetSubject("b");
+    EXPECT_TRUE(item->HasChanges());
+    item->SetSubject("a");
+    EXPECT_FALSE(item->HasChanges());
+}
+
+TEST_F(MailboxTest, Display_CallsTheHook)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Display();
+    Ref<StoreItem> displayed;
+    mMailbox->SetDisplay([&](const Ref<StoreItem>& shown) { displayed = shown; });
+    item->Display();
+    EXPECT_EQ(displayed, item);
+}
+
+TEST_F(MailboxTest, RaiseOpenAndClose_TellWhetherAHandlerRefused)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    EXPECT_TRUE(item->RaiseOpen());
+    EXPECT_TRUE(item->RaiseClose());
+    AppointmentItemEvents events;
+    events.Open = [](bool& cancel) { cancel = true; };
+    events.Close = [](bool& cancel) { cancel = true; };
+    const auto subscription = item->Subscribe(events);
+    EXPECT_FALSE(item->RaiseOpen());
+    EXPECT_FALSE(item->RaiseClose());
+}
+
+TEST_F(MailboxTest, Statistics_CountSavesByWhatTheyChange)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    item->SetEnd(item->End().AddMinutes(5));
+    item->Save();
+    item->SetBody("detail");
+    item->Save();
+    item->Save();
+    EXPECT_EQ(mMailbox->Statistics().created, 1);
+    EXPECT_EQ(mMailbox->Statistics().extended, 1);
+    EXPECT_EQ(mMailbox->Statistics().detailed, 2);
+    EXPECT_TRUE(mMailbox->Statistics().failed.empty());
+    mMailbox->MarkStatistics();
+    EXPECT_EQ(mMailbox->Statistics().created, 0);
+    EXPECT_EQ(mMailbox->Statistics().detailed, 0);
+}
+
+TEST_F(MailboxTest, Statistics_FailedSave_IsNamed)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    AppointmentItemEvents events;
+    events.Write = [](bool& cancel) { cancel = true; };
+    const auto subscription = item->Subscribe(events);
+    EXPECT_NE(FailureNumber([&] { item->Save(); }), 0);
+    ASSERT_EQ(mMailbox->Statistics().failed.size(), 1U);
+    EXPECT_EQ(mMailbox->Statistics().failed.at(0).subject, "a");
+    EXPECT_EQ(mMailbox->Statistics().failed.at(0).message, "The save was refused");
+    EXPECT_EQ(mMailbox->Statistics().created, 0);
+}
+
+TEST_F(MailboxTest, Save_FullDisk_FailsAndTheItemStaysUnsaved)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->SetBody(std::string(100'000, 'x'));
+    auto& database = mMailbox->Database();
+    database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    EXPECT_EQ(FailureNumber([&] { item->Save(); }), 61);
+    EXPECT_EQ(item->EntryID(), "");
+    EXPECT_EQ(TestItems(mMailbox)->Count(), 0);
+    database.Execute("PRAGMA max_page_count = 100000");
+    item->Save();
+    EXPECT_EQ(TestItems(mMailbox)->Count(), 1);
+}
+
+TEST_F(MailboxTest, Save_FullDiskOnAChange_KeepsTheChangeUnsaved)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    auto& database = mMailbox->Database();
+    database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    item->SetBody(std::string(100'000, 'x'));
+    EXPECT_EQ(FailureNumber([&] { item->Save(); }), 61);
+    EXPECT_TRUE(item->HasChanges());
+    item->Close(CloseMode::Discard);
+    EXPECT_EQ(item->Body(), "");
+}
+
+TEST_F(MailboxTest, Save_LockedByAnother_Fails)
+{
+    const TempFolder folder;
+    const auto mailbox = OpenTestMailbox(folder.Path("mailbox.db"));
+    MailboxDatabase other(folder.Path("mailbox.db"));
+    mailbox->Database().Execute("PRAGMA busy_timeout = 0");
+    other.Execute("BEGIN IMMEDIATE");
+    const auto item = NewTestItem(mailbox, "a");
+    EXPECT_EQ(FailureNumber([&] { item->Save(); }), 70);
+    other.Execute("ROLLBACK");
+    item->Save();
+    EXPECT_NE(item->EntryID(), "");
+}
+
+TEST_F(MailboxTest, Item_PropertiesThatCanNotBeRead_Fails)
+{
+    NewTestItem(mMailbox, "a")->Save();
+    for (const std::string json : { "", "x", "{", "{\"a\"}", "{\"a\":[9]}", "{\"a\":[1,5]}", "{\"a\":[6,1]}",
+             "{\"a\":[1,\"\\q\"]}", "{\"a\":[1,\"x\"]", "{\"a\":[1,\"x\"]}}", "{\"a\":[5,\"x\"]}", "{\"a\":[1,\"x" }) {
+        mMailbox->Database().Execute("UPDATE item SET properties = '" + json + "'");
+        EXPECT_EQ(FailureNumber([&] { TestItems(mMailbox)->Item(1); }), 440) << json;
+    }
+    mMailbox->Database().Execute("UPDATE item SET properties = ' { \"a\" : [ 1 , \"x\" ] } '");
+    EXPECT_EQ(TestItems(mMailbox)->Item(1).As<AppointmentItem>()->UserProperties()->Item("A")->Value(), Variant("x"));
+}
+
+TEST_F(MailboxTest, SetView_MakesOrChangesAView)
+{
+    const auto folder = mMailbox->FolderByPath("Calendar");
+    mMailbox->SetView(folder, "List", ViewType::Table, "<view type=\"table\"/>");
+    mMailbox->SetView(folder, "list", ViewType::Table, "<view type=\"table\"><a/></view>");
+    ASSERT_EQ(folder->Views()->Count(), 2);
+    EXPECT_EQ(folder->Views()->Item(2)->Name(), "List");
+    EXPECT_EQ(folder->Views()->Item(2)->XML(), "<view type=\"table\"><a/></view>");
+    EXPECT_EQ(FailureNumber([&] { mMailbox->SetView(folder, "Other", ViewType::Table, "x"); }), 5);
+    EXPECT_EQ(folder->Views()->Count(), 2);
+}
+
+TEST_F(MailboxTest, DeleteView_ItsObjectsFail)
+{
+    const auto folder = mMailbox->FolderByPath("Calendar");
+    const auto view = folder->Views()->Item(1);
+    mMailbox->DeleteView(folder, "calendar");
+    EXPECT_EQ(folder->Views()->Count(), 0);
+    EXPECT_EQ(FailureNumber([&] { view->Name(); }), NotFound);
+    EXPECT_EQ(FailureNumber([&] { view->Save(); }), NotFound);
+    EXPECT_EQ(FailureNumber([&] { mMailbox->DeleteView(folder, "Calendar"); }), NotFound);
+}
+
+TEST_F(MailboxTest, Publish_UnchangedForm_WritesNothing)
+{
+    const FormTemplate form { "IPM.Appointment.Form", "Form", {}, "page" };
+    mMailbox->Forms().Publish(form);
+    const auto written = mMailbox->Database().Number("SELECT total_changes()");
+    mMailbox->Forms().Publish(form);
+    EXPECT_EQ(mMailbox->Database().Number("SELECT total_changes()"), written);
+    mMailbox->Forms().Publish({ "IPM.Appointment.FORM", "Other", {}, "page" });
+    EXPECT_EQ(mMailbox->FormOf("ipm.appointment.form")->displayName, "Other");
+    EXPECT_EQ(mMailbox->Database().Number("SELECT count(*) FROM form"), 1);
+}
+
+TEST_F(MailboxTest, Save_NothingChanged_WritesNothing)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    const auto written = mMailbox->Database().Number("SELECT total_changes()");
+    item->SetSubject("a");
+    item->Save();
+    EXPECT_EQ(mMailbox->Database().Number("SELECT total_changes()"), written);
+}
+
+}

@@ -1,0 +1,284 @@
+#include "host/store/StoreImportJournal.h"
+
+#include "host/store/MailboxDatabase.h"
+#include "support/FailureNumber.h"
+#include "support/KilledProcess.h"
+#include "support/TempFolder.h"
+#include "support/TestMailbox.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tempodial {
+
+class StoreImportJournalTest : public testing::Test
+{
+protected:
+    /// Lets the mailbox grow no more.
+    void FillDisk()
+    {
+        auto& database = mMailbox->Database();
+        database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    }
+    void FreeDisk() { mMailbox->Database().Execute("PRAGMA max_page_count = 1000000"); }
+    /// An item too large for a full disk.
+    Ref<StoreItem> LargeItem(const std::string& subject)
+    {
+        auto item = NewTestItem(mMailbox, subject);
+        item->SetBody(std::string(100'000, 'x'));
+        return item;
+    }
+    std::int32_t Stored() { return TestItems(mMailbox)->Count(); }
+
+    TempFolder mFolder;
+    std::string mPath = mFolder.Path("mailbox.db");
+    Ref<Mailbox> mMailbox = OpenTestMailbox();
+    Ref<StoreImportJournal> mJournal = MakeRef<StoreImportJournal>(mMailbox);
+};
+
+TEST_F(StoreImportJournalTest, Committed_NothingLoaded_IsNothing)
+{
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+}
+
+TEST_F(StoreImportJournalTest, Commit_KeepsThePositions)
+{
+    mJournal->Begin();
+    mJournal->Loaded("20061010", { 36000, 2 });
+    mJournal->Loaded("20061010", { 36300, 3 });
+    mJournal->Loaded("20061009", { 100, 1 });
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+    mJournal->Commit();
+    ASSERT_TRUE(mJournal->Committed("20061010"));
+    EXPECT_EQ(mJournal->Committed("20061010")->count, 36300);
+    EXPECT_EQ(mJournal->Committed("20061010")->lines, 3);
+    EXPECT_EQ(mJournal->Committed("20061009")->count, 100);
+    mJournal->End();
+}
+
+TEST_F(StoreImportJournalTest, End_CommitsTheRest)
+{
+    mJournal->Begin();
+    mJournal->Loaded("20061010", { 36000, 2 });
+    NewTestItem(mMailbox, "a")->Save();
+    mJournal->End();
+    EXPECT_EQ(mJournal->Committed("20061010")->count, 36000);
+    EXPECT_EQ(Stored(), 1);
+    EXPECT_FALSE(mMailbox->Database().IsHolding());
+}
+
+TEST_F(StoreImportJournalTest, HistorySaved_ForgetsThePositions)
+{
+    mJournal->Begin();
+    mJournal->Loaded("20061010", { 36000, 2 });
+    mJournal->Commit();
+    mJournal->Loaded("20061010", { 36300, 3 });
+    mJournal->HistorySaved();
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+    mJournal->End();
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+}
+
+TEST_F(StoreImportJournalTest, HistorySaved_AfterTheEnd_ForgetsThem)
+{
+    mJournal->Begin();
+    mJournal->Loaded("20061010", { 36000, 2 });
+    mJournal->End();
+    mJournal->HistorySaved();
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+}
+
+TEST_F(StoreImportJournalTest, Loaded_ManyLines_CommitsByItself)
+{
+    mJournal->Begin();
+    for (std::int32_t line = 1; line <= 2000; ++line) {
+        mJournal->Loaded("20061010", { line, line });
+    }
+    EXPECT_EQ(mJournal->Committed("20061010")->lines, 2000);
+    mJournal->End();
+}
+
+TEST_F(StoreImportJournalTest, Loaded_NothingBegun_Fails)
+{
+    EXPECT_EQ(FailureNumber([&] { mJournal->Loaded("20061010", { 1, 1 }); }), 5);
+}
+
+TEST_F(StoreImportJournalTest, CommitAndEnd_NothingBegun_DoNothing)
+{
+    mJournal->Commit();
+    mJournal->End();
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+}
+
+TEST_F(StoreImportJournalTest, Begin_Twice_CommitsAndGoesOn)
+{
+    mJournal->Begin();
+    mJournal->Loaded("20061010", { 36000, 2 });
+    mJournal->Begin();
+    EXPECT_TRUE(mJournal->Committed("20061010"));
+    mJournal->End();
+}
+
+TEST_F(StoreImportJournalTest, FullDisk_UndoesWhatWasNotCommitted)
+{
+    mJournal->Begin();
+    const auto kept = NewTestItem(mMailbox, "kept");
+    kept->Save();
+    mJournal->Loaded("20061010", { 100, 1 });
+    mJournal->Commit();
+    const auto keptId = kept->EntryID();
+    const auto lost = NewTestItem(mMailbox, "lost");
+    lost->Save();
+    kept->SetSubject("changed");
+    kept->Save();
+    mJournal->Loaded("20061010", { 200, 2 });
+    FillDisk();
+    const auto large = LargeItem("large");
+    EXPECT_EQ(FailureNumber([&] { large->Save(); }), 61);
+
+    EXPECT_EQ(large->EntryID(), "");
+    EXPECT_EQ(lost->EntryID(), "");
+    EXPECT_EQ(kept->EntryID(), keptId);
+    EXPECT_EQ(kept->Subject(), "changed");
+    EXPECT_TRUE(kept->HasChanges());
+    EXPECT_EQ(Stored(), 1);
+    EXPECT_EQ(mMailbox->Statistics().created, 1);
+    EXPECT_EQ(mMailbox->Statistics().detailed, 0);
+    EXPECT_EQ(mMailbox->Statistics().failed.size(), 1U);
+
+    // Nothing is written until the import has ended, lest its lines come in a second time.
+    FreeDisk();
+    EXPECT_EQ(FailureNumber([&] { lost->Save(); }), 61);
+    EXPECT_EQ(FailureNumber([&] { mJournal->Loaded("20061010", { 300, 3 }); }), 61);
+    EXPECT_EQ(FailureNumber([&] { mJournal->Commit(); }), 61);
+    EXPECT_EQ(mJournal->Committed("20061010")->count, 100);
+    EXPECT_EQ(FailureNumber([&] { mJournal->End(); }), 61);
+
+    lost->Save();
+    EXPECT_NE(lost->EntryID(), "");
+    EXPECT_EQ(Stored(), 2);
+    kept->Close(CloseMode::Discard);
+    EXPECT_EQ(kept->Subject(), "kept");
+}
+
+TEST_F(StoreImportJournalTest, FullDisk_UndoesFoldersFieldsAndMoves)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    const auto calendar = mMailbox->FolderByPath("Calendar");
+    mJournal->Begin();
+    const auto folder = calendar->Folders()->Add("New", DefaultFolder::Calendar);
+    item->UserProperties()->Add("Project", PropertyType::Text, true);
+    item->Move(mMailbox->FolderByPath("Inbox"));
+    mMailbox->RenameFolder(mMailbox->FolderByPath("Drafts"), "Entwürfe");
+    FillDisk();
+    EXPECT_EQ(FailureNumber([&] { LargeItem("large")->Save(); }), 61);
+    EXPECT_EQ(FailureNumber([&] { folder->Name(); }), static_cast<std::int32_t>(Error::ObjectNotFound));
+    EXPECT_EQ(calendar->Folders()->Count(), 0);
+    EXPECT_EQ(mMailbox->PathOf(item->Parent()), "Calendar");
+    EXPECT_EQ(mMailbox->FolderByPath("Drafts")->Name(), "Drafts");
+    EXPECT_EQ(FailureNumber([&] { calendar->Items()->Find("[Project] = \"\""); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mMailbox->RenameFolder(calendar, "x"); }), 61);
+    EXPECT_EQ(FailureNumber([&] { mJournal->End(); }), 61);
+}
+
+TEST_F(StoreImportJournalTest, FullDisk_LostItemsDoNotArrive)
+{
+    const auto items = TestItems(mMailbox);
+    int arrived = 0;
+    ItemsEvents events;
+    events.ItemAdd = [&](const Ref<OutlookItem>&) { ++arrived; };
+    const auto subscription = items->Subscribe(events);
+    mJournal->Begin();
+    NewTestItem(mMailbox, "lost")->Save();
+    FillDisk();
+    EXPECT_EQ(FailureNumber([&] { LargeItem("large")->Save(); }), 61);
+    mMailbox->DeliverEvents();
+    EXPECT_EQ(arrived, 0);
+    EXPECT_EQ(FailureNumber([&] { mJournal->End(); }), 61);
+}
+
+TEST_F(StoreImportJournalTest, FailedCommit_UndoesWhatWasNotCommitted)
+{
+    mMailbox = OpenTestMailbox(mPath);
+    mJournal = MakeRef<StoreImportJournal>(mMailbox);
+    mJournal->Begin();
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    mJournal->Loaded("20061010", { 100, 1 });
+    // A row of a folder that isn't there is noticed by the commit only.
+    mMailbox->Database().Execute("PRAGMA defer_foreign_keys = ON");
+    mMailbox->Database().Execute("UPDATE item SET folder = 999");
+    EXPECT_NE(FailureNumber([&] { mJournal->Commit(); }), 0);
+    EXPECT_EQ(item->EntryID(), "");
+    EXPECT_FALSE(mJournal->Committed("20061010"));
+    EXPECT_NE(FailureNumber([&] { mJournal->Loaded("20061010", { 200, 2 }); }), 0);
+    EXPECT_NE(FailureNumber([&] { mJournal->End(); }), 0);
+    item->Save();
+    EXPECT_EQ(Stored(), 1);
+}
+
+TEST_F(StoreImportJournalTest, Begin_AfterAFailure_StartsAnew)
+{
+    mJournal->Begin();
+    FillDisk();
+    EXPECT_EQ(FailureNumber([&] { LargeItem("large")->Save(); }), 61);
+    FreeDisk();
+    mJournal->Begin();
+    LargeItem("large")->Save();
+    mJournal->Loaded("20061010", { 100, 1 });
+    mJournal->End();
+    EXPECT_EQ(Stored(), 1);
+    EXPECT_TRUE(mJournal->Committed("20061010"));
+}
+
+TEST_F(StoreImportJournalTest, KilledBetweenCommits_TheNextProcessFindsTheLastCommit)
+{
+    ASSERT_TRUE(RunUntilKilled([&] {
+        const auto mailbox = OpenTestMailbox(mPath);
+        StoreImportJournal journal(mailbox);
+        journal.Begin();
+        NewTestItem(mailbox, "committed")->Save();
+        journal.Loaded("20061010", { 100, 1 });
+        journal.Commit();
+        NewTestItem(mailbox, "lost")->Save();
+        journal.Loaded("20061010", { 200, 2 });
+        KillThisProcess();
+    }));
+    const auto mailbox = OpenTestMailbox(mPath);
+    const auto items = TestItems(mailbox);
+    ASSERT_EQ(items->Count(), 1);
+    EXPECT_EQ(items->Item(1)->Subject(), "committed");
+    StoreImportJournal journal(mailbox);
+    ASSERT_TRUE(journal.Committed("20061010"));
+    EXPECT_EQ(journal.Committed("20061010")->count, 100);
+    EXPECT_EQ(journal.Committed("20061010")->lines, 1);
+}
+
+TEST_F(StoreImportJournalTest, KilledAfterHistorySaved_ThePositionsAreForgotten)
+{
+    ASSERT_TRUE(RunUntilKilled([&] {
+        StoreImportJournal journal(OpenTestMailbox(mPath));
+        journal.Begin();
+        journal.Loaded("20061010", { 100, 1 });
+        journal.Commit();
+        journal.HistorySaved();
+        KillThisProcess();
+    }));
+    EXPECT_FALSE(StoreImportJournal(OpenTestMailbox(mPath)).Committed("20061010"));
+}
+
+TEST_F(StoreImportJournalTest, MailboxLetGoOfWithinAnImport_KeepsTheLastCommit)
+{
+    {
+        const auto mailbox = OpenTestMailbox(mPath);
+        StoreImportJournal journal(mailbox);
+        journal.Begin();
+        NewTestItem(mailbox, "committed")->Save();
+        journal.Commit();
+        NewTestItem(mailbox, "lost")->Save();
+    }
+    EXPECT_EQ(TestItems(OpenTestMailbox(mPath))->Count(), 1);
+}
+
+}
