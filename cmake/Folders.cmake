@@ -58,3 +58,14 @@ function(tempodial_program name main)
         install(TARGETS ${name})
     endif()
 endfunction()
+
+# tempodial_module(NAME SOURCE [LINK TARGET...]): a module that the programs load while they run, from lib/tempodial
+# beside their own folder.
+function(tempodial_module name source)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LINK")
+    add_library(${name} MODULE "${PROJECT_SOURCE_DIR}/${source}")
+    target_link_libraries(${name} PRIVATE tempodial_options ${arg_LINK})
+    set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/tempodial"
+        CXX_VISIBILITY_PRESET hidden)
+    install(TARGETS ${name} DESTINATION lib/tempodial)
+endfunction()

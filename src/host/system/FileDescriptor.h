@@ -24,6 +24,8 @@ public:
 
     /// True until it is closed.
     bool IsOpen() const { return mNumber >= 0; }
+    /// The system's number of it, negative when it is closed.
+    int Number() const { return mNumber; }
     /// The file as it was when it was opened.
     const struct stat& Status() const { return mStatus; }
     /// Fails (70) when the owner may not write it.

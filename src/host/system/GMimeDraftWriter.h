@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/system/MimeMessage.h"
+#include "platform/system/MailDraftWriter.h"
+
+#include <string>
+
+namespace tempodial {
+
+/// Writes drafts as MIME messages by GMime. That is in a module of its own, loaded for the first draft, so that runs
+/// that write none don't pay for it.
+class GMimeDraftWriter final : public MailDraftWriter
+{
+public:
+    /// Takes the path of the module.
+    explicit GMimeDraftWriter(std::string modulePath);
+
+    /// Fails also (429) when the module can't be loaded.
+    void Write(const MailDraft& draft, const std::string& path) override;
+
+    /// The module that belongs to the running program, both installed and in a build tree.
+    static std::string ModuleOfThisProgram();
+
+private:
+    MimeMessageWriter Load();
+
+    std::string mModulePath;
+    MimeMessageWriter mWriteMessage = nullptr;
+};
+
+}

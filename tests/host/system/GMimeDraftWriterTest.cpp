@@ -1,0 +1,232 @@
+#include "host/system/GMimeDraftWriter.h"
+
+#include "base/Text.h"
+#include "support/FailureNumber.h"
+#include "support/TempFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <csignal>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <sys/resource.h>
+#include <vector>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto Text = "text/plain; charset=utf-8";
+
+std::string Hex(const std::string& bytes)
+{
+    std::string hex;
+    for (const char byte : bytes) {
+        std::array<char, 3> digits {};
+        std::snprintf(digits.data(), digits.size(), "%02x", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+        hex += digits.data();
+    }
+    return hex;
+}
+
+class GMimeDraftWriterTest : public testing::Test
+{
+protected:
+    /// What Python's email package reads in a draft.
+    std::vector<std::string> Read(const MailDraft& draft)
+    {
+        mWriter.Write(draft, mFolder.Path("draft.eml"));
+        const auto command = "python3 -B " TEMPODIAL_SOURCE_DIR "/tests/host/system/read_mail.py "
+            + mFolder.Path("draft.eml") + " 2>&1";
+        const std::unique_ptr<FILE, decltype(&::pclose)> output(::popen(command.c_str(), "r"), &::pclose);
+        std::string text;
+        for (int character = std::fgetc(output.get()); character != EOF; character = std::fgetc(output.get())) {
+            text += static_cast<char>(character);
+        }
+        auto lines = Split(text, "\n");
+        lines.pop_back();
+        return lines;
+    }
+
+    TempFolder mFolder;
+    GMimeDraftWriter mWriter { GMimeDraftWriter::ModuleOfThisProgram() };
+};
+
+TEST_F(GMimeDraftWriterTest, Write_PlainText_IsOnePart)
+{
+    EXPECT_THAT(Read({ { "support@tempodial.example" }, "Tempodial Problem Report", "Day: 1\r\nActual: x\r\n" }),
+        ElementsAre("headers: X-Unsent, Subject, To, MIME-Version, Content-Type, Content-Transfer-Encoding",
+            "subject: Tempodial Problem Report", "to: support@tempodial.example", "unsent: 1",
+            "part: text/plain utf-8 None None", Hex("Day: 1\r\nActual: x\r\n"), "bare line ends: 0",
+            "longest line: short", "defects: []"));
+}
+
+TEST_F(GMimeDraftWriterTest, Write_HtmlWithAttachments_KeepsTheirBytes)
+{
+    const std::string bytes("\x00\r\xff\n\r\nFrom x", 12);
+    const auto lines = Read({ {}, "s", "<p>x</p>", true,
+        { { "a.csv", "\"a\",1\r\n", "text/csv; charset=utf-8" }, { "b", bytes, "" }, { "empty.out", "", Text } } });
+    EXPECT_THAT(lines,
+        ElementsAre("headers: X-Unsent, Subject, MIME-Version, Content-Type", "subject: s", "to: None", "unsent: 1",
+            "part: text/html utf-8 None None", Hex("<p>x</p>"), "part: text/csv utf-8 attachment a.csv",
+            Hex("\"a\",1\r\n"), "part: application/octet-stream None attachment b", Hex(bytes),
+            "part: text/plain utf-8 attachment empty.out", "", "bare line ends: 0", "longest line: short",
+            "defects: []"));
+}
+
+struct WordsCase
+{
+    const char* name;
+    std::string words;
+    std::string read;
+};
+
+class GMimeDraftWriterWordsTest : public GMimeDraftWriterTest, public testing::WithParamInterface<WordsCase>
+{
+};
+
+TEST_P(GMimeDraftWriterWordsTest, Write_WordsInAnyScript_AreReadBack)
+{
+    const auto lines = Read({ {}, GetParam().words, "", false, { { GetParam().words, "x", Text } } });
+    ASSERT_EQ(lines.size(), 11U) << testing::PrintToString(lines);
+    EXPECT_EQ(lines[1], "subject: " + GetParam().read);
+    EXPECT_EQ(lines[6], "part: text/plain utf-8 attachment " + GetParam().read);
+    EXPECT_EQ(lines[8], "bare line ends: 0");
+    EXPECT_EQ(lines[10], "defects: []");
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, GMimeDraftWriterWordsTest,
+    testing::Values(WordsCase { "Latin", "plan.csv", "plan.csv" },
+        WordsCase { "LongDate", "Tempodial Tuesday, October 10, 2006 - Wednesday, October 11, 2006.csv",
+            "Tempodial Tuesday, October 10, 2006 - Wednesday, October 11, 2006.csv" },
+        WordsCase { "Umlauts", "Bericht für März.csv", "Bericht für März.csv" },
+        WordsCase { "Japanese", "2006年10月10日の作業報告書と計画の一覧を含む長い名前のファイル.csv",
+            "2006年10月10日の作業報告書と計画の一覧を含む長い名前のファイル.csv" },
+        WordsCase { "Arabic", "تقرير العمل ليوم الثلاثاء.csv", "تقرير العمل ليوم الثلاثاء.csv" },
+        WordsCase { "Emoji", "📝🗓️👩‍💻 report 📝🗓️👩‍💻 report 📝🗓️👩‍💻.csv",
+            "📝🗓️👩‍💻 report 📝🗓️👩‍💻 report 📝🗓️👩‍💻.csv" },
+        WordsCase { "Marks", "a \"b\"; c='d' %41 (e) <f>.csv", "a \"b\"; c='d' %41 (e) <f>.csv" },
+        WordsCase { "Long", std::string(250, 'x') + ".csv", std::string(250, 'x') + ".csv" },
+        WordsCase { "LineEnd", "a\r\nBcc: x@y.example", "a  Bcc: x@y.example" }),
+    [](const testing::TestParamInfo<WordsCase>& tested) { return std::string(tested.param.name); });
+
+struct BodyCase
+{
+    const char* name;
+    std::string body;
+    std::string read;
+};
+
+class GMimeDraftWriterBodyTest : public GMimeDraftWriterTest, public testing::WithParamInterface<BodyCase>
+{
+};
+
+TEST_P(GMimeDraftWriterBodyTest, Write_Body_IsReadBackEndedByALineEnd)
+{
+    for (const bool isHtml : { false, true }) {
+        const auto lines = Read({ {}, "s", GetParam().body, isHtml });
+        ASSERT_EQ(lines.size(), 9U);
+        EXPECT_EQ(lines[5], Hex(GetParam().read));
+        EXPECT_THAT(lines[6], "bare line ends: 0");
+        EXPECT_THAT(lines[7], "longest line: short");
+        EXPECT_THAT(lines[8], "defects: []");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Bodies, GMimeDraftWriterBodyTest,
+    testing::Values(BodyCase { "Empty", "", "" }, BodyCase { "LineEndAlone", "\r\n", "\r\n" },
+        BodyCase { "Lines", "a\r\n\r\n b \r\n", "a\r\n\r\n b \r\n" }, BodyCase { "NoLastEnd", "a\r\nb", "a\r\nb\r\n" },
+        BodyCase { "LineFeeds", "a\nb\n", "a\r\nb\r\n" }, BodyCase { "LoneReturn", "a\rb\r\n", "a\rb\r\n" },
+        BodyCase { "LongLine", std::string(5000, 'x') + "\r\n" + std::string(999, ' ') + "\r\n",
+            std::string(5000, 'x') + "\r\n" + std::string(999, ' ') + "\r\n" },
+        BodyCase { "Marks", ".\r\n..\r\nFrom me\r\n--=_Tempodial_1.2--\r\n=41=\r\n",
+            ".\r\n..\r\nFrom me\r\n--=_Tempodial_1.2--\r\n=41=\r\n" },
+        BodyCase { "Scripts", "計画\r\nخطة 📝\r\n", "計画\r\nخطة 📝\r\n" }),
+    [](const testing::TestParamInfo<BodyCase>& tested) { return std::string(tested.param.name); });
+
+TEST_F(GMimeDraftWriterTest, Write_LongSubject_IsFolded)
+{
+    std::string subject = "first";
+    for (int word = 0; word < 300; ++word) {
+        subject += word % 7 == 0 ? " 計画" : " word";
+    }
+    const auto lines = Read({ {}, subject, "x" });
+    EXPECT_EQ(lines[1], "subject: " + subject);
+    EXPECT_EQ(lines[7], "longest line: short");
+}
+
+TEST_F(GMimeDraftWriterTest, Write_BoundaryInABody_IsNoBoundary)
+{
+    const std::string text = "--=_Tempodial_1.2\r\n\r\n--=_Tempodial_1.2--\r\n";
+    const auto lines = Read({ {}, "s", text, false, { { "a", text, Text } } });
+    ASSERT_EQ(lines.size(), 11U);
+    EXPECT_EQ(lines[5], Hex(text));
+    EXPECT_EQ(lines[7], Hex(text));
+}
+
+TEST_F(GMimeDraftWriterTest, Write_SameDraft_GivesTheSameBytes)
+{
+    const MailDraft draft { { "a@b.example" }, "s", "計画", true, { { "a.csv", "x", "" } } };
+    mWriter.Write(draft, mFolder.Path("a.eml"));
+    GMimeDraftWriter(GMimeDraftWriter::ModuleOfThisProgram()).Write(draft, mFolder.Path("b.eml"));
+    EXPECT_EQ(mFolder.Read("a.eml"), mFolder.Read("b.eml"));
+    EXPECT_THAT(mFolder.Read("a.eml"), Not(HasSubstr("Date:")));
+    EXPECT_THAT(mFolder.Read("a.eml"), Not(HasSubstr("Message-I")));
+}
+
+TEST_F(GMimeDraftWriterTest, Write_LargeDraft_IsComplete)
+{
+    std::string body;
+    for (int line = 0; line < 200000; ++line) {
+        body += "line " + std::to_string(line) + " = x\r\n";
+    }
+    mWriter.Write({ {}, "s", body }, mFolder.Path("draft.eml"));
+    const auto written = mFolder.Read("draft.eml");
+    EXPECT_THAT(written, testing::EndsWith("line 199999 =3D x\r\n"));
+    EXPECT_EQ(Split(written, "\r\n").size(), 200000U + 7);
+}
+
+TEST_F(GMimeDraftWriterTest, Write_PathThatCantBeWritten_FailsAndLeavesNothing)
+{
+    EXPECT_EQ(FailureNumber([&] { mWriter.Write({}, mFolder.Path("absent/draft.eml")); }), 76);
+    EXPECT_EQ(FailureNumber([&] { mWriter.Write({}, mFolder.Path()); }), 70);
+}
+
+TEST_F(GMimeDraftWriterTest, Write_NoModule_FailsAndKeepsTheOldFile)
+{
+    mFolder.Write("draft.eml", "an older one");
+    GMimeDraftWriter writer(mFolder.Path("absent.so"));
+    EXPECT_EQ(FailureNumber([&] { writer.Write({}, mFolder.Path("draft.eml")); }), 429);
+    EXPECT_EQ(mFolder.Read("draft.eml"), "an older one");
+}
+
+TEST_F(GMimeDraftWriterTest, Write_FullDisk_FailsAndKeepsTheOldFile)
+{
+    mFolder.Write("draft.eml", "an older one");
+    struct rlimit former
+    {
+    };
+    ::getrlimit(RLIMIT_FSIZE, &former);
+    auto small = former;
+    small.rlim_cur = 1000;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    const auto number = FailureNumber([&] {
+        mWriter.Write({ {}, "s", std::string(100000, 'x') }, mFolder.Path("draft.eml"));
+    });
+    ::setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_TRUE(number == 57 || number == 61) << number;
+    EXPECT_EQ(mFolder.Read("draft.eml"), "an older one");
+}
+
+}
+
+}
