@@ -108,7 +108,7 @@ bool TempodialCommonUtils::PolicyInPlace(const Attempt& attempt)
     std::string settings;
     attempt([&] {
         settings = TempodialWin32APICalls::ReadRegistryValue(*mPlatform, Hive::CurrentUser,
-            "Software\\Policies\\Microsoft\\Security", "CheckAdminSettings", RegistryAccess::All)
+            R"(Software\Policies\Microsoft\Security)", "CheckAdminSettings", RegistryAccess::All)
                        .ToText();
     });
     attempt([&] { Trace("server security settings: " + settings); });

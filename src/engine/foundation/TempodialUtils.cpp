@@ -111,7 +111,7 @@ std::string TempodialUtils::GetPathToUserGuideFile(const std::string& filename)
 {
     const auto attempt = Failing("GetPathToUserGuideFile error ", LineShape::TextBlankStep);
     // Both backslashes are kept: file systems take the two as one separator.
-    return attempt.Get([&] { return mFileSystem->BuildPath(GetInstallFolderName() + "\\\\userguide", filename); });
+    return attempt.Get([&] { return mFileSystem->BuildPath(GetInstallFolderName() + R"(\\userguide)", filename); });
 }
 
 std::string TempodialUtils::GetTextValue(const Ref<XmlNode>& objXMLIn, std::string_view attrib)
@@ -146,8 +146,8 @@ void TempodialUtils::GetWorkDay(std::int32_t& startTime, std::int32_t& endTime, 
     const auto quiet = Failing("", LineShape::Silent);
     std::string key;
     const bool known = quiet([&] {
-        key = "Software\\Microsoft\\Office\\" + std::to_string(MajorVersion(mMain->mApplication->Version()))
-            + ".0\\Outlook\\Options\\Calendar";
+        key = R"(Software\Microsoft\Office\)" + std::to_string(MajorVersion(mMain->mApplication->Version()))
+            + R"(.0\Outlook\Options\Calendar)";
     });
     if (!known) {
         return;
@@ -220,6 +220,27 @@ void TempodialUtils::CleanUpOldFiles()
         if (isOld) {
             attempt([&] { Trace("old enough to delete"); });
             attempt([&] { mFileSystem->DeleteFile(file.path, false); });
+        }
+    }
+}
+
+void TempodialUtils::AttachDiagsFiles(const Ref<MailItem>& item, Date day, bool all)
+{
+    const auto attempt = Failing("Attachdiagsfiles error ", LineShape::TextBlankStep);
+    mStage = "attach files";
+    const auto dayFile = day.DayKey() + ".out";
+    mStage = "GDF";
+    const auto folder = attempt.Get([&] { return mMain->mCommonUtils->GetDataFolder(); });
+    mStage = "get files";
+    for (const auto& file : folder.files) {
+        mStage = "Iterate";
+        attempt([&] { Trace("file: " + file.name); });
+        const auto holds = [&](const char* word) { return InStrIgnoringCase(file.name, word) > 0; };
+        const bool isWanted = holds("trace1") || holds("trace2") || holds("TDCaptureLog1") || holds("TDCaptureLog2")
+            || (all && file.name.find(".out") != std::string::npos) || file.name.find(dayFile) != std::string::npos;
+        if (isWanted) {
+            mStage = "Buildpath";
+            attempt([&] { item->Attachments()->Add(mFileSystem->BuildPath(folder.path, file.name)); });
         }
     }
 }

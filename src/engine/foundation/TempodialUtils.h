@@ -3,6 +3,7 @@
 #include "base/Variant.h"
 #include "engine/foundation/TracedObject.h"
 #include "platform/controls/ComboBox.h"
+#include "platform/objectmodel/MailItem.h"
 
 #include <cstdint>
 #include <string>
@@ -57,6 +58,8 @@ public:
 
     /// Deletes tracker files that came into being before the days that are kept.
     void CleanUpOldFiles();
+    /// Attaches the trace, the capture logs and the tracker's file of a day to a mail, or all files of the tracker.
+    void AttachDiagsFiles(const Ref<MailItem>& item, Date day, bool all);
 
 private:
     Ref<FileSystemObject> mFileSystem;

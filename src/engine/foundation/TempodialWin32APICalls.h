@@ -14,7 +14,7 @@ class TempodialWin32APICalls
 {
 public:
     /// The key that an empty one stands for.
-    static constexpr const char* DefaultKey = "Software\\Lindenfold\\Tempodial";
+    static constexpr const char* DefaultKey = R"(Software\Lindenfold\Tempodial)";
 
     /// A text or a number, the empty text when nothing can be read. An absent key is made.
     static Variant ReadRegistryValue(const Platform& platform, Hive hive, const std::string& key,
