@@ -96,11 +96,21 @@ public:
     /// Makes the item of a form template; an absent template fails (53).
     std::function<Ref<AppointmentItem>(const std::string& path, const Ref<MAPIFolder>& folder)> fromTemplate;
 
+    /// Makes a mail; without it making one fails.
+    std::function<Ref<MailItem>()> newMail;
+
     std::string Version() const override { return "16.0.0.1"; }
     Ref<tempodial::Explorers> Explorers() override { return explorers; }
     Ref<tempodial::Inspectors> Inspectors() override { return inspectors; }
     Ref<NameSpace> GetNamespace(const std::string&) override { return nameSpace; }
     Ref<Explorer> ActiveExplorer() override { return activeExplorer; }
+    Ref<MailItem> CreateItem() override
+    {
+        if (!newMail) {
+            throw Failure(Error::Automation);
+        }
+        return newMail();
+    }
     Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override
     {
         if (!fromTemplate) {

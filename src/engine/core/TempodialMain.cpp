@@ -8,6 +8,7 @@
 #include "engine/import/TempodialDataHandler.h"
 #include "engine/projects/TempodialProjectManager.h"
 #include "engine/reports/TempodialAnalyser.h"
+#include "engine/reports/TempodialReport.h"
 #include "engine/worklog/TempodialWorkLog.h"
 
 namespace tempodial {
@@ -33,6 +34,7 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     mDataHandler = MakeRef<TempodialDataHandler>(mPlatform);
     mTempodialDebugLog = MakeRef<TempodialDebugLog>(mPlatform);
     mAnalyser = MakeRef<TempodialAnalyser>(mPlatform);
+    mTempodialReport = MakeRef<TempodialReport>(mPlatform);
     mProjectManager = MakeRef<TempodialProjectManager>(mPlatform);
     mStrings = MakeRef<TempodialStrings>();
     mConfig = MakeRef<TempodialConfig>();
@@ -71,6 +73,7 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     attempt([&] { mWorkLog->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mDataHandler->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mAnalyser->Initialize(shared_from_this(), application, mTempodialDebugLog); });
+    attempt([&] { mTempodialReport->Initialize(shared_from_this(), application, mTempodialDebugLog); });
     attempt([&] { mProjectManager->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mUtils->CleanUpOldFiles(); });
     attempt([&] { Trace("Initialized, run next "); });
@@ -179,6 +182,7 @@ void TempodialMain::Terminate()
     attempt([&] { Trace("Main terminate"); });
     end(mWorkLog, "clean worklog");
     end(mAnalyser, "clean analyser");
+    end(mTempodialReport, "clean reporter");
     end(mProjectManager, "clean ProjMan");
     end(mDataHandler, "clean data handler");
 
@@ -198,6 +202,7 @@ void TempodialMain::ZeroReferences()
 {
     mWorkLog = nullptr;
     mAnalyser = nullptr;
+    mTempodialReport = nullptr;
     mProjectManager = nullptr;
     mDataHandler = nullptr;
     mTempodialDebugLog = nullptr;

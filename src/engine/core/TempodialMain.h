@@ -17,6 +17,7 @@ class TempodialCommonUtils;
 class TempodialConfig;
 class TempodialDataHandler;
 class TempodialProjectManager;
+class TempodialReport;
 class TempodialStrings;
 class TempodialUtils;
 class TempodialWorkLog;
@@ -29,6 +30,7 @@ public:
     ~TempodialMain() override;
 
     Ref<TempodialDebugLog> mTempodialDebugLog;
+    Ref<TempodialReport> mTempodialReport;
     Ref<TempodialStrings> mStrings;
     Ref<TempodialConfig> mConfig;
     Ref<TempodialUtils> mUtils;
@@ -116,6 +118,11 @@ public:
     Ref<AppointmentItem> ReturnMatchingItem(const std::string& param, Date paramDate);
     /// The user has come to the work log folder: applies the view and imports.
     void SwitchingToTasklog();
+    /// Puts an e-mail with the diagnostic files of a day on the screen, for the user to send; nothing when cancelled.
+    void ReportProblem(const std::string& body, Date day, bool all, bool cancelled);
+    /// Puts an e-mail with a report over the days from start to end, both included, on the screen.
+    void CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed, bool createCSVFile,
+        bool htmlFormat, bool workDayOnly);
     /// Sets a project on the selected items, on the items of a range, or both.
     void SetProjectForItems(
         const std::string& project, bool selected, bool range, Date fromDate, Date toDate, bool override);
@@ -125,6 +132,9 @@ private:
     void CompareVersions();
     void ReadOutlookVersion();
     void LoadIcons();
+    /// Fills in the problem report's mail. Where the security guard refuses the recipient, e-mail objects are left alone
+    /// from then on.
+    void AddressProblemReport(const Ref<MailItem>& item, std::string body);
 
     Ref<TempodialWorkLog> mWorkLog;
     Ref<TempodialDataHandler> mDataHandler;

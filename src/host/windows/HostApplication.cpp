@@ -5,6 +5,7 @@
 #include "host/store/FormTemplateReader.h"
 #include "host/store/StoreItem.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tempodial {
@@ -26,6 +27,16 @@ Ref<NameSpace> HostApplication::GetNamespace(const std::string& type)
 Ref<Explorer> HostApplication::ActiveExplorer()
 {
     return mExplorers->Active();
+}
+
+Ref<MailItem> HostApplication::CreateItem()
+{
+    return MakeRef<HostMail>([shown = std::weak_ptr(mMails)](const Ref<HostMail>& mail) {
+        const auto mails = shown.lock();
+        if (mails && std::find(mails->begin(), mails->end(), mail) == mails->end()) {
+            mails->push_back(mail);
+        }
+    });
 }
 
 Ref<AppointmentItem> HostApplication::CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder)

@@ -5,9 +5,12 @@
 #include "host/store/Mailbox.h"
 #include "host/windows/HostExplorers.h"
 #include "host/windows/HostInspectors.h"
+#include "host/windows/HostMail.h"
 #include "platform/objectmodel/Application.h"
 
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -24,6 +27,8 @@ public:
     Ref<tempodial::Inspectors> Inspectors() override { return mInspectors; }
     Ref<NameSpace> GetNamespace(const std::string& type) override;
     Ref<Explorer> ActiveExplorer() override;
+    /// A new mail, which stands among the mails on the screen once it is displayed.
+    Ref<MailItem> CreateItem() override;
     /// Without a folder the item is to live in the default calendar.
     Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override;
     Subscription Subscribe(ApplicationEvents events) override { return mEvents.Subscribe(std::move(events)); }
@@ -36,12 +41,15 @@ public:
     Ref<HostExplorer> OpenExplorer(const Ref<MAPIFolder>& folder);
     /// The windows that are open.
     HostExplorers& Windows() { return *mExplorers; }
+    /// The mails on the screen, in the order in which they came up.
+    const std::vector<Ref<HostMail>>& Mails() const { return *mMails; }
 
 private:
     Ref<Mailbox> mMailbox;
     std::string mVersion;
     Ref<HostExplorers> mExplorers = MakeRef<HostExplorers>();
     Ref<HostInspectors> mInspectors = MakeRef<HostInspectors>();
+    std::shared_ptr<std::vector<Ref<HostMail>>> mMails = std::make_shared<std::vector<Ref<HostMail>>>();
     EventSource<ApplicationEvents> mEvents;
 };
 

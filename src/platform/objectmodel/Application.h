@@ -4,6 +4,7 @@
 #include "platform/objectmodel/AppointmentItem.h"
 #include "platform/objectmodel/Explorer.h"
 #include "platform/objectmodel/Inspector.h"
+#include "platform/objectmodel/MailItem.h"
 #include "platform/objectmodel/NameSpace.h"
 
 #include <functional>
@@ -34,6 +35,8 @@ public:
     virtual Ref<NameSpace> GetNamespace(const std::string& type) = 0;
     /// The explorer in front, nothing when there is none.
     virtual Ref<Explorer> ActiveExplorer() = 0;
+    /// A new mail, not yet saved or shown.
+    virtual Ref<MailItem> CreateItem() = 0;
     /// A new unsaved item of a form template, to live in a folder; fails as opening a file does.
     virtual Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) = 0;
 

@@ -157,8 +157,9 @@ TEST_F(TempodialMainTest, Terminate_EndsWorkersThenTraceThenTheRest)
     std::vector<std::string> words;
     std::copy_if(lines.begin(), lines.end(), std::back_inserter(words),
         [](const auto& line) { return line.starts_with("clean ") || line == "Main terminate"; });
-    EXPECT_THAT(
-        words, ElementsAre("Main terminate", "clean worklog", "clean analyser", "clean ProjMan", "clean data handler"));
+    EXPECT_THAT(words,
+        ElementsAre("Main terminate", "clean worklog", "clean analyser", "clean reporter", "clean ProjMan",
+            "clean data handler"));
     EXPECT_EQ(lines.back(), "TRACE SESSION STOP");
     EXPECT_FALSE(Main().mStrings || Main().mConfig || Main().mUtils || Main().mCommonUtils || Main().mNamespace
         || Main().mApplication || Main().mTempodialDebugLog || Main().mTempodialIcon);

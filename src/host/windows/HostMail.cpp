@@ -1,0 +1,83 @@
+#include "host/windows/HostMail.h"
+
+#include "base/Failure.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace tempodial {
+
+/// The attachments of a mail, which it keeps alive.
+class HostMail::AttachmentList final : public tempodial::Attachments
+{
+public:
+    explicit AttachmentList(std::shared_ptr<HostMail> mail)
+        : mMail(std::move(mail))
+    {
+    }
+
+    void Add(const std::string& path) override
+    {
+        std::ifstream file(path, std::ios::binary);
+        if (!file) {
+            throw Failure(Error::FileNotFound);
+        }
+        std::string content { std::istreambuf_iterator<char>(file), {} };
+        if (file.bad()) {
+            throw Failure(Error::DeviceError);
+        }
+        mMail->mDraft.attachments.push_back({ path.substr(path.find_last_of("/\\") + 1), std::move(content), "" });
+    }
+
+private:
+    std::shared_ptr<HostMail> mMail;
+};
+
+/// The recipients of a mail, which it keeps alive.
+class HostMail::RecipientList final : public tempodial::Recipients
+{
+public:
+    explicit RecipientList(std::shared_ptr<HostMail> mail)
+        : mMail(std::move(mail))
+    {
+    }
+
+    void Add(const std::string& address) override { mMail->mDraft.recipients.push_back(address); }
+
+private:
+    std::shared_ptr<HostMail> mMail;
+};
+
+HostMail::HostMail(Shower shower)
+    : mShower(std::move(shower))
+{
+}
+
+void HostMail::SetBody(const std::string& body)
+{
+    mDraft.body = body;
+    mDraft.isHtml = false;
+}
+
+void HostMail::SetHTMLBody(const std::string& html)
+{
+    mDraft.body = html;
+    mDraft.isHtml = true;
+}
+
+Ref<tempodial::Attachments> HostMail::Attachments()
+{
+    return MakeRef<AttachmentList>(shared_from_this());
+}
+
+Ref<tempodial::Recipients> HostMail::Recipients()
+{
+    return MakeRef<RecipientList>(shared_from_this());
+}
+
+void HostMail::Display()
+{
+    mShower(shared_from_this());
+}
+
+}
