@@ -1,0 +1,95 @@
+#include "cli/ProgramFixture.h"
+
+namespace tempodial {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// The commands that give projects to activities: on 9 October an activity at 09:00, on the 10th three from 09:00 on.
+class AssignCommandTest : public ProgramFixture
+{
+protected:
+    void SetUp() override
+    {
+        WriteTracker("20061010",
+            { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc", "<Project>Other</Project>"),
+                Word(33000, 33300, "c.doc") });
+        WriteTracker("20061009", { Word(32400, 32700, "a.doc") });
+        ASSERT_EQ(Run({ "sync" }).status, 0);
+    }
+    std::vector<std::string> Projects() const
+    {
+        std::vector<std::string> projects;
+        for (const auto& item : Json({ "list", "--from", "yesterday" })) {
+            projects.push_back(item.at("properties").at("Project"));
+            EXPECT_EQ(item.at("mileage"), projects.back());
+        }
+        return projects;
+    }
+    static nlohmann::json Changed(int count) { return { { "changed", count } }; }
+    static Arguments Assign(const std::string& name, const std::string& from, const std::string& to)
+    {
+        return { "assign", name, "--from", "2006-10-" + from, "--to", "2006-10-" + to };
+    }
+};
+
+}
+
+TEST_F(AssignCommandTest, Assign_Span_TakesItsBeginAndNotItsEnd)
+{
+    EXPECT_EQ(Json(Assign("Plan", "09T09:00", "10T09:10")), Changed(2));
+    EXPECT_THAT(Projects(), ElementsAre("Plan", "Plan", "Other", "No Project"));
+    EXPECT_EQ(Json({ "projects" }).size(), 6U) << "the project came into being";
+    EXPECT_EQ(Json(Assign("Plan", "09T09:00", "10T09:10")), Changed(0));
+}
+
+TEST_F(AssignCommandTest, Assign_Overwrite_ChangesThoseThatHaveAProject)
+{
+    auto arguments = Assign("Plan", "10T09:00", "10T23:59");
+    arguments.emplace_back("--overwrite");
+    EXPECT_EQ(Json(arguments), Changed(3));
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Plan", "Plan"));
+}
+
+TEST_F(AssignCommandTest, Assign_NameInOtherCase_GivesTheNameKept)
+{
+    EXPECT_EQ(Json(Assign("wISH", "10T09:00", "10T09:05")), Changed(1));
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Wish", "Other", "No Project"));
+}
+
+TEST_F(AssignCommandTest, Assign_Refused_ChangesNothing)
+{
+    EXPECT_EQ(Run(Assign("a|b", "10T09:00", "10T10:00")).error,
+        "tempodial: Project names may not include the | character.\n");
+    EXPECT_EQ(Run(Assign("a|b", "10T09:00", "10T10:00")).status, 1);
+    EXPECT_EQ(Run(Assign("<New project..>", "10T09:00", "10T10:00")).status, 1);
+    EXPECT_THAT(Refusal(Assign("Wish", "10T10:00", "10T10:00"), 2), HasSubstr("isn't earlier than --to"));
+    EXPECT_THAT(Refusal(Assign("Wish", "10", "10T10:00"), 2), HasSubstr("YYYY-MM-DDTHH:MM"));
+    EXPECT_THAT(Refusal({ "assign", "Wish", "--from", "2006-10-10T09:00" }, 2), HasSubstr("--to is required"));
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "No Project", "Other", "No Project"));
+    EXPECT_EQ(Json({ "projects" }).size(), 5U);
+}
+
+TEST_F(AssignCommandTest, Apply_Days_CountTodayAsTheFirst)
+{
+    Json({ "projects", "set", "Wish", "--subject", "\"a.doc\", \"b.doc\"" });
+    EXPECT_EQ(Json({ "apply", "wish", "--days", "1" }), Changed(2));
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Wish", "Wish", "No Project"));
+    EXPECT_EQ(Json({ "apply", "Wish" }), Changed(3)) << "what matches is saved again";
+    EXPECT_THAT(Projects(), ElementsAre("Wish", "Wish", "Wish", "No Project"));
+    EXPECT_EQ(Run({ "apply", "Wish" }).out, "3 activities changed\n");
+}
+
+TEST_F(AssignCommandTest, Apply_Refused_SaysWhy)
+{
+    EXPECT_THAT(Refusal({ "apply", "Nothing" }, 1), HasSubstr("there is no project \"Nothing\""));
+    EXPECT_THAT(Refusal({ "apply", "No Project" }, 1), HasSubstr("there is no project \"No Project\""));
+    for (const auto* days : { "0", "-1", "x", "1.5", "" }) {
+        EXPECT_THAT(Refusal({ "apply", "Wish", "--days", days }, 2), HasSubstr("--days can't be"));
+    }
+    EXPECT_THAT(Refusal({ "apply" }, 2), HasSubstr("NAME is required"));
+}
+
+}

@@ -1,0 +1,96 @@
+#include "cli/ProgramFixture.h"
+
+#include <sys/stat.h>
+
+namespace tempodial {
+
+namespace {
+
+using testing::HasSubstr;
+
+class DemoCommandTest : public ProgramFixture
+{
+protected:
+    std::size_t Files() const
+    {
+        std::size_t count = 0;
+        for (const auto& entry : std::filesystem::directory_iterator(mProfile + "/Tempodial")) {
+            count += entry.path().filename().string().starts_with("tracker_granules") ? 1 : 0;
+        }
+        return count;
+    }
+    static mode_t Mode(const std::string& path)
+    {
+        struct stat status
+        {
+        };
+        EXPECT_EQ(::stat(path.c_str(), &status), 0);
+        return status.st_mode & 0777U;
+    }
+};
+
+}
+
+TEST_F(DemoCommandTest, Demo_NewProfile_WritesFilesForItsUserAlone)
+{
+    const auto written = Json({ "demo" });
+    EXPECT_EQ(written.at("files"), Files());
+    EXPECT_GT(written.at("lines"), 500);
+    EXPECT_EQ(Mode(mProfile), 0700U);
+    EXPECT_EQ(Mode(mProfile + "/Tempodial"), 0700U);
+    EXPECT_EQ(Mode(DataPath("tracker_granules20061010.out")), 0600U);
+    EXPECT_FALSE(std::filesystem::exists(DataPath("WorkLogTrace1.out")));
+}
+
+TEST_F(DemoCommandTest, Demo_Lines_AreAllImported)
+{
+    const auto lines = Json({ "demo", "--days", "3" }).at("lines").get<int>();
+    const auto counts = Json({ "sync" });
+    EXPECT_EQ(
+        counts.at("created").get<int>() + counts.at("extended").get<int>() + counts.at("detailed").get<int>(), lines);
+    EXPECT_FALSE(Json({ "list" }).empty());
+    EXPECT_EQ(Json({ "sync" }).at("detailed"), 0);
+    const auto text = mFolder.Read("profile/Tempodial/tracker_granules20061010.out");
+    EXPECT_TRUE(text.ends_with("</slot>\r\n"));
+}
+
+TEST_F(DemoCommandTest, Demo_EarlyHours_HaveActivitiesUpToNow)
+{
+    for (const auto& [now, lines] : { std::pair("2006-10-10T00:07:00", 1), std::pair("2006-10-10T00:00:00", 0) }) {
+        mNow = now;
+        EXPECT_EQ(Json({ "demo", "--days", "1" }), (nlohmann::json { { "files", 1 }, { "lines", lines } }));
+        std::filesystem::remove_all(mProfile);
+    }
+}
+
+TEST_F(DemoCommandTest, Demo_SeedAndMoment_DecideTheFiles)
+{
+    const auto text = [this](const std::string& seed) {
+        std::filesystem::remove_all(mProfile);
+        Json({ "demo", "--days", "1", "--seed", seed });
+        return mFolder.Read("profile/Tempodial/tracker_granules20061010.out");
+    };
+    const auto first = text("1");
+    EXPECT_EQ(text("1"), first);
+    EXPECT_NE(text("2"), first);
+}
+
+TEST_F(DemoCommandTest, Demo_TrackerFilesThere_IsRefused)
+{
+    for (const auto* name : { "tracker_granules20050101.out", "tracker_granules(done)20050101.out" }) {
+        WriteData(name, "x\r\n");
+        EXPECT_THAT(Refusal({ "demo" }, 1), HasSubstr(name));
+        EXPECT_EQ(Files(), 1U);
+        std::filesystem::remove(DataPath(name));
+    }
+}
+
+TEST_F(DemoCommandTest, Demo_BadNumbers_AreUsageErrors)
+{
+    for (const auto* days : { "0", "23", "x", "-1", "" }) {
+        EXPECT_THAT(Refusal({ "demo", "--days", days }, 2), HasSubstr("from 1 to 22"));
+    }
+    EXPECT_THAT(Refusal({ "demo", "--seed", "x" }, 2), HasSubstr("--seed can't be"));
+}
+
+}

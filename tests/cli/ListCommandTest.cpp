@@ -1,0 +1,132 @@
+#include "cli/ProgramFixture.h"
+
+namespace tempodial {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class ListCommandTest : public ProgramFixture
+{
+protected:
+    void Import()
+    {
+        WriteTracker(
+            "20061010", { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc", "<Project>Plan</Project>") });
+        WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
+        WriteTracker("20061007", { Word(32400, 32700, "s\xc3\xbc\xc3\x9f.doc") });
+        ASSERT_EQ(Run({ "sync" }).status, 0);
+    }
+};
+
+constexpr auto A = "Microsoft Word, \"a.doc\"";
+constexpr auto B = "[Plan] Microsoft Word, \"b.doc\"";
+constexpr auto Y = "Microsoft Word, \"y.doc\"";
+constexpr auto S = "Microsoft Word, \"s\xc3\xbc\xc3\x9f.doc\"";
+
+}
+
+TEST_F(ListCommandTest, List_NewProfile_IsEmpty)
+{
+    EXPECT_EQ(Json({ "list" }), nlohmann::json::array());
+    EXPECT_EQ(Run({ "list" }).out, "No activities.\n");
+    EXPECT_EQ(Run({ "list", "--quiet" }).out, "");
+}
+
+TEST_F(ListCommandTest, List_Ranges_TakeBothDays)
+{
+    Import();
+    EXPECT_THAT(Subjects(Json({ "list" })), ElementsAre(A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "today", "--to", "today" })), ElementsAre(A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "yesterday" })), ElementsAre(Y, A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--to", "yesterday" })), ElementsAre(Y));
+    EXPECT_THAT(Subjects(Json({ "list", "--to", "2006-10-12" })), ElementsAre(A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "2006-10-07", "--to", "2006-10-09" })), ElementsAre(S, Y));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "0100-01-01", "--to", "9999-12-31" })), ElementsAre(S, Y, A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "2006-10-11" })), ElementsAre());
+}
+
+TEST_F(ListCommandTest, List_OtherLocales_FindTheSame)
+{
+    Import();
+    for (const auto* locale : { "de_DE", "ja_JP", "ar_EG", "th_TH", "fa_IR", "en_GB" }) {
+        const auto result = RunTempodial({ "--profile", mProfile, "--locale", locale, "--now", mNow, "--json", "list",
+            "--from", "2006-10-07", "--to", "2006-10-10" });
+        EXPECT_EQ(result.status, 0) << locale << result.error;
+        EXPECT_THAT(Subjects(nlohmann::json::parse(result.out)), ElementsAre(S, Y, A, B)) << locale;
+    }
+}
+
+TEST_F(ListCommandTest, List_Project_IsExact)
+{
+    Import();
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "Plan" })), ElementsAre(B));
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "plan" })), ElementsAre());
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "No Project" })), ElementsAre(A));
+}
+
+TEST_F(ListCommandTest, List_Item_HasItsFields)
+{
+    WriteTracker("20061010",
+        { Word(36000, 36300, "plan.doc", "<Project>Plan</Project>"),
+            Word(36300, 36600, "plan.doc", "<Continuation>1</Continuation><Project>Plan</Project>") });
+    Run({ "sync" });
+    auto item = Json({ "list" }).at(0);
+    EXPECT_GE(item.at("entryId").get<std::string>().size(), 1U);
+    item.erase("entryId");
+    EXPECT_EQ(item, nlohmann::json::parse(R"({
+        "messageClass": "IPM.Appointment.TDActivity1", "subject": "[Plan] Microsoft Word, \"plan.doc\"",
+        "start": "2006-10-10T10:00:00", "end": "2006-10-10T10:10:00", "duration": 10, "body": "",
+        "mileage": "Plan", "billingInformation": "\"plan.doc\"",
+        "properties": { "Type": "Microsoft Word", "Day": "2006-10-10T00:00:00", "StartTime": "10:00",
+            "Project": "Plan", "Description": "\"plan.doc\"", "People": "",
+            "Keyword": "<word or phrase to match an activity to this project>", "ApplyPast": false } })"));
+}
+
+TEST_F(ListCommandTest, List_ForPeople_IsATable)
+{
+    Import();
+    EXPECT_EQ(Run({ "list" }).out,
+        "09:00–09:05  5 min  Microsoft Word, \"a.doc\"\n"
+        "09:05–09:10  5 min  [Plan] Microsoft Word, \"b.doc\"\n"
+        "\n"
+        "2 activities, 10 min\n");
+    EXPECT_THAT(Run({ "list", "--from", "yesterday" }).out,
+        testing::StartsWith("Monday, October 9, 2006\n09:00–09:05  5 min  Microsoft Word, \"y.doc\"\n\nTuesday, "));
+}
+
+TEST_F(ListCommandTest, List_CaptionWithControlCharacters_IsHarmlessForPeopleAndWholeInJson)
+{
+    WriteTracker("20061010", { Word(32400, 32700, "a&#9;\xe2\x80\xae.doc") });
+    Run({ "sync" });
+    EXPECT_THAT(Run({ "list" }).out, HasSubstr("Microsoft Word, \"a .doc\"\n"));
+    EXPECT_THAT(Subjects(Json({ "list" })), ElementsAre("Microsoft Word, \"a\t\xe2\x80\xae.doc\""));
+}
+
+TEST_F(ListCommandTest, List_NoIdentityInTheRegistry_FindsTheCalendarsFolder)
+{
+    Import();
+    EXPECT_EQ(Run({ "registry", "delete", "HKCU", "", "Outlook Folder Unique ID" }).status, 0);
+    EXPECT_THAT(Subjects(Json({ "list" })), ElementsAre(A, B));
+}
+
+TEST_F(ListCommandTest, List_BadRanges_AreUsageErrors)
+{
+    EXPECT_THAT(Refusal({ "list", "--from", "2006-10-10", "--to", "2006-10-09" }, 2), HasSubstr("is later than --to"));
+    EXPECT_THAT(Refusal({ "list", "--from", "tomorrow" }, 2), HasSubstr("--from can't be \"tomorrow\""));
+    EXPECT_THAT(Refusal({ "list", "--to", "2006-02-29" }, 2), HasSubstr("YYYY-MM-DD"));
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+TEST_F(ListCommandTest, List_AnyTime_LeavesNoTrace)
+{
+    Import();
+    const auto before = std::filesystem::file_size(DataPath("WorkLogTrace1.out"));
+    Run({ "list" });
+    Run({ "trace" });
+    Run({ "registry", "get", "HKCU", "", "CurrentVersion" });
+    EXPECT_EQ(std::filesystem::file_size(DataPath("WorkLogTrace1.out")), before);
+}
+
+}

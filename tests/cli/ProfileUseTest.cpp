@@ -1,0 +1,133 @@
+#include "cli/ProgramFixture.h"
+#include "host/profile/ProfileFolder.h"
+
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tempodial {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// What holds for every command that opens the profile.
+class ProfileUseTest : public ProgramFixture, public testing::WithParamInterface<std::vector<std::string>>
+{
+protected:
+    std::string Write(const std::string& name, const std::string& content) const
+    {
+        std::filesystem::create_directories(mProfile);
+        return mFolder.Write("profile/" + name, content);
+    }
+};
+
+std::string NameOf(const testing::TestParamInfo<std::vector<std::string>>& info)
+{
+    std::string name = info.param.front();
+    if (info.param.size() > 1 && (name == "projects" || name == "registry")) {
+        name += info.param[1];
+    }
+    return name;
+}
+
+}
+
+TEST_P(ProfileUseTest, Run_ProfileInUse_GivesStatus3)
+{
+    const ProfileFolder used(mProfile);
+    EXPECT_THAT(Refusal(GetParam(), 3), HasSubstr("is in use by another process"));
+}
+
+TEST_P(ProfileUseTest, Run_DamagedRegistry_IsNamedAndKept)
+{
+    const std::string content = "[HKCU\nA = \n";
+    const auto path = Write("registry.toml", content);
+    EXPECT_THAT(Refusal(GetParam(), 1), HasSubstr(path));
+    EXPECT_EQ(mFolder.Read("profile/registry.toml"), content);
+}
+
+TEST_P(ProfileUseTest, Run_DamagedMailbox_IsNamedAndKept)
+{
+    const std::string content(5000, 'x');
+    const auto path = Write("mailbox.db", content);
+    EXPECT_THAT(Refusal(GetParam(), 1), HasSubstr(path));
+    EXPECT_EQ(mFolder.Read("profile/mailbox.db"), content);
+}
+
+TEST_P(ProfileUseTest, Run_ProfileThatCantBeMade_IsNamed)
+{
+    mProfile = mFolder.Write("file", "x") + "/profile";
+    EXPECT_THAT(Refusal(GetParam(), 1), HasSubstr(mProfile));
+}
+
+TEST_P(ProfileUseTest, Run_Help_OpensNothing)
+{
+    auto arguments = GetParam();
+    arguments.emplace_back("--help");
+    const auto result = Run(arguments);
+    EXPECT_EQ(result.status, 0) << result.error;
+    EXPECT_THAT(result.out, HasSubstr("Usage: tempodial " + GetParam().front()));
+    EXPECT_THAT(result.out, HasSubstr("\n  tempodial ")) << "an example";
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, ProfileUseTest, testing::ValuesIn(OneOfEachCommand()), NameOf);
+
+class ProgramTest : public ProgramFixture
+{
+};
+
+TEST_F(ProgramTest, Version_OpensNothing)
+{
+    EXPECT_EQ(Run({ "--version" }).out, "tempodial 1.2.0\n");
+    EXPECT_EQ(Run({ "list", "--version" }).out, "tempodial 1.2.0\n");
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+TEST_F(ProgramTest, Help_ListsTheCommands)
+{
+    const auto help = Run({ "--help" }).out;
+    for (const auto& command : OneOfEachCommand()) {
+        EXPECT_THAT(help, HasSubstr("\n  " + command.front() + " "));
+    }
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+TEST_F(ProgramTest, NoCommand_IsAUsageError)
+{
+    EXPECT_THAT(Refusal({}, 2), HasSubstr("no command is given"));
+    EXPECT_THAT(Refusal({ "unknown" }, 2), HasSubstr("there is no command \"unknown\""));
+    EXPECT_THAT(Refusal({ "projects", "unknown" }, 2), HasSubstr("\"unknown\" isn't expected here"));
+}
+
+TEST_F(ProgramTest, NewProfile_IsForItsUserAlone)
+{
+    EXPECT_EQ(Run({ "list" }).status, 0);
+    struct stat status
+    {
+    };
+    ASSERT_EQ(::stat(mProfile.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0700U);
+}
+
+TEST_F(ProgramTest, UnwritableProfile_IsNamed)
+{
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "nothing is unwritable for root";
+    }
+    Json({ "projects" });
+    std::filesystem::permissions(mProfile, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    EXPECT_THAT(Refusal({ "sync" }, 1), HasSubstr(mProfile));
+    std::filesystem::permissions(mProfile, std::filesystem::perms::owner_all);
+}
+
+TEST_F(ProgramTest, BadProfileAndLocale_AreUsageErrors)
+{
+    EXPECT_EQ(RunTempodial({ "--profile", "", "list" }).status, 2);
+    EXPECT_EQ(RunTempodial({ "--profile", mProfile, "--locale", "nowhere", "list" }).status, 2);
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+}

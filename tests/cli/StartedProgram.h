@@ -1,0 +1,44 @@
+#pragma once
+
+#include <csignal>
+#include <string>
+#include <sys/resource.h>
+#include <sys/types.h>
+#include <vector>
+
+namespace tempodial {
+
+/// The built program, started with standard error on a terminal of its own, and standard output where a test wants it.
+class StartedProgram
+{
+public:
+    struct Settings
+    {
+        /// The file that standard output goes to, "" for none at all: the stream is closed.
+        std::string output = "/dev/null";
+        /// The largest size of a file that may be written, in bytes.
+        rlim_t largestFile = RLIM_INFINITY;
+    };
+
+    StartedProgram(const std::vector<std::string>& arguments, const Settings& settings);
+    ~StartedProgram();
+    StartedProgram(const StartedProgram&) = delete;
+    StartedProgram& operator=(const StartedProgram&) = delete;
+
+    /// Waits until the terminal shows a text; false when the program ends before.
+    bool WaitFor(const std::string& text);
+    void Send(int signal) const { ::kill(mProcess, signal); }
+    /// Waits for the end; the exit status, or 128 and the signal's number.
+    int End();
+    /// What the terminal showed until now.
+    const std::string& Shown() const { return mShown; }
+
+private:
+    bool ReadMore();
+
+    pid_t mProcess = -1;
+    int mTerminal = -1;
+    std::string mShown;
+};
+
+}

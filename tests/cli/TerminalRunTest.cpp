@@ -1,0 +1,140 @@
+#include "cli/Interruption.h"
+#include "cli/ProgramFixture.h"
+#include "cli/StartedProgram.h"
+
+#include <csignal>
+
+namespace tempodial {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class TerminalRunTest : public ProgramFixture
+{
+protected:
+    /// A day file that takes the program a while.
+    void WriteLongDay(const std::string& dayKey, int lines) const
+    {
+        std::vector<std::string> slots;
+        for (int i = 1; i <= lines; ++i) {
+            slots.push_back(Word(i * 10, i * 10 + 10, std::to_string(i) + ".doc"));
+        }
+        WriteTracker(dayKey, slots);
+    }
+};
+
+}
+
+TEST_F(TerminalRunTest, Sync_OnATerminal_DrawsProgressAndTakesItOff)
+{
+    WriteLongDay("20061010", 40);
+    StartedProgram program(Whole({ "sync" }), {});
+    EXPECT_EQ(program.End(), 0);
+    EXPECT_THAT(program.Shown(), HasSubstr("\rloading Tuesday, October 10, 2006"));
+    EXPECT_THAT(program.Shown(), HasSubstr("[####----------------]"));
+    EXPECT_TRUE(program.Shown().ends_with(" \r"));
+    EXPECT_EQ(program.Shown().find('\n'), std::string::npos);
+}
+
+TEST_F(TerminalRunTest, Sync_QuietOnATerminal_DrawsNothing)
+{
+    WriteLongDay("20061010", 40);
+    StartedProgram program(Whole({ "sync", "--quiet" }), {});
+    EXPECT_EQ(program.End(), 0);
+    EXPECT_EQ(program.Shown(), "");
+}
+
+TEST_F(TerminalRunTest, Sync_ControlC_StopsAndTheNextSyncGoesOn)
+{
+    WriteLongDay("20061010", 8000);
+    const auto output = mFolder.Path("output");
+    StartedProgram program(Whole({ "sync", "--json" }), { .output = output });
+    ASSERT_TRUE(program.WaitFor("["));
+    program.Send(SIGINT);
+    EXPECT_EQ(program.End(), 130);
+    const auto first = nlohmann::json::parse(mFolder.Read("output"));
+    EXPECT_EQ(first.at("cancelled"), true);
+    EXPECT_GT(first.at("created"), 0);
+    EXPECT_LT(first.at("created"), 8000);
+
+    const auto second = Json({ "sync" });
+    EXPECT_EQ(second.at("cancelled"), false);
+    EXPECT_EQ(first.at("created").get<int>() + second.at("created").get<int>(), 8000);
+    EXPECT_EQ(Json({ "list" }).size(), 8000U);
+}
+
+TEST_F(TerminalRunTest, Apply_ControlC_StopsWithWhatWasDone)
+{
+    WriteLongDay("20061010", 3000);
+    Json({ "sync" });
+    Json({ "projects", "set", "Wish", "--subject", "word" });
+    const auto output = mFolder.Path("output");
+    StartedProgram program(Whole({ "apply", "Wish", "--json" }), { .output = output });
+    ASSERT_TRUE(program.WaitFor("["));
+    program.Send(SIGINT);
+    EXPECT_EQ(program.End(), 130);
+    const auto changed = nlohmann::json::parse(mFolder.Read("output")).at("changed").get<std::size_t>();
+    EXPECT_LT(changed, 3000U);
+    EXPECT_EQ(Json({ "list", "--project", "Wish" }).size(), changed);
+}
+
+TEST_F(TerminalRunTest, List_OutputClosed_IsToldAndHarmsNothing)
+{
+    WriteLongDay("20061010", 10);
+    Json({ "sync" });
+    for (const auto* command : { "list", "projects", "sync" }) {
+        StartedProgram program(Whole({ command, "--json" }), { .output = "" });
+        EXPECT_EQ(program.End(), 1);
+        EXPECT_THAT(program.Shown(), HasSubstr("the answer couldn't be written"));
+    }
+    EXPECT_EQ(Json({ "list" }).size(), 10U);
+}
+
+TEST_F(TerminalRunTest, List_FullDisk_IsTold)
+{
+    StartedProgram program(Whole({ "list" }), { .output = "/dev/full" });
+    EXPECT_EQ(program.End(), 1);
+    EXPECT_THAT(program.Shown(), HasSubstr("the answer couldn't be written"));
+}
+
+TEST_F(TerminalRunTest, Sync_MailboxMayNotGrow_IsToldAndTheNextSyncGoesOn)
+{
+    Json({ "projects" });
+    WriteLongDay("20061010", 3000);
+    const auto size = std::filesystem::file_size(mProfile + "/mailbox.db");
+    StartedProgram program(Whole({ "sync", "--json" }), { .largestFile = size + 200'000 });
+    EXPECT_EQ(program.End(), 1);
+    EXPECT_THAT(program.Shown(), HasSubstr("couldn't be saved"));
+    Json({ "sync" });
+    EXPECT_EQ(Json({ "list" }).size(), 3000U);
+}
+
+TEST(InterruptionTest, SecondControlC_EndsTheProcess)
+{
+    EXPECT_EXIT(
+        {
+            const Interruption interruption;
+            (void)std::raise(SIGINT);
+            std::fputs(Interruption::IsRequested() ? "requested" : "missed", stderr);
+            (void)std::raise(SIGINT);
+        },
+        testing::KilledBySignal(SIGINT), "requested");
+}
+
+TEST(InterruptionTest, NoControlC_IsNotRequested)
+{
+    const Interruption interruption;
+    EXPECT_FALSE(Interruption::IsRequested());
+}
+
+TEST(InterruptionTest, End_BringsBackWhatWasThere)
+{
+    {
+        const Interruption interruption;
+    }
+    EXPECT_EXIT((void)std::raise(SIGINT), testing::KilledBySignal(SIGINT), "");
+}
+
+}
