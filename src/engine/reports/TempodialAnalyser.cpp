@@ -38,7 +38,7 @@ Ref<AppointmentItem> TempodialAnalyser::ReturnMatchingItem(const std::string& pa
     attempt([&] {
         Trace("ReturnItem by " + param + ": " + mPlatform->formats->General(paramDate) + " search on: " + filter);
     });
-    const auto item = attempt.Get([&] { return folder->Items()->Find(filter).As<AppointmentItem>(); });
+    auto item = attempt.Get([&] { return folder->Items()->Find(filter).As<AppointmentItem>(); });
     Trace(item ? "found one" : "didn't find one");
     return item;
 }

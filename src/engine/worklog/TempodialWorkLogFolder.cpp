@@ -68,14 +68,14 @@ Ref<MAPIFolder> TempodialWorkLog::FolderNearCalendar(const Ref<MAPIFolder>& cale
     }
     const auto attempt = Failing("", LineShape::Silent);
     const auto folders = attempt.Get([&] { return calendar->Folders(); });
-    if (const auto named = attempt.Get([&] { return folders->ItemNamed(mMain->mStrings->mCalendarName); })) {
+    if (auto named = attempt.Get([&] { return folders->ItemNamed(mMain->mStrings->mCalendarName); })) {
         Trace("was in default location");
         return named;
     }
     Trace("not in default location with old name");
     const auto count = attempt.Get([&] { return folders->Count(); });
     for (std::int32_t index = 1; index <= count; ++index) {
-        const auto child = attempt.Get([&] { return folders->Item(index); });
+        auto child = attempt.Get([&] { return folders->Item(index); });
         if (attempt.Get([&] { return child->EntryID() == id; })) {
             Trace(".. with new name");
             return child;
