@@ -1,7 +1,5 @@
 #include "host/store/ItemSpan.h"
 
-#include <cstdint>
-
 namespace tempodial {
 
 namespace {
@@ -11,6 +9,15 @@ constexpr std::int64_t FirstReach = 900;
 constexpr std::int64_t Growth = 4;
 constexpr int Classes = 16;
 
+}
+
+std::int64_t ItemSpan::ClassOf(std::int64_t length)
+{
+    std::int64_t number = 0;
+    for (auto reach = FirstReach; length >= reach && number < Classes - 1; reach *= Growth) {
+        ++number;
+    }
+    return number;
 }
 
 std::string ItemSpan::ClassSql(const std::string& length)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace tempodial {
@@ -9,6 +10,8 @@ namespace tempodial {
 class ItemSpan
 {
 public:
+    /// The class of a length in seconds.
+    static std::int64_t ClassOf(std::int64_t length);
     /// The class of a length in seconds, as an expression of SQL over that length.
     static std::string ClassSql(const std::string& length);
     /// All classes with their reaches in seconds, as the rows of a VALUES clause.

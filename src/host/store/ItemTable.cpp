@@ -33,6 +33,11 @@ StoredItem Read(const Query& query)
     return item;
 }
 
+std::int64_t SpanOf(const ItemData& data)
+{
+    return ItemSpan::ClassOf(SecondsBetween(data.start, data.end));
+}
+
 std::string JsonList(std::span<const std::int64_t> rows)
 {
     std::string json = "[";
@@ -72,7 +77,7 @@ void BindOrder(Query& query, const ItemOrder& order)
 
 ItemTable::ItemTable(MailboxDatabase& database)
     : mDatabase(database)
-    , mLastRow(database.Number("SELECT seq FROM sqlite_sequence WHERE name = 'item'"))
+    , mLastRow(database.Number("SELECT max(ifnull(max(id), 0), (SELECT last_item FROM mailbox)) FROM item"))
 {
 }
 
@@ -82,8 +87,8 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
     // Rows go up even over insertions that were undone, whose identity somebody may still hold.
     const auto row = ++mLastRow;
     static const std::string sql
-        = "INSERT INTO item (id, folder, kind, message_class, starts, ends, recurring, subject, "
-          "mileage, billing, properties, body) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+        = "INSERT INTO item (id, folder, kind, message_class, starts, ends, span, recurring, "
+          "subject, mileage, billing, properties, body) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
     Query(mDatabase, sql)
         .Bind(row)
         .Bind(folder)
@@ -91,6 +96,7 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
         .Bind(data.messageClass)
         .Bind(data.start.Seconds())
         .Bind(data.end.Seconds())
+        .Bind(SpanOf(data))
         .Bind(std::int64_t { data.recurring })
         .Bind(data.subject)
         .Bind(data.mileage)
@@ -102,15 +108,29 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
     return row;
 }
 
-void ItemTable::Update(std::int64_t row, const ItemData& data)
+void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData& data)
 {
+    // An index is written anew when one of its columns is named, so those that stay aren't.
+    static const std::string others = "recurring = ?, subject = ?, mileage = ?, billing = ?, properties = ?, body = ? "
+                                      "WHERE id = ?";
+    static const std::string sameTimes = "UPDATE item SET " + others;
+    static const std::string otherEnd = "UPDATE item SET ends = ?, " + others;
+    static const std::string otherTimes = "UPDATE item SET starts = ?, ends = ?, span = ?, " + others;
+
     mDatabase.CheckWhole();
-    static const std::string sql = "UPDATE item SET starts = ?, ends = ?, recurring = ?, subject = ?, mileage = ?, "
-                                   "billing = ?, properties = ?, body = ? WHERE id = ?";
-    Query(mDatabase, sql)
-        .Bind(data.start.Seconds())
-        .Bind(data.end.Seconds())
-        .Bind(std::int64_t { data.recurring })
+    const bool startStays = data.start == before.start && SpanOf(data) == SpanOf(before);
+    const bool endStays = data.end == before.end;
+    Query query(mDatabase, !startStays ? otherTimes : !endStays ? otherEnd : sameTimes);
+    if (!startStays) {
+        query.Bind(data.start.Seconds());
+    }
+    if (!startStays || !endStays) {
+        query.Bind(data.end.Seconds());
+    }
+    if (!startStays) {
+        query.Bind(SpanOf(data));
+    }
+    query.Bind(std::int64_t { data.recurring })
         .Bind(data.subject)
         .Bind(data.mileage)
         .Bind(data.billingInformation)
@@ -130,9 +150,16 @@ void ItemTable::Move(std::int64_t row, std::int64_t folder)
 
 void ItemTable::Delete(std::int64_t row)
 {
-    mDatabase.CheckWhole();
-    Query(mDatabase, "DELETE FROM item WHERE id = ?").Bind(row).Run();
+    mDatabase.Atomically([&] {
+        RetireRows();
+        Query(mDatabase, "DELETE FROM item WHERE id = ?").Bind(row).Run();
+    });
     ++mChanges;
+}
+
+void ItemTable::RetireRows()
+{
+    Query(mDatabase, "UPDATE mailbox SET last_item = ?").Bind(mLastRow).Run();
 }
 
 std::optional<StoredItem> ItemTable::Load(std::int64_t row)

@@ -29,12 +29,15 @@ public:
 
     /// Stores a new item and answers its row, which no other item ever had.
     std::int64_t Insert(std::int64_t folder, const ItemData& data);
-    void Update(std::int64_t row, const ItemData& data);
+    /// Stores what has changed since an item was stored.
+    void Update(std::int64_t row, const ItemData& before, const ItemData& data);
     void Move(std::int64_t row, std::int64_t folder);
     void Delete(std::int64_t row);
+    /// Keeps rows from being used again although their items are about to be deleted.
+    void RetireRows();
     /// Changes to stored items so far; what was read before the last change may be out of date.
     std::int64_t Changes() const { return mChanges; }
-    /// Counts a change that came from outside of this class.
+    /// Counts a change that this class didn't make.
     void NoteChange() { ++mChanges; }
 
     /// The item of a row, nothing when it is gone.

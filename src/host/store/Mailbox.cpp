@@ -63,7 +63,7 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
         }
         auto database = std::make_unique<MailboxDatabase>(fullPath);
         if (state == MailboxFile::State::Unclean && !database->IsSound()) {
-            throw Failure(Error::Automation, "The mailbox " + fullPath + " is damaged");
+            throw Failure(Error::Automation, "the mailbox " + fullPath + " is damaged");
         }
         MailboxSchema::Migrate(*database, MailboxSchema::Steps());
         database->Execute("PRAGMA journal_mode = WAL");
@@ -72,7 +72,7 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
         return mailbox;
     } catch (const Failure& failure) {
         throw MailboxError(failure.Description()
-            + ". Check the disk and the file's permissions; a damaged mailbox is replaced by a good copy.");
+            + ": check the disk and the file's permissions; a damaged mailbox is replaced by a good copy");
     }
 }
 
@@ -148,7 +148,10 @@ void Mailbox::MoveFolder(const Ref<MAPIFolder>& folder, const Ref<MAPIFolder>& p
 void Mailbox::DeleteFolder(const Ref<MAPIFolder>& folder)
 {
     const auto subtree = mTree->Subtree(RowOf(folder));
-    mTree->Delete(subtree.front());
+    mDatabase->Atomically([&] {
+        mTable->RetireRows();
+        mTree->Delete(subtree.front());
+    });
     mTable->NoteChange();
     mViews->Forget();
     // Copied, since an item that goes away takes itself out of the map.
@@ -356,7 +359,7 @@ void Mailbox::Write(StoreItem& item)
     } else {
         const auto* before = item.DataBefore();
         if (before != nullptr && *before != item.Data()) {
-            mTable->Update(item.Row(), item.Data());
+            mTable->Update(item.Row(), *before, item.Data());
         } else {
             mDatabase->CheckWhole();
         }

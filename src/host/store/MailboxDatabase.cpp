@@ -76,7 +76,8 @@ MailboxDatabase::MailboxDatabase(const std::string& path)
     : mPath(path)
 {
     try {
-        mConnection = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, BusyMilliseconds);
+        mConnection
+            = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, BusyMilliseconds);
     } catch (const SQLite::Exception& problem) {
         throw Failed(problem.getErrorCode(), problem.what());
     }

@@ -14,7 +14,8 @@ std::string Tables()
 {
     return R"(
 CREATE TABLE mailbox (
-    id TEXT NOT NULL
+    id TEXT NOT NULL,
+    last_item INTEGER NOT NULL
 ) STRICT;
 CREATE TABLE folder (
     id INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -31,14 +32,14 @@ CREATE TABLE folder_field (
     PRIMARY KEY (folder, name)
 ) STRICT, WITHOUT ROWID;
 CREATE TABLE item (
-    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    id INTEGER PRIMARY KEY,
     folder INTEGER NOT NULL REFERENCES folder (id) ON DELETE CASCADE,
     kind INTEGER NOT NULL,
     message_class TEXT NOT NULL,
     starts INTEGER NOT NULL,
     ends INTEGER NOT NULL CHECK (ends >= starts),
-    span INTEGER NOT NULL GENERATED ALWAYS AS ()"
-        + ItemSpan::ClassSql("ends - starts") + R"() VIRTUAL,
+    span INTEGER NOT NULL CHECK (span = )"
+        + ItemSpan::ClassSql("ends - starts") + R"(),
     recurring INTEGER NOT NULL,
     subject TEXT NOT NULL,
     mileage TEXT NOT NULL,
@@ -83,7 +84,7 @@ std::string DefaultFolderSql(const std::string& name, DefaultFolder role, Defaul
 
 std::string Contents()
 {
-    return "INSERT INTO mailbox VALUES (lower(hex(randomblob(16))));\n"
+    return "INSERT INTO mailbox VALUES (lower(hex(randomblob(16))), 0);\n"
            "INSERT INTO folder (parent, name, kind, role) VALUES (NULL, 'Mailbox', 6, NULL);\n"
         + DefaultFolderSql("Inbox", DefaultFolder::Inbox, DefaultFolder::Inbox)
         + DefaultFolderSql("Calendar", DefaultFolder::Calendar, DefaultFolder::Calendar)
@@ -102,9 +103,9 @@ void MailboxSchema::Migrate(MailboxDatabase& database, const std::vector<std::st
 {
     const auto version = static_cast<std::size_t>(database.Number("PRAGMA user_version"));
     if (version > steps.size()) {
-        throw MailboxError("The mailbox " + database.Path()
+        throw MailboxError("the mailbox " + database.Path()
             + " comes from a newer version of Tempodial (mailbox version " + std::to_string(version)
-            + "). Use that version, or a newer one.");
+            + "): use that version, or a newer one");
     }
     if (version == steps.size()) {
         return;

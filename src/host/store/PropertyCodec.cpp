@@ -3,7 +3,9 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 
 namespace tempodial {
@@ -25,21 +27,32 @@ const ItemProperty* FindProperty(const std::vector<ItemProperty>& properties, st
 
 namespace {
 
+/// True for what can't stand in a JSON string as it is.
+constexpr auto NeedsEscape = [](char character) {
+    return character == '"' || character == '\\' || static_cast<unsigned char>(character) < 0x20;
+};
+
 void AppendText(std::string& json, std::string_view text)
 {
     static constexpr std::string_view digits = "0123456789abcdef";
     json += '"';
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (character == '"' || character == '\\') {
+    while (!text.empty()) {
+        const auto* const special = std::find_if(text.begin(), text.end(), NeedsEscape);
+        const auto plain = static_cast<std::size_t>(special - text.begin());
+        json.append(text, 0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) {
+            break;
+        }
+        const auto byte = static_cast<unsigned char>(text.front());
+        text.remove_prefix(1);
+        if (byte >= 0x20) {
             json += '\\';
-            json += character;
-        } else if (byte < 0x20) {
+            json += static_cast<char>(byte);
+        } else {
             json += "\\u00";
             json += digits[byte >> 4];
             json += digits[byte & 15];
-        } else {
-            json += character;
         }
     }
     json += '"';
@@ -207,22 +220,29 @@ private:
 
 std::string PropertyCodec::Encode(const std::vector<ItemProperty>& properties)
 {
-    std::string json = "{";
+    constexpr std::size_t usualSize = 512;
+    std::string json;
+    json.reserve(usualSize);
+    char separator = '{';
     for (const auto& property : properties) {
-        json += json.size() > 1 ? "," : "";
+        json += separator;
+        separator = ',';
         AppendText(json, property.name);
-        json += ":[" + std::to_string(static_cast<std::int32_t>(property.type));
+        json += ":[";
+        json += std::to_string(static_cast<std::int32_t>(property.type));
         if (const auto* text = property.value.If<std::string>()) {
             json += ',';
             AppendText(json, *text);
         } else if (const auto* date = property.value.If<Date>()) {
-            json += "," + std::to_string(date->Seconds());
+            json += ',';
+            json += std::to_string(date->Seconds());
         } else if (const auto* flag = property.value.If<bool>()) {
             json += *flag ? ",true" : ",false";
         }
         json += ']';
     }
-    return json + "}";
+    json += properties.empty() ? "{}" : "}";
+    return json;
 }
 
 std::vector<ItemProperty> PropertyCodec::Decode(std::string_view json)
