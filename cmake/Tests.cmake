@@ -22,6 +22,10 @@ target_compile_definitions(test_support ${scope}
     TEMPODIAL_EXECUTABLE="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/tempodial"
     TEMPODIAL_SHARE_DIR="${CMAKE_BINARY_DIR}/share/tempodial"
     TEST_DATA_DIR="${tests}/data")
+if(TEMPODIAL_SANITIZERS)
+    # What the tests do themselves needs no speed, and compiles in half the time without.
+    target_compile_options(test_support ${scope} -O0)
+endif()
 
 # The tests' precompiled header, made once.
 file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/TestHeaders.cpp" CONTENT "")
