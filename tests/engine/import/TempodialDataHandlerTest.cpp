@@ -395,6 +395,41 @@ TEST_F(TempodialDataHandlerTest, SyncData_HistoryCannotBeOpened_CostsALineForEac
             "SyncData error Object variable or With block variable not set Cleanup", "Exiting syncdata"));
 }
 
+TEST_F(TempodialDataHandlerTest, SyncData_AnyOneCallFails_EndsInOrderWithALine)
+{
+    int made = 1;
+    for (int failing = 1; failing <= made; ++failing) {
+        SCOPED_TRACE("call " + std::to_string(failing));
+        const TempFolder folder(TempFolder::InMemory());
+        TestAddIn addIn(folder.Path());
+        addIn.Connect();
+        addIn.WriteHistory("|20061009_00100|20061010_00100");
+        addIn.WriteTracker("20061010", { WordSlot(0, 300, "a"), WordSlot(300, 600, "b") });
+        addIn.WriteTracker("20061009", { WordSlot(0, 300, "c") });
+        addIn.Trace();
+        int calls = 0;
+        const auto reach = [&] {
+            if (++calls == failing) {
+                throw Failure(Error::DeviceError);
+            }
+        };
+        addIn.files->hook = [&](const std::string&, const std::string& path) {
+            if (path.find("WorkLogTrace") == std::string::npos) {
+                reach();
+            }
+        };
+        addIn.journal->hook = [&](const std::string&) { reach(); };
+        addIn.main->SyncData(1, true);
+        addIn.files->hook = nullptr;
+        made = std::max(made, calls);
+        const auto lines = addIn.TraceTexts();
+        EXPECT_EQ(lines.back(), "Exiting syncdata");
+        EXPECT_TRUE(std::any_of(lines.begin(), lines.end(),
+            [](const auto& line) { return line.find("Device I/O error") != std::string::npos; }));
+    }
+    EXPECT_GT(made, 15);
+}
+
 TEST_F(TempodialDataHandlerTest, SyncData_AddInEndsMeanwhile_StopsAndWritesTheHistory)
 {
     std::vector<std::string> lines;
