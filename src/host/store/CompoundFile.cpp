@@ -50,6 +50,7 @@ CompoundFile::CompoundFile(const std::string& bytes)
 std::optional<std::string> CompoundFile::Stream(const std::vector<std::string>& names) const
 {
     std::vector<const char*> path;
+    path.reserve(names.size() + 1);
     for (const auto& name : names) {
         path.push_back(name.c_str());
     }

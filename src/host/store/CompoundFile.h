@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-struct _GsfInfile;
+struct _GsfInfile; // NOLINT(bugprone-reserved-identifier): the library names it so
 
 namespace tempodial {
 

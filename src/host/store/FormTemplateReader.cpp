@@ -178,9 +178,13 @@ std::vector<ItemProperty> Fields(const std::string& definitions)
     return fields;
 }
 
-std::string ReadFile(const std::string& path)
+std::string ReadFile(std::string path)
 {
     std::error_code problem;
+    // Paths are joined by "\\" as well as by "/" before they come here.
+    if (path.find('\\') != std::string::npos && !std::filesystem::exists(path, problem)) {
+        std::replace(path.begin(), path.end(), '\\', '/');
+    }
     const auto kind = std::filesystem::status(path, problem).type();
     if (kind == std::filesystem::file_type::not_found) {
         const auto folder = std::filesystem::path(path).parent_path();

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace SQLite {
+namespace SQLite { // NOLINT(readability-identifier-naming): the library names it so
 class Database;
 class Statement;
 }

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace SQLite {
+namespace SQLite { // NOLINT(readability-identifier-naming): the library names it so
 class Statement;
 }
 

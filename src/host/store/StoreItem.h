@@ -15,7 +15,8 @@ class Mailbox;
 
 /// An appointment of the mailbox; there is one object for an item as long as anybody holds it. Once the item is
 /// deleted every member fails (-2147221233). What a failed commit undid is undone here too: an item that was first
-/// saved since the last commit is unsaved again, and what was changed since then is an unsaved change again.
+/// saved since the last commit is unsaved again, and what was changed since then is an unsaved change again; one that
+/// was deleted since then stays so, though it is in its folder again.
 class StoreItem final : public AppointmentItem, public std::enable_shared_from_this<StoreItem>
 {
 public:

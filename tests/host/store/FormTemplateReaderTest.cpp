@@ -34,6 +34,12 @@ TEST_F(FormTemplateReaderTest, Read_TheProductsForm_GivesClassFieldsAndPage)
     EXPECT_THAT(form.page, testing::HasSubstr("ProjectComboBox"));
 }
 
+TEST_F(FormTemplateReaderTest, Read_PathJoinedByABackslash_IsTheSame)
+{
+    EXPECT_EQ(FormTemplateReader::Read(std::string(TEMPODIAL_SHARE_DIR) + "\\WorkLogForm.oft"),
+        FormTemplateReader::Read(Product()));
+}
+
 TEST_F(FormTemplateReaderTest, Read_NoTemplate_Fails)
 {
     EXPECT_EQ(FailureNumber([&] { FormTemplateReader::Read(mFolder.Path("absent.oft")); }), 53);
