@@ -128,7 +128,7 @@ ExitStatus CommandLine::Run(const std::vector<std::string>& arguments) noexcept
         Complain(error.what());
         return ExitStatus::ProfileInUse;
     } catch (const Failure& failure) {
-        Complain(failure.Description() + ": see the trace with \"tempodial trace\"");
+        Complain(failure.Description() + ": see to the profile's folder and its disk");
     } catch (const std::bad_alloc&) {
         Complain("there isn't enough memory: close other programs and run the command again");
     } catch (const std::exception& error) {

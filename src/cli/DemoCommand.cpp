@@ -1,3 +1,4 @@
+#include "base/Failure.h"
 #include "cli/Arguments.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
@@ -10,6 +11,8 @@
 
 #include <algorithm>
 #include <limits>
+#include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -44,11 +47,7 @@ public:
         const auto profile = OpenProfile(options);
         const auto files = DemoTracker(seed, HostClock(options.now).Now()).Files(days);
         RequireNoTrackerFiles(*profile.Surroundings().fileSystem, profile.DataFolder());
-        std::size_t lines = 0;
-        for (const auto& file : files) {
-            Write(profile, file);
-            lines += file.lines.size() - 1;
-        }
+        const auto lines = WriteAll(profile, files);
         Reply reply;
         reply.document["files"] = files.size();
         reply.document["lines"] = lines;
@@ -72,11 +71,33 @@ private:
         }
     }
 
-    static void Write(const Profile& profile, const DemoFile& file)
+    /// Writes all files, or none when one of them can't be written; the number of slots in them.
+    static std::size_t WriteAll(const Profile& profile, const std::vector<DemoFile>& files)
     {
-        const auto stream
-            = profile.Surroundings().fileSystem->OpenTextFile(DataPath(profile, file.name), OpenMode::Writing, true);
-        for (const auto& line : file.lines) {
+        auto& fileSystem = *profile.Surroundings().fileSystem;
+        std::size_t lines = 0;
+        std::vector<std::string> written;
+        for (const auto& file : files) {
+            const auto path = DataPath(profile, file.name);
+            try {
+                Write(fileSystem, path, file.lines);
+            } catch (const Failure& failure) {
+                for (const auto& other : written) {
+                    fileSystem.DeleteFile(other, true);
+                }
+                throw CommandError(path + " couldn't be written: " + failure.Description()
+                    + ": see to the profile's folder and its disk");
+            }
+            written.push_back(path);
+            lines += file.lines.size() - 1;
+        }
+        return lines;
+    }
+
+    static void Write(FileSystemObject& fileSystem, const std::string& path, const std::vector<std::string>& lines)
+    {
+        const auto stream = fileSystem.OpenTextFile(path, OpenMode::Writing, true);
+        for (const auto& line : lines) {
             stream->WriteLine(line);
         }
         stream->Close();

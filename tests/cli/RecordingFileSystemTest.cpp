@@ -1,10 +1,14 @@
 #include "cli/RecordingFileSystem.h"
 
 #include "base/Failure.h"
+#include "cli/PrintingMessageBox.h"
 #include "cli/RecordingImportJournal.h"
+#include "cli/RecordingRegistry.h"
 #include "support/AddInFixture.h"
 
 #include <gtest/gtest.h>
+
+#include <sstream>
 
 namespace tempodial {
 
@@ -103,6 +107,36 @@ TEST(RecordingImportJournalTest, Commit_Fails_IsToldAndFails)
     EXPECT_EQ(problems->Messages(),
         (std::vector<std::string> {
             "activities couldn't be saved in the mailbox: Disk full: see to the disk and run the command again" }));
+}
+
+TEST(RecordingRegistryTest, Write_Fails_IsToldAndFails)
+{
+    class FailingRegistry : public Registry
+    {
+    public:
+        Variant Read(Hive, const std::string&, const std::string&, RegistryAccess) override { return "read"; }
+        void Write(Hive, const std::string&, const std::string&, const std::string&) override
+        {
+            throw Failure(Error::DiskFull);
+        }
+    };
+    const auto problems = MakeRef<Problems>();
+    RecordingRegistry registry(MakeRef<FailingRegistry>(), problems);
+    EXPECT_EQ(registry.Read(Hive::CurrentUser, "", "A", RegistryAccess::Query), Variant("read"));
+    EXPECT_TRUE(problems->Messages().empty());
+    EXPECT_THROW(registry.Write(Hive::CurrentUser, "", "A", "b"), Failure);
+    ASSERT_EQ(problems->Messages().size(), 1U);
+    EXPECT_TRUE(
+        problems->Messages().front().starts_with("the value \"A\" couldn't be kept in registry.toml: Disk full: "));
+}
+
+TEST(PrintingMessageBoxTest, Show_Message_IsPrintedInOneLineAndAnsweredByItsDefault)
+{
+    std::ostringstream stream;
+    PrintingMessageBox box(stream);
+    EXPECT_EQ(box.Show("Save\r\nit\x1b?", { Answer::Yes, Answer::No }, MessageIcon::Question), Answer::Yes);
+    EXPECT_EQ(box.Show("Told", {}, MessageIcon::None), Answer::Ok);
+    EXPECT_EQ(stream.str(), "tempodial: Save it\u241B?\ntempodial: Told\n");
 }
 
 }

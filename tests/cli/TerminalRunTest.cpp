@@ -99,6 +99,18 @@ TEST_F(TerminalRunTest, List_FullDisk_IsTold)
     EXPECT_THAT(program.Shown(), HasSubstr("the answer couldn't be written"));
 }
 
+TEST_F(TerminalRunTest, Demo_FileMayNotGrow_IsToldAndLeavesNone)
+{
+    Json({ "projects" });
+    StartedProgram program(Whole({ "demo" }), { .largestFile = std::filesystem::file_size(mProfile + "/mailbox.db") });
+    EXPECT_EQ(program.End(), 0) << "the files are smaller than the mailbox";
+    std::filesystem::remove_all(mProfile + "/Tempodial");
+    StartedProgram limited(Whole({ "demo" }), { .largestFile = 5000 });
+    EXPECT_EQ(limited.End(), 1);
+    EXPECT_FALSE(
+        std::filesystem::exists(mProfile + "/Tempodial") && !std::filesystem::is_empty(mProfile + "/Tempodial"));
+}
+
 TEST_F(TerminalRunTest, Sync_MailboxMayNotGrow_IsToldAndTheNextSyncGoesOn)
 {
     Json({ "projects" });
