@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/reports/ReportDetails.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,7 +16,7 @@ struct ReportGroup
     /// Minutes of all its activities.
     std::int32_t minutes = 0;
     /// A line for each activity, empty unless the report is detailed.
-    std::string details;
+    ReportDetails::List details;
 };
 
 /// What was gathered for a report.
@@ -23,6 +25,8 @@ struct ReportData
     /// The groups in the order of their first activities. The first element is there from the start, for activities
     /// without a value.
     std::vector<ReportGroup> groups = std::vector<ReportGroup>(1);
+    /// The texts of the groups' details.
+    ReportDetails details;
     /// Minutes of all activities.
     std::int32_t totalTime = 0;
 };

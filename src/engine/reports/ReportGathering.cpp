@@ -100,7 +100,7 @@ void ReportGathering::GatherItem(const Ref<AppointmentItem>& item, const Attempt
         auto& group = mData.groups[index];
         if (mRequest.detailed) {
             // kept: the line break also in front of the first line of the element that was there from the start.
-            attempt([&] { group.details.append(CrLf).append(ToDetailString(item)); });
+            attempt([&] { mData.details.Append(group.details, std::string(CrLf) + ToDetailString(item)); });
         }
         attempt([&] { group.minutes = Sum(group.minutes, item->Duration()); });
         return;
@@ -111,7 +111,7 @@ void ReportGathering::GatherItem(const Ref<AppointmentItem>& item, const Attempt
     attempt([&] { mIndexOfName.emplace(name, index); });
     attempt([&] { mData.groups.back().minutes = item->Duration(); });
     if (mRequest.detailed) {
-        attempt([&] { mData.groups.back().details = ToDetailString(item); });
+        attempt([&] { mData.details.Append(mData.groups.back().details, ToDetailString(item)); });
     }
 }
 

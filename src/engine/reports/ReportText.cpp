@@ -65,32 +65,45 @@ std::string ReportText::BuildTail(std::int32_t total)
     });
 }
 
-std::string ReportText::BuildDetail(std::vector<ReportGroup>& groups, bool html, const std::string& groupTemplate)
+std::string ReportText::BuildDetail(ReportData& data, bool html, const std::string& groupTemplate)
 {
     const auto attempt = Failing("BuildDetail ", LineShape::ColonText);
     attempt([&] { Trace("build detail"); });
 
     std::size_t size = CrLf.size();
-    for (const auto& group : groups) {
-        size += group.details.size() + group.name.size() + groupTemplate.size() + 2 * CrLf.size();
+    for (const auto& group : data.groups) {
+        if (!group.details.IsEmpty()) {
+            size += group.details.Size() + group.name.size() + groupTemplate.size() + 2 * CrLf.size();
+        }
     }
     std::string result;
     attempt([&] { result.reserve(size); });
     result += CrLf;
 
-    for (auto& group : groups) {
-        if (group.details.empty()) {
+    for (const auto& group : data.groups) {
+        if (group.details.IsEmpty()) {
             continue;
         }
         auto title = attempt.Get([&] { return group.name.empty() ? std::string("(None)") : group.name; });
         if (html) {
             attempt([&] { title = mHtml.HTMLEscape(title); });
         }
-        auto block = attempt.Get([&] { return Replace(groupTemplate, "#DETAILTITLE#", title); });
-        attempt([&] { block = Replace(block, "#DETAILLIST#", group.details); });
-        group.details = std::string();
-        attempt([&] { result.append(CrLf).append(block).append(CrLf); });
+        const auto block = attempt.Get([&] { return Replace(groupTemplate, "#DETAILTITLE#", title); });
+        attempt([&] {
+            // Put together here, since the details of a group may be most of the report.
+            result += CrLf;
+            bool isFirst = true;
+            for (const auto& piece : Split(block, "#DETAILLIST#")) {
+                if (!isFirst) {
+                    data.details.AppendTo(result, group.details);
+                }
+                isFirst = false;
+                result += piece;
+            }
+            result += CrLf;
+        });
     }
+    data.details = ReportDetails();
     return result;
 }
 

@@ -6,8 +6,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace tempodial {
 
@@ -26,9 +24,9 @@ public:
         const std::string& lineTemplate);
     /// The closing line of a plain report.
     std::string BuildTail(std::int32_t total);
-    /// The activity list of all groups that have details. The details are given up on the way, since a long report
-    /// isn't to be held twice.
-    std::string BuildDetail(std::vector<ReportGroup>& groups, bool html, const std::string& groupTemplate);
+    /// The activity list of all groups that have details. The details are given up, since a long report isn't to be
+    /// held twice.
+    std::string BuildDetail(ReportData& data, bool html, const std::string& groupTemplate);
 
 private:
     HtmlText mHtml;

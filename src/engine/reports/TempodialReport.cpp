@@ -174,7 +174,7 @@ std::string TempodialReport::BuildPlainReport(ReportData& data, bool detailed, c
     if (detailed) {
         const auto groupTemplate
             = "#DETAILTITLE# " + mMain->mStrings->mReportActivityList + std::string(CrLf) + "#DETAILLIST#";
-        attempt([&] { report += texts.BuildDetail(data.groups, false, groupTemplate); });
+        attempt([&] { report += texts.BuildDetail(data, false, groupTemplate); });
     }
     attempt([&] { Trace("Report: " + report); });
     return report;
@@ -211,10 +211,11 @@ std::string TempodialReport::BuildHTMLReport(
     attempt([&] { summary = Replace(summary, "#TOTALTIME#", texts.ToTimeString(data.totalTime)); });
 
     auto report = header + summary;
+    summary = std::string(); // it may be long, and isn't to be held twice
     if (detailed) {
         attempt([&] { Trace("set details"); });
         attempt([&] { details = Replace(details, "#CRITERIA#", label); });
-        attempt([&] { details = Replace(details, "#DETAILS#", texts.BuildDetail(data.groups, true, detailLine)); });
+        attempt([&] { details = Replace(details, "#DETAILS#", texts.BuildDetail(data, true, detailLine)); });
         attempt([&] { details = html.HTMLMogrify(std::move(details)); });
         attempt([&] { report += details; });
     }

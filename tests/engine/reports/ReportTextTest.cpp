@@ -20,9 +20,25 @@ protected:
         mText.BuildLine(total, lines, text, minutes, line);
         return lines;
     }
-    std::string Detail(std::vector<ReportGroup> groups, bool html, const std::string& groupTemplate)
+    /// A group of the activity list: its name and its details.
+    struct Group
     {
-        return mText.BuildDetail(groups, html, groupTemplate);
+        std::string name;
+        std::vector<std::string> details;
+    };
+
+    std::string Detail(const std::vector<Group>& groups, bool html, const std::string& groupTemplate)
+    {
+        ReportData data;
+        data.groups.clear();
+        for (const auto& group : groups) {
+            auto& added = data.groups.emplace_back();
+            added.name = group.name;
+            for (const auto& text : group.details) {
+                data.details.Append(added.details, text);
+            }
+        }
+        return mText.BuildDetail(data, html, groupTemplate);
     }
 
     ReportText mText { mPlatform, mLog, mStrings };
@@ -109,33 +125,55 @@ TEST_F(ReportTextTest, BuildTail_Total_StandsBetweenStars)
 
 TEST_F(ReportTextTest, BuildDetail_OneGroup_IsSetApartByLineEnds)
 {
-    EXPECT_EQ(Detail({ {}, { "A", 5, "d" } }, false, PlainGroup), "\r\n\r\nA Activity List\r\nd\r\n");
+    EXPECT_EQ(Detail({ {}, { "A", { "d" } } }, false, PlainGroup), "\r\n\r\nA Activity List\r\nd\r\n");
     EXPECT_THAT(Traced(), ElementsAre("TDReport build detail"));
 }
 
 TEST_F(ReportTextTest, BuildDetail_GroupWithoutName_IsCalledNone)
 {
-    EXPECT_EQ(
-        Detail({ { "", 5, "\r\nd1\r\nd2" } }, false, PlainGroup), "\r\n\r\n(None) Activity List\r\n\r\nd1\r\nd2\r\n");
+    EXPECT_EQ(Detail({ { "", { "\r\nd1", "\r\nd2" } } }, false, PlainGroup),
+        "\r\n\r\n(None) Activity List\r\n\r\nd1\r\nd2\r\n");
 }
 
 TEST_F(ReportTextTest, BuildDetail_GroupWithoutDetails_IsLeftOut)
 {
     EXPECT_EQ(
-        Detail({ {}, { "A", 5, "" }, { "B", 5, "d" } }, false, "[#DETAILTITLE#|#DETAILLIST#]"), "\r\n\r\n[B|d]\r\n");
+        Detail({ {}, { "A", { "" } }, { "B", { "d" } } }, false, "[#DETAILTITLE#|#DETAILLIST#]"), "\r\n\r\n[B|d]\r\n");
     EXPECT_EQ(Detail({ {} }, false, PlainGroup), "\r\n");
 }
 
 TEST_F(ReportTextTest, BuildDetail_Html_EscapesTheTitleAlone)
 {
-    EXPECT_EQ(Detail({ { "R&D <x>", 5, "a&nbsp;b<br>" } }, true, "#DETAILTITLE#:#DETAILLIST#"),
+    EXPECT_EQ(Detail({ { "R&D <x>", { "a&nbsp;b<br>" } } }, true, "#DETAILTITLE#:#DETAILLIST#"),
         "\r\n\r\nR&amp;D &lt;x&gt;:a&nbsp;b<br>\r\n");
-    EXPECT_EQ(Detail({ { "R&D", 5, "d" } }, false, "#DETAILTITLE#"), "\r\n\r\nR&D\r\n");
+    EXPECT_EQ(Detail({ { "R&D", { "d" } } }, false, "#DETAILTITLE#"), "\r\n\r\nR&D\r\n");
+}
+
+TEST_F(ReportTextTest, BuildDetail_TokenTwiceOrNever_IsReplacedEachTime)
+{
+    EXPECT_EQ(Detail({ { "A", { "d" } } }, false, "#DETAILLIST##DETAILLIST#"), "\r\n\r\ndd\r\n");
+    EXPECT_EQ(Detail({ { "A", { "d" } } }, false, "x"), "\r\n\r\nx\r\n");
+    EXPECT_EQ(Detail({ { "A", { "d" } } }, false, ""), "\r\n\r\n\r\n");
+}
+
+TEST_F(ReportTextTest, BuildDetail_GroupsThatGrewSideBySide_KeepTheirLines)
+{
+    ReportData data;
+    data.groups = { { "A" }, { "B" } };
+    std::string expected[2];
+    for (int line = 0; line < 40000; ++line) {
+        const auto index = static_cast<std::size_t>(line % 2);
+        const auto text = "\r\nline " + std::to_string(line) + std::string(line == 77 ? 2000000 : 40, 'x');
+        data.details.Append(data.groups[index].details, text);
+        expected[index] += text;
+    }
+    EXPECT_EQ(mText.BuildDetail(data, false, "#DETAILTITLE##DETAILLIST#"),
+        "\r\n\r\nA" + expected[0] + "\r\n\r\nB" + expected[1] + "\r\n");
 }
 
 TEST_F(ReportTextTest, BuildDetail_TitleIsToken_IsReplacedInTurn)
 {
-    EXPECT_EQ(Detail({ { "#DETAILLIST#", 5, "d" } }, false, "#DETAILTITLE# #DETAILLIST#"), "\r\n\r\nd d\r\n");
+    EXPECT_EQ(Detail({ { "#DETAILLIST#", { "d" } } }, false, "#DETAILTITLE# #DETAILLIST#"), "\r\n\r\nd d\r\n");
 }
 
 }
