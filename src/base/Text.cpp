@@ -319,9 +319,12 @@ std::string Replace(std::string_view text, std::string_view find, std::string_vi
         return std::string(text);
     }
     const Needle needle(find);
+    auto offset = needle.FindIn(text, 0);
     std::string out;
+    // Exact for one occurrence, so that a long text put in once isn't moved again.
+    out.reserve(offset == NotFound ? text.size() : text.size() - find.size() + by.size());
     std::size_t done = 0;
-    for (auto offset = needle.FindIn(text, 0); offset != NotFound; offset = needle.FindIn(text, done)) {
+    for (; offset != NotFound; offset = needle.FindIn(text, done)) {
         out.append(text.substr(done, offset - done)).append(by);
         done = offset + find.size();
     }
