@@ -5,6 +5,7 @@
 #include "forms/ComboBoxModel.h"
 #include "forms/LabelModel.h"
 #include "forms/ProgressBarModel.h"
+#include "forms/TextBoxModel.h"
 
 #include <utility>
 
@@ -19,6 +20,8 @@ Ref<Control> MakeControl(const std::shared_ptr<FormFrame>& frame, const ControlD
         return MakeRef<LabelModel>(frame, definition);
     case ControlKind::Button:
         return MakeRef<ButtonModel>(frame, definition);
+    case ControlKind::TextBox:
+        return MakeRef<TextBoxModel>(frame, definition);
     case ControlKind::ComboBox:
         return MakeRef<ComboBoxModel>(frame, definition);
     case ControlKind::ProgressBar:

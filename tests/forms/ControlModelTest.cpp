@@ -4,6 +4,7 @@
 #include "forms/FormModel.h"
 #include "forms/LabelModel.h"
 #include "forms/ProgressBarModel.h"
+#include "forms/TextBoxModel.h"
 
 #include <gtest/gtest.h>
 
@@ -33,9 +34,11 @@ protected:
         .rows = { { { .name = "Line", .kind = ControlKind::Label, .text = "a line" } },
             { { .name = "Month", .kind = ControlKind::ComboBox, .text = "" },
                 { .name = "Bar", .kind = ControlKind::ProgressBar, .text = "" } },
+            { { .name = "Name", .kind = ControlKind::TextBox, .text = "a name" } },
             { { .name = "OK", .kind = ControlKind::Button, .text = "&OK" },
                 { .name = "Outside", .kind = ControlKind::Button, .text = "x", .onForm = false } } } });
     Ref<LabelModel> mLine = Get<LabelModel>("Line");
+    Ref<TextBoxModel> mName = Get<TextBoxModel>("Name");
     Ref<ComboBoxModel> mMonth = Get<ComboBoxModel>("Month");
     Ref<ProgressBarModel> mBar = Get<ProgressBarModel>("Bar");
     Ref<ButtonModel> mOk = Get<ButtonModel>("OK");
@@ -46,6 +49,8 @@ TEST_F(ControlModelTest, Made_EachKind_HasItsDefinitionsText)
 {
     EXPECT_EQ(mLine->Caption(), "a line");
     EXPECT_EQ(mOk->Caption(), "&OK");
+    EXPECT_EQ(mName->Text(), "a name");
+    EXPECT_EQ(mName->Definition().kind, ControlKind::TextBox);
     EXPECT_EQ(mMonth->Text(), "");
     EXPECT_EQ(mMonth->ListIndex(), -1);
     EXPECT_TRUE(mOk->Enabled());
@@ -106,6 +111,36 @@ TEST_F(ControlModelTest, Click_ListenerDropsTheForm_Finishes)
     button->Click();
     EXPECT_TRUE(clicked);
     EXPECT_EQ(NumberOf([&] { button->Click(); }), 5) << "the form is gone";
+}
+
+TEST_F(ControlModelTest, TypeText_ShownBox_TakesThePlaceOfTheText)
+{
+    mForm->Show();
+    mName->Type("other");
+    EXPECT_EQ(mName->Text(), "other");
+    mName->Type("");
+    EXPECT_EQ(mName->Text(), "");
+    mName->SetText("by code");
+    EXPECT_EQ(mName->Text(), "by code");
+}
+
+TEST_F(ControlModelTest, TypeText_BoxThatCanNotBeWorked_Fails)
+{
+    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "form not shown";
+    mForm->Show();
+    mName->SetEnabled(false);
+    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "disabled";
+    mName->SetEnabled(true);
+    mName->SetVisible(false);
+    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "hidden";
+    mName->SetVisible(true);
+    mForm->Hide();
+    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "form hidden";
+    EXPECT_EQ(mName->Text(), "a name");
+    mName->SetText("by code");
+    EXPECT_EQ(mName->Text(), "by code");
+    mForm->Unload();
+    EXPECT_EQ(mName->Text(), "a name");
 }
 
 TEST_F(ControlModelTest, Choose_Entry_SetsTextAndIndex)
@@ -190,6 +225,7 @@ TEST_F(ControlModelTest, Change_OfAnyControl_IsToldToWhoeverDrawsTheForm)
         [&] { mLine->SetCaption("x"); },
         [&] { mOk->SetEnabled(false); },
         [&] { mOk->SetVisible(false); },
+        [&] { mName->SetText("x"); },
         [&] { mMonth->SetText("x"); },
         [&] { mMonth->AddItem("y"); },
         [&] { mBar->SetMax(10); },

@@ -11,7 +11,7 @@
 namespace tempodial {
 
 /// The kinds of controls that a form can hold.
-enum class ControlKind { Label, Button, ComboBox, ProgressBar };
+enum class ControlKind { Label, Button, TextBox, ComboBox, ProgressBar };
 
 /// One control of a form as data: its name, kind, and text or caption.
 struct ControlDefinition
