@@ -6,7 +6,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t BlockSize = 1024 * 1024;
+constexpr std::size_t BlockSize = 1U << 20U;
 
 }
 
