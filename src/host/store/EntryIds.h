@@ -18,6 +18,7 @@ public:
 
     std::string OfFolder(std::int64_t row) const { return Make('1', row); }
     std::string OfItem(std::int64_t row) const { return Make('2', row); }
+    std::string OfDraft(std::int64_t row) const { return Make('3', row); }
     /// The row of a folder's identity, 0 for any other text.
     std::int64_t FolderRow(const std::string& entryId) const { return Row('1', entryId); }
     /// The row of an item's identity, 0 for any other text.

@@ -102,6 +102,7 @@ Mailbox::Mailbox(std::unique_ptr<MailboxDatabase> database, Ref<LocaleFormats> f
     , mTable(std::make_unique<ItemTable>(*mDatabase))
     , mViews(std::make_unique<ViewTable>(*mDatabase))
     , mForms(std::make_unique<FormTable>(*mDatabase))
+    , mDrafts(std::make_unique<DraftTable>(*mDatabase))
 {
     mDatabase->mOnUndone = [this] { Undone(); };
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Ref.h"
+#include "host/store/DraftTable.h"
 #include "host/store/EntryIds.h"
 #include "host/store/FolderTree.h"
 #include "host/store/FormTable.h"
@@ -98,6 +99,7 @@ public:
     ItemTable& Table() { return *mTable; }
     ViewTable& Views() { return *mViews; }
     FormTable& Forms() { return *mForms; }
+    DraftTable& Drafts() { return *mDrafts; }
     const EntryIds& Ids() const { return *mIds; }
     LocaleFormats& Formats() { return *mFormats; }
     /// The condition of a filter on a folder; fails as `Items.Restrict` does.
@@ -140,6 +142,7 @@ private:
     std::unique_ptr<ItemTable> mTable;
     std::unique_ptr<ViewTable> mViews;
     std::unique_ptr<FormTable> mForms;
+    std::unique_ptr<DraftTable> mDrafts;
     std::unordered_map<std::int64_t, std::weak_ptr<StoreItem>> mLive;
     std::vector<std::weak_ptr<StoreItems>> mListening;
     std::vector<std::weak_ptr<StoreItem>> mTouched;

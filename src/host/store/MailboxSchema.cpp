@@ -63,6 +63,21 @@ CREATE TABLE form (
     fields TEXT NOT NULL,
     page TEXT NOT NULL
 ) STRICT;
+CREATE TABLE draft (
+    id INTEGER PRIMARY KEY AUTOINCREMENT,
+    subject TEXT NOT NULL,
+    body TEXT NOT NULL,
+    is_html INTEGER NOT NULL CHECK (is_html IN (0, 1)),
+    recipients TEXT NOT NULL
+) STRICT;
+CREATE TABLE draft_attachment (
+    draft INTEGER NOT NULL REFERENCES draft (id) ON DELETE CASCADE,
+    position INTEGER NOT NULL,
+    name TEXT NOT NULL,
+    type TEXT NOT NULL,
+    content BLOB NOT NULL,
+    PRIMARY KEY (draft, position)
+) STRICT;
 CREATE TABLE import_position (
     day TEXT NOT NULL PRIMARY KEY,
     count INTEGER NOT NULL,

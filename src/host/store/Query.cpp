@@ -50,6 +50,12 @@ Query& Query::Bind(std::string&& text)
     return *this;
 }
 
+Query& Query::BindBytes(const std::string& bytes)
+{
+    Checked([&] { mStatement.bindNoCopy(++mBound, bytes.data(), static_cast<int>(bytes.size())); });
+    return *this;
+}
+
 bool Query::Step()
 {
     const auto code = mStatement.tryExecuteStep();

@@ -26,12 +26,15 @@ public:
     /// Binds a text that outlives the run.
     Query& Bind(const std::string& text);
     Query& Bind(std::string&& text);
+    /// Binds bytes that outlive the run.
+    Query& BindBytes(const std::string& bytes);
     /// Goes to the next row; false when there is none.
     bool Step();
     /// Runs a statement that gives no rows.
     void Run();
 
     std::int64_t Int(int column) const;
+    /// A text, or bytes as they are.
     std::string Text(int column) const;
     bool IsNull(int column) const;
 
