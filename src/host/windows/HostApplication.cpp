@@ -31,7 +31,7 @@ Ref<Explorer> HostApplication::ActiveExplorer()
 
 Ref<MailItem> HostApplication::CreateItem()
 {
-    return MakeRef<HostMail>([shown = std::weak_ptr(mMails)](const Ref<HostMail>& mail) {
+    return MakeRef<HostMail>(mMailbox, [shown = std::weak_ptr(mMails)](const Ref<HostMail>& mail) {
         const auto mails = shown.lock();
         if (mails && std::find(mails->begin(), mails->end(), mail) == mails->end()) {
             mails->push_back(mail);

@@ -2,8 +2,10 @@
 
 #include "base/Failure.h"
 
+#include <array>
+#include <cstddef>
 #include <fstream>
-#include <iterator>
+#include <utility>
 
 namespace tempodial {
 
@@ -22,7 +24,11 @@ public:
         if (!file) {
             throw Failure(Error::FileNotFound);
         }
-        std::string content { std::istreambuf_iterator<char>(file), {} };
+        std::string content;
+        std::array<char, 65536> piece {};
+        while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
+            content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+        }
         if (file.bad()) {
             throw Failure(Error::DeviceError);
         }
@@ -48,8 +54,9 @@ private:
     std::shared_ptr<HostMail> mMail;
 };
 
-HostMail::HostMail(Shower shower)
-    : mShower(std::move(shower))
+HostMail::HostMail(Ref<Mailbox> mailbox, Shower shower)
+    : mMailbox(std::move(mailbox))
+    , mShower(std::move(shower))
 {
 }
 
@@ -78,6 +85,14 @@ Ref<tempodial::Recipients> HostMail::Recipients()
 void HostMail::Display()
 {
     mShower(shared_from_this());
+}
+
+void HostMail::Save()
+{
+    auto& drafts = mMailbox->Drafts();
+    if (mRow == 0 || !drafts.Update(mRow, mDraft)) {
+        mRow = drafts.Save(mDraft);
+    }
 }
 
 }

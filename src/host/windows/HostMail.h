@@ -1,8 +1,11 @@
 #pragma once
 
+#include "base/Ref.h"
+#include "host/store/Mailbox.h"
 #include "platform/objectmodel/MailItem.h"
 #include "platform/system/MailDraftWriter.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -16,12 +19,12 @@ public:
     /// Called when the mail is to be shown.
     using Shower = std::function<void(const Ref<HostMail>& mail)>;
 
-    explicit HostMail(Shower shower);
+    /// A new mail, which that mailbox is to keep.
+    HostMail(Ref<Mailbox> mailbox, Shower shower);
 
     ObjectClass Class() const override { return ObjectClass::Mail; }
     std::string MessageClass() const override { return "IPM.Note"; }
-    /// Empty: a mail is saved when it is sent or kept by whoever shows it.
-    std::string EntryID() const override { return ""; }
+    std::string EntryID() const override { return mRow == 0 ? "" : mMailbox->Ids().OfDraft(mRow); }
     std::string Subject() const override { return mDraft.subject; }
     void SetSubject(const std::string& subject) override { mDraft.subject = subject; }
     std::string Body() const override { return mDraft.isHtml ? "" : mDraft.body; }
@@ -32,6 +35,8 @@ public:
     Ref<tempodial::Recipients> Recipients() override;
     void Display() override;
 
+    /// A person keeps the mail among the mailbox's drafts, anew when it is gone from there; fails as the store does.
+    void Save();
     /// Everything in it.
     const MailDraft& Draft() const { return mDraft; }
 
@@ -39,8 +44,11 @@ private:
     class AttachmentList;
     class RecipientList;
 
+    Ref<Mailbox> mMailbox;
     Shower mShower;
     MailDraft mDraft;
+    /// Its row among the drafts, 0 until the first save.
+    std::int64_t mRow = 0;
 };
 
 }

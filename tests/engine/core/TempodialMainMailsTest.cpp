@@ -53,7 +53,8 @@ protected:
     TempodialMainMailsTest()
     {
         mApplication->newMail = [this]() -> Ref<MailItem> {
-            const auto mail = MakeRef<HostMail>([this](const Ref<HostMail>& shown) { mShown.push_back(shown); });
+            const auto mail
+                = MakeRef<HostMail>(mMailbox, [this](const Ref<HostMail>& shown) { mShown.push_back(shown); });
             return mRefusal ? Ref<MailItem>(MakeRef<GuardedMail>(mail, *mRefusal)) : Ref<MailItem>(mail);
         };
         ConnectAddIn();
