@@ -209,7 +209,7 @@ TestAddIn::TestAddIn(const std::string& profile, const std::string& mailboxPath)
     };
     const auto explorer = MakeRef<TestExplorer>();
     explorer->folder = mailbox->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox);
-    application->explorers->windows.push_back(explorer);
+    application->explorers->windows.emplace_back(explorer);
     application->activeExplorer = explorer;
 }
 

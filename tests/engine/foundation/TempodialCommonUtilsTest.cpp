@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr auto ProductKey = "Software\\Lindenfold\\Tempodial";
-constexpr auto PolicyKey = "Software\\Policies\\Microsoft\\Security";
+constexpr auto PolicyKey = R"(Software\Policies\Microsoft\Security)";
 constexpr auto Popups = "Outlook Security Popups";
 
 }

@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr auto ProductKey = "Software\\Lindenfold\\Tempodial";
-constexpr auto CalendarKey = "Software\\Microsoft\\Office\\16.0\\Outlook\\Options\\Calendar";
+constexpr auto CalendarKey = R"(Software\Microsoft\Office\16.0\Outlook\Options\Calendar)";
 
 /// A data folder with files of any age, of which it notes those that are deleted.
 class AgedFiles : public TestFileSystem

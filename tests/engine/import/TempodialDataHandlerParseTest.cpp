@@ -129,7 +129,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_NotWellFormed_IsIgnored)
         slot + slot,
         slot + "text",
         "text" + slot,
-        "<slot a=\"1\" a=\"2\">" + inner + "</slot>",
+        R"(<slot a="1" a="2">)" + inner + "</slot>",
         "<slot>" + inner + "&unknown;</slot>",
         "<slot>" + inner + "& </slot>",
         "<slot a=\"<\">" + inner + "</slot>",
@@ -138,7 +138,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_NotWellFormed_IsIgnored)
         "<slot>" + inner + "\x01</slot>",
         "<slot>" + inner + "&#1;</slot>",
         "<slot>" + inner + std::string(1, '\0') + "</slot>",
-        "<slot a=\"1\"b=\"2\">" + inner + "</slot>",
+        R"(<slot a="1"b="2">)" + inner + "</slot>",
         "<slot>" + inner + "]]></slot>",
         "<1slot>" + inner + "</1slot>",
         " <?xml version=\"1.0\"?>" + slot,
@@ -155,7 +155,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_NotWellFormed_IsIgnored)
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DocumentWithItsTrimmings_IsTaken)
 {
     Import({ "\xEF\xBB\xBF" + WordSlot(32400, 32700, "a"), "  " + WordSlot(32700, 33000, "b") + "  ",
-        "<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + WordSlot(33000, 33300, "c") });
+        R"(<?xml version="1.0" encoding="UTF-16"?>)" + WordSlot(33000, 33300, "c") });
     EXPECT_EQ(mAddIn.Items().size(), 3);
 }
 
@@ -259,7 +259,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationASecondOffInTheSameM
 TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationOfAnOpenItem_CountsAndLeavesIt)
 {
     Import({ WordSlot(32400, 32700, "a") });
-    mAddIn.application->inspectors->windows.push_back(MakeRef<TestInspector>(mAddIn.Items()[0]));
+    mAddIn.application->inspectors->windows.emplace_back(MakeRef<TestInspector>(mAddIn.Items()[0]));
     Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation) });
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:00-09:05 Microsoft Word, \"a\""));
     EXPECT_EQ(mAddIn.HistoryText(), "20061010_33000");
