@@ -100,7 +100,7 @@ MailboxFile::State MailboxFile::Examine(int newestVersion) const
 std::string MailboxFile::NewDraft() const
 {
     RemoveDraft();
-    const auto draft = DraftPath();
+    auto draft = DraftPath();
     const Descriptor file(::open(draft.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (file.Number() < 0) {
         Refuse(std::string("can't be made (") + std::strerror(errno) + ")", "check the folder and its permissions");

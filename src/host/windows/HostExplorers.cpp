@@ -29,7 +29,8 @@ void HostExplorers::Activate(const Ref<HostExplorer>& explorer)
 
 void HostExplorers::Close(const Ref<HostExplorer>& explorer)
 {
-    const auto closed = explorer;
+    // The reference may be one of those that are taken out.
+    const auto closed = explorer; // NOLINT(performance-unnecessary-copy-initialization)
     std::erase(mOpen, closed);
     std::erase(mByRecency, closed);
     closed->MarkGone();
