@@ -132,8 +132,8 @@ private:
     void CompareVersions();
     void ReadOutlookVersion();
     void LoadIcons();
-    /// Fills in the problem report's mail. Where the security guard refuses the recipient, e-mail objects are left alone
-    /// from then on.
+    /// Fills in the problem report's mail. Where the security guard refuses the recipient, e-mail objects are left
+    /// alone from then on.
     void AddressProblemReport(const Ref<MailItem>& item, std::string body);
 
     Ref<TempodialWorkLog> mWorkLog;

@@ -31,6 +31,7 @@ std::string TempodialMain::GetCalendarID()
 
 void TempodialMain::SyncData(std::int32_t numDays, bool forceSync)
 {
+    const auto self = shared_from_this();
     const auto attempt = Failing("sd error ", LineShape::TextColonStep);
     attempt([&] { Trace("load " + std::to_string(numDays) + " days"); });
     mStage = "sd";
@@ -221,6 +222,7 @@ std::string TempodialMain::GetProjectPeopleRule(const std::string& project)
 
 void TempodialMain::ApplyProject(const std::string& project, std::int32_t numDays)
 {
+    const auto self = shared_from_this();
     Failing("ApplyProject", LineShape::TextColonStep)(
         [&, worker = mAnalyser] { worker->ApplyProject(project, numDays); });
 }
@@ -234,11 +236,15 @@ Ref<AppointmentItem> TempodialMain::ReturnMatchingItem(const std::string& param,
 
 void TempodialMain::SwitchingToTasklog()
 {
+    const auto self = shared_from_this();
     const auto attempt = Failing("SwitchingTo error ", LineShape::TextColonStep);
     attempt([&] { Trace("User has switched to our folder"); });
     mStage = "call syncdata";
     attempt([worker = mWorkLog] { worker->SwitchingToTasklog(); });
     attempt([&, worker = mDataHandler] { worker->SyncData(mConfig->mSavedDataDays, false); });
+    if (!mLog) {
+        return; // The add-in was ended in the midst of it.
+    }
     attempt([worker = mUtils] { worker->CleanUpOldFiles(); });
 }
 

@@ -57,6 +57,8 @@ void TempodialMain::AddressProblemReport(const Ref<MailItem>& item, std::string 
 void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed,
     bool createCSVFile, bool htmlFormat, bool workDayOnly)
 {
+    // The report lets messages be processed, and the host may disconnect then.
+    const auto self = shared_from_this();
     // kept: the words are those of the dialog's member.
     const auto attempt = Failing("Showreportform", LineShape::TextColonStep);
     attempt([&] { Trace("Generate a temporeport, with csv? " + std::string(BooleanText(createCSVFile))); });
@@ -72,6 +74,9 @@ void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t repo
         return report->CreateReport(
             startDate, endDate, reportType, detailed, createCSVFile, csvFilePath, !htmlFormat, workDayOnly);
     });
+    if (!mLog) {
+        return; // The add-in was ended in the midst of it.
+    }
     if (htmlFormat) {
         attempt([&] { item->SetHTMLBody(text); });
     } else {

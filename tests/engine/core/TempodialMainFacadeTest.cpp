@@ -115,6 +115,33 @@ TEST_F(TempodialMainFacadeTest, SwitchingToTasklog_WithinTheLimit_StillCleansUp)
     EXPECT_EQ(lines.back(), "old enough to delete");
 }
 
+TEST_F(TempodialMainFacadeTest, SwitchingToTasklog_HostDisconnectsInTheMidst_EndsWell)
+{
+    class DisconnectingPump : public EventPump
+    {
+    public:
+        explicit DisconnectingPump(Connect& connect)
+            : mPumped(connect)
+        {
+        }
+        void ProcessPending() override { mPumped.OnDisconnection(); }
+
+    private:
+        Connect& mPumped;
+    };
+    mPlatform->eventPump = MakeRef<DisconnectingPump>(mConnect);
+    std::string lines = "first\r\n";
+    for (int end = 32700; end <= 36000; end += 300) {
+        lines += "<slot><StartTime>" + std::to_string(end - 300) + "</StartTime><EndTime>" + std::to_string(end)
+            + "</EndTime><AppType>8</AppType></slot>\r\n";
+    }
+    mFolder.Write("Tempodial/tracker_granules20061010.out", lines);
+    mClock->Advance(60);
+    Main().SwitchingToTasklog();
+    EXPECT_FALSE(mConnect.Main());
+    EXPECT_EQ(mFolder.Read("Tempodial/TempodialHistory.out"), "|20061010_33300");
+}
+
 TEST_F(TempodialMainFacadeTest, SetProjectForItems_NeitherSelectedNorRange_AddsTheProjectAlone)
 {
     Main().SetProjectForItems("Alpha", false, false, {}, {}, true);
