@@ -6,7 +6,10 @@ build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev li
 
 # What the tests and lints need besides.
 check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix
-    libemail-outlook-message-perl libemail-address-perl python3-olefile)
+    libemail-outlook-message-perl libemail-address-perl python3-olefile python3-icalendar)
+
+# What ./check --browser needs besides.
+browser_packages=(chromium)
 
 # install_missing PACKAGE...: installs those of the packages that are missing; asks dpkg once and nothing else when
 # none is.

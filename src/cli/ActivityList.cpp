@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Number.h"
+#include "cli/ProductFacts.h"
 #include "cli/TextTable.h"
 #include "platform/objectmodel/Folders.h"
 #include "platform/objectmodel/Items.h"
@@ -16,7 +17,7 @@ constexpr auto WorkLogName = "Tempodial";
 Ref<MAPIFolder> FindByID(const Ref<Folders>& folders, const std::string& entryID)
 {
     for (std::int32_t i = 1; i <= folders->Count(); ++i) {
-        const auto folder = folders->Item(i);
+        auto folder = folders->Item(i);
         if (folder->EntryID() == entryID) {
             return folder;
         }
@@ -79,6 +80,15 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
         }
     }
     return activities;
+}
+
+std::vector<Ref<AppointmentItem>> ActivitiesOf(
+    const Profile& profile, const DayRange& days, const std::optional<std::string>& project)
+{
+    const auto id = profile.Registry()->Get(Hive::CurrentUser, ProductKey, WorkLogIdValue);
+    const auto workLog = FindWorkLog(profile.Mailbox()->NameSpace(), id.ToText());
+    return workLog ? ActivitiesIn(workLog, profile.Surroundings().formats, days, project)
+                   : std::vector<Ref<AppointmentItem>>();
 }
 
 std::string ActivityTable(

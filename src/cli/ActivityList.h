@@ -1,6 +1,7 @@
 #pragma once
 
-#include "base/Date.h"
+#include "cli/DayRange.h"
+#include "host/profile/Profile.h"
 #include "platform/objectmodel/AppointmentItem.h"
 #include "platform/objectmodel/MAPIFolder.h"
 #include "platform/objectmodel/NameSpace.h"
@@ -12,13 +13,6 @@
 
 namespace tempodial {
 
-/// Days from the first to the last, both included, each as its midnight.
-struct DayRange
-{
-    Date first;
-    Date last;
-};
-
 /// The work log of a session, without the add-in: the folder of that identity, else the calendar's folder "Tempodial";
 /// nothing when there is neither.
 Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& entryID);
@@ -27,6 +21,10 @@ Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& en
 /// project. Fails as the store does.
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
     const DayRange& days, const std::optional<std::string>& project);
+
+/// The same of the work log of a profile; none when there is no work log.
+std::vector<Ref<AppointmentItem>> ActivitiesOf(
+    const Profile& profile, const DayRange& days, const std::optional<std::string>& project);
 
 /// The activities as a table for people, under a heading for each day when the range has several.
 std::string ActivityTable(

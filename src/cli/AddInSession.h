@@ -22,6 +22,8 @@ public:
 
     /// The add-in's own members.
     TempodialMain& Main() const { return *mConnect.Main(); }
+    /// The host that it is connected to.
+    const HostApplication& Application() const { return *mApplication; }
     /// Lets the add-in hear what happened in the mailbox; called when a member has returned, as a host is idle then.
     void Settle() { mMailbox->DeliverEvents(); }
 

@@ -17,12 +17,14 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto ProgramDescription = "Turns what you do at your PC into a calendar of activities, each with the\n"
-                                    "project it belongs to.\n"
-                                    "\n"
-                                    "A tracker writes down, in slots of five minutes, which window you work in.\n"
-                                    "\"sync\" makes activities of that and gives each a project by your rules;\n"
-                                    "\"list\" shows them; \"projects\" keeps the rules.\n";
+constexpr auto ProgramDescription
+    = "Turns what you do at your PC into a calendar of activities, each with the\n"
+      "project it belongs to.\n"
+      "\n"
+      "A tracker writes down, in slots of five minutes, which window you work in.\n"
+      "\"sync\" makes activities of that and gives each a project by your rules;\n"
+      "\"list\" shows them; \"projects\" keeps the rules; \"report\" tells where the time\n"
+      "went.\n";
 
 constexpr auto ProgramFooter = "An example session, with an invented working life instead of a tracker:\n"
                                "  tempodial demo                    write three weeks of tracker files\n"
@@ -31,6 +33,8 @@ constexpr auto ProgramFooter = "An example session, with an invented working lif
                                "  tempodial projects set Riverside --subject riverside\n"
                                "                                    add a project with a rule\n"
                                "  tempodial apply Riverside         give it to the past seven days\n"
+                               "  tempodial report --by project --text\n"
+                               "                                    see where the time of today went\n"
                                "\n"
                                "\"tempodial COMMAND --help\" tells more about a command.\n"
                                "\n"
@@ -68,9 +72,11 @@ std::string Words(const CLI::App& app)
 
 }
 
-CommandLine::CommandLine(std::vector<std::unique_ptr<Command>> commands, std::ostream& out, std::ostream& error)
+CommandLine::CommandLine(
+    std::vector<std::unique_ptr<Command>> commands, std::ostream& out, bool isTerminal, std::ostream& error)
     : mCommands(std::move(commands))
     , mOut(out)
+    , mIsTerminal(isTerminal)
     , mError(error)
     , mApp(ProgramDescription, "tempodial")
 {
@@ -207,18 +213,24 @@ std::string CommandLine::UnexpectedArgument() const
     const auto extras = mApp.remaining(true);
     const auto argument = extras.empty() ? std::string() : extras.front();
     if (!argument.starts_with("-") && ChosenApp().get_parent() == nullptr) {
-        return "there is no command \"" + argument + "\": see \"tempodial --help\" for the commands";
+        return "there is no command \"" + argument + R"(": see "tempodial --help" for the commands)";
     }
     return "\"" + argument + "\" isn't expected here: see \"" + Words(ChosenApp()) + " --help\"";
 }
 
+void CommandLine::PrintText(const Reply& reply, bool isQuiet)
+{
+    mOut << (mIsTerminal ? Harmless(Replace(reply.content, CrLf, "\n")) : reply.content)
+         << Harmless(reply.text + (isQuiet ? "" : reply.summary));
+}
+
 ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
 {
-    if (options.json) {
+    if (!options.json) {
+        PrintText(reply, options.quiet);
+    } else if (!reply.document.is_null()) {
         constexpr int Indentation = 2;
         mOut << reply.document.dump(Indentation, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << "\n";
-    } else {
-        mOut << Harmless(reply.text + (options.quiet ? "" : reply.summary));
     }
     mOut.flush();
     for (const auto& complaint : reply.complaints) {

@@ -18,8 +18,9 @@ namespace tempodial {
 class CommandLine
 {
 public:
-    /// Prints answers to the first stream, and what went wrong to the second.
-    CommandLine(std::vector<std::unique_ptr<Command>> commands, std::ostream& out, std::ostream& error);
+    /// Prints answers to the first stream, which may be a terminal, and what went wrong to the second.
+    CommandLine(
+        std::vector<std::unique_ptr<Command>> commands, std::ostream& out, bool isTerminal, std::ostream& error);
 
     /// Does what the arguments, without the program's name, ask for. Fails never.
     ExitStatus Run(const std::vector<std::string>& arguments) noexcept;
@@ -34,11 +35,13 @@ private:
     Command& Chosen() const;
     const CLI::App& ChosenApp() const;
     std::string UnexpectedArgument() const;
+    void PrintText(const Reply& reply, bool isQuiet);
     ExitStatus Print(const Reply& reply, const Options& options);
     void Complain(const std::string& message);
 
     std::vector<std::unique_ptr<Command>> mCommands;
     std::ostream& mOut;
+    bool mIsTerminal;
     std::ostream& mError;
     CLI::App mApp;
     std::map<const CLI::App*, Command*> mCommandOfApp;

@@ -2,7 +2,6 @@
 
 #include "cli/CommandLineEventPump.h"
 #include "cli/Interruption.h"
-#include "cli/OpenProfile.h"
 #include "cli/PrintingMessageBox.h"
 #include "cli/ProgressLine.h"
 #include "cli/RecordingFileSystem.h"
@@ -53,6 +52,12 @@ Ref<const Platform> ConnectedRun::Surroundings(const Options& options) const
     platform->eventPump
         = MakeRef<CommandLineEventPump>(platform->eventPump, forms, options.quiet ? nullptr : TerminalLine());
     return platform;
+}
+
+std::optional<MailDraft> ConnectedRun::ShownMail() const
+{
+    const auto& mails = mSession->Application().Mails();
+    return mails.empty() ? std::nullopt : std::optional(mails.back()->Draft());
 }
 
 Reply ConnectedRun::Concluded(Reply reply)

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "cli/AddInSession.h"
+#include "cli/OpenProfile.h"
 #include "cli/Options.h"
 #include "cli/Problems.h"
 #include "cli/Reply.h"
 #include "engine/core/TempodialMain.h"
 #include "host/profile/Profile.h"
 #include "host/store/Mailbox.h"
+#include "platform/system/MailDraftWriter.h"
 
 #include <optional>
 
@@ -21,6 +23,12 @@ public:
 
     /// The add-in's own members.
     TempodialMain& AddIn() const { return mSession->Main(); }
+    /// The surroundings of the profile.
+    const Platform& Host() const { return mProfile.Surroundings(); }
+    /// The path of a file in the data folder.
+    std::string DataPath(const std::string& name) const { return tempodial::DataPath(mProfile, name); }
+    /// The mail that the add-in put on the screen last, nothing when there is none.
+    std::optional<MailDraft> ShownMail() const;
     /// What was saved since the add-in was connected.
     const SaveStatistics& Saves() const { return mProfile.Mailbox()->Statistics(); }
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.

@@ -12,8 +12,10 @@ namespace tempodial {
 /// What a command answers, in both forms in which it can be printed.
 struct Reply
 {
-    /// The machine-readable answer.
+    /// The machine-readable answer; null when there is none, and then nothing is printed.
     nlohmann::ordered_json document;
+    /// An answer for other programs as well, printed byte for byte before the text. On a terminal it is made harmless.
+    std::string content;
     /// The answer for people: lines that each end in a line feed.
     std::string text;
     /// What stands behind it unless the run is quiet: lines that each end in a line feed.

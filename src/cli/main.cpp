@@ -29,7 +29,7 @@ int main(int count, char** arguments)
         // A reader that goes away early, and a file that may not grow, are noticed by the write that fails.
         (void)std::signal(SIGPIPE, SIG_IGN);
         (void)std::signal(SIGXFSZ, SIG_IGN);
-        CommandLine commandLine(AllCommands(), std::cout, std::cerr);
+        CommandLine commandLine(AllCommands(), std::cout, ::isatty(STDOUT_FILENO) != 0, std::cerr);
         return static_cast<int>(commandLine.Run({ arguments + 1, arguments + count }));
     } catch (...) {
         return static_cast<int>(ExitStatus::NotDone);

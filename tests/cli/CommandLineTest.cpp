@@ -65,7 +65,7 @@ protected:
         }
         mOut.str("");
         mError.str("");
-        mLine = std::make_unique<CommandLine>(std::move(commands), mOut, mError);
+        mLine = std::make_unique<CommandLine>(std::move(commands), mOut, mIsTerminal, mError);
         return mLine->Run(arguments);
     }
     const ProbeCommand& Probe(const std::string& name) const { return *mProbes.at(name); }
@@ -74,6 +74,7 @@ protected:
     std::function<Reply()> mRun = ProbeCommand("").mRun;
     std::ostringstream mOut;
     std::ostringstream mError;
+    bool mIsTerminal = false;
 
 private:
     std::map<std::string, ProbeCommand*> mProbes;
@@ -218,6 +219,24 @@ TEST_F(CommandLineTest, Run_TextThatIsNoUtf8_IsReplacedInBothForms)
     EXPECT_EQ(mOut.str(), "M\uFFFDller␛\n");
 }
 
+TEST_F(CommandLineTest, Run_Content_IsPrintedByteForByte)
+{
+    mRun = [] { return Reply { .content = "M\xfcller\x1b\r\n\t", .text = "text\n", .summary = "sum\n" }; };
+    Run({ "list" });
+    EXPECT_EQ(mOut.str(), "M\xfcller\x1b\r\n\ttext\nsum\n");
+    mIsTerminal = true;
+    Run({ "list" });
+    EXPECT_THAT(mOut.str(), testing::StartsWith("M\uFFFDller\u241B\n"));
+}
+
+TEST_F(CommandLineTest, Run_NoDocument_PrintsNothing)
+{
+    mRun = [] { return Reply { .complaints = { "a: b" }, .status = ExitStatus::Interrupted }; };
+    EXPECT_EQ(Run({ "list", "--json" }), ExitStatus::Interrupted);
+    EXPECT_EQ(mOut.str(), "");
+    EXPECT_EQ(Error(), "tempodial: a: b\n");
+}
+
 TEST_F(CommandLineTest, Run_Complaints_ArePrintedWithTheStatus)
 {
     mRun = [] {
@@ -255,7 +274,7 @@ TEST_F(CommandLineTest, Run_OutputCantBeWritten_IsTold)
     mOut.setstate(std::ios::badbit);
     std::vector<std::unique_ptr<Command>> commands;
     commands.push_back(std::make_unique<ProbeCommand>("list"));
-    EXPECT_EQ(CommandLine(std::move(commands), mOut, mError).Run({ "list" }), ExitStatus::NotDone);
+    EXPECT_EQ(CommandLine(std::move(commands), mOut, mIsTerminal, mError).Run({ "list" }), ExitStatus::NotDone);
     EXPECT_THAT(Error(), MatchesRegex(OneLine));
 }
 

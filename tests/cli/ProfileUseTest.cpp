@@ -29,6 +29,7 @@ std::string NameOf(const testing::TestParamInfo<std::vector<std::string>>& info)
     if (info.param.size() > 1 && (name == "projects" || name == "registry")) {
         name += info.param[1];
     }
+    std::erase(name, '-');
     return name;
 }
 

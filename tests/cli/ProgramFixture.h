@@ -89,9 +89,10 @@ inline std::vector<std::vector<std::string>> OneOfEachCommand()
 {
     return { { "sync" }, { "list" }, { "projects" }, { "projects", "set", "A" }, { "projects", "remove", "Wish" },
         { "projects", "match", "a" }, { "apply", "Wish" },
-        { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" }, { "demo" }, { "trace" },
-        { "registry", "get", "HKCU", "", "CurrentVersion" }, { "registry", "set", "HKCU", "", "A", "b" },
-        { "registry", "delete", "HKCU", "", "CurrentVersion" } };
+        { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" }, { "report" },
+        { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" },
+        { "export", "--format", "csv" }, { "demo" }, { "trace" }, { "registry", "get", "HKCU", "", "CurrentVersion" },
+        { "registry", "set", "HKCU", "", "A", "b" }, { "registry", "delete", "HKCU", "", "CurrentVersion" } };
 }
 
 }

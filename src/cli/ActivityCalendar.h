@@ -1,0 +1,14 @@
+#pragma once
+
+#include "cli/ActivityRecord.h"
+
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// The activities as an iCalendar document. Its times are those of the wall clock, in no zone, as the log's are; the
+/// same activities give the same bytes at any time.
+std::string ActivityCalendar(const std::vector<ActivityRecord>& activities);
+
+}

@@ -1,0 +1,41 @@
+#include "cli/DayRangeArguments.h"
+
+#include "cli/Arguments.h"
+#include "cli/UsageError.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+
+namespace tempodial {
+
+void DayRangeArguments::Declare(CLI::App& app)
+{
+    app.add_option("--from", mFrom, "First day: YYYY-MM-DD, today or yesterday")->option_text("DAY");
+    app.add_option("--to", mTo, "Last day")->option_text("DAY");
+}
+
+DayRange DayRangeArguments::Days(Date now) const
+{
+    const auto today = now.Day();
+    DayRange days { today, today };
+    if (mFrom) {
+        days.first = ToDay("--from", *mFrom, now);
+    }
+    if (mTo) {
+        days.last = ToDay("--to", *mTo, now);
+    }
+    if (!mFrom) {
+        days.first = std::min(today, days.last);
+    }
+    if (!mTo) {
+        days.last = std::max(today, days.first);
+    }
+    if (days.first > days.last) {
+        throw UsageError("--from " + IsoDay(days.first) + " is later than --to " + IsoDay(days.last)
+            + ": give the earlier day as --from");
+    }
+    return days;
+}
+
+}

@@ -1,0 +1,59 @@
+#include "cli/OutputFile.h"
+
+#include "base/Failure.h"
+#include "cli/CommandError.h"
+#include "cli/UsageError.h"
+#include "host/system/FileReplacer.h"
+#include "host/system/GMimeDraftWriter.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tempodial {
+
+namespace {
+
+/// Runs what writes the file; a failure is told with what to do about it.
+template <class Writing> void WriteOrTell(const std::string& path, Writing&& writing)
+{
+    try {
+        writing();
+    } catch (const Failure& failure) {
+        if (failure.Is(Error::CannotCreateObject)) {
+            throw CommandError(path + " couldn't be written: the program's part for mails can't be loaded: install the "
+                + "program again");
+        }
+        throw CommandError(
+            path + " couldn't be written: " + failure.Description() + ": see to its folder and its disk");
+    }
+}
+
+}
+
+void OutputFile::Declare(CLI::App& app, const std::string& help, bool isRequired)
+{
+    app.add_option("--out", mPath, help)->option_text("FILE")->required(isRequired);
+}
+
+bool OutputFile::IsNamed() const
+{
+    if (mPath && mPath->empty()) {
+        throw UsageError("--out names no file: give the path of one");
+    }
+    return mPath.has_value();
+}
+
+void OutputFile::Write(const std::string& text) const
+{
+    WriteOrTell(Path(), [&] {
+        FileReplacer file(NativePath(Path()), true);
+        file.Write(text);
+        file.Close();
+    });
+}
+
+void OutputFile::Write(const MailDraft& mail) const
+{
+    WriteOrTell(Path(), [&] { GMimeDraftWriter(GMimeDraftWriter::ModuleOfThisProgram()).Write(mail, Path()); });
+}
+
+}

@@ -1,0 +1,79 @@
+#include "base/Text.h"
+#include "cli/Arguments.h"
+#include "cli/Commands.h"
+#include "cli/ConnectedRun.h"
+#include "cli/OutputFile.h"
+#include "cli/ProductFacts.h"
+#include "engine/dialogs/ProblemReportText.h"
+#include "host/system/HostClock.h"
+
+#include <CLI/CLI.hpp>
+
+namespace tempodial {
+
+namespace {
+
+/// A text of the arguments as a text box has it.
+std::string BoxText(const std::string& text)
+{
+    return Replace(Replace(text, CrLf, "\n"), "\n", CrLf);
+}
+
+class ProblemReportCommand final : public Command
+{
+public:
+    ProblemReportCommand()
+        : Command({ "problem-report", "Write an e-mail to the support desk about a problem",
+            "Writes an e-mail that your mail program opens for sending. The trace and the\n"
+            "tracker's file of the day go with it; they hold captions of your windows,\n"
+            "subjects and addresses of e-mails among them.\n"
+            "\n"
+            "  tempodial problem-report --expected \"an activity for my letter\" \\\n"
+            "      --actual \"none was there\" --day yesterday --out problem.eml" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        app.add_option("--expected", mExpected, "What you expected to happen")->option_text("TEXT")->required();
+        app.add_option("--actual", mActual, "What happened instead")->option_text("TEXT")->required();
+        app.add_option("--day", mDay, "When it was: YYYY-MM-DD, today or yesterday; default\ntoday")
+            ->option_text("DAY");
+        mOut.Declare(app, "The e-mail to write (.eml)", true);
+    }
+
+    Reply Run(const Options& options) override
+    {
+        const auto day = ToDay("--day", mDay, HostClock(options.now).Now());
+        (void)mOut.IsNamed();
+        ConnectedRun run(options);
+        run.AddIn().ReportProblem(ProblemReportText::Body(run.Host().formats->LongDate(day), BoxText(mExpected),
+                                      BoxText(mActual), ProductVersion),
+            day, false, false);
+        const auto mail = run.ShownMail().value_or(MailDraft());
+        auto reply = run.Concluded({});
+        mOut.Write(mail);
+        reply.document = { { "subject", mail.subject }, { "body", mail.body },
+            { "attachments", nlohmann::ordered_json::array() } };
+        for (const auto& attachment : mail.attachments) {
+            reply.document["attachments"].push_back(attachment.name);
+        }
+        reply.summary = mOut.Summary();
+        return reply;
+    }
+
+private:
+    std::string mExpected;
+    std::string mActual;
+    std::string mDay = "today";
+    OutputFile mOut;
+};
+
+}
+
+std::unique_ptr<Command> MakeProblemReportCommand()
+{
+    return std::make_unique<ProblemReportCommand>();
+}
+
+}

@@ -1,0 +1,136 @@
+#include "cli/Commands.h"
+#include "cli/ConnectedRun.h"
+#include "cli/DayRangeArguments.h"
+#include "cli/Interruption.h"
+#include "cli/OutputFile.h"
+#include "cli/UsageError.h"
+#include "host/system/HostClock.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace tempodial {
+
+namespace {
+
+/// The words for what a report is grouped by; the add-in counts its types from 1.
+constexpr std::array<std::string_view, 4> TypeNames { "project", "application", "description", "date" };
+
+class ReportCommand final : public Command
+{
+public:
+    ReportCommand()
+        : Command({ "report", "Tell where the time of a day or of several went",
+            "Sums up the activities that touch the range, both days included, and lists\n"
+            "them. Nothing is imported: \"sync\" does that. The report is printed, or\n"
+            "written with its table as an e-mail that your mail program opens for sending.\n"
+                + std::string(DayRangeArguments::Help)
+                + "Ctrl-C stops it, and nothing is written then.\n"
+                  "\n"
+                  "  tempodial report --text\n"
+                  "  tempodial report --by project --from 2006-10-02 > week.html\n"
+                  "  tempodial report --by date --work-week --out week.eml" })
+    {
+    }
+
+    void Declare(CLI::App& app) override
+    {
+        mDays.Declare(app);
+        app.add_option(
+               "--by", mBy, "What to sum up by: project, application, description or\ndate; default application")
+            ->option_text("WHAT");
+        app.add_flag("--text", mIsText, "Plain text instead of HTML");
+        app.add_flag("--no-details", mHasNoDetails, "No list of the activities");
+        app.add_flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
+        app.add_flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
+        mOut.Declare(app, "The e-mail to write (.eml), instead of standard output", false);
+    }
+
+    Reply Run(const Options& options) override
+    {
+        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto type = Type();
+        const bool isFile = mOut.IsNamed();
+        const Interruption interruption;
+        ConnectedRun run(options);
+        if (!Interruption::IsRequested()) {
+            run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
+        }
+        auto mail = run.ShownMail().value_or(MailDraft());
+        auto reply = run.Concluded({});
+        if (reply.status == ExitStatus::Interrupted) {
+            return reply;
+        }
+        if (!IsWhole(mail, reply, run)) {
+            reply.status = ExitStatus::NotDone;
+            reply.complaints.emplace_back(
+                "the report isn't whole and isn't given: see the trace with \"tempodial trace\"");
+            return reply;
+        }
+        for (auto& attachment : mail.attachments) {
+            attachment.type = "text/csv; charset=utf-8";
+        }
+        reply.document = Document(mail);
+        if (isFile) {
+            mOut.Write(mail);
+            reply.summary = mOut.Summary();
+        } else {
+            reply.content = std::move(mail.body);
+        }
+        return reply;
+    }
+
+private:
+    std::int32_t Type() const
+    {
+        const auto* const found = std::find(TypeNames.begin(), TypeNames.end(), mBy);
+        if (found == TypeNames.end()) {
+            throw UsageError("--by can't be \"" + mBy + "\": give project, application, description or date");
+        }
+        return static_cast<std::int32_t>(found - TypeNames.begin()) + 1;
+    }
+
+    /// True when a report has its text and, if one is wanted, all of its table. Without its templates the text is but
+    /// what closes the document.
+    bool IsWhole(const MailDraft& mail, const Reply& reply, const ConnectedRun& run) const
+    {
+        const bool hasText = !mail.body.empty() && mail.body != "</body></html>";
+        if (!hasText || mHasNoCsv) {
+            return hasText;
+        }
+        return !mail.attachments.empty()
+            && std::none_of(reply.complaints.begin(), reply.complaints.end(),
+                [path = run.DataPath(mail.attachments.front().name)](
+                    const auto& complaint) { return complaint.starts_with(path + " "); });
+    }
+
+    static nlohmann::ordered_json Document(const MailDraft& mail)
+    {
+        nlohmann::ordered_json document { { "subject", mail.subject }, { "body", mail.body }, { "html", mail.isHtml },
+            { "csv", nullptr } };
+        if (!mail.attachments.empty()) {
+            document["csv"] = mail.attachments.front().content;
+        }
+        return document;
+    }
+
+    DayRangeArguments mDays;
+    std::string mBy = "application";
+    bool mIsText = false;
+    bool mHasNoDetails = false;
+    bool mHasNoCsv = false;
+    bool mIsWorkWeek = false;
+    OutputFile mOut;
+};
+
+}
+
+std::unique_ptr<Command> MakeReportCommand()
+{
+    return std::make_unique<ReportCommand>();
+}
+
+}

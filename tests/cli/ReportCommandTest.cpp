@@ -1,0 +1,278 @@
+#include "base/Text.h"
+#include "cli/ProgramFixture.h"
+#include "cli/ReadBack.h"
+#include "cli/StartedProgram.h"
+
+#include <regex>
+
+namespace tempodial {
+
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class ReportCommandTest : public ProgramFixture
+{
+protected:
+    void Import()
+    {
+        WriteTracker("20061010",
+            { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc", "<Project>Plan</Project>"),
+                Word(68400, 68700, "late.doc") });
+        WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
+        ASSERT_EQ(Run({ "sync" }).status, 0);
+    }
+    std::string Out(const Arguments& arguments) const
+    {
+        const auto result = Run(arguments);
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.error, "");
+        return result.out;
+    }
+    /// True when a report left a table behind.
+    bool HasCsvFile() const
+    {
+        const std::filesystem::directory_iterator files(mProfile + "/Tempodial");
+        return std::any_of(
+            begin(files), end(files), [](const auto& file) { return file.path().extension() == ".csv"; });
+    }
+    /// The sum of what an expression finds, as hours and minutes or as minutes alone.
+    static int Minutes(const std::string& text, const std::string& expression)
+    {
+        int sum = 0;
+        const std::regex regex(expression);
+        for (std::sregex_iterator found(text.begin(), text.end(), regex); found != std::sregex_iterator(); ++found) {
+            const auto& match = *found;
+            sum += match.size() == 3 ? std::stoi(match[1]) * 60 + std::stoi(match[2]) : std::stoi(match[1]);
+        }
+        return sum;
+    }
+};
+
+constexpr auto HoursAndMinutes = R"((\d+) hours? (\d+) minutes)";
+
+}
+
+TEST_F(ReportCommandTest, Report_Text_IsPrintedAsItIs)
+{
+    Import();
+    EXPECT_EQ(Out({ "report", "--text" }),
+        "Microsoft Word - 0 hours 15 minutes (100%)\r\n"
+        "\r\n***Total time at PC: 0 hours 15 minutes ***\r\n"
+        "\r\n\r\nMicrosoft Word Activity List\r\n"
+        "10-Oct-06  9:00 AM - 9:05 AM  (05 mins)    \"a.doc\"\r\n"
+        "10-Oct-06  9:05 AM - 9:10 AM  (05 mins)    [Plan] \"b.doc\"\r\n"
+        "10-Oct-06  7:00 PM - 7:05 PM  (05 mins)    \"late.doc\"\r\n");
+    EXPECT_EQ(Out({ "report", "--text", "--no-details" }),
+        "Microsoft Word - 0 hours 15 minutes (100%)\r\n\r\n***Total time at PC: 0 hours 15 minutes ***\r\n");
+}
+
+TEST_F(ReportCommandTest, Report_Html_IsPrintedAsItIs)
+{
+    Import();
+    const auto page = Out({ "report" });
+    EXPECT_THAT(page, StartsWith("<!DOCTYPE html>"));
+    EXPECT_TRUE(page.ends_with("</body></html>"));
+    EXPECT_THAT(page, HasSubstr("late.doc"));
+    EXPECT_THAT(Out({ "report", "--no-details" }), Not(HasSubstr("late.doc")));
+}
+
+TEST_F(ReportCommandTest, Report_Json_HasItsFields)
+{
+    Import();
+    const auto html = Json({ "report" });
+    EXPECT_EQ(html.size(), 4U);
+    EXPECT_EQ(html.at("subject"), "Tempodial Report (By Application) Tuesday, October 10, 2006");
+    EXPECT_EQ(html.at("html"), true);
+    EXPECT_EQ(html.at("body"), Out({ "report" }));
+    EXPECT_THAT(html.at("csv").get<std::string>(),
+        StartsWith("Project,Application,Description,People,Day,Start time,End time,Duration (minutes)\r\n"
+                   "\"No Project\",\"Microsoft Word\",\"'a.doc'\",\"\",\"Tuesday, October 10, 2006\",\"9:00 AM\","
+                   "\"9:05 AM\",5\r\n"));
+    const auto text = Json({ "report", "--text", "--no-csv" });
+    EXPECT_EQ(text.at("html"), false);
+    EXPECT_EQ(text.at("csv"), nullptr);
+    EXPECT_EQ(text.at("body"), Out({ "report", "--text" }));
+}
+
+TEST_F(ReportCommandTest, Report_By_GroupsAndNamesTheSubject)
+{
+    Import();
+    const auto report = [this](const char* by) {
+        return Json({ "report", "--text", "--no-details", "--from", "yesterday", "--by", by });
+    };
+    for (const auto& [by, label, line] : std::vector<std::tuple<const char*, std::string, std::string>> {
+             { "project", "Project", "No Project - 0 hours 15 minutes (75%)\r\nPlan - 0 hours 05 minutes (25%)\r\n" },
+             { "application", "Application", "Microsoft Word - 0 hours 20 minutes (100%)\r\n" },
+             { "description", "Description", "Microsoft Word, \"y.doc\" - 0 hours 05 minutes (25%)\r\n" },
+             { "date", "Date",
+                 "Monday, October 9, 2006 - 0 hours 05 minutes (25%)\r\n"
+                 "Tuesday, October 10, 2006 - 0 hours 15 minutes (75%)\r\n" } }) {
+        const auto answer = report(by);
+        EXPECT_EQ(answer.at("subject"),
+            "Tempodial Report (By " + label + ") Monday, October 9, 2006 - Tuesday, October 10, 2006");
+        EXPECT_THAT(answer.at("body").get<std::string>(), StartsWith(line));
+    }
+}
+
+TEST_F(ReportCommandTest, Report_WorkWeek_LeavesOutTheEvening)
+{
+    Import();
+    EXPECT_THAT(Out({ "report", "--text", "--work-week" }), HasSubstr("Total time at PC: 0 hours 10 minutes"));
+    EXPECT_THAT(Out({ "report", "--text", "--work-week", "--to", "2006-10-08", "--from", "2006-10-07" }),
+        HasSubstr("Total time at PC: 0 hours 00 minutes"));
+}
+
+TEST_F(ReportCommandTest, Report_Ranges_AreThoseOfList)
+{
+    Import();
+    const auto total = [this](Arguments range) {
+        range.insert(range.begin(), { "report", "--text", "--no-details" });
+        return Minutes(Out(range), "Total time at PC: " + std::string(HoursAndMinutes));
+    };
+    EXPECT_EQ(total({}), 15);
+    EXPECT_EQ(total({ "--from", "yesterday" }), 20);
+    EXPECT_EQ(total({ "--to", "yesterday" }), 5);
+    EXPECT_EQ(total({ "--from", "2006-10-11" }), 0);
+}
+
+TEST_F(ReportCommandTest, Report_Demo_AgreesWithItselfAndWithTheList)
+{
+    Json({ "demo", "--days", "7", "--seed", "3" });
+    Json({ "sync" });
+    int listed = 0;
+    for (const auto& item : Json({ "list", "--from", "2006-10-04" })) {
+        listed += item.at("duration").get<int>();
+    }
+    ASSERT_GT(listed, 0);
+    for (const auto* by : { "project", "application", "description", "date" }) {
+        const auto text = Json({ "report", "--text", "--by", by, "--from", "2006-10-04" });
+        const auto body = text.at("body").get<std::string>();
+        const auto tail = body.find("\r\n***");
+        ASSERT_NE(tail, std::string::npos);
+        EXPECT_EQ(Minutes(body.substr(0, tail), HoursAndMinutes), listed) << by;
+        EXPECT_EQ(Minutes(body, "Total time at PC: " + std::string(HoursAndMinutes)), listed) << by;
+        EXPECT_EQ(Minutes(body, R"(\((\d+) mins\)    )"), listed) << by;
+        EXPECT_EQ(Minutes(text.at("csv"), R"(",(\d+)\r\n)"), listed) << by;
+        const auto html = Json({ "report", "--by", by, "--from", "2006-10-04" });
+        EXPECT_EQ(html.at("csv"), text.at("csv")) << by;
+        EXPECT_EQ(Minutes(html.at("body"), R"(\((\d+) mins\)&nbsp;)"), listed) << by;
+    }
+}
+
+TEST_F(ReportCommandTest, Report_HostileCaptions_StayTexts)
+{
+    WriteTracker("20061010",
+        { Word(32400, 32700, "&lt;script&gt;alert(1)&lt;/script&gt;#DETAILS#&lt;img src=x onerror=alert(1)&gt;.doc",
+            "<Project>&lt;u&gt;\"P\"</Project>") });
+    ASSERT_EQ(Run({ "sync" }).status, 0);
+    for (const auto* by : { "project", "application", "description", "date" }) {
+        const auto report = Json({ "report", "--by", by });
+        EXPECT_THAT(report.at("body").get<std::string>(), Not(HasSubstr("<script"))) << by;
+        EXPECT_THAT(report.at("body").get<std::string>(), Not(HasSubstr("<img"))) << by;
+        EXPECT_THAT(report.at("body").get<std::string>(), Not(HasSubstr("<u>"))) << by;
+        EXPECT_THAT(report.at("csv").get<std::string>(), HasSubstr("\r\n\"<u>'P'\",")) << by;
+    }
+}
+
+TEST_F(ReportCommandTest, Report_Mail_IsReadBackWithoutDefects)
+{
+    Import();
+    const auto path = mFolder.Path("a.eml");
+    EXPECT_EQ(Out({ "report", "--out", path }), "Written: " + path + "\n");
+    const auto lines = Split(ReadBack("host/system/read_mail.py", path), "\n");
+    EXPECT_THAT(lines, Contains("subject: Tempodial Report (By Application) Tuesday, October 10, 2006"));
+    EXPECT_THAT(lines, Contains("to: None"));
+    EXPECT_THAT(lines, Contains("part: text/html utf-8 None None"));
+    EXPECT_THAT(lines, Contains("part: text/csv utf-8 attachment Tempodial Tuesday, October 10, 2006.csv"));
+    EXPECT_THAT(lines, Contains("bare line ends: 0"));
+    EXPECT_THAT(lines, Contains("defects: []"));
+
+    const auto before = mFolder.Read("a.eml");
+    Json({ "report", "--out", path, "--text", "--no-csv" });
+    EXPECT_NE(mFolder.Read("a.eml"), before);
+    const auto plain = Split(ReadBack("host/system/read_mail.py", path), "\n");
+    EXPECT_THAT(plain, Contains("part: text/plain utf-8 None None"));
+    EXPECT_THAT(plain, Contains("headers: X-Unsent, Subject, MIME-Version, Content-Type, Content-Transfer-Encoding"));
+}
+
+TEST_F(ReportCommandTest, Report_AnyTime_LeavesNothingBehind)
+{
+    Import();
+    WriteTracker("20061010",
+        { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc"), Word(68400, 68700, "late.doc"),
+            Word(68700, 69000, "new.doc") });
+    const auto list = Json({ "list", "--from", "yesterday" });
+    EXPECT_THAT(Json({ "report" }).at("body").get<std::string>(), Not(HasSubstr("new.doc")));
+    EXPECT_EQ(Json({ "list", "--from", "yesterday" }), list);
+    EXPECT_FALSE(HasCsvFile());
+}
+
+TEST_F(ReportCommandTest, Report_TableCantBeWritten_GivesNoReport)
+{
+    Import();
+    std::filesystem::create_directories(DataPath("Tempodial Tuesday, October 10, 2006.csv/x"));
+    const auto path = mFolder.Path("a.eml");
+    for (const auto& more : { Arguments {}, Arguments { "--out", path }, Arguments { "--json" } }) {
+        Arguments arguments { "report" };
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        const auto result = Run(arguments);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.error, HasSubstr("2006.csv couldn't be written: "));
+        EXPECT_THAT(result.error, HasSubstr("the report isn't whole"));
+    }
+    EXPECT_FALSE(mFolder.Has("a.eml"));
+    EXPECT_EQ(Run({ "report", "--no-csv" }).status, 0);
+}
+
+TEST_F(ReportCommandTest, Report_NoTemplates_GivesNoReport)
+{
+    Run({ "registry", "set", "HKLM", "", "Install Directory", mFolder.Path("nowhere") });
+    const auto result = Run({ "report" });
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.error, HasSubstr("the report isn't whole"));
+    EXPECT_EQ(Run({ "report", "--text" }).status, 0);
+}
+
+TEST_F(ReportCommandTest, Report_FileCantBeWritten_IsTold)
+{
+    Import();
+    EXPECT_THAT(Refusal({ "report", "--out", mFolder.Path("no/a.eml") }, 1),
+        HasSubstr("a.eml couldn't be written: Path not found"));
+    EXPECT_FALSE(HasCsvFile());
+}
+
+TEST_F(ReportCommandTest, Report_ControlC_WritesNothing)
+{
+    std::vector<std::string> slots;
+    for (int i = 1; i <= 6000; ++i) {
+        slots.push_back(Word(i * 10, i * 10 + 10, std::to_string(i) + ".doc"));
+    }
+    WriteTracker("20061010", slots);
+    Json({ "sync" });
+    const auto path = mFolder.Path("a.eml");
+    StartedProgram program(Whole({ "report", "--out", path }), { .output = mFolder.Path("output") });
+    ASSERT_TRUE(program.WaitFor("["));
+    EXPECT_THAT(program.Shown(), HasSubstr("Gathering data for: Tuesday, October 10"));
+    program.Send(SIGINT);
+    EXPECT_EQ(program.End(), 130);
+    EXPECT_EQ(mFolder.Read("output"), "");
+    EXPECT_FALSE(mFolder.Has("a.eml"));
+    EXPECT_FALSE(HasCsvFile());
+}
+
+TEST_F(ReportCommandTest, Report_BadArguments_AreUsageErrors)
+{
+    EXPECT_THAT(Refusal({ "report", "--by", "people" }, 2), HasSubstr("project, application, description or date"));
+    Refusal({ "report", "--from", "2006-10-10", "--to", "2006-10-09" }, 2);
+    Refusal({ "report", "--out", "" }, 2);
+    Refusal({ "report", "today" }, 2);
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+}
