@@ -54,10 +54,16 @@ Ref<const Platform> ConnectedRun::Surroundings(const Options& options) const
     return platform;
 }
 
-std::optional<MailDraft> ConnectedRun::ShownMail() const
+MailDraft ConnectedRun::ShownMail() const
 {
     const auto& mails = mSession->Application().Mails();
-    return mails.empty() ? std::nullopt : std::optional(mails.back()->Draft());
+    if (mails.empty()) {
+        return {};
+    }
+    for (const auto& path : mails.back()->NotAttached()) {
+        mProblems->Note(path + " couldn't be attached: see to the file and run the command again");
+    }
+    return mails.back()->Draft();
 }
 
 Reply ConnectedRun::Concluded(Reply reply)

@@ -59,7 +59,7 @@ public:
         if (!Interruption::IsRequested()) {
             run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
         }
-        auto mail = run.ShownMail().value_or(MailDraft());
+        auto mail = run.ShownMail();
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
             return reply;

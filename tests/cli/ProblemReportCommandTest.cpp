@@ -2,6 +2,8 @@
 #include "cli/ProgramFixture.h"
 #include "cli/ReadBack.h"
 
+#include <unistd.h>
+
 namespace tempodial {
 
 namespace {
@@ -72,6 +74,19 @@ TEST_F(ProblemReportCommandTest, ProblemReport_EmptyAnswers_AreTaken)
 {
     const auto report = Json({ "problem-report", "--expected", "", "--actual", "", "--out", mMail });
     EXPECT_THAT(report.at("body").get<std::string>(), HasSubstr("\r\nExpected: \r\nActual: \r\n"));
+}
+
+TEST_F(ProblemReportCommandTest, ProblemReport_FileThatCantBeRead_IsNamedAndLeftOut)
+{
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "nothing is unreadable for root";
+    }
+    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    std::filesystem::permissions(DataPath("tracker_granules20061010.out"), std::filesystem::perms::none);
+    const auto result = Run(Report());
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.error, HasSubstr("tracker_granules20061010.out couldn't be attached"));
+    EXPECT_TRUE(mFolder.Has("problem.eml"));
 }
 
 TEST_F(ProblemReportCommandTest, ProblemReport_FileCantBeWritten_IsTold)

@@ -20,6 +20,17 @@ public:
 
     void Add(const std::string& path) override
     {
+        try {
+            mMail->mDraft.attachments.push_back({ path.substr(path.find_last_of("/\\") + 1), Read(path), "" });
+        } catch (...) {
+            mMail->mNotAttached.push_back(path);
+            throw;
+        }
+    }
+
+private:
+    static std::string Read(const std::string& path)
+    {
         std::ifstream file(path, std::ios::binary);
         if (!file) {
             throw Failure(Error::FileNotFound);
@@ -32,10 +43,9 @@ public:
         if (file.bad()) {
             throw Failure(Error::DeviceError);
         }
-        mMail->mDraft.attachments.push_back({ path.substr(path.find_last_of("/\\") + 1), std::move(content), "" });
+        return content;
     }
 
-private:
     std::shared_ptr<HostMail> mMail;
 };
 

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -39,6 +40,8 @@ public:
     void Save();
     /// Everything in it.
     const MailDraft& Draft() const { return mDraft; }
+    /// The paths of the files that couldn't be attached.
+    const std::vector<std::string>& NotAttached() const { return mNotAttached; }
 
 private:
     class AttachmentList;
@@ -47,6 +50,7 @@ private:
     Ref<Mailbox> mMailbox;
     Shower mShower;
     MailDraft mDraft;
+    std::vector<std::string> mNotAttached;
     /// Its row among the drafts, 0 until the first save.
     std::int64_t mRow = 0;
 };

@@ -84,6 +84,7 @@ TEST_F(HostMailTest, Attachments_FileThatCanNotBeRead_FailsAndAddsNothing)
 {
     EXPECT_EQ(FailureNumber([&] { mMail->Attachments()->Add(mFolder.Path("absent.out")); }), 53);
     EXPECT_EQ(FailureNumber([&] { mMail->Attachments()->Add(mFolder.Path()); }), 57) << "a folder";
+    EXPECT_THAT(mMail->NotAttached(), ElementsAre(mFolder.Path("absent.out"), mFolder.Path()));
     EXPECT_THAT(mMail->Draft().attachments, IsEmpty());
 }
 
