@@ -53,6 +53,7 @@ TEST_F(FormTemplateReaderTest, Read_DamagedTemplate_FailsOrGivesAForm)
 {
     std::ifstream file(Product(), std::ios::binary);
     const std::string whole { std::istreambuf_iterator<char>(file), {} };
+    ASSERT_GT(whole.size(), 1000U);
     for (std::size_t size = 0; size < whole.size(); size += 97) {
         const auto number
             = FailureNumber([&] { FormTemplateReader::Read(mFolder.Write("f.oft", whole.substr(0, size))); });
