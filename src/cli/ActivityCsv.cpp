@@ -15,7 +15,7 @@ std::string TextField(const std::string& text)
 {
     constexpr std::string_view FormulaBegins = "=+-@\t\r\n";
     const bool mayBeFormula = !text.empty() && FormulaBegins.find(text.front()) != std::string_view::npos;
-    const auto harmless = mayBeFormula ? "'" + text : text;
+    auto harmless = mayBeFormula ? "'" + text : text;
     if (harmless.find_first_of(",\"\r\n") == std::string::npos) {
         return harmless;
     }
