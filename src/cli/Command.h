@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-namespace CLI {
+namespace CLI { // NOLINT(readability-identifier-naming): the parser's own name
 class App;
 }
 

@@ -51,7 +51,7 @@ std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
 {
     const auto found = Find(addIn, name);
     if (!found) {
-        throw CommandError("there is no project \"" + name + "\": see \"tempodial projects\" for those there are");
+        throw CommandError("there is no project \"" + name + R"(": see "tempodial projects" for those there are)");
     }
     return *found;
 }

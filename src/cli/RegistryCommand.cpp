@@ -44,7 +44,7 @@ public:
     {
         app.add_option("ACTION", mAction, "get, set or delete")->required();
         app.add_option("HIVE", mHive, "HKCU or HKLM")->required();
-        app.add_option("KEY", mKey, "The key, names with \\ between; \"\" for the product's own")->required();
+        app.add_option("KEY", mKey, R"(The key, names with \ between; "" for the product's own)")->required();
         app.add_option("VALUE", mValue, "The name of the value")->required();
         app.add_option("TEXT", mText, "The text to set");
     }
