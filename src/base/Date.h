@@ -49,7 +49,7 @@ public:
     /// The time of day as "hh:mm", 24 hours.
     std::string HourMinute() const;
 
-    friend constexpr auto operator<=>(const Date&, const Date&) = default;
+    friend constexpr auto operator<=>(const Date&, const Date&) = default; // NOLINT(modernize-use-nullptr)
 
 private:
     explicit constexpr Date(std::int64_t seconds)
