@@ -16,6 +16,21 @@ void ComboBoxModel::SetText(const std::string& text)
     Change(mText, text);
 }
 
+void ComboBoxModel::Clear()
+{
+    mList.clear();
+    SetText("");
+}
+
+void ComboBoxModel::SetListIndex(std::int32_t index)
+{
+    if (index < -1 || index >= static_cast<std::int32_t>(mList.size())) {
+        throw Failure(Error::InvalidPropertyValue);
+    }
+    mListIndex = index;
+    Change(mText, index == -1 ? std::string() : mList[static_cast<std::size_t>(index)]);
+}
+
 void ComboBoxModel::Reset()
 {
     ControlState::Reset();

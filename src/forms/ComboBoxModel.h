@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -19,6 +20,9 @@ public:
     std::string Text() const override { return mText; }
     void SetText(const std::string& text) override;
     std::int32_t ListIndex() const override { return mListIndex; }
+    void Clear() override;
+    void SetListIndex(std::int32_t index) override;
+    Subscription Subscribe(ComboBoxEvents events) override { return mEvents.Subscribe(std::move(events)); }
     void Reset() override;
 
     /// The entries of the list.
@@ -31,6 +35,7 @@ public:
 private:
     std::vector<std::string> mList;
     std::int32_t mListIndex = -1;
+    EventSource<ComboBoxEvents> mEvents;
 };
 
 }

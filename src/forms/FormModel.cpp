@@ -24,6 +24,9 @@ Ref<Control> MakeControl(const std::shared_ptr<FormFrame>& frame, const ControlD
         return MakeRef<TextBoxModel>(frame, definition);
     case ControlKind::ComboBox:
         return MakeRef<ComboBoxModel>(frame, definition);
+    case ControlKind::CheckBox:
+    case ControlKind::OptionButton:
+        break;
     case ControlKind::ProgressBar:
         return MakeRef<ProgressBarModel>(frame, definition);
     }

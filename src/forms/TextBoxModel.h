@@ -4,6 +4,7 @@
 #include "platform/controls/TextBox.h"
 
 #include <string>
+#include <utility>
 
 namespace tempodial {
 
@@ -15,6 +16,7 @@ public:
 
     std::string Text() const override { return mText; }
     void SetText(const std::string& text) override { Change(mText, text); }
+    Subscription Subscribe(TextBoxEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
     /// A person types a text in the place of the present one; a box that can't be worked fails (5).
     void Type(const std::string& text)
@@ -22,6 +24,9 @@ public:
         CheckCanBeWorked();
         SetText(text);
     }
+
+private:
+    EventSource<TextBoxEvents> mEvents;
 };
 
 }

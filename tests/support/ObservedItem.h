@@ -101,6 +101,7 @@ public:
         Told("SetBillingInformation")->SetBillingInformation(text);
     }
     bool IsRecurring() const override { return Told("IsRecurring")->IsRecurring(); }
+    Ref<MAPIFolder> Parent() override { return Told("Parent")->Parent(); }
     Ref<tempodial::UserProperties> UserProperties() override
     {
         return MakeRef<ObservedUserProperties>(Told("UserProperties")->UserProperties(), mObserver);

@@ -51,6 +51,12 @@ public:
         ++viewsSet;
     }
     Ref<tempodial::Selection> Selection() override { return selection; }
+    bool IsFolderSelected(const Ref<MAPIFolder>& other) override { return other->EntryID() == folder->EntryID(); }
+    Ref<tempodial::CommandBars> CommandBars() override { throw Failure(Error::InvalidCall); }
+    Subscription Subscribe(ExplorerEvents events) override { return mEvents.Subscribe(std::move(events)); }
+
+private:
+    EventSource<ExplorerEvents> mEvents;
 };
 
 /// A window on an item.
@@ -62,10 +68,15 @@ public:
     {
     }
 
+    std::string Caption() const override { return "Tempodial"; }
     Ref<OutlookItem> CurrentItem() override { return mItem; }
+    Ref<tempodial::CommandBars> CommandBars() override { throw Failure(Error::InvalidCall); }
+    Ref<Pages> ModifiedFormPages() override { throw Failure(Error::InvalidCall); }
+    Subscription Subscribe(InspectorEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
 private:
     Ref<OutlookItem> mItem;
+    EventSource<InspectorEvents> mEvents;
 };
 
 /// Windows in a list.
@@ -82,6 +93,10 @@ public:
         }
         return windows[static_cast<std::size_t>(index) - 1];
     }
+    Subscription Subscribe(typename Collection::Events events) override { return mEvents.Subscribe(std::move(events)); }
+
+private:
+    EventSource<typename Collection::Events> mEvents;
 };
 
 /// An application with a session, windows and a form template that a test gives it.
@@ -104,6 +119,7 @@ public:
     Ref<tempodial::Inspectors> Inspectors() override { return inspectors; }
     Ref<NameSpace> GetNamespace(const std::string&) override { return nameSpace; }
     Ref<Explorer> ActiveExplorer() override { return activeExplorer; }
+    Ref<Inspector> ActiveInspector() override { return nullptr; }
     Ref<MailItem> CreateItem() override
     {
         if (!newMail) {

@@ -120,12 +120,22 @@ void TempodialMain::TempodialMain_Run()
     LoadIcons();
 
     mStage = "Create explorers";
-    attempt([&] { mExplorers = mApplication->Explorers(); });
+    attempt([&] {
+        mExplorers.Set(mApplication->Explorers(),
+            ExplorersEvents {
+                .NewExplorer = Handler(shared_from_this(), &TempodialMain::mExplorers_NewExplorer),
+            });
+    });
     const auto explorers = attempt.Get([&] { return mExplorers->Count(); });
     for (std::int32_t i = 1; i <= explorers; ++i) {
         attempt([&] { Trace("Explorer caption: " + mExplorers->Item(i)->Caption()); });
     }
-    attempt([&] { mInspectors = mApplication->Inspectors(); });
+    attempt([&] {
+        mInspectors.Set(mApplication->Inspectors(),
+            InspectorsEvents {
+                .NewInspector = Handler(shared_from_this(), &TempodialMain::mInspectors_NewInspector),
+            });
+    });
     mStage = "Create inspectors";
 }
 
@@ -212,8 +222,8 @@ void TempodialMain::ZeroReferences()
     mConfig = nullptr;
     mUtils = nullptr;
     mCommonUtils = nullptr;
-    mExplorers = nullptr;
-    mInspectors = nullptr;
+    mExplorers.Clear();
+    mInspectors.Clear();
 }
 
 void TempodialMain::mApplication_MapiLogonComplete()
@@ -229,7 +239,7 @@ void TempodialMain::mApplication_Quit()
 bool TempodialMain::IsInspector(const Ref<AppointmentItem>& item)
 {
     const auto attempt = Failing("IsInspector error ", LineShape::TextColonStep);
-    const auto inspectors = mInspectors;
+    const auto inspectors = mInspectors.Get();
     const auto count = inspectors ? attempt.Get([&] { return inspectors->Count(); }) : 0;
     for (std::int32_t i = 1; i <= count; ++i) {
         if (attempt.Get([&] { return inspectors->Item(i)->CurrentItem()->EntryID() == item->EntryID(); })) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/OrderedCollection.h"
 #include "base/Watched.h"
 #include "engine/foundation/TracedObject.h"
 #include "platform/Platform.h"
@@ -12,13 +13,19 @@
 
 namespace tempodial {
 
+class AboutBoxForm;
+class ProjectSettingsForm;
+class ReportForm;
 class TempodialAnalyser;
 class TempodialCommonUtils;
 class TempodialConfig;
 class TempodialDataHandler;
+class TempodialExplorer;
+class TempodialInspector;
 class TempodialProjectManager;
 class TempodialReport;
 class TempodialStrings;
+class TempodialToolbarUtils;
 class TempodialUtils;
 class TempodialWorkLog;
 
@@ -35,6 +42,7 @@ public:
     Ref<TempodialConfig> mConfig;
     Ref<TempodialUtils> mUtils;
     Ref<TempodialCommonUtils> mCommonUtils;
+    Ref<TempodialToolbarUtils> mToolbarUtils;
     Ref<Picture> mTempodialIcon;
     Ref<Picture> mTempodialIconMask;
     Ref<Picture> mTempodialRefreshIcon;
@@ -60,6 +68,18 @@ public:
     void mApplication_MapiLogonComplete();
     void mApplication_Quit();
 
+    /// Takes a window's wrapper out of the register, dead ones first; the host's last explorer gone ends the add-in.
+    /// The caller's reference is cleared.
+    void RemoveExplorer(Ref<TempodialExplorer>& explorer);
+    /// Takes the wrappers of windows that are gone out of the register.
+    void RemoveDeadExplorers();
+    /// Takes all wrappers of an item's windows out of the register. The caller's reference is cleared.
+    void RemoveInspector(Ref<TempodialInspector>& inspector);
+    void RemoveInspectorByEntryID(const std::string& entryID);
+    /// Ends the wrappers of inspectors whose item has gone.
+    void RegularCleanUp();
+    void mExplorers_NewExplorer(const Ref<Explorer>& explorer);
+    void mInspectors_NewInspector(const Ref<Inspector>& inspector);
     /// True when an inspector is open on that item.
     bool IsInspector(const Ref<AppointmentItem>& item);
 
@@ -116,6 +136,10 @@ public:
     void ApplyProject(const std::string& project, std::int32_t numDays);
     /// The first item whose date property is that moment at minute grain, nothing when there is none.
     Ref<AppointmentItem> ReturnMatchingItem(const std::string& param, Date paramDate);
+    /// Shows the project settings for a project; the activity window that asked for them may be nothing.
+    void ShowSettingsForm(const std::string& project, const Ref<TempodialInspector>& owningInsp);
+    void ShowReportForm();
+    void ShowAboutForm();
     /// The user has come to the work log folder: applies the view and imports.
     void SwitchingToTasklog();
     /// Puts an e-mail with the diagnostic files of a day on the screen, for the user to send; nothing when cancelled.
@@ -131,6 +155,8 @@ private:
     /// Compares the version in the registry with this one, and writes this one when they differ.
     void CompareVersions();
     void ReadOutlookVersion();
+    void AddExplorer(const Ref<Explorer>& explorer);
+    void AddInspector(const Ref<Inspector>& inspector);
     void LoadIcons();
     /// Fills in the problem report's mail. Where the security guard refuses the recipient, e-mail objects are left
     /// alone from then on.
@@ -140,8 +166,15 @@ private:
     Ref<TempodialDataHandler> mDataHandler;
     Ref<TempodialAnalyser> mAnalyser;
     Ref<TempodialProjectManager> mProjectManager;
-    Ref<Explorers> mExplorers;
-    Ref<Inspectors> mInspectors;
+    Ref<ProjectSettingsForm> mSettingsForm;
+    Ref<ReportForm> mReportForm;
+    Ref<AboutBoxForm> mAboutForm;
+    Watched<Explorers> mExplorers;
+    Watched<Inspectors> mInspectors;
+    OrderedCollection<Ref<TempodialExplorer>> mExplorerList;
+    OrderedCollection<Ref<TempodialInspector>> mInspectorList;
+    std::int32_t mExplorerCount = 0;
+    std::int32_t mInspectorCount = 0;
     Ref<FileSystemObject> mFileSystem;
 };
 

@@ -126,6 +126,12 @@ bool StoreItem::IsRecurring() const
     return Data().recurring;
 }
 
+Ref<MAPIFolder> StoreItem::Parent()
+{
+    CheckAlive();
+    return mMailbox->Folder(mFolder);
+}
+
 Ref<UserProperties> StoreItem::UserProperties()
 {
     CheckAlive();
@@ -222,12 +228,6 @@ bool StoreItem::RaiseClose()
     bool cancel = false;
     mEvents.Raise(&AppointmentItemEvents::Close, cancel);
     return !cancel;
-}
-
-Ref<MAPIFolder> StoreItem::Parent()
-{
-    CheckAlive();
-    return mMailbox->Folder(mFolder);
 }
 
 bool StoreItem::HasChanges() const

@@ -43,6 +43,7 @@ public:
     std::string BillingInformation() const override;
     void SetBillingInformation(const std::string& billingInformation) override;
     bool IsRecurring() const override;
+    Ref<MAPIFolder> Parent() override;
     Ref<tempodial::UserProperties> UserProperties() override;
     Ref<tempodial::FormDescription> FormDescription() override;
     void Save() override;
@@ -57,8 +58,6 @@ public:
     bool RaiseOpen();
     /// Raises `Close`, as a window about to close does; false when a handler refused it.
     bool RaiseClose();
-    /// The folder that the item is in, or will be in once it is saved.
-    Ref<MAPIFolder> Parent();
     /// True when something was changed since the last save, or nothing was ever saved.
     bool HasChanges() const;
 

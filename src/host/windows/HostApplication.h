@@ -27,6 +27,7 @@ public:
     Ref<tempodial::Inspectors> Inspectors() override { return mInspectors; }
     Ref<NameSpace> GetNamespace(const std::string& type) override;
     Ref<Explorer> ActiveExplorer() override;
+    Ref<Inspector> ActiveInspector() override { return nullptr; }
     /// A new mail, which stands among the mails on the screen once it is displayed.
     Ref<MailItem> CreateItem() override;
     /// Without a folder the item is to live in the default calendar.

@@ -61,6 +61,18 @@ Ref<Selection> HostExplorer::Selection()
     return MakeRef<HostSelection>(mSelected);
 }
 
+bool HostExplorer::IsFolderSelected(const Ref<MAPIFolder>& folder)
+{
+    CheckOpen();
+    return folder->EntryID() == mFolder->EntryID();
+}
+
+Ref<CommandBars> HostExplorer::CommandBars()
+{
+    CheckOpen();
+    return nullptr;
+}
+
 void HostExplorer::Select(std::vector<Ref<OutlookItem>> items)
 {
     mSelected = std::move(items);

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -24,6 +25,9 @@ public:
     /// An unknown name fails (5).
     void SetCurrentView(const std::string& name) override;
     Ref<tempodial::Selection> Selection() override;
+    bool IsFolderSelected(const Ref<MAPIFolder>& folder) override;
+    Ref<tempodial::CommandBars> CommandBars() override;
+    Subscription Subscribe(ExplorerEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
     /// Selects those items.
     void Select(std::vector<Ref<OutlookItem>> items);
@@ -38,6 +42,7 @@ private:
     std::map<std::string, std::string> mViews;
     std::vector<Ref<OutlookItem>> mSelected;
     bool mGone = false;
+    EventSource<ExplorerEvents> mEvents;
 };
 
 }

@@ -5,6 +5,7 @@
 #include "platform/objectmodel/Explorer.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -15,6 +16,7 @@ class HostExplorers final : public Explorers
 public:
     std::int32_t Count() override { return static_cast<std::int32_t>(mOpen.size()); }
     Ref<Explorer> Item(std::int32_t index) override;
+    Subscription Subscribe(ExplorersEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
     /// Takes a new window in, in front of the others.
     void Add(const Ref<HostExplorer>& explorer);
@@ -29,6 +31,7 @@ private:
     std::vector<Ref<HostExplorer>> mOpen;
     /// The same windows, the one in front last.
     std::vector<Ref<HostExplorer>> mByRecency;
+    EventSource<ExplorersEvents> mEvents;
 };
 
 }

@@ -11,7 +11,7 @@
 namespace tempodial {
 
 /// The kinds of controls that a form can hold.
-enum class ControlKind { Label, Button, TextBox, ComboBox, ProgressBar };
+enum class ControlKind { Label, Button, TextBox, ComboBox, CheckBox, OptionButton, ProgressBar };
 
 /// One control of a form as data: its name, kind, and text or caption.
 struct ControlDefinition
@@ -21,6 +21,8 @@ struct ControlDefinition
     std::string text;
     /// False for a control that lies outside the part of the form that can be seen.
     bool onForm = true;
+    /// What the form tells of the control when the pointer rests on it; empty for nothing.
+    std::string toolTip {};
 };
 
 /// A form as data: its class, its title and its controls in their order, a row of the layout each.

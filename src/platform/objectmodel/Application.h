@@ -35,6 +35,8 @@ public:
     virtual Ref<NameSpace> GetNamespace(const std::string& type) = 0;
     /// The explorer in front, nothing when there is none.
     virtual Ref<Explorer> ActiveExplorer() = 0;
+    /// The inspector in front, nothing when there is none.
+    virtual Ref<Inspector> ActiveInspector() = 0;
     /// A new mail, not yet saved or shown.
     virtual Ref<MailItem> CreateItem() = 0;
     /// A new unsaved item of a form template, to live in a folder; fails as opening a file does.

@@ -46,6 +46,8 @@ public:
     virtual std::string BillingInformation() const = 0;
     virtual void SetBillingInformation(const std::string& billingInformation) = 0;
     virtual bool IsRecurring() const = 0;
+    /// The folder that the item is in, or will be in once it is saved.
+    virtual Ref<MAPIFolder> Parent() = 0;
     virtual Ref<tempodial::UserProperties> UserProperties() = 0;
     /// The form of an item made from a template, nothing for others.
     virtual Ref<tempodial::FormDescription> FormDescription() = 0;
