@@ -1,8 +1,13 @@
 #include "engine/reports/TempodialAnalyser.h"
 
+#include "base/Text.h"
 #include "engine/dialogs/ProgressBarForm.h"
+#include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "platform/objectmodel/Items.h"
+
+#include <string_view>
+#include <utility>
 
 namespace tempodial {
 
@@ -163,6 +168,42 @@ void TempodialAnalyser::SetProjectForItem(const std::string& project, const Ref<
     mMain->RefreshCalendarItem(item, project, description, false);
     attempt([&] { item->Save(); });
     attempt([&] { item->Close(CloseMode::Discard); });
+}
+
+void TempodialAnalyser::DisplayAnalysis(const std::string& day, const std::string& startTime,
+    const std::string& endTime, const std::string& timeAtPC, const std::string& timeInMeetings, std::int32_t numTasks,
+    const std::string& alert, const std::string& feedback)
+{
+    const auto attempt = Failing("Display", LineShape::ColonText);
+    mStage = "OpenDataFile";
+    attempt([&] { Trace("display data"); });
+
+    std::string page;
+    const auto source = attempt.Get(
+        [&] { return mMain->mCommonUtils->OpenDataFile("analysistemplate.html", false, OpenMode::Reading); });
+    if (source) {
+        attempt([&] { page = source->ReadAll(); });
+        attempt([&] { Trace("read contents"); });
+        const std::pair<std::string_view, std::string> figures[] = {
+            { "#DAY#", day },
+            { "#STARTTIME#", startTime },
+            { "#ENDTIME#", endTime },
+            { "#TIMEATPC#", timeAtPC },
+            { "#TIMEINMEETINGS#", timeInMeetings },
+            { "#NUMTASKS#", std::to_string(numTasks) },
+            { "#ALERT1#", alert },
+            { "#FEEDBACK1#", feedback },
+        };
+        for (const auto& [token, value] : figures) {
+            attempt([&, &token = token, &value = value] { page = Replace(page, token, value); });
+        }
+        attempt([&] { source->Close(); });
+    }
+
+    const auto target
+        = attempt.Get([&] { return mMain->mCommonUtils->OpenDataFile("Analysis.html", true, OpenMode::Writing); });
+    attempt([&] { target->Write(page); });
+    attempt([&] { target->Close(); });
 }
 
 }

@@ -34,6 +34,11 @@ public:
     void SetProjectForRange(const std::string& project, Date fromdate, Date todate, bool override);
     /// The same for one item, unless it is open.
     void SetProjectForItem(const std::string& project, const Ref<AppointmentItem>& item, bool override);
+    /// Fills the template of the daily page with the figures of one day, unescaped, and writes it into the data folder
+    /// as "Analysis.html", which stays empty when there is no template. Stands ready: nothing calls it yet.
+    void DisplayAnalysis(const std::string& day, const std::string& startTime, const std::string& endTime,
+        const std::string& timeAtPC, const std::string& timeInMeetings, std::int32_t numTasks, const std::string& alert,
+        const std::string& feedback);
 
 private:
     Ref<TempodialMain> mMain;

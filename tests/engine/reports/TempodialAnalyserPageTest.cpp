@@ -1,6 +1,5 @@
-#include "engine/reports/DailyAnalysisPage.h"
-
-#include "support/TraceFixture.h"
+#include "engine/reports/TempodialAnalyser.h"
+#include "support/EngineFixture.h"
 
 using testing::ElementsAre;
 
@@ -8,26 +7,20 @@ namespace tempodial {
 
 namespace {
 
-class DailyAnalysisPageTest : public TraceFixture
+class TempodialAnalyserPageTest : public EngineFixture
 {
 protected:
-    DailyAnalysisPageTest()
-    {
-        mCommonUtils->Initialize(mLog, "Tempodial", "16.0");
-        mCommonUtils->GetDataFolderName();
-    }
-
     void Display(const std::string& feedback)
     {
-        DailyAnalysisPage page(mPlatform, mLog, mCommonUtils);
-        page.DisplayAnalysis("Tuesday", "9:00 AM", "5:00 PM", "7 hours", "1 hour", 12, "late & long", feedback);
+        TempodialAnalyser analyser(mPlatform);
+        analyser.Initialize(mMain, mApplication, mLog);
+        ForgetTrace();
+        analyser.DisplayAnalysis("Tuesday", "9:00 AM", "5:00 PM", "7 hours", "1 hour", 12, "late & long", feedback);
     }
     std::string Page() const { return mFolder.Read("Tempodial/Analysis.html"); }
-
-    Ref<TempodialCommonUtils> mCommonUtils = MakeRef<TempodialCommonUtils>(mPlatform);
 };
 
-TEST_F(DailyAnalysisPageTest, DisplayAnalysis_Template_IsFilledUnescaped)
+TEST_F(TempodialAnalyserPageTest, DisplayAnalysis_Template_IsFilledUnescaped)
 {
     mFolder.Write("Tempodial/analysistemplate.html",
         "#DAY#|#STARTTIME#|#ENDTIME#|#TIMEATPC#|#TIMEINMEETINGS#|#NUMTASKS#|#ALERT1#|#FEEDBACK1#|#ALERT2#");
@@ -36,14 +29,14 @@ TEST_F(DailyAnalysisPageTest, DisplayAnalysis_Template_IsFilledUnescaped)
     EXPECT_THAT(Traced(), ElementsAre("TDAnalyser display data", "TDAnalyser read contents"));
 }
 
-TEST_F(DailyAnalysisPageTest, DisplayAnalysis_TokenTwice_IsReplacedInBothPlaces)
+TEST_F(TempodialAnalyserPageTest, DisplayAnalysis_TokenTwice_IsReplacedInBothPlaces)
 {
     mFolder.Write("Tempodial/analysistemplate.html", "#NUMTASKS#\r\n#FEEDBACK1# #NUMTASKS#");
     Display("#DAY# is done by then");
     EXPECT_EQ(Page(), "12\r\n#DAY# is done by then 12");
 }
 
-TEST_F(DailyAnalysisPageTest, DisplayAnalysis_NoTemplate_MakesAnEmptyPage)
+TEST_F(TempodialAnalyserPageTest, DisplayAnalysis_NoTemplate_MakesAnEmptyPage)
 {
     mFolder.Write("Tempodial/Analysis.html", "an older one");
     Display("");
@@ -53,7 +46,7 @@ TEST_F(DailyAnalysisPageTest, DisplayAnalysis_NoTemplate_MakesAnEmptyPage)
         ElementsAre("TDAnalyser display data", "TempodialCommonUtils OpenDataFile error File not found OpenTextFile"));
 }
 
-TEST_F(DailyAnalysisPageTest, DisplayAnalysis_EmptyTemplate_CostsOneLineAndMakesAnEmptyPage)
+TEST_F(TempodialAnalyserPageTest, DisplayAnalysis_EmptyTemplate_CostsOneLineAndMakesAnEmptyPage)
 {
     mFolder.Write("Tempodial/analysistemplate.html", "");
     Display("");
