@@ -1,0 +1,128 @@
+#pragma once
+
+#include "base/Date.h"
+#include "base/Watched.h"
+#include "engine/core/TempodialMain.h"
+#include "engine/foundation/TracedObject.h"
+#include "platform/commandbars/CommandBarButton.h"
+#include "platform/objectmodel/AppointmentItem.h"
+#include "platform/objectmodel/Inspector.h"
+#include "platform/objectmodel/Pages.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace tempodial {
+
+/// The companion of one window that shows an appointment: for an activity it has a toolbar of its own, fills the page
+/// and decides at the close what is saved; from any other window it keeps away.
+class TempodialInspector final : public TracedObject, public std::enable_shared_from_this<TempodialInspector>
+{
+public:
+    explicit TempodialInspector(Ref<const Platform> platform);
+
+    Watched<Inspector> mInspector;
+
+    /// Takes the window that just came into being; the number is shown in traces and keeps the buttons of windows
+    /// apart.
+    void Initialize(const Ref<TempodialDebugLog>& applog, const Ref<TempodialMain>& main,
+        const Ref<Inspector>& inspector, std::int32_t id);
+    /// Lets everything go; a second call is harmless.
+    void Terminate();
+    /// The item shown, nothing when there is none.
+    Ref<AppointmentItem> GetItem() const;
+    /// Fills the page's list of projects anew.
+    void UpdateProjectDropdown();
+    /// Fills the page's lists, the keywords from what the page shows.
+    void UpdateFormDropdowns();
+
+    void mCurrentItem_Open(bool& cancel);
+    void mCurrentItem_Close(bool& cancel);
+    void mCurrentItem_Write(bool& cancel);
+    void mInspector_close();
+    void mSaveCloseCommandBarButton_Click(const Ref<CommandBarButton>& control, bool& cancelDefault);
+    void mViewProjectCommandBarButton_Click(const Ref<CommandBarButton>& control, bool& cancelDefault);
+    void mHelpCommandBarButton_Click(const Ref<CommandBarButton>& control, bool& cancelDefault);
+
+private:
+    /// A callback onto a handler, out of which nothing escapes: without a log, when the add-in was ended in the midst
+    /// of a handler, also the line of a failure fails.
+    template <class... Args> auto Guarded(void (TempodialInspector::*handler)(Args...))
+    {
+        return [call = Handler(shared_from_this(), handler)](Args... args) {
+            try {
+                call(std::forward<Args>(args)...);
+            } catch (...) {
+                return;
+            }
+        };
+    }
+
+    bool IsOurItem();
+    bool IsActive(const Attempt& attempt);
+    void BindControls(const Attempt& attempt);
+    /// Asks whether changes are to be saved and does so or takes them back; false when the window has to stay.
+    bool SettleChanges(const Attempt& attempt);
+    void LeaveRegister(const Attempt& attempt);
+    Ref<UserProperty> Property(const std::string& name);
+
+    void CreateMyToolbars();
+    /// Takes this add-in's toolbar away and shows the standard one.
+    void RestoreToolbars(const Attempt& attempt);
+    void AddSaveCloseButton(const Attempt& attempt, const Ref<CommandBar>& standard, const Ref<CommandBar>& mine);
+    void AddViewProjectButton(const Attempt& attempt, const Ref<CommandBar>& mine);
+    void AddHelpButton(const Attempt& attempt, const Ref<CommandBar>& standard, const Ref<CommandBar>& mine);
+
+    /// Writes what the page shows into the item; false when the project was refused, which the user is told.
+    bool WriteAll();
+    bool IsAnyDataChanged();
+    bool IsUnbound();
+    bool IsBoundData();
+    void ReverseAll();
+    void ReverseUnbound();
+    void Reversebound();
+    void ResetAll();
+    void ResetUnbound();
+    void Resetbound();
+    void ResetKeys();
+    void InitUnbound();
+    /// Puts the keyword and the tick back to what a new activity has.
+    void ClearFormProperties();
+    void Writebound();
+    void writeunbound();
+    /// Makes a keyword chosen on the page a rule of the page's project.
+    void SaveRules();
+
+    Ref<TempodialMain> mMain;
+    /// True while a close that was accepted is carried out.
+    bool mClosed = false;
+    std::int32_t mID = 0;
+    /// True when the item is an activity.
+    bool mIsOurs = false;
+    Watched<AppointmentItem> mCurrentItem;
+    Watched<CommandBarButton> mSaveCloseCommandBarButton;
+    Watched<CommandBarButton> mViewProjectCommandBarButton;
+    Ref<CommandBarButton> mDeleteCommandBarButton;
+    Watched<CommandBarButton> mHelpCommandBarButton;
+
+    // The page's controls, and the values that they had when the item last counted as unchanged.
+    Ref<PageControl> mProjectControl;
+    Ref<PageControl> mDescControl;
+    std::string mOldKeyword;
+    Ref<PageControl> mApplicationControl;
+    Ref<PageControl> mSubjectControl;
+    std::string mOldDescription;
+    Ref<PageControl> mPeopleControl;
+    std::string mOldPeople;
+    Ref<PageControl> mApplyControl;
+    Ref<PageControl> mStartControl;
+    Date mOldStart;
+    Date mOldEnd;
+    Ref<PageControl> mEndControl;
+    std::string mOldProject;
+};
+
+}
