@@ -1,11 +1,17 @@
 #include "engine/core/TempodialMain.h"
 
 #include "base/Number.h"
+#include "engine/dialogs/AboutBoxForm.h"
+#include "engine/dialogs/ProjectSettingsForm.h"
+#include "engine/dialogs/ReportForm.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
 #include "engine/import/TempodialDataHandler.h"
+#include "engine/outlook/TempodialExplorer.h"
+#include "engine/outlook/TempodialInspector.h"
+#include "engine/outlook/TempodialToolbarUtils.h"
 #include "engine/projects/TempodialProjectManager.h"
 #include "engine/reports/TempodialAnalyser.h"
 #include "engine/reports/TempodialReport.h"
@@ -36,10 +42,14 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     mAnalyser = MakeRef<TempodialAnalyser>(mPlatform);
     mTempodialReport = MakeRef<TempodialReport>(mPlatform);
     mProjectManager = MakeRef<TempodialProjectManager>(mPlatform);
+    silently([&] { mSettingsForm = MakeRef<ProjectSettingsForm>(mPlatform); });
+    silently([&] { mReportForm = MakeRef<ReportForm>(mPlatform); });
+    silently([&] { mAboutForm = MakeRef<AboutBoxForm>(mPlatform); });
     mStrings = MakeRef<TempodialStrings>();
     mConfig = MakeRef<TempodialConfig>();
     mUtils = MakeRef<TempodialUtils>(mPlatform);
     mCommonUtils = MakeRef<TempodialCommonUtils>(mPlatform);
+    mToolbarUtils = MakeRef<TempodialToolbarUtils>(mPlatform);
     mFileSystem = mPlatform->fileSystem;
     mLog = mTempodialDebugLog;
     mTraceInfo = "TDMain";
@@ -69,6 +79,11 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     const auto attempt = Failing("TDMaininit failed on a call: ", LineShape::TextBlankStep);
     attempt([&] { mSecurityPopups = mCommonUtils->EmailObjectGuardInPlace(); });
     attempt([&] { CompareVersions(); });
+    attempt([&] { mToolbarUtils->Initialize(mTempodialDebugLog, shared_from_this()); });
+    attempt([&] { mSettingsForm->Initialise(shared_from_this(), mTempodialDebugLog); });
+    attempt([&] { mReportForm->Initialise(shared_from_this(), mTempodialDebugLog); });
+    mInspectorCount = 0;
+    mExplorerCount = 0;
     attempt([&] { Trace(std::string(Revision) + "Initialize "); });
     attempt([&] { mWorkLog->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mDataHandler->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
@@ -128,7 +143,9 @@ void TempodialMain::TempodialMain_Run()
     });
     const auto explorers = attempt.Get([&] { return mExplorers->Count(); });
     for (std::int32_t i = 1; i <= explorers; ++i) {
-        attempt([&] { Trace("Explorer caption: " + mExplorers->Item(i)->Caption()); });
+        const auto explorer = attempt.Get([&] { return mExplorers->Item(i); });
+        attempt([&] { Trace("Explorer caption: " + explorer->Caption()); });
+        attempt([&] { AddExplorer(explorer); });
     }
     attempt([&] {
         mInspectors.Set(mApplication->Inspectors(),
@@ -137,6 +154,13 @@ void TempodialMain::TempodialMain_Run()
             });
     });
     mStage = "Create inspectors";
+    const auto inspectors = attempt.Get([&] { return mInspectors->Count(); });
+    for (std::int32_t i = 1; i <= inspectors; ++i) {
+        const auto inspector = attempt.Get([&] { return mInspectors->Item(i); });
+        if (attempt.Get([&] { return inspector->CurrentItem().As<AppointmentItem>(); })) {
+            attempt([&] { AddInspector(inspector); });
+        }
+    }
 }
 
 void TempodialMain::ReadOutlookVersion()
@@ -196,10 +220,34 @@ void TempodialMain::Terminate()
     end(mProjectManager, "clean ProjMan");
     end(mDataHandler, "clean data handler");
 
+    const auto endAll = [&](auto& wrappers) {
+        while (wrappers.Count() > 0) {
+            const auto wrapper = wrappers.Item(1);
+            wrappers.Remove(1);
+            attempt([&] { wrapper->Terminate(); });
+        }
+    };
+    mStage = "inspectors";
+    endAll(mInspectorList);
+    mStage = "explorers";
+    endAll(mExplorerList);
+
     attempt([&] { mTempodialDebugLog->Terminate(); });
     attempt([&] { mCommonUtils->Terminate(); });
     mLog = nullptr;
+
+    // The trace is gone: from here on nothing can be told.
+    const auto silently = Failing("", LineShape::Silent);
+    const auto unload = [&](auto& form) {
+        silently([&] { form->Unload(); });
+        form = nullptr;
+    };
+    mStage = "forms";
+    unload(mSettingsForm);
+    unload(mReportForm);
+    unload(mAboutForm);
     ZeroReferences();
+    mToolbarUtils = nullptr;
     mFileSystem = nullptr;
     mTempodialIcon = nullptr;
     mTempodialIconMask = nullptr;
@@ -234,20 +282,6 @@ void TempodialMain::mApplication_MapiLogonComplete()
 void TempodialMain::mApplication_Quit()
 {
     Failing("", LineShape::Silent)([&] { Trace("Quit received"); });
-}
-
-bool TempodialMain::IsInspector(const Ref<AppointmentItem>& item)
-{
-    const auto attempt = Failing("IsInspector error ", LineShape::TextColonStep);
-    const auto inspectors = mInspectors.Get();
-    const auto count = inspectors ? attempt.Get([&] { return inspectors->Count(); }) : 0;
-    for (std::int32_t i = 1; i <= count; ++i) {
-        if (attempt.Get([&] { return inspectors->Item(i)->CurrentItem()->EntryID() == item->EntryID(); })) {
-            attempt([&] { Trace("IsInspector - open"); });
-            return true;
-        }
-    }
-    return false;
 }
 
 } // namespace tempodial

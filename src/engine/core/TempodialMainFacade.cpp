@@ -1,6 +1,10 @@
 #include "base/Number.h"
 #include "engine/core/TempodialMain.h"
+#include "engine/dialogs/AboutBoxForm.h"
+#include "engine/dialogs/ProjectSettingsForm.h"
+#include "engine/dialogs/ReportForm.h"
 #include "engine/foundation/TempodialConfig.h"
+#include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
 #include "engine/import/TempodialDataHandler.h"
 #include "engine/projects/TempodialProjectManager.h"
@@ -234,6 +238,22 @@ Ref<AppointmentItem> TempodialMain::ReturnMatchingItem(const std::string& param,
     });
 }
 
+void TempodialMain::ShowSettingsForm(const std::string& project, const Ref<TempodialInspector>& owningInsp)
+{
+    Failing("Showform", LineShape::TextColonStep)([&, form = mSettingsForm] { form->ShowMe(project, owningInsp); });
+}
+
+void TempodialMain::ShowReportForm()
+{
+    Failing("Showreportform", LineShape::TextColonStep)([form = mReportForm] { form->ShowMe(); });
+}
+
+void TempodialMain::ShowAboutForm()
+{
+    Failing("Showaboutform", LineShape::TextColonStep)(
+        [&, form = mAboutForm] { form->ShowMe(mConfig->mTDVersion, mStrings->mLogName); });
+}
+
 void TempodialMain::SwitchingToTasklog()
 {
     const auto self = shared_from_this();
@@ -245,6 +265,7 @@ void TempodialMain::SwitchingToTasklog()
     if (!mLog) {
         return; // The add-in was ended in the midst of it.
     }
+    attempt([&] { RegularCleanUp(); });
     attempt([worker = mUtils] { worker->CleanUpOldFiles(); });
 }
 
