@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "engine/dialogs/ProgressBarForm.h"
+#include "engine/foundation/ReportTypes.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
@@ -27,10 +28,10 @@ void TempodialReport::Initialize(
     mTraceInfo = "TDReport";
     mMain = main;
     mLog = log;
-    mProject = 1;
-    mApplication = 2;
-    mDescription = 3;
-    mDate = 4;
+    mProject = ReportTypes::Project;
+    mApplication = ReportTypes::Application;
+    mDescription = ReportTypes::Description;
+    mDate = ReportTypes::Date;
 }
 
 void TempodialReport::Terminate()
