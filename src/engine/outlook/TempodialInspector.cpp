@@ -174,15 +174,20 @@ bool TempodialInspector::SettleChanges(const Attempt& attempt)
             return box->Show("Do you want to save your changes?", { Answer::Yes, Answer::No, Answer::Cancel },
                 MessageIcon::Question);
         });
-        if (answer == Answer::Yes) {
+        switch (answer) {
+        case Answer::Yes:
             Trace("Chose to save");
             if (!WriteAll()) {
                 return false;
             }
-        } else if (answer == Answer::Cancel) {
-            return false;
-        } else if (answer == Answer::No) {
+            break;
+        case Answer::No:
             ReverseAll();
+            break;
+        case Answer::Cancel:
+            return false;
+        default:
+            return true; // The question couldn't be asked: nothing is decided about the item.
         }
     }
     ClearFormProperties();
