@@ -10,7 +10,8 @@
 
 namespace tempodial {
 
-/// A text box with a list as a plain model.
+/// A text box with a list as a plain model. A choice from the list is a click and no change, whether a person or code
+/// makes it; a text is a change and no click, and takes the selection away.
 class ComboBoxModel final : public ControlModel<ComboBox>
 {
 public:

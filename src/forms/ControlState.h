@@ -27,6 +27,7 @@ public:
 protected:
     /// Fails (5) unless a person can work the control.
     void CheckCanBeWorked() const;
+    FormFrame& Frame() const { return *mFrame; }
     /// Tells whoever draws the form.
     void Changed() const { mFrame->Changed(); }
     /// Takes another value and tells whoever draws the form.

@@ -26,12 +26,17 @@ public:
     /// The form is gone, so that a control of it which is still held can't be seen any more.
     void End() noexcept { mVisible = false; }
 
+    /// The option button chosen by its address, null for none.
+    const void* ChosenOption() const { return mChosenOption; }
+    void SetChosenOption(const void* option) { mChosenOption = option; }
+
     /// Tells whoever draws the form.
     void Changed() const { mEvents.Raise(&FormModelEvents::Changed); }
     Subscription Subscribe(FormModelEvents events) { return mEvents.Subscribe(std::move(events)); }
 
 private:
     bool mVisible = false;
+    const void* mChosenOption = nullptr;
     EventSource<FormModelEvents> mEvents;
 };
 

@@ -2,8 +2,10 @@
 
 #include "base/Failure.h"
 #include "forms/ButtonModel.h"
+#include "forms/CheckBoxModel.h"
 #include "forms/ComboBoxModel.h"
 #include "forms/LabelModel.h"
+#include "forms/OptionButtonModel.h"
 #include "forms/ProgressBarModel.h"
 #include "forms/TextBoxModel.h"
 
@@ -25,8 +27,9 @@ Ref<Control> MakeControl(const std::shared_ptr<FormFrame>& frame, const ControlD
     case ControlKind::ComboBox:
         return MakeRef<ComboBoxModel>(frame, definition);
     case ControlKind::CheckBox:
+        return MakeRef<CheckBoxModel>(frame, definition);
     case ControlKind::OptionButton:
-        break;
+        return MakeRef<OptionButtonModel>(frame, definition);
     case ControlKind::ProgressBar:
         return MakeRef<ProgressBarModel>(frame, definition);
     }
@@ -35,8 +38,9 @@ Ref<Control> MakeControl(const std::shared_ptr<FormFrame>& frame, const ControlD
 
 }
 
-FormModel::FormModel(FormDefinition definition)
+FormModel::FormModel(FormDefinition definition, std::int32_t number)
     : mDefinition(std::move(definition))
+    , mNumber(number)
     , mCaption(mDefinition.title)
 {
     for (const auto& row : mDefinition.rows) {
@@ -97,7 +101,7 @@ bool FormModel::CloseByFrame()
     if (!cancel) {
         Unload();
     }
-    return !cancel;
+    return !Visible();
 }
 
 }

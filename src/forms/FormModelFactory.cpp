@@ -4,7 +4,7 @@ namespace tempodial {
 
 Ref<Form> FormModelFactory::Create(const FormDefinition& definition)
 {
-    const auto form = std::make_shared<FormModel>(definition);
+    const auto form = std::make_shared<FormModel>(definition, ++mLastNumber);
     std::erase_if(mForms, [](const auto& known) { return known.expired(); });
     mForms.push_back(form);
     return Ref<FormModel>(form);

@@ -4,6 +4,7 @@
 #include "forms/FormModel.h"
 #include "platform/controls/Form.h"
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,7 @@ namespace tempodial {
 class FormModelFactory final : public FormFactory
 {
 public:
+    /// A new form, not yet shown; its number counts from 1, and no other form gets it.
     Ref<Form> Create(const FormDefinition& definition) override;
 
     /// The forms alive, in the order in which they were made.
@@ -23,6 +25,7 @@ public:
 
 private:
     std::vector<std::weak_ptr<FormModel>> mForms;
+    std::int32_t mLastNumber = 0;
 };
 
 }

@@ -15,7 +15,13 @@ public:
     using ControlModel::ControlModel;
 
     std::string Text() const override { return mText; }
-    void SetText(const std::string& text) override { Change(mText, text); }
+    void SetText(const std::string& text) override
+    {
+        if (text != mText) {
+            Change(mText, text);
+            mEvents.Raise(&TextBoxEvents::Change);
+        }
+    }
     Subscription Subscribe(TextBoxEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
     /// A person types a text in the place of the present one; a box that can't be worked fails (5).

@@ -29,14 +29,16 @@ class ControlModelTest : public testing::Test
 protected:
     template <class Model> Ref<Model> Get(const std::string& name) const { return mForm->Control(name).As<Model>(); }
 
-    Ref<FormModel> mForm = MakeRef<FormModel>(FormDefinition { .className = "SampleForm",
-        .title = "Sample",
-        .rows = { { { .name = "Line", .kind = ControlKind::Label, .text = "a line" } },
-            { { .name = "Month", .kind = ControlKind::ComboBox, .text = "" },
-                { .name = "Bar", .kind = ControlKind::ProgressBar, .text = "" } },
-            { { .name = "Name", .kind = ControlKind::TextBox, .text = "a name" } },
-            { { .name = "OK", .kind = ControlKind::Button, .text = "&OK" },
-                { .name = "Outside", .kind = ControlKind::Button, .text = "x", .onForm = false } } } });
+    Ref<FormModel> mForm = MakeRef<FormModel>(
+        FormDefinition { .className = "SampleForm",
+            .title = "Sample",
+            .rows = { { { .name = "Line", .kind = ControlKind::Label, .text = "a line" } },
+                { { .name = "Month", .kind = ControlKind::ComboBox, .text = "" },
+                    { .name = "Bar", .kind = ControlKind::ProgressBar, .text = "" } },
+                { { .name = "Name", .kind = ControlKind::TextBox, .text = "a name" } },
+                { { .name = "OK", .kind = ControlKind::Button, .text = "&OK" },
+                    { .name = "Outside", .kind = ControlKind::Button, .text = "x", .onForm = false } } } },
+        1);
     Ref<LabelModel> mLine = Get<LabelModel>("Line");
     Ref<TextBoxModel> mName = Get<TextBoxModel>("Name");
     Ref<ComboBoxModel> mMonth = Get<ComboBoxModel>("Month");

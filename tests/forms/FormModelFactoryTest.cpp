@@ -31,6 +31,15 @@ TEST_F(FormModelFactoryTest, Create_Form_IsNotShown)
     EXPECT_FALSE(Create("A")->Visible());
 }
 
+TEST_F(FormModelFactoryTest, Create_Forms_GetNumbersNeverUsedBefore)
+{
+    Create("A");
+    auto second = Create("B");
+    EXPECT_EQ(second.As<FormModel>()->Number(), 2);
+    second = nullptr;
+    EXPECT_EQ(Create("B").As<FormModel>()->Number(), 3);
+}
+
 TEST_F(FormModelFactoryTest, NewestVisible_ClassName_SkipsHiddenAndOtherForms)
 {
     const auto first = Create("A");

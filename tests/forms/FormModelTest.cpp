@@ -35,7 +35,7 @@ std::int32_t NumberOf(const std::function<void()>& call)
 class FormModelTest : public testing::Test
 {
 protected:
-    Ref<FormModel> mForm = MakeRef<FormModel>(Sample());
+    Ref<FormModel> mForm = MakeRef<FormModel>(Sample(), 7);
 };
 
 TEST_F(FormModelTest, Control_Name_GivesTheControlOfItsKind)
@@ -51,7 +51,12 @@ TEST_F(FormModelTest, Constructed_TwoControlsOfOneName_Fails)
 {
     auto definition = Sample();
     definition.rows[1].push_back(definition.rows[0][0]);
-    EXPECT_EQ(NumberOf([&] { FormModel { definition }; }), 457);
+    EXPECT_EQ(NumberOf([&] { FormModel(definition, 7); }), 457);
+}
+
+TEST_F(FormModelTest, Number_IsTheOneGiven)
+{
+    EXPECT_EQ(mForm->Number(), 7);
 }
 
 TEST_F(FormModelTest, Show_AnyNumberOfTimes_MakesTheFormVisible)
@@ -123,6 +128,19 @@ TEST_F(FormModelTest, CloseByFrame_Refused_KeepsTheForm)
     const auto subscription = mForm->Subscribe({ .QueryClose = [](bool& cancel) { cancel = true; } });
     EXPECT_FALSE(mForm->CloseByFrame());
     EXPECT_TRUE(mForm->Visible());
+    EXPECT_EQ(mForm->Caption(), "Other");
+}
+
+TEST_F(FormModelTest, CloseByFrame_RefusedButHidden_KeepsTheValues)
+{
+    mForm->Show();
+    mForm->SetCaption("Other");
+    const auto subscription = mForm->Subscribe({ .QueryClose = [this](bool& cancel) {
+        cancel = true;
+        mForm->Hide();
+    } });
+    EXPECT_TRUE(mForm->CloseByFrame()) << "off the screen";
+    EXPECT_FALSE(mForm->Visible());
     EXPECT_EQ(mForm->Caption(), "Other");
 }
 

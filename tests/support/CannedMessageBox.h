@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/controls/MessageBox.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// Message boxes that are answered from a list, and by their first button when the list is empty.
+class CannedMessageBox : public MessageBox
+{
+public:
+    struct Box
+    {
+        std::string text;
+        std::vector<Answer> buttons;
+        MessageIcon icon = MessageIcon::None;
+
+        bool operator==(const Box&) const = default;
+    };
+
+    /// The boxes so far.
+    std::vector<Box> shown;
+    /// Run while a box is on the screen, when it is set.
+    std::function<void()> onShow;
+
+    /// Answers the next box that has no answer yet.
+    void NextAnswer(Answer answer) { mAnswers.push_back(answer); }
+    /// The texts since the last call.
+    std::vector<std::string> TakeTexts()
+    {
+        std::vector<std::string> texts;
+        for (const auto& box : shown) {
+            texts.push_back(box.text);
+        }
+        shown.clear();
+        return texts;
+    }
+    Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override
+    {
+        shown.push_back({ text, buttons, icon });
+        if (onShow) {
+            onShow();
+        }
+        if (mAnswers.empty()) {
+            return buttons.front();
+        }
+        const auto answer = mAnswers.front();
+        mAnswers.pop_front();
+        return answer;
+    }
+
+private:
+    std::deque<Answer> mAnswers;
+};
+
+}
