@@ -157,11 +157,16 @@ void Mailbox::DeleteFolder(const Ref<MAPIFolder>& folder)
     mViews->Forget();
     // Copied, since an item that goes away takes itself out of the map.
     const auto live = mLive;
+    std::vector<Ref<StoreItem>> gone;
     for (const auto& known : live) {
         const auto item = known.second.lock();
         if (item && std::find(subtree.begin(), subtree.end(), item->FolderRow()) != subtree.end()) {
             item->MarkDeleted();
+            gone.emplace_back(item);
         }
+    }
+    for (const auto& item : gone) {
+        item->RaiseLetGo();
     }
 }
 
@@ -219,6 +224,13 @@ void Mailbox::MarkStatistics()
 {
     mStatistics = {};
     mCommittedStatistics = {};
+}
+
+void Mailbox::CommitHeld()
+{
+    if (mDatabase->IsHolding() && mCommit) {
+        mCommit();
+    }
 }
 
 void Mailbox::DeliverEvents()
@@ -328,6 +340,7 @@ void Mailbox::Delete(StoreItem& item)
         mTable->Delete(item.Row());
     }
     item.MarkDeleted();
+    item.RaiseLetGo();
 }
 
 void Mailbox::Display(const Ref<StoreItem>& item)

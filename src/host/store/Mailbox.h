@@ -89,6 +89,11 @@ public:
     void MarkStatistics();
     /// Called when an item is to be shown in a window of its own.
     void SetDisplay(std::function<void(const Ref<StoreItem>& item)> display) { mDisplay = std::move(display); }
+    /// Makes durable what an import holds, with the position that it has reached, as is due when a person has saved
+    /// something; does nothing when nothing is held. A failure undoes what was held.
+    void CommitHeld();
+    /// Called to commit what is held.
+    void SetCommit(std::function<void()> commit) { mCommit = std::move(commit); }
     /// Tells of the items that arrived, and of those that arrive meanwhile; does nothing within itself. Called whenever
     /// the host is idle, pumps events or comes back from the add-in.
     void DeliverEvents();
@@ -147,6 +152,7 @@ private:
     std::vector<std::weak_ptr<StoreItems>> mListening;
     std::vector<std::weak_ptr<StoreItem>> mTouched;
     std::function<void(const Ref<StoreItem>& item)> mDisplay;
+    std::function<void()> mCommit;
     SaveStatistics mStatistics;
     SaveStatistics mCommittedStatistics;
     bool mDelivering = false;

@@ -32,6 +32,10 @@ constexpr auto NeedsEscape = [](char character) {
     return character == '"' || character == '\\' || static_cast<unsigned char>(character) < 0x20;
 };
 
+constexpr auto EndsPlainText = [](char character) { return character == '"' || character == '\\'; };
+constexpr auto IsBlank
+    = [](char character) { return character == ' ' || character == '\t' || character == '\r' || character == '\n'; };
+
 void AppendText(std::string& json, std::string_view text)
 {
     static constexpr std::string_view digits = "0123456789abcdef";
@@ -90,7 +94,11 @@ private:
         throw Failure(Error::Automation, "The user properties of an item can't be read");
     }
 
-    void SkipBlanks() { mRest.remove_prefix(std::min(mRest.find_first_not_of(" \t\r\n"), mRest.size())); }
+    void SkipBlanks()
+    {
+        const auto* const other = std::find_if_not(mRest.begin(), mRest.end(), IsBlank);
+        mRest.remove_prefix(static_cast<std::size_t>(other - mRest.begin()));
+    }
     bool Take(char character)
     {
         SkipBlanks();
@@ -172,10 +180,11 @@ private:
         Expect('"');
         std::string text;
         while (true) {
-            const auto plain = mRest.find_first_of("\"\\");
-            if (plain == std::string_view::npos) {
+            const auto* const special = std::find_if(mRest.begin(), mRest.end(), EndsPlainText);
+            if (special == mRest.end()) {
                 Fail();
             }
+            const auto plain = static_cast<std::size_t>(special - mRest.begin());
             text += mRest.substr(0, plain);
             const bool ended = mRest[plain] == '"';
             mRest.remove_prefix(plain + 1);

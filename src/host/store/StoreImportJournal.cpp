@@ -21,9 +21,15 @@ StoreImportJournal::StoreImportJournal(Ref<Mailbox> mailbox)
 {
 }
 
+StoreImportJournal::~StoreImportJournal()
+{
+    mMailbox->SetCommit({});
+}
+
 void StoreImportJournal::Begin()
 {
     mMailbox->Database().Recover();
+    mMailbox->SetCommit([this] { Commit(); });
     if (mMailbox->Database().IsHolding()) {
         Commit();
     } else {

@@ -18,6 +18,9 @@ class StoreImportJournal final : public ImportJournal
 {
 public:
     explicit StoreImportJournal(Ref<Mailbox> mailbox);
+    ~StoreImportJournal() override;
+    StoreImportJournal(const StoreImportJournal&) = delete;
+    StoreImportJournal& operator=(const StoreImportJournal&) = delete;
 
     void Begin() override;
     /// Fails (5) when nothing was begun.

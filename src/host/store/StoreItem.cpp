@@ -146,12 +146,9 @@ Ref<FormDescription> StoreItem::FormDescription()
 
 void StoreItem::Save()
 {
-    CheckAlive();
     const auto self = shared_from_this();
-    bool cancel = false;
-    mEvents.Raise(&AppointmentItemEvents::Write, cancel);
-    CheckAlive();
-    mMailbox->Save(*this, cancel);
+    const bool refused = !RaiseWrite();
+    mMailbox->Save(*this, refused);
 }
 
 void StoreItem::Close(CloseMode mode)
@@ -167,8 +164,9 @@ void StoreItem::Close(CloseMode mode)
     if (mode == CloseMode::Save) {
         Save();
     } else {
-        Revert();
+        Discard();
     }
+    RaiseLetGo();
 }
 
 void StoreItem::Display()
@@ -230,6 +228,37 @@ bool StoreItem::RaiseClose()
     return !cancel;
 }
 
+bool StoreItem::SaveAsPerson()
+{
+    const auto self = shared_from_this();
+    if (!RaiseWrite()) {
+        return false;
+    }
+    mMailbox->Save(*this, false);
+    mMailbox->CommitHeld();
+    return true;
+}
+
+void StoreItem::Discard()
+{
+    CheckAlive();
+    if (mBefore) {
+        mData = std::move(*mBefore);
+        mBefore.reset();
+    }
+}
+
+Subscription StoreItem::SubscribeLetGo(std::function<void()> letGo)
+{
+    return mWindowEvents.Subscribe({ std::move(letGo) });
+}
+
+void StoreItem::RaiseLetGo()
+{
+    const auto self = shared_from_this();
+    mWindowEvents.Raise(&WindowEvents::LetGo);
+}
+
 bool StoreItem::HasChanges() const
 {
     return mRow == 0 || (mBefore && *mBefore != mData);
@@ -289,12 +318,13 @@ void StoreItem::CheckAlive() const
     }
 }
 
-void StoreItem::Revert()
+bool StoreItem::RaiseWrite()
 {
-    if (mBefore) {
-        mData = std::move(*mBefore);
-        mBefore.reset();
-    }
+    CheckAlive();
+    bool cancel = false;
+    mEvents.Raise(&AppointmentItemEvents::Write, cancel);
+    CheckAlive();
+    return !cancel;
 }
 
 }

@@ -6,6 +6,7 @@
 #include "platform/objectmodel/AppointmentItem.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -58,6 +59,15 @@ public:
     bool RaiseOpen();
     /// Raises `Close`, as a window about to close does; false when a handler refused it.
     bool RaiseClose();
+    /// A person saves it: `Write` is raised, and what is held is committed. False when a handler refused it; fails as
+    /// the store does.
+    bool SaveAsPerson();
+    /// Drops what wasn't saved, telling nobody.
+    void Discard();
+    /// Tells a window that shows the item when that is over, as code has closed the item or it was deleted.
+    Subscription SubscribeLetGo(std::function<void()> letGo);
+    /// Tells the windows that show the item that this is over.
+    void RaiseLetGo();
     /// True when something was changed since the last save, or nothing was ever saved.
     bool HasChanges() const;
 
@@ -83,8 +93,15 @@ public:
     void MarkUndone(std::optional<StoredItem> stored);
 
 private:
+    /// What happens to an item that a window shows.
+    struct WindowEvents
+    {
+        std::function<void()> LetGo;
+    };
+
     void CheckAlive() const;
-    void Revert();
+    /// Raises `Write`; false when a handler refused it.
+    bool RaiseWrite();
 
     Ref<Mailbox> mMailbox;
     std::int64_t mRow;
@@ -93,6 +110,7 @@ private:
     std::optional<ItemData> mBefore;
     bool mDeleted = false;
     EventSource<AppointmentItemEvents> mEvents;
+    EventSource<WindowEvents> mWindowEvents;
     Ref<tempodial::FormDescription> mFormDescription;
 };
 

@@ -13,7 +13,14 @@ namespace tempodial {
 HostApplication::HostApplication(Ref<Mailbox> mailbox, std::string version)
     : mMailbox(std::move(mailbox))
     , mVersion(std::move(version))
+    , mExplorers(MakeRef<HostExplorers>(mMailbox))
+    , mInspectors(MakeRef<HostInspectors>(mMailbox))
 {
+    mMailbox->SetDisplay([known = std::weak_ptr(mInspectors.Shared())](const Ref<StoreItem>& item) {
+        if (const auto inspectors = known.lock()) {
+            inspectors->Show(item);
+        }
+    });
 }
 
 Ref<NameSpace> HostApplication::GetNamespace(const std::string& type)
@@ -29,14 +36,22 @@ Ref<Explorer> HostApplication::ActiveExplorer()
     return mExplorers->Active();
 }
 
+Ref<Inspector> HostApplication::ActiveInspector()
+{
+    return mInspectors->Active();
+}
+
 Ref<MailItem> HostApplication::CreateItem()
 {
-    return MakeRef<HostMail>(mMailbox, [shown = std::weak_ptr(mMails)](const Ref<HostMail>& mail) {
-        const auto mails = shown.lock();
-        if (mails && std::find(mails->begin(), mails->end(), mail) == mails->end()) {
-            mails->push_back(mail);
+    const auto show = [known = std::weak_ptr(mInspectors.Shared())](const Ref<HostMail>& mail) {
+        if (const auto inspectors = known.lock()) {
+            inspectors->Show(mail);
         }
-    });
+    };
+    auto mail = MakeRef<HostMail>(++mMailNumbers, mMailbox, show);
+    std::erase_if(mMails, [](const auto& known) { return known.expired(); });
+    mMails.push_back(mail.Shared());
+    return mail;
 }
 
 Ref<AppointmentItem> HostApplication::CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder)
@@ -55,11 +70,32 @@ void HostApplication::RaiseQuit()
     mEvents.Raise(&ApplicationEvents::Quit);
 }
 
-Ref<HostExplorer> HostApplication::OpenExplorer(const Ref<MAPIFolder>& folder)
+Ref<HostExplorer> HostApplication::OpenExplorer(const Ref<MAPIFolder>& folder, bool barsReady)
 {
-    auto explorer = MakeRef<HostExplorer>(folder);
-    mExplorers->Add(explorer);
-    return explorer;
+    return mExplorers->Open(folder, barsReady);
+}
+
+std::vector<Ref<HostMail>> HostApplication::Mails() const
+{
+    std::vector<Ref<HostMail>> mails;
+    for (const auto& inspector : mInspectors->All()) {
+        const auto& mail = inspector->ShownMail();
+        if (mail && std::find(mails.begin(), mails.end(), mail) == mails.end()) {
+            mails.push_back(mail);
+        }
+    }
+    return mails;
+}
+
+std::vector<Ref<HostMail>> HostApplication::MadeMails() const
+{
+    std::vector<Ref<HostMail>> mails;
+    for (const auto& known : mMails) {
+        if (auto mail = known.lock()) {
+            mails.emplace_back(std::move(mail));
+        }
+    }
+    return mails;
 }
 
 }

@@ -6,15 +6,18 @@
 #include "host/windows/HostExplorers.h"
 #include "host/windows/HostInspectors.h"
 #include "host/windows/HostMail.h"
+#include "host/windows/Person.h"
 #include "platform/objectmodel/Application.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace tempodial {
 
-/// The portable host's stand-in for Outlook: a mailbox with windows onto it.
+/// The portable host's stand-in for Outlook: a mailbox with windows onto it. The mailbox's items and the mails made
+/// here are displayed in its inspectors.
 class HostApplication final : public Application
 {
 public:
@@ -27,7 +30,7 @@ public:
     Ref<tempodial::Inspectors> Inspectors() override { return mInspectors; }
     Ref<NameSpace> GetNamespace(const std::string& type) override;
     Ref<Explorer> ActiveExplorer() override;
-    Ref<Inspector> ActiveInspector() override { return nullptr; }
+    Ref<Inspector> ActiveInspector() override;
     /// A new mail, which stands among the mails on the screen once it is displayed.
     Ref<MailItem> CreateItem() override;
     /// Without a folder the item is to live in the default calendar.
@@ -38,19 +41,38 @@ public:
     void RaiseMapiLogonComplete();
     /// Tells that the application quits.
     void RaiseQuit();
-    /// Opens a window on a folder, in front of the others.
-    Ref<HostExplorer> OpenExplorer(const Ref<MAPIFolder>& folder);
-    /// The windows that are open.
-    HostExplorers& Windows() { return *mExplorers; }
+    /// Opens a window on a folder, with or without its command bars: it is told of, then it comes to the front.
+    Ref<HostExplorer> OpenExplorer(const Ref<MAPIFolder>& folder, bool barsReady = true);
+    /// Brings a window to the front and tells of it; does nothing with one that is gone.
+    void ActivateExplorer(const Ref<HostExplorer>& explorer) { mExplorers->Activate(explorer); }
+    /// Closes a window: it counts no more, then it is told of, then it is gone. Does nothing with one that is gone.
+    void CloseExplorer(const Ref<HostExplorer>& explorer) { mExplorers->Close(explorer); }
+    /// A window is gone, and nobody is told.
+    void KillExplorer(const Ref<HostExplorer>& explorer) { mExplorers->Kill(explorer); }
+    /// Opens a window on an item, a further one when it has some; nothing when a handler refused it.
+    Ref<HostInspector> OpenInspector(const Ref<StoreItem>& item) { return mInspectors->Open(item); }
+    /// Opens a window on a mail, which stands among the mails on the screen from then on.
+    Ref<HostInspector> OpenMail(const Ref<HostMail>& mail) { return mInspectors->Open(mail); }
+    /// The explorers that are open.
+    const std::vector<Ref<HostExplorer>>& OpenExplorers() const { return mExplorers->All(); }
+    /// The inspectors that are open.
+    const std::vector<Ref<HostInspector>>& OpenInspectors() const { return mInspectors->All(); }
+    /// Brings an inspector to the front; does nothing with one that is gone.
+    void ActivateInspector(const Ref<HostInspector>& inspector) { mInspectors->Activate(inspector); }
     /// The mails on the screen, in the order in which they came up.
-    const std::vector<Ref<HostMail>>& Mails() const { return *mMails; }
+    std::vector<Ref<HostMail>> Mails() const;
+    /// The mails that anybody holds, on the screen or not, in the order in which they were made.
+    std::vector<Ref<HostMail>> MadeMails() const;
+    /// What a person does to items without opening them.
+    Person User() const { return Person(mMailbox); }
 
 private:
     Ref<Mailbox> mMailbox;
     std::string mVersion;
-    Ref<HostExplorers> mExplorers = MakeRef<HostExplorers>();
-    Ref<HostInspectors> mInspectors = MakeRef<HostInspectors>();
-    std::shared_ptr<std::vector<Ref<HostMail>>> mMails = std::make_shared<std::vector<Ref<HostMail>>>();
+    Ref<HostExplorers> mExplorers;
+    Ref<HostInspectors> mInspectors;
+    std::int32_t mMailNumbers = 0;
+    std::vector<std::weak_ptr<HostMail>> mMails;
     EventSource<ApplicationEvents> mEvents;
 };
 

@@ -1,15 +1,20 @@
 #include "host/windows/HostExplorer.h"
 
 #include "base/Failure.h"
+#include "host/windows/BuiltInCommand.h"
 #include "host/windows/HostSelection.h"
+#include "platform/objectmodel/AppointmentItem.h"
 #include "platform/objectmodel/Views.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tempodial {
 
-HostExplorer::HostExplorer(Ref<MAPIFolder> folder)
-    : mFolder(std::move(folder))
+HostExplorer::HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, Ref<MAPIFolder> folder)
+    : mNumber(number)
+    , mMailbox(std::move(mailbox))
+    , mFolder(std::move(folder))
 {
 }
 
@@ -30,8 +35,11 @@ void HostExplorer::SetCurrentFolder(const Ref<MAPIFolder>& folder)
     CheckOpen();
     // Asking for the name fails for nothing and for a folder that is gone.
     folder->Name();
-    mFolder = folder;
-    mSelected.clear();
+    const auto id = folder->EntryID();
+    if (std::find(mBeside.begin(), mBeside.end(), id) == mBeside.end()) {
+        mBeside.clear();
+    }
+    Show(folder);
 }
 
 std::string HostExplorer::CurrentView()
@@ -64,24 +72,104 @@ Ref<Selection> HostExplorer::Selection()
 bool HostExplorer::IsFolderSelected(const Ref<MAPIFolder>& folder)
 {
     CheckOpen();
-    return folder->EntryID() == mFolder->EntryID();
+    const auto id = folder->EntryID();
+    return mBeside.empty() ? id == mFolder->EntryID() : std::find(mBeside.begin(), mBeside.end(), id) != mBeside.end();
 }
 
 Ref<CommandBars> HostExplorer::CommandBars()
 {
     CheckOpen();
-    return nullptr;
+    return mBars;
+}
+
+void HostExplorer::MakeBarsReady()
+{
+    CheckOpen();
+    mBars->MakeForExplorer([window = weak_from_this(), mailbox = mMailbox](std::int32_t command) {
+        if (const auto explorer = window.lock()) {
+            explorer->Run(command);
+        }
+        mailbox->CommitHeld();
+    });
+}
+
+void HostExplorer::GoTo(const Ref<MAPIFolder>& folder)
+{
+    CheckOpen();
+    // Asking for the name fails for nothing and for a folder that is gone.
+    folder->Name();
+    mBeside.clear();
+    Show(folder);
+}
+
+void HostExplorer::ShowBeside(const std::vector<Ref<MAPIFolder>>& folders)
+{
+    CheckOpen();
+    if (folders.empty()) {
+        throw Failure(Error::InvalidCall, "There are no folders to show");
+    }
+    std::vector<std::string> ids;
+    for (const auto& folder : folders) {
+        folder->Name();
+        ids.push_back(folder->EntryID());
+    }
+    mBeside = std::move(ids);
+    mFolder = folders.front();
+    mSelected.clear();
+    RaiseSelectionChange();
 }
 
 void HostExplorer::Select(std::vector<Ref<OutlookItem>> items)
 {
+    CheckOpen();
     mSelected = std::move(items);
+    RaiseSelectionChange();
+}
+
+void HostExplorer::MarkGone()
+{
+    mGone = true;
+    mBars->MarkGone();
+    mSelected.clear();
 }
 
 void HostExplorer::CheckOpen() const
 {
     if (mGone) {
         throw Failure(Error::ServerUnavailable);
+    }
+}
+
+void HostExplorer::Show(const Ref<MAPIFolder>& folder)
+{
+    const auto self = shared_from_this();
+    mFolder = folder;
+    mSelected.clear();
+    mEvents.Raise(&ExplorerEvents::FolderSwitch);
+    // The window may have gone during the event.
+    if (!mGone) {
+        RaiseSelectionChange();
+    }
+}
+
+void HostExplorer::RaiseSelectionChange()
+{
+    const auto self = shared_from_this();
+    mEvents.Raise(&ExplorerEvents::SelectionChange);
+}
+
+void HostExplorer::Run(std::int32_t command)
+{
+    if (command != BuiltInCommand::Delete || mGone || mSelected.empty()) {
+        return;
+    }
+    for (const auto& item : std::exchange(mSelected, {})) {
+        if (const auto appointment = item.As<AppointmentItem>()) {
+            appointment->Delete();
+        }
+    }
+    if (!mGone) {
+        RaiseSelectionChange();
     }
 }
 

@@ -64,8 +64,9 @@ private:
     std::shared_ptr<HostMail> mMail;
 };
 
-HostMail::HostMail(Ref<Mailbox> mailbox, Shower shower)
-    : mMailbox(std::move(mailbox))
+HostMail::HostMail(std::int32_t number, Ref<Mailbox> mailbox, Shower shower)
+    : mNumber(number)
+    , mMailbox(std::move(mailbox))
     , mShower(std::move(shower))
 {
 }

@@ -20,8 +20,8 @@ public:
     /// Called when the mail is to be shown.
     using Shower = std::function<void(const Ref<HostMail>& mail)>;
 
-    /// A new mail, which that mailbox is to keep.
-    HostMail(Ref<Mailbox> mailbox, Shower shower);
+    /// A new mail of that number, which that mailbox is to keep.
+    HostMail(std::int32_t number, Ref<Mailbox> mailbox, Shower shower);
 
     ObjectClass Class() const override { return ObjectClass::Mail; }
     std::string MessageClass() const override { return "IPM.Note"; }
@@ -36,6 +36,8 @@ public:
     Ref<tempodial::Recipients> Recipients() override;
     void Display() override;
 
+    /// The mail's number, from 1 and never given again.
+    std::int32_t Number() const { return mNumber; }
     /// A person keeps the mail among the mailbox's drafts, anew when it is gone from there; fails as the store does.
     void Save();
     /// Everything in it.
@@ -47,6 +49,7 @@ private:
     class AttachmentList;
     class RecipientList;
 
+    std::int32_t mNumber;
     Ref<Mailbox> mMailbox;
     Shower mShower;
     MailDraft mDraft;

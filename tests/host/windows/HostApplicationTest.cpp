@@ -68,19 +68,19 @@ TEST_F(HostApplicationTest, Explorers_TheLastOpenedOrActivated_IsInFront)
     EXPECT_EQ(mApplication->Explorers()->Count(), 2);
     EXPECT_EQ(mApplication->Explorers()->Item(1), Ref<Explorer>(first));
     EXPECT_EQ(mApplication->ActiveExplorer(), Ref<Explorer>(second));
-    mApplication->Windows().Activate(first);
+    mApplication->ActivateExplorer(first);
     EXPECT_EQ(mApplication->ActiveExplorer(), Ref<Explorer>(first));
-    mApplication->Windows().Close(first);
+    mApplication->CloseExplorer(first);
     EXPECT_EQ(mApplication->Explorers()->Count(), 1);
     EXPECT_EQ(mApplication->ActiveExplorer(), Ref<Explorer>(second));
-    mApplication->Windows().Activate(first);
+    mApplication->ActivateExplorer(first);
     EXPECT_EQ(mApplication->ActiveExplorer(), Ref<Explorer>(second));
 }
 
 TEST_F(HostApplicationTest, Explorer_Closed_EveryMemberFails)
 {
     const auto explorer = mApplication->OpenExplorer(mInbox);
-    mApplication->Windows().Close(explorer);
+    mApplication->CloseExplorer(explorer);
     EXPECT_EQ(FailureNumber([&] { explorer->Caption(); }), Gone);
     EXPECT_EQ(FailureNumber([&] { explorer->CurrentFolder(); }), Gone);
     EXPECT_EQ(FailureNumber([&] { explorer->SetCurrentFolder(mCalendar); }), Gone);

@@ -1,0 +1,179 @@
+#include "host/windows/HostInspector.h"
+
+#include "base/Failure.h"
+#include "base/Text.h"
+#include "host/store/Mailbox.h"
+#include "host/windows/BuiltInCommand.h"
+#include "host/windows/FormPageLayout.h"
+#include "host/windows/HostInspectors.h"
+
+namespace tempodial {
+
+namespace {
+
+/// The pages of an item's window: one or none.
+class OnePage final : public Pages
+{
+public:
+    explicit OnePage(Ref<HostPage> page)
+        : mPage(std::move(page))
+    {
+    }
+
+    Ref<Page> Item(const std::string& name) override
+    {
+        if (!mPage || !EqualIgnoringCase(mPage->Layout().name, name)) {
+            throw Failure(Error::ObjectNotFound);
+        }
+        return mPage;
+    }
+
+private:
+    Ref<HostPage> mPage;
+};
+
+}
+
+HostInspector::HostInspector(std::int32_t number, const Ref<Mailbox>& mailbox, const Ref<OutlookItem>& item)
+    : mNumber(number)
+    , mMailbox(mailbox)
+    , mItem(item.As<StoreItem>())
+    , mMail(item.As<HostMail>())
+    , mKind(mMail ? "Message" : "Appointment")
+{
+    const auto* form = mItem ? mailbox->FormOf(mItem->MessageClass()) : nullptr;
+    if (form == nullptr) {
+        return;
+    }
+    mKind = form->displayName;
+    if (auto layout = FormPageLayout::Read(form->page)) {
+        mPage = MakeRef<HostPage>(std::move(*layout), *form, mItem);
+    }
+}
+
+std::string HostInspector::Caption() const
+{
+    CheckOpen();
+    const auto subject = mMail ? mMail->Subject() : mItem->Subject();
+    return (subject.empty() ? "Untitled" : subject) + " - " + mKind;
+}
+
+Ref<OutlookItem> HostInspector::CurrentItem()
+{
+    CheckOpen();
+    return mMail ? Ref<OutlookItem>(mMail) : Ref<OutlookItem>(mItem);
+}
+
+Ref<CommandBars> HostInspector::CommandBars()
+{
+    CheckOpen();
+    return mBars;
+}
+
+Ref<Pages> HostInspector::ModifiedFormPages()
+{
+    CheckOpen();
+    return MakeRef<OnePage>(mPage);
+}
+
+void HostInspector::Edit(const std::string& control, const Variant& value)
+{
+    CheckOpen();
+    if (!mPage) {
+        throw Failure(Error::ObjectNotFound);
+    }
+    mPage->Control(control)->SetValue(value);
+}
+
+bool HostInspector::Save()
+{
+    CheckOpen();
+    const auto self = shared_from_this();
+    if (mItem) {
+        return mItem->SaveAsPerson();
+    }
+    mMail->Save();
+    mMailbox->CommitHeld();
+    return true;
+}
+
+bool HostInspector::Close()
+{
+    CheckOpen();
+    const auto self = shared_from_this();
+    if (mItem) {
+        const bool agreed = mItem->RaiseClose();
+        // Handlers may have closed the window already.
+        if (!mGone && !agreed) {
+            return false;
+        }
+        if (!mGone) {
+            mItem->Discard();
+        }
+    }
+    TakeAway();
+    mMailbox->CommitHeld();
+    return true;
+}
+
+void HostInspector::Belong(const std::weak_ptr<HostInspectors>& windows)
+{
+    mWindows = windows;
+    mBars->MakeForInspector([window = weak_from_this(), mailbox = mMailbox](std::int32_t command) {
+        if (const auto inspector = window.lock()) {
+            inspector->Run(command);
+        }
+        mailbox->CommitHeld();
+    });
+    if (mItem) {
+        mItemGone = mItem->SubscribeLetGo([window = weak_from_this()] {
+            if (const auto inspector = window.lock()) {
+                inspector->TakeAway();
+            }
+        });
+    }
+}
+
+void HostInspector::MarkGone()
+{
+    mGone = true;
+    mItemGone.End();
+    mBars->MarkGone();
+    if (mPage) {
+        mPage->MarkGone();
+    }
+    mPage = nullptr;
+    mItem = nullptr;
+    mMail = nullptr;
+}
+
+void HostInspector::CheckOpen() const
+{
+    if (mGone) {
+        throw Failure(Error::ServerUnavailable);
+    }
+}
+
+void HostInspector::TakeAway()
+{
+    if (const auto windows = mWindows.lock()) {
+        windows->TakeAway(shared_from_this());
+    }
+}
+
+void HostInspector::Run(std::int32_t command)
+{
+    if (mGone) {
+        return;
+    }
+    if (command == BuiltInCommand::SaveAndClose && Save() && !mGone) {
+        Close();
+    } else if (command == BuiltInCommand::Delete && mItem) {
+        // The window goes with its item.
+        Ref<StoreItem>(mItem)->Delete();
+    } else if (command == BuiltInCommand::Delete) {
+        TakeAway();
+    }
+}
+
+}
