@@ -386,7 +386,9 @@ int CompareIgnoringCase(std::string_view a, std::string_view b)
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b)
 {
-    return CompareIgnoringCase(a, b) == 0;
+    // Unequal lengths settle most questions, but fold to equal ones outside of ASCII.
+    const bool mayBeEqual = a.size() == b.size() || !IsAscii(a) || !IsAscii(b);
+    return mayBeEqual && CompareIgnoringCase(a, b) == 0;
 }
 
 std::int32_t InStrIgnoringCase(std::string_view text, std::string_view find)
