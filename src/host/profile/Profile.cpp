@@ -7,7 +7,6 @@
 #include "host/store/StoreImportJournal.h"
 #include "host/system/BitmapLoader.h"
 #include "host/system/ExpatXml.h"
-#include "host/system/HostClock.h"
 #include "host/system/HostFileSystem.h"
 #include "host/system/HostShell.h"
 #include "host/system/IcuLocaleFormats.h"
@@ -16,6 +15,7 @@ namespace tempodial {
 
 Profile::Profile(const std::string& folder, const std::string& locale, std::optional<Date> now)
     : mFolder(folder)
+    , mClock(MakeRef<HostClock>(now))
 {
     try {
         mPlatform.formats = MakeRef<IcuLocaleFormats>(locale);
@@ -30,7 +30,7 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
     mPlatform.fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
     mPlatform.registry = MakeRef<ProgramRegistry>(mRegistry, ProgramRegistry::FolderOfThisProgram());
     mPlatform.shell = MakeRef<HostShell>();
-    mPlatform.clock = MakeRef<HostClock>(now);
+    mPlatform.clock = mClock;
     mPlatform.pictures = MakeRef<BitmapLoader>();
     mPlatform.importJournal = MakeRef<StoreImportJournal>(mMailbox);
     mPlatform.eventPump = MakeRef<MailboxEventPump>(mMailbox);

@@ -4,6 +4,7 @@
 #include "base/Ref.h"
 #include "host/profile/ProfileFolder.h"
 #include "host/store/Mailbox.h"
+#include "host/system/HostClock.h"
 #include "host/system/TomlRegistry.h"
 #include "platform/Platform.h"
 
@@ -25,6 +26,7 @@ public:
     std::string DataFolder() const { return mFolder.Path() + "/Tempodial"; }
     const Ref<TomlRegistry>& Registry() const { return mRegistry; }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mMailbox; }
+    const Ref<HostClock>& Clock() const { return mClock; }
     /// The surroundings, but for forms and message boxes, which a program adds; their event pump tells what the mailbox
     /// has to tell.
     const Platform& Surroundings() const { return mPlatform; }
@@ -33,6 +35,7 @@ private:
     ProfileFolder mFolder;
     Ref<TomlRegistry> mRegistry;
     Ref<tempodial::Mailbox> mMailbox;
+    Ref<HostClock> mClock;
     Platform mPlatform;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/module/ProgramModule.h"
 #include "host/system/MimeMessage.h"
 #include "platform/system/MailDraftWriter.h"
 
@@ -12,20 +13,14 @@ namespace tempodial {
 class GMimeDraftWriter final : public MailDraftWriter
 {
 public:
-    /// Takes the path of the module.
-    explicit GMimeDraftWriter(std::string modulePath);
+    /// Takes the path of the module, which else is the program's own.
+    explicit GMimeDraftWriter(std::string modulePath = ProgramModule::PathOf(MimeMessageModule));
 
     /// Fails also (429) when the module can't be loaded.
     void Write(const MailDraft& draft, const std::string& path) override;
 
-    /// The module that belongs to the running program, both installed and in a build tree.
-    static std::string ModuleOfThisProgram();
-
 private:
-    MimeMessageWriter Load();
-
-    std::string mModulePath;
-    MimeMessageWriter mWriteMessage = nullptr;
+    ProgramModule mModule;
 };
 
 }

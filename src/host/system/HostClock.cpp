@@ -19,4 +19,10 @@ Date HostClock::Now()
     return mLocalTime.At(std::time(nullptr));
 }
 
+void HostClock::Set(Date now)
+{
+    mStart = now;
+    mStartedAt = std::chrono::steady_clock::now();
+}
+
 }

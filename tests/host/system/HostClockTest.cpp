@@ -53,6 +53,20 @@ TEST_F(HostClockTest, Now_WithStart_GoesOnFromThere)
     EXPECT_GE(clock.Now(), first);
 }
 
+TEST_F(HostClockTest, Set_GoesOnFromThere)
+{
+    const auto moment = Date::FromParts({ 2006, 10, 10, 9, 0, 0 });
+    HostClock system;
+    HostClock fixed(moment.AddDays(1));
+    for (auto* clock : { &system, &fixed }) {
+        clock->Set(moment);
+        const auto first = clock->Now();
+        EXPECT_GE(first, moment);
+        EXPECT_LT(first, moment.AddMinutes(10));
+        EXPECT_GE(clock->Now(), first);
+    }
+}
+
 TEST_F(HostClockTest, LocalTime_ZoneEastOfGreenwich_IsAhead)
 {
     SetZone("TST-5:30");
