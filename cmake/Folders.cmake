@@ -48,14 +48,16 @@ function(tempodial_collect name)
     endif()
 endfunction()
 
-# tempodial_program(NAME MAIN [LINK TARGET...]): a program that is installed, once its main source exists.
+# tempodial_program(NAME MAIN [NOT_INSTALLED] [LINK TARGET...]): a program, once its main source exists.
 function(tempodial_program name main)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LINK")
+    cmake_parse_arguments(PARSE_ARGV 2 arg "NOT_INSTALLED" "" "LINK")
     file(GLOB source CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${main}")
     if(source)
         add_executable(${name} ${source})
         target_link_libraries(${name} PRIVATE ${arg_LINK})
-        install(TARGETS ${name})
+        if(NOT arg_NOT_INSTALLED)
+            install(TARGETS ${name})
+        endif()
     endif()
 endfunction()
 

@@ -56,7 +56,7 @@ protected:
     }
 
     TempFolder mFolder;
-    GMimeDraftWriter mWriter { GMimeDraftWriter::ModuleOfThisProgram() };
+    GMimeDraftWriter mWriter;
 };
 
 TEST_F(GMimeDraftWriterTest, Write_PlainText_IsOnePart)
@@ -175,7 +175,7 @@ TEST_F(GMimeDraftWriterTest, Write_SameDraft_GivesTheSameBytes)
 {
     const MailDraft draft { { "a@b.example" }, "s", "計画", true, { { "a.csv", "x", "" } } };
     mWriter.Write(draft, mFolder.Path("a.eml"));
-    GMimeDraftWriter(GMimeDraftWriter::ModuleOfThisProgram()).Write(draft, mFolder.Path("b.eml"));
+    GMimeDraftWriter().Write(draft, mFolder.Path("b.eml"));
     EXPECT_EQ(mFolder.Read("a.eml"), mFolder.Read("b.eml"));
     EXPECT_THAT(mFolder.Read("a.eml"), Not(HasSubstr("Date:")));
     EXPECT_THAT(mFolder.Read("a.eml"), Not(HasSubstr("Message-I")));
