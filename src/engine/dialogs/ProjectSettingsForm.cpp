@@ -199,7 +199,7 @@ bool ProjectSettingsForm::PreparedForProjectChangeWithoutInput()
     };
     if (mProjectChanged && mCurrentProject != mTypedProject) {
         attempt([&] { Trace("click/change not allowed"); });
-        ShowMessage(mMain->mStrings->mErrorSaveFirst, attempt);
+        ShowMessage(attempt.Get([&] { return mMain->mStrings->mErrorSaveFirst; }), attempt);
         stay();
     } else if (mRulesChanged || mPrecedenceChanged) {
         auto answer = Answer::No;
@@ -230,7 +230,7 @@ std::string ProjectSettingsForm::Save(const std::string& project, bool applyPast
     attempt([&] { Trace("PSF Save"); });
     const auto chosen = attempt.Get([&] { return mControls.mPrecedenceCombo->Text(); });
     const auto is = [&](std::string TempodialStrings::*name) {
-        return attempt.Get([&] { return chosen == mMain->mStrings.Get()->*name; });
+        return attempt.Get([&] { return chosen == (*mMain->mStrings).*name; });
     };
     std::string precedence;
     if (is(&TempodialStrings::mPrecedenceHigh)) {
