@@ -232,6 +232,58 @@ TEST_F(StoreImportJournalTest, Begin_AfterAFailure_StartsAnew)
     EXPECT_TRUE(mJournal->Committed("20061010"));
 }
 
+TEST_F(StoreImportJournalTest, CommitHeld_CommitsTheImportInItsMidst)
+{
+    mMailbox->CommitHeld();
+    mJournal->Begin();
+    NewTestItem(mMailbox, "a")->Save();
+    mJournal->Loaded("20061010", { 100, 1 });
+    mMailbox->CommitHeld();
+    EXPECT_EQ(mJournal->Committed("20061010")->count, 100);
+    EXPECT_TRUE(mMailbox->Database().IsHolding());
+    mMailbox->CommitHeld();
+    mJournal->End();
+    mMailbox->CommitHeld();
+    EXPECT_FALSE(mMailbox->Database().IsHolding());
+    mJournal = nullptr;
+    mMailbox->CommitHeld();
+    EXPECT_EQ(Stored(), 1);
+}
+
+TEST_F(StoreImportJournalTest, SaveAsPerson_KilledAfterIt_TheNextProcessFindsAll)
+{
+    ASSERT_TRUE(RunUntilKilled([&] {
+        const auto mailbox = OpenTestMailbox(mPath);
+        StoreImportJournal journal(mailbox);
+        journal.Begin();
+        NewTestItem(mailbox, "imported")->Save();
+        journal.Loaded("20061010", { 100, 1 });
+        NewTestItem(mailbox, "of a person")->SaveAsPerson();
+        NewTestItem(mailbox, "lost")->Save();
+        KillThisProcess();
+    }));
+    const auto mailbox = OpenTestMailbox(mPath);
+    EXPECT_EQ(TestItems(mailbox)->Count(), 2);
+    EXPECT_EQ(StoreImportJournal(mailbox).Committed("20061010")->count, 100);
+}
+
+TEST_F(StoreImportJournalTest, SaveAsPerson_CommitFails_UndoesWhatWasHeld)
+{
+    mJournal->Begin();
+    NewTestItem(mMailbox, "imported")->Save();
+    const auto item = LargeItem("of a person");
+    FillDisk();
+    EXPECT_EQ(FailureNumber([&] { item->SaveAsPerson(); }), 61);
+    EXPECT_TRUE(item->HasChanges());
+    EXPECT_EQ(Stored(), 0);
+    FreeDisk();
+    EXPECT_EQ(FailureNumber([&] { item->SaveAsPerson(); }), 61);
+    mJournal->Begin();
+    EXPECT_TRUE(item->SaveAsPerson());
+    mJournal->End();
+    EXPECT_EQ(Stored(), 1);
+}
+
 TEST_F(StoreImportJournalTest, KilledBetweenCommits_TheNextProcessFindsTheLastCommit)
 {
     ASSERT_TRUE(RunUntilKilled([&] {
