@@ -1,6 +1,7 @@
 #include "host/windows/HostExplorer.h"
 
 #include "base/Failure.h"
+#include "host/store/StoreFolder.h"
 #include "host/windows/BuiltInCommand.h"
 #include "host/windows/HostSelection.h"
 #include "platform/objectmodel/AppointmentItem.h"
@@ -11,10 +12,10 @@
 
 namespace tempodial {
 
-HostExplorer::HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, Ref<MAPIFolder> folder)
+HostExplorer::HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, const Ref<MAPIFolder>& folder)
     : mNumber(number)
     , mMailbox(std::move(mailbox))
-    , mFolder(std::move(folder))
+    , mFolder(OwnFolder(folder))
 {
 }
 
@@ -33,13 +34,11 @@ Ref<MAPIFolder> HostExplorer::CurrentFolder()
 void HostExplorer::SetCurrentFolder(const Ref<MAPIFolder>& folder)
 {
     CheckOpen();
-    // Asking for the name fails for nothing and for a folder that is gone.
-    folder->Name();
-    const auto id = folder->EntryID();
-    if (std::find(mBeside.begin(), mBeside.end(), id) == mBeside.end()) {
+    const auto own = OwnFolder(folder);
+    if (std::find(mBeside.begin(), mBeside.end(), own->EntryID()) == mBeside.end()) {
         mBeside.clear();
     }
-    Show(folder);
+    Show(own);
 }
 
 std::string HostExplorer::CurrentView()
@@ -96,10 +95,9 @@ void HostExplorer::MakeBarsReady()
 void HostExplorer::GoTo(const Ref<MAPIFolder>& folder)
 {
     CheckOpen();
-    // Asking for the name fails for nothing and for a folder that is gone.
-    folder->Name();
+    const auto own = OwnFolder(folder);
     mBeside.clear();
-    Show(folder);
+    Show(own);
 }
 
 void HostExplorer::ShowBeside(const std::vector<Ref<MAPIFolder>>& folders)
@@ -110,11 +108,10 @@ void HostExplorer::ShowBeside(const std::vector<Ref<MAPIFolder>>& folders)
     }
     std::vector<std::string> ids;
     for (const auto& folder : folders) {
-        folder->Name();
-        ids.push_back(folder->EntryID());
+        ids.push_back(OwnFolder(folder)->EntryID());
     }
     mBeside = std::move(ids);
-    mFolder = folders.front();
+    mFolder = OwnFolder(folders.front());
     mSelected.clear();
     RaiseSelectionChange();
 }
@@ -138,6 +135,11 @@ void HostExplorer::CheckOpen() const
     if (mGone) {
         throw Failure(Error::ServerUnavailable);
     }
+}
+
+Ref<MAPIFolder> HostExplorer::OwnFolder(const Ref<MAPIFolder>& folder) const
+{
+    return mMailbox->Folder(mMailbox->RowOf(folder));
 }
 
 void HostExplorer::Show(const Ref<MAPIFolder>& folder)

@@ -18,8 +18,8 @@ namespace tempodial {
 class HostExplorer final : public Explorer, public std::enable_shared_from_this<HostExplorer>
 {
 public:
-    /// A window of that number, which has no command bars yet.
-    HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, Ref<MAPIFolder> folder);
+    /// A window of that number, which has no command bars yet; fails as `SetCurrentFolder` does.
+    HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, const Ref<MAPIFolder>& folder);
 
     std::string Caption() const override;
     Ref<MAPIFolder> CurrentFolder() override;
@@ -60,6 +60,8 @@ public:
 
 private:
     void CheckOpen() const;
+    /// The mailbox's own object for a folder, which may come from elsewhere.
+    Ref<MAPIFolder> OwnFolder(const Ref<MAPIFolder>& folder) const;
     void Show(const Ref<MAPIFolder>& folder);
     void RaiseSelectionChange();
     void Run(std::int32_t command);

@@ -17,9 +17,8 @@ Ref<Explorer> HostExplorers::Item(std::int32_t index)
 
 Ref<HostExplorer> HostExplorers::Open(const Ref<MAPIFolder>& folder, bool barsReady)
 {
-    // Asking for the name fails for nothing and for a folder that is gone.
-    folder->Name();
-    auto explorer = MakeRef<HostExplorer>(++mNumbers, mMailbox, folder);
+    auto explorer = MakeRef<HostExplorer>(mNumbers + 1, mMailbox, folder);
+    ++mNumbers;
     if (barsReady) {
         explorer->MakeBarsReady();
     }
