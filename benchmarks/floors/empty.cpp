@@ -1,0 +1,6 @@
+// The least that starting a program costs.
+
+int main()
+{
+    return 0;
+}

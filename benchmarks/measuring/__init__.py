@@ -1,0 +1,1 @@
+"""What benchmarks/run is made of."""
