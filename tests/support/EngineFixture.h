@@ -4,50 +4,20 @@
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
-#include "forms/FormModelFactory.h"
 #include "host/store/FormTemplate.h"
 #include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
-#include "host/system/ExpatXml.h"
 #include "support/MapRegistry.h"
 #include "support/ObservedItem.h"
-#include "support/TestApplication.h"
+#include "support/TestHost.h"
 #include "support/TraceFixture.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace tempodial {
 
-/// A message box that is answered at once and kept.
-class TestMessageBox : public MessageBox
-{
-public:
-    std::vector<std::string> texts;
-
-    Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon) override
-    {
-        texts.push_back(text);
-        return buttons.front();
-    }
-};
-
-/// An event pump that does what a test wants done.
-class TestEventPump : public EventPump
-{
-public:
-    std::function<void()> onProcess;
-
-    void ProcessPending() override
-    {
-        if (onProcess) {
-            onProcess();
-        }
-    }
-};
-
-/// An initialised main object over a mailbox in memory, an empty registry and windows that the test makes. Nothing ran
+/// An initialised main object over a mailbox in memory, an empty registry and an explorer on the inbox. Nothing ran
 /// yet: the mailbox has its default folders only.
 class EngineFixture : public TraceFixture
 {
@@ -57,22 +27,14 @@ protected:
 
     EngineFixture()
     {
-        mPlatform->registry = mRegistry;
-        mPlatform->xml = MakeRef<ExpatXmlFactory>();
-        mPlatform->messageBox = mMessages;
-        mPlatform->forms = mForms;
-        mPlatform->eventPump = mEventPump;
+        mHost.clock->Set(mClock->Now());
+        mClock = mHost.clock;
+        mPlatform = mHost.platform;
         mRegistry->values[{ Hive::LocalMachine, ProductKey, "Install Directory" }] = mFolder.Path("install");
-        mMailbox = Mailbox::Open(":memory:", mPlatform->formats, mPlatform->xml);
-        mNamespace = mMailbox->NameSpace();
-        mApplication->nameSpace = mNamespace;
-        mApplication->activeExplorer = mExplorer;
-        mExplorer->folder = mNamespace->GetDefaultFolder(DefaultFolder::Inbox);
-        mApplication->explorers->windows = { mExplorer };
         mApplication->fromTemplate = [this](const std::string&, const Ref<MAPIFolder>& folder) {
             return mMailbox->NewItem(folder, FormTemplate { mFormClass, "", {}, "" });
         };
-        mMain = MakeRef<TempodialMain>(mPlatform);
+        *mApplication->observer = [this](const std::string& member) { mWindowUses.push_back(member); };
         mMain->Initialize("Tempodial.Connect", mApplication);
         mLog = mMain->mTempodialDebugLog;
         ForgetTrace();
@@ -102,10 +64,11 @@ protected:
         std::filesystem::create_directories(mFolder.Path("install"));
         mFolder.Write("install/" + name, content);
     }
-    /// Shows an item in a window, from the next run of the main object on.
+    /// Shows an item in a window.
     void Open(const Ref<AppointmentItem>& item)
     {
-        mApplication->inspectors->windows.push_back(MakeRef<TestInspector>(item));
+        item->Display();
+        ForgetTrace();
     }
     static std::string Property(const Ref<AppointmentItem>& item, const std::string& name)
     {
@@ -119,14 +82,17 @@ protected:
     }
 
     Ref<MapRegistry> mRegistry = MakeRef<MapRegistry>();
-    Ref<TestMessageBox> mMessages = MakeRef<TestMessageBox>();
-    Ref<FormModelFactory> mForms = MakeRef<FormModelFactory>();
-    Ref<TestEventPump> mEventPump = MakeRef<TestEventPump>();
-    Ref<Mailbox> mMailbox;
-    Ref<NameSpace> mNamespace;
-    Ref<TestExplorer> mExplorer = MakeRef<TestExplorer>();
-    Ref<TestApplication> mApplication = MakeRef<TestApplication>();
-    Ref<TempodialMain> mMain;
+    TestHost mHost { mFolder.Path(), mRegistry };
+    Ref<CannedMessageBox> mMessages = mHost.messageBox;
+    Ref<FormModelFactory> mForms = mHost.forms;
+    Ref<TestEventPump> mEventPump = mHost.eventPump;
+    Ref<Mailbox> mMailbox = mHost.mailbox;
+    Ref<NameSpace> mNamespace = mMailbox->NameSpace();
+    Ref<HostExplorer> mExplorer = mHost.explorer;
+    Ref<TestApplication> mApplication = mHost.application;
+    Ref<TempodialMain> mMain = MakeRef<TempodialMain>(mHost.platform);
+    /// The members of windows and their bars that were used, such as "Explorer.SetCurrentFolder".
+    std::vector<std::string> mWindowUses;
     /// The class of the form template's items.
     std::string mFormClass = ActivityClass;
 };

@@ -1,143 +1,131 @@
 #pragma once
 
 #include "base/Failure.h"
+#include "host/windows/HostApplication.h"
 #include "platform/objectmodel/Application.h"
-#include "platform/objectmodel/Items.h"
+#include "support/ObservedWindows.h"
 
+#include <cstdint>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace tempodial {
 
-/// A selection that a test fills.
-class TestSelection : public Selection
+/// The host's windows of a kind, of which a test is told.
+template <class Collection, class Window, class Observed> class TestWindows : public Collection
 {
 public:
-    std::vector<Ref<OutlookItem>> items;
-
-    std::int32_t Count() override { return static_cast<std::int32_t>(items.size()); }
-    Ref<OutlookItem> Item(std::int32_t index) override
+    TestWindows(Ref<Collection> windows, WindowObserver observer)
+        : mWindows(std::move(windows))
+        , mObserver(std::move(observer))
     {
-        if (index < 1 || index > Count()) {
-            throw Failure(Error::SubscriptOutOfRange);
-        }
-        return items[static_cast<std::size_t>(index) - 1];
     }
-};
 
-/// A window on a folder that a test fills; the test is told of the folders and views that it is given.
-class TestExplorer : public Explorer
-{
-public:
-    Ref<MAPIFolder> folder;
-    std::string view;
-    Ref<TestSelection> selection = MakeRef<TestSelection>();
-    /// How often a folder and a view were set.
-    int foldersSet = 0;
-    int viewsSet = 0;
+    /// What is told as the number of windows, when it is set.
+    std::optional<std::int32_t> toldCount;
 
-    std::string Caption() const override { return "Tempodial"; }
-    Ref<MAPIFolder> CurrentFolder() override { return folder; }
-    void SetCurrentFolder(const Ref<MAPIFolder>& other) override
+    std::int32_t Count() override
     {
-        folder = other;
-        ++foldersSet;
+        mObserver("Windows.Count");
+        return toldCount.value_or(mWindows->Count());
     }
-    std::string CurrentView() override { return view; }
-    void SetCurrentView(const std::string& name) override
+    Ref<Window> Item(std::int32_t index) override { return MakeRef<Observed>(mWindows->Item(index), mObserver); }
+    Subscription Subscribe(typename Collection::Events events) override
     {
-        view = name;
-        ++viewsSet;
+        return mWindows->Subscribe(Observing(std::move(events)));
     }
-    Ref<tempodial::Selection> Selection() override { return selection; }
-    bool IsFolderSelected(const Ref<MAPIFolder>& other) override { return other->EntryID() == folder->EntryID(); }
-    Ref<tempodial::CommandBars> CommandBars() override { throw Failure(Error::InvalidCall); }
-    Subscription Subscribe(ExplorerEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
 private:
-    EventSource<ExplorerEvents> mEvents;
-};
-
-/// A window on an item.
-class TestInspector : public Inspector
-{
-public:
-    explicit TestInspector(Ref<OutlookItem> item)
-        : mItem(std::move(item))
+    ExplorersEvents Observing(ExplorersEvents events) const
     {
+        return { .NewExplorer
+            = [raise = std::move(events.NewExplorer), observer = mObserver](
+                  const Ref<Explorer>& explorer) { raise(MakeRef<ObservedExplorer>(explorer, observer)); } };
+    }
+    InspectorsEvents Observing(InspectorsEvents events) const
+    {
+        return { .NewInspector
+            = [raise = std::move(events.NewInspector), observer = mObserver](
+                  const Ref<Inspector>& inspector) { raise(MakeRef<ObservedInspector>(inspector, observer)); } };
     }
 
-    std::string Caption() const override { return "Tempodial"; }
-    Ref<OutlookItem> CurrentItem() override { return mItem; }
-    Ref<tempodial::CommandBars> CommandBars() override { throw Failure(Error::InvalidCall); }
-    Ref<Pages> ModifiedFormPages() override { throw Failure(Error::InvalidCall); }
-    Subscription Subscribe(InspectorEvents events) override { return mEvents.Subscribe(std::move(events)); }
-
-private:
-    Ref<OutlookItem> mItem;
-    EventSource<InspectorEvents> mEvents;
+    Ref<Collection> mWindows;
+    WindowObserver mObserver;
 };
 
-/// Windows in a list.
-template <class Collection, class Window> class TestWindows : public Collection
-{
-public:
-    std::vector<Ref<Window>> windows;
-
-    std::int32_t Count() override { return static_cast<std::int32_t>(windows.size()); }
-    Ref<Window> Item(std::int32_t index) override
-    {
-        if (index < 1 || index > Count()) {
-            throw Failure(Error::SubscriptOutOfRange);
-        }
-        return windows[static_cast<std::size_t>(index) - 1];
-    }
-    Subscription Subscribe(typename Collection::Events events) override { return mEvents.Subscribe(std::move(events)); }
-
-private:
-    EventSource<typename Collection::Events> mEvents;
-};
-
-/// An application with a session, windows and a form template that a test gives it.
+/// The host's application, of which a test is told and which it can change or let fail.
 class TestApplication : public Application
 {
 public:
-    Ref<NameSpace> nameSpace;
-    Ref<Explorer> activeExplorer;
-    Ref<TestWindows<tempodial::Explorers, Explorer>> explorers = MakeRef<TestWindows<tempodial::Explorers, Explorer>>();
-    Ref<TestWindows<tempodial::Inspectors, Inspector>> inspectors
-        = MakeRef<TestWindows<tempodial::Inspectors, Inspector>>();
-    /// Makes the item of a form template; an absent template fails (53).
-    std::function<Ref<AppointmentItem>(const std::string& path, const Ref<MAPIFolder>& folder)> fromTemplate;
-
-    /// Makes a mail; without it making one fails.
-    std::function<Ref<MailItem>()> newMail;
-
-    std::string Version() const override { return "16.0.0.1"; }
-    Ref<tempodial::Explorers> Explorers() override { return explorers; }
-    Ref<tempodial::Inspectors> Inspectors() override { return inspectors; }
-    Ref<NameSpace> GetNamespace(const std::string&) override { return nameSpace; }
-    Ref<Explorer> ActiveExplorer() override { return activeExplorer; }
-    Ref<Inspector> ActiveInspector() override { return nullptr; }
-    Ref<MailItem> CreateItem() override
+    explicit TestApplication(Ref<HostApplication> application)
+        : host(std::move(application))
     {
-        if (!newMail) {
+    }
+
+    /// The application itself, for what a person does.
+    Ref<HostApplication> host;
+    std::string version = HostApplication::DefaultVersion;
+    bool versionFails = false;
+    /// What is given as the mail session, when it is set.
+    std::optional<Ref<NameSpace>> toldNameSpace;
+    /// Told of the use of each window and its bars, when it is set.
+    const std::shared_ptr<WindowObserver> observer = std::make_shared<WindowObserver>();
+    /// False to tell of no explorer in front.
+    bool hasActiveExplorer = true;
+    /// Makes the item of a form template, when it is set.
+    std::function<Ref<AppointmentItem>(const std::string& path, const Ref<MAPIFolder>& folder)> fromTemplate;
+    /// Makes a mail, when it is set.
+    std::function<Ref<MailItem>()> newMail;
+    Ref<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>> explorers
+        = MakeRef<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>>(host->Explorers(), Telling());
+    Ref<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>> inspectors
+        = MakeRef<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>>(host->Inspectors(), Telling());
+
+    void LogOn() const { host->RaiseMapiLogonComplete(); }
+    void Quit() const { host->RaiseQuit(); }
+
+    std::string Version() const override
+    {
+        if (versionFails) {
             throw Failure(Error::Automation);
         }
-        return newMail();
+        return version;
     }
+    Ref<tempodial::Explorers> Explorers() override { return explorers; }
+    Ref<tempodial::Inspectors> Inspectors() override { return inspectors; }
+    Ref<NameSpace> GetNamespace(const std::string& type) override
+    {
+        return toldNameSpace ? *toldNameSpace : host->GetNamespace(type);
+    }
+    Ref<Explorer> ActiveExplorer() override
+    {
+        const auto active = hasActiveExplorer ? host->ActiveExplorer() : nullptr;
+        return active ? Ref<Explorer>(MakeRef<ObservedExplorer>(active, Telling())) : nullptr;
+    }
+    Ref<Inspector> ActiveInspector() override
+    {
+        const auto active = host->ActiveInspector();
+        return active ? Ref<Inspector>(MakeRef<ObservedInspector>(active, Telling())) : nullptr;
+    }
+    Ref<MailItem> CreateItem() override { return newMail ? newMail() : host->CreateItem(); }
     Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override
     {
-        if (!fromTemplate) {
-            throw Failure(Error::FileNotFound);
-        }
-        return fromTemplate(path, folder);
+        return fromTemplate ? fromTemplate(path, folder) : host->CreateItemFromTemplate(path, folder);
     }
-    Subscription Subscribe(ApplicationEvents events) override { return mEvents.Subscribe(std::move(events)); }
+    Subscription Subscribe(ApplicationEvents events) override { return host->Subscribe(std::move(events)); }
 
 private:
-    EventSource<ApplicationEvents> mEvents;
+    WindowObserver Telling() const
+    {
+        return [told = observer](const std::string& member) {
+            if (*told) {
+                (*told)(member);
+            }
+        };
+    }
 };
 
 }

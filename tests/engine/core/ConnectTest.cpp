@@ -10,7 +10,7 @@ class ConnectTest : public CoreFixture
 
 TEST_F(ConnectTest, OnConnection_NoWindowAndNoInspector_StaysDormant)
 {
-    mApplication->explorers->windows.clear();
+    mApplication->host->CloseExplorer(mExplorer);
     ConnectAddIn();
     EXPECT_FALSE(mConnect.Main());
     mApplication->LogOn();
@@ -21,8 +21,8 @@ TEST_F(ConnectTest, OnConnection_NoWindowAndNoInspector_StaysDormant)
 
 TEST_F(ConnectTest, OnConnection_InspectorAlone_MakesTheAddIn)
 {
-    mApplication->explorers->windows.clear();
-    mApplication->inspectors->windows = { MakeRef<TestInspector>(nullptr) };
+    mApplication->host->CloseExplorer(mExplorer);
+    mApplication->host->CreateItem()->Display();
     ConnectAddIn();
     EXPECT_TRUE(mConnect.Main());
     EXPECT_TRUE(HasTraceFile());

@@ -21,7 +21,7 @@ const Date Day = Date::FromYearMonthDay(2006, 10, 10);
 class GuardedMail : public MailItem
 {
 public:
-    GuardedMail(Ref<HostMail> mail, Failure refusal)
+    GuardedMail(Ref<MailItem> mail, Failure refusal)
         : mMail(std::move(mail))
         , mRefusal(std::move(refusal))
     {
@@ -41,7 +41,7 @@ public:
     void Display() override { mMail->Display(); }
 
 private:
-    Ref<HostMail> mMail;
+    Ref<MailItem> mMail;
     Failure mRefusal;
 };
 
@@ -53,9 +53,8 @@ protected:
     TempodialMainMailsTest()
     {
         mApplication->newMail = [this]() -> Ref<MailItem> {
-            const auto mail
-                = MakeRef<HostMail>(mMailbox, [this](const Ref<HostMail>& shown) { mShown.push_back(shown); });
-            return mRefusal ? Ref<MailItem>(MakeRef<GuardedMail>(mail, *mRefusal)) : Ref<MailItem>(mail);
+            const auto mail = mApplication->host->CreateItem();
+            return mRefusal ? Ref<MailItem>(MakeRef<GuardedMail>(mail, *mRefusal)) : mail;
         };
         ConnectAddIn();
         mApplication->LogOn();
@@ -66,16 +65,16 @@ protected:
     {
         Main().CreateReport(Day, Day, Main().mTempodialReport->mApplication, true, csv, html, false);
     }
-    const MailDraft& Shown() const { return mShown.at(0)->Draft(); }
+    std::vector<Ref<HostMail>> Mails() const { return mApplication->host->Mails(); }
+    const MailDraft& Shown() const { return Mails().at(0)->Draft(); }
 
     std::optional<Failure> mRefusal;
-    std::vector<Ref<HostMail>> mShown;
 };
 
 TEST_F(TempodialMainMailsTest, ReportProblem_Cancelled_MakesNothing)
 {
     Main().ReportProblem("text", Day, false, true);
-    EXPECT_THAT(mShown, IsEmpty());
+    EXPECT_THAT(Mails(), IsEmpty());
     EXPECT_THAT(Traced(), ElementsAre("Generate a problem report"));
 }
 
@@ -84,7 +83,7 @@ TEST_F(TempodialMainMailsTest, ReportProblem_IsAddressedAndHoldsTheDiagnostics)
     mFolder.Write("Tempodial/tracker_granules20061010.out", "x");
     mFolder.Write("Tempodial/tracker_granules20061009.out", "y");
     Main().ReportProblem("text", Day, false, false);
-    ASSERT_EQ(mShown.size(), 1U);
+    ASSERT_EQ(Mails().size(), 1U);
     EXPECT_EQ(Shown().subject, "Tempodial Problem Report: Tuesday, October 10, 2006 9:00:00 AM");
     EXPECT_THAT(Shown().recipients, ElementsAre(Main().mStrings->mReportRecip));
     EXPECT_EQ(Shown().body, "text");
@@ -129,7 +128,7 @@ TEST_F(TempodialMainMailsTest, ReportProblem_OtherFailure_IsNotRemembered)
 
 TEST_F(TempodialMainMailsTest, ReportProblem_NoMail_TracesAndGoesOn)
 {
-    mApplication->newMail = nullptr;
+    mApplication->newMail = []() -> Ref<MailItem> { throw Failure(Error::Automation); };
     Main().ReportProblem("B", Day, false, false);
     const auto lines = Traced();
     EXPECT_THAT(lines, Contains("ReportProblem error Automation error:create"));
@@ -165,7 +164,7 @@ TEST_F(TempodialMainMailsTest, CreateReport_Csv_IsAttachedAndItsFileDeleted)
 
 TEST_F(TempodialMainMailsTest, CreateReport_NoMail_StillDeletesTheCsvFile)
 {
-    mApplication->newMail = nullptr;
+    mApplication->newMail = []() -> Ref<MailItem> { throw Failure(Error::Automation); };
     CreateReport(true, false);
     EXPECT_FALSE(mFolder.Has("Tempodial/Tempodial Tuesday, October 10, 2006.csv"));
     EXPECT_THAT(Traced(), Contains("ShowreportformAutomation error:create email"));

@@ -21,15 +21,16 @@ TEST_F(TempodialMainTest, Initialize_TracesItsStepsInOrder)
     EXPECT_THAT(Traced(),
         ElementsAre("revision 1 TempodialDebugLog TRACE SESSION START ", "Check for Outlook 2002",
             "Outlook version is 11.0.0.8010", "not 2002", "server security settings: ", "Oldver:  currVer: 1.2.0",
-            "SetRegistryValue: CurrentVersion to 1.2.0", "revision 1 TempodialMain Initialize ",
-            "revision 1 TempodialWorkLog", "Initialize revision 1 TempodialDataHandler", "revision 1 TempodialAnalyser",
+            "SetRegistryValue: CurrentVersion to 1.2.0", "Init toolbar utils revision 1 TempodialToolbarUtils",
+            "PSF Init", "ReportForm Init", "revision 1 TempodialMain Initialize ", "revision 1 TempodialWorkLog",
+            "Initialize revision 1 TempodialDataHandler", "revision 1 TempodialAnalyser",
             "revision 1 TempodialProjectManager", "Initialized, run next "));
     EXPECT_EQ(Main().mTraceInfo, "TDMain");
 }
 
 TEST_F(TempodialMainTest, Initialize_DoesntTouchTheMailbox)
 {
-    mApplication->nameSpace = nullptr;
+    mApplication->toldNameSpace = Ref<NameSpace>();
     ConnectAddIn();
     EXPECT_THAT(Traced(), Contains("Initialized, run next "));
 }
@@ -111,7 +112,7 @@ TEST_F(TempodialMainTest, Run_SetsUpEverythingInOrder)
     EXPECT_EQ(lines.front(), "Entering run");
     EXPECT_EQ(lines.at(1), "version: 16.0.0.1");
     EXPECT_EQ(lines.at(2), "new version? True");
-    EXPECT_EQ(lines.back(), "Explorer caption: Tempodial");
+    EXPECT_EQ(lines.back(), "AddExp complete");
     const auto at = [&](const std::string& line) { return std::find(lines.begin(), lines.end(), line); };
     EXPECT_LT(at("created log "), at("loaded forms"));
     EXPECT_LT(at("loaded forms"), at("inited projects"));
@@ -131,10 +132,13 @@ TEST_F(TempodialMainTest, Run_NoBitmaps_TracesEachAndGoesOn)
     auto lines = Traced();
     const auto start = std::find(lines.begin(), lines.end(), "inited projects");
     ASSERT_NE(start, lines.end());
-    EXPECT_THAT(std::vector<std::string>(start + 1, lines.end()),
+    const auto end = std::find(start, lines.end(), "Explorer caption: Inbox - Mailbox");
+    ASSERT_NE(end, lines.end());
+    EXPECT_THAT(std::vector<std::string>(start + 1, end + 1),
         ElementsAre("Install folder: ", "Run failed File not found load icons", "Run failed File not found load icons",
             "icon load failed", "mask load failed", "Run failed File not found load icons", "clock load failed",
-            "Run failed File not found load icons", "Explorer caption: Tempodial"));
+            "Run failed File not found load icons", "Explorer caption: Inbox - Mailbox"));
+    EXPECT_THAT(lines, Contains("AddExp complete"));
 }
 
 TEST_F(TempodialMainTest, Quit_OnlyTraces)
@@ -171,33 +175,6 @@ TEST_F(TempodialMainTest, Terminate_BeforeInitialize_IsHarmless)
 {
     MakeRef<TempodialMain>(mPlatform)->Terminate();
     EXPECT_FALSE(HasTraceFile());
-}
-
-TEST_F(TempodialMainTest, IsInspector_ItemOpen_IsTrueAndTraced)
-{
-    ConnectAddIn();
-    mApplication->LogOn();
-    const auto item = Main().CreateCalendarItem("", "a", "b", "", 5, mClock->Now(), mClock->Now(), "", false);
-    const auto other = Main().CreateCalendarItem("", "c", "d", "", 5, mClock->Now(), mClock->Now(), "", false);
-    mApplication->inspectors->windows = { MakeRef<TestInspector>(item) };
-    Traced();
-    EXPECT_TRUE(Main().IsInspector(item));
-    EXPECT_THAT(Traced(), ElementsAre("IsInspector - open"));
-    EXPECT_FALSE(Main().IsInspector(other));
-    EXPECT_THAT(Traced(), ElementsAre());
-}
-
-TEST_F(TempodialMainTest, IsInspector_InspectorWithoutItem_IsPassedOver)
-{
-    ConnectAddIn();
-    mApplication->LogOn();
-    const auto item = Main().CreateCalendarItem("", "a", "b", "", 5, mClock->Now(), mClock->Now(), "", false);
-    mApplication->inspectors->windows = { MakeRef<TestInspector>(nullptr), MakeRef<TestInspector>(item) };
-    Traced();
-    EXPECT_TRUE(Main().IsInspector(item));
-    EXPECT_THAT(Traced(),
-        ElementsAre(
-            "IsInspector error Object variable or With block variable not set:create item", "IsInspector - open"));
 }
 
 }

@@ -25,14 +25,11 @@ class DiagsFormTest : public AddInFixture
 protected:
     DiagsFormTest()
     {
-        mAddIn.application->newMail = [this] {
-            return MakeRef<HostMail>(mAddIn.mailbox, [this](const Ref<HostMail>& mail) {
-                mMails.push_back(mail);
-                if (mOnDisplay) {
-                    mOnDisplay();
-                }
-            });
-        };
+        mShowing = mAddIn.application->host->Inspectors()->Subscribe({ .NewInspector = [this](const auto&) {
+            if (mOnDisplay) {
+                mOnDisplay();
+            }
+        } });
         mForm->Initialise(mAddIn.main);
     }
 
@@ -40,7 +37,8 @@ protected:
     template <class Kind> Ref<Kind> Get(const char* name) const { return Model()->Control(name).As<Kind>(); }
     void Type(const char* name, const std::string& text) const { Get<TextBoxModel>(name)->Type(text); }
     void Click(const char* name) const { Get<ButtonModel>(name)->Click(); }
-    const MailDraft& Mail() const { return mMails.at(0)->Draft(); }
+    std::vector<Ref<HostMail>> Mails() const { return mAddIn.application->host->Mails(); }
+    const MailDraft& Mail() const { return Mails().at(0)->Draft(); }
     std::vector<std::string> Attached() const
     {
         std::vector<std::string> names;
@@ -54,7 +52,7 @@ protected:
         return ProblemReportText::Body(day, expected, actual, "1.2.0");
     }
 
-    std::vector<Ref<HostMail>> mMails;
+    Subscription mShowing;
     std::function<void()> mOnDisplay;
     Ref<DiagsForm> mForm = MakeRef<DiagsForm>(mAddIn.platform);
 };
@@ -135,7 +133,7 @@ TEST_F(DiagsFormTest, OK_BothTextsEmpty_MakesTheMailAllTheSame)
 {
     mForm->Show();
     Click("OK");
-    ASSERT_EQ(mMails.size(), 1U);
+    ASSERT_EQ(Mails().size(), 1U);
     EXPECT_THAT(Mail().body,
         StartsWith("Day: Tuesday, October 10, 2006\r\nExpected: \r\nActual: \r\nVersion: 1.2.0\r\n\r\nTo help "));
     EXPECT_EQ(Mail().body, Body("Tuesday, October 10, 2006", "", ""));
@@ -192,7 +190,7 @@ TEST_F(DiagsFormTest, OK_FormIsHiddenBeforeTheMailComesUp)
     };
     mForm->Show();
     Click("OK");
-    EXPECT_EQ(mMails.size(), 1U);
+    EXPECT_EQ(Mails().size(), 1U);
 }
 
 TEST_F(DiagsFormTest, OK_DateThatIsNone_ReportsTheZeroDay)
@@ -212,7 +210,7 @@ TEST_F(DiagsFormTest, OK_DateThatIsNone_ReportsTheZeroDay)
 
 TEST_F(DiagsFormTest, OK_NoMailCanBeMade_ClosesAllTheSame)
 {
-    mAddIn.application->newMail = nullptr;
+    mAddIn.application->newMail = []() -> Ref<MailItem> { throw Failure(Error::Automation); };
     mForm->Show();
     Click("OK");
     EXPECT_TRUE(mForm->IsDone());
@@ -225,7 +223,7 @@ TEST_F(DiagsFormTest, OK_MailEndsTheAddIn_Closes)
     mOnDisplay = [this] { mAddIn.Disconnect(); };
     mForm->Show();
     Click("OK");
-    EXPECT_EQ(mMails.size(), 1U);
+    EXPECT_EQ(Mails().size(), 1U);
     EXPECT_TRUE(mForm->IsDone());
     EXPECT_FALSE(Model()->Visible());
 }
@@ -236,7 +234,7 @@ TEST_F(DiagsFormTest, Cancel_MakesNoMail)
     Type("ActualText", "nothing");
     mAddIn.Trace();
     Click("Cancel");
-    EXPECT_THAT(mMails, IsEmpty());
+    EXPECT_THAT(Mails(), IsEmpty());
     EXPECT_THAT(mAddIn.Trace(), IsEmpty());
     EXPECT_TRUE(mForm->IsDone());
     EXPECT_FALSE(Model()->Visible());
@@ -247,7 +245,7 @@ TEST_F(DiagsFormTest, ClosedByFrame_IsAsCancel)
 {
     mForm->Show();
     EXPECT_TRUE(Model()->CloseByFrame());
-    EXPECT_THAT(mMails, IsEmpty());
+    EXPECT_THAT(Mails(), IsEmpty());
     EXPECT_TRUE(mForm->IsDone());
     EXPECT_FALSE(Model()->Visible());
 }
@@ -271,7 +269,7 @@ TEST_F(DiagsFormTest, Show_NobodyHoldsTheForm_LivesUntilItIsAnswered)
         EXPECT_TRUE(alive.expired()) << button;
         EXPECT_EQ(mAddIn.forms->Forms().size(), known) << button;
     }
-    EXPECT_EQ(mMails.size(), 1U);
+    EXPECT_EQ(Mails().size(), 1U);
 }
 
 TEST_F(DiagsFormTest, Show_TwoAtATime_AnswerForThemselves)
@@ -297,7 +295,7 @@ TEST_F(DiagsFormTest, Terminate_NoMainObject_MakesNothing)
     mForm->Terminate();
     EXPECT_EQ(mForm->GetBody(), "");
     Click("OK");
-    EXPECT_THAT(mMails, IsEmpty());
+    EXPECT_THAT(Mails(), IsEmpty());
     EXPECT_TRUE(mForm->IsDone());
 }
 

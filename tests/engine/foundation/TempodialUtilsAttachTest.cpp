@@ -64,7 +64,7 @@ protected:
 
     TempFolder mData { TempFolder::InMemory() };
     Ref<NamedFiles> mFiles = MakeRef<NamedFiles>(mFolder.Path());
-    Ref<HostMail> mMail = MakeRef<HostMail>(mAddIn.mailbox, [](const Ref<HostMail>&) {});
+    Ref<HostMail> mMail = mAddIn.application->host->CreateItem().As<HostMail>();
 };
 
 TEST_F(TempodialUtilsAttachTest, AttachDiagsFiles_ChoosesByName)
@@ -97,7 +97,7 @@ TEST_F(TempodialUtilsAttachTest, AttachDiagsFiles_ChoosesByName)
         Write(row.name);
         mFiles->names = { row.name };
         for (const bool all : { false, true }) {
-            mMail = MakeRef<HostMail>(mAddIn.mailbox, [](const Ref<HostMail>&) {});
+            mMail = mAddIn.application->host->CreateItem().As<HostMail>();
             Attach(mMail, all);
             EXPECT_EQ(Attached().size(), (all ? row.isAttachedAmongAll : row.isAttached) ? 1U : 0U)
                 << row.name << ", all " << all;

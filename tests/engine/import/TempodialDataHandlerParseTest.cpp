@@ -259,7 +259,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationASecondOffInTheSameM
 TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationOfAnOpenItem_CountsAndLeavesIt)
 {
     Import({ WordSlot(32400, 32700, "a") });
-    mAddIn.application->inspectors->windows.emplace_back(MakeRef<TestInspector>(mAddIn.Items()[0]));
+    mAddIn.Items()[0]->Display();
     Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation) });
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:00-09:05 Microsoft Word, \"a\""));
     EXPECT_EQ(mAddIn.HistoryText(), "20061010_33000");

@@ -39,7 +39,7 @@ protected:
     /// Clicks Cancel when the progress form is updated that many times.
     void CancelAtUpdate(int update)
     {
-        mEventPump->onProcess = [this, update, count = 0]() mutable {
+        mEventPump->hook = [this, update, count = 0]() mutable {
             if (++count == update) {
                 const auto form = mForms->NewestVisible("ProgressBarForm");
                 form->Control("LoadCancel").As<ButtonModel>()->Click();
@@ -97,7 +97,7 @@ TEST_F(TempodialAnalyserTest, ApplyProject_Days_AreTodayAndThoseBefore)
 TEST_F(TempodialAnalyserTest, ApplyProject_Log_IsBroughtOnScreenFirst)
 {
     mAnalyser->ApplyProject("Beta", 0);
-    EXPECT_EQ(mExplorer->folder->EntryID(), mLogFolder->EntryID());
+    EXPECT_EQ(mExplorer->CurrentFolder()->EntryID(), mLogFolder->EntryID());
     const auto traced = Traced();
     EXPECT_EQ(traced.front(), "TDMain Switch to the task log now");
     EXPECT_EQ(traced.back(), "TDAnalyser ApplyProject called");
@@ -156,7 +156,7 @@ TEST_F(TempodialAnalyserTest, ApplyProjectForDay_Form_ShowsTheDay)
     ActivityAt(At(10, 0));
     ActivityAt(At(11, 0));
     std::vector<std::string> shown;
-    mEventPump->onProcess = [&] {
+    mEventPump->hook = [&] {
         const auto form = mForms->NewestVisible("ProgressBarForm");
         const auto label = [&](const char* name) { return form->Control(name).As<Label>()->Caption(); };
         const auto bar = form->Control("ProgressBar1").As<ProgressBar>();
@@ -210,7 +210,7 @@ TEST_F(TempodialAnalyserTest, ApplyProject_AddInEndsMeanwhile_Stops)
     AddProject("Beta", "plan");
     const auto first = ActivityAt(At(10, 0), "A");
     const auto second = ActivityAt(At(11, 0), "A");
-    mEventPump->onProcess = [&] { mMain->Terminate(); };
+    mEventPump->hook = [&] { mMain->Terminate(); };
     mMain->ApplyProject("Beta", 7);
     EXPECT_EQ(ProjectOf(first), "Beta");
     EXPECT_EQ(ProjectOf(second), "A");
@@ -295,7 +295,8 @@ TEST_F(TempodialAnalyserTest, SetProjectForRange_Items_AreThoseThatStartInItBefo
 
 TEST_F(TempodialAnalyserTest, SetProjectForRange_NoItems_TracesTheWholeRoad)
 {
-    mExplorer->folder = mLogFolder;
+    mExplorer->GoTo(mLogFolder);
+    ForgetTrace();
     mAnalyser->SetProjectForRange("Beta", At(8, 30), At(23, 30), false);
     EXPECT_THAT(Traced(),
         ElementsAre("TDAnalyser Set project range to Beta", "TDMain Get log", "TDWorklog GetSyncedWorkLog called",
@@ -307,16 +308,16 @@ TEST_F(TempodialAnalyserTest, SetProjectForRange_Form_IsNotShown)
 {
     ActivityAt(At(10, 0));
     mAnalyser->SetProjectForRange("Beta", At(8, 30), At(23, 30), false);
-    EXPECT_THAT(mForms->Forms(), IsEmpty());
+    EXPECT_FALSE(mForms->NewestVisible("ProgressBarForm"));
 }
 
 TEST_F(TempodialAnalyserTest, SetProjectForSelectedItems_OneItem_BringsTheLogOnScreenFirst)
 {
     const auto item = ActivityAt(At(10, 0));
-    mExplorer->selection->items = { item };
+    mExplorer->Select({ item });
     mAnalyser->SetProjectForSelectedItems("Beta", false);
     EXPECT_EQ(ProjectOf(item), "Beta");
-    EXPECT_EQ(mExplorer->folder->EntryID(), mLogFolder->EntryID());
+    EXPECT_EQ(mExplorer->CurrentFolder()->EntryID(), mLogFolder->EntryID());
     const auto traced = Traced();
     EXPECT_EQ(traced[0], "TDWorklog Check item 2: IPM.Appointment.TDActivity1, Notepad, Plan");
     EXPECT_EQ(traced[1], "TDMain Switch to the task log now");
@@ -328,19 +329,19 @@ TEST_F(TempodialAnalyserTest, SetProjectForSelectedItems_MoreItems_SetsEachActiv
     const auto first = ActivityAt(At(10, 0));
     const auto second = ActivityAt(At(11, 0), "A");
     const auto plain = Appointment("plain");
-    mExplorer->selection->items = { first, plain, nullptr, second };
+    mExplorer->Select({ first, plain, nullptr, second });
     mAnalyser->SetProjectForSelectedItems("Beta", true);
     EXPECT_EQ(ProjectOf(first), "Beta");
     EXPECT_EQ(ProjectOf(second), "Beta");
     EXPECT_EQ(ProjectOf(plain), "(absent)");
-    EXPECT_EQ(mExplorer->foldersSet, 0);
+    EXPECT_THAT(mWindowUses, Not(Contains("Explorer.SetCurrentFolder")));
     EXPECT_THAT(Traced(), Contains("TDAnalyser Set selected item's project toBeta").Times(2));
 }
 
 TEST_F(TempodialAnalyserTest, SetProjectForSelectedItems_OnePlainAppointment_DoesNothing)
 {
     const auto plain = Appointment("plain");
-    mExplorer->selection->items = { plain };
+    mExplorer->Select({ plain });
     mAnalyser->SetProjectForSelectedItems("Beta", true);
     EXPECT_EQ(plain->Mileage(), "");
     EXPECT_THAT(Traced(), ElementsAre("TDWorklog Check item 2: IPM.Appointment, plain"));
@@ -348,7 +349,7 @@ TEST_F(TempodialAnalyserTest, SetProjectForSelectedItems_OnePlainAppointment_Doe
 
 TEST_F(TempodialAnalyserTest, SetProjectForSelectedItems_NoExplorer_TracesTheFailure)
 {
-    mApplication->activeExplorer = nullptr;
+    mApplication->hasActiveExplorer = false;
     mAnalyser->SetProjectForSelectedItems("Beta", true);
     EXPECT_THAT(
         Traced(), Contains("TDAnalyser setprojectforitems:Object variable or With block variable not set").Times(2));

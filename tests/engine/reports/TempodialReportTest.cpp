@@ -267,10 +267,9 @@ TEST_F(TempodialReportTest, CreateReport_Progress_TellsTheDay)
     Add(Moment(10, 9, 0), 5, "A", "Notepad", "x");
     std::vector<std::string> texts;
     mAddIn.eventPump->hook = [&] {
-        for (const auto& form : mAddIn.forms->Forms()) {
-            texts.push_back(form->Caption() + ": " + form->Control("Label1").As<Label>()->Caption() + " "
-                + form->Control("Label2").As<Label>()->Caption());
-        }
+        const auto form = mAddIn.forms->NewestVisible("ProgressBarForm");
+        texts.push_back(form->Caption() + ": " + form->Control("Label1").As<Label>()->Caption() + " "
+            + form->Control("Label2").As<Label>()->Caption());
     };
     Plain(10, 10, 1);
     EXPECT_THAT(texts, ElementsAre("Tempodial: Creating report.. Gathering data for: Tuesday, October 10, 2006"));

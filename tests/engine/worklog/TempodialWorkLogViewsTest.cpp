@@ -242,7 +242,7 @@ TEST_F(TempodialWorkLogViewsTest, LoadForms_Template_PublishesTheForm)
     ASSERT_NE(form, nullptr);
     EXPECT_EQ(form->displayName, "Activity");
     EXPECT_EQ(LogFolder()->Items()->Count(), 0);
-    EXPECT_THAT(mMessages->texts, IsEmpty());
+    EXPECT_THAT(mMessages->TakeTexts(), IsEmpty());
     EXPECT_THAT(Traced(),
         ElementsAre("TDWorklog GetSyncedWorkLog called", "TDWorklog Load form",
             "TDUtils Install folder: " + mFolder.Path("install"), "TDWorklog form item: IPM.Appointment.TDActivity1",
@@ -275,7 +275,7 @@ TEST_F(TempodialWorkLogViewsTest, LoadForms_OtherClass_WarnsAndGoesOn)
     MakeViews();
     mFormClass = "IPM.Appointment.Other";
     mWorkLog->LoadForms();
-    EXPECT_THAT(mMessages->texts, ElementsAre("Form not in sync. cannot run"));
+    EXPECT_THAT(mMessages->TakeTexts(), ElementsAre("Form not in sync. cannot run"));
     EXPECT_NE(mMailbox->FormOf("IPM.Appointment.Other"), nullptr);
 }
 
@@ -284,7 +284,7 @@ TEST_F(TempodialWorkLogViewsTest, LoadForms_TemplateAbsent_WarnsAndStillWatches)
     MakeViews();
     mApplication->fromTemplate = nullptr;
     mWorkLog->LoadForms();
-    EXPECT_THAT(mMessages->texts, ElementsAre("Form not in sync. cannot run"));
+    EXPECT_THAT(mMessages->TakeTexts(), ElementsAre("Form not in sync. cannot run"));
     EXPECT_THAT(Traced(), Contains("TDWorklog LoadForms error File not found CreateItemfromTemplate"));
     ItemData data;
     data.messageClass = ActivityClass;
@@ -297,68 +297,68 @@ TEST_F(TempodialWorkLogViewsTest, LoadForms_NoFolder_Ends)
 {
     mWorkLog->LoadForms();
     EXPECT_THAT(Traced(), Not(Contains("TDWorklog Load form")));
-    EXPECT_THAT(mMessages->texts, IsEmpty());
+    EXPECT_THAT(mMessages->TakeTexts(), IsEmpty());
 }
 
 TEST_F(TempodialWorkLogViewsTest, SetTableView_FolderShown_AppliesTheView)
 {
     MakeViews();
-    mExplorer->folder = LogFolder();
+    mExplorer->GoTo(LogFolder());
     mWorkLog->SetTableView();
-    EXPECT_EQ(mExplorer->view, "Tempodial List");
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial List");
     EXPECT_EQ(Traced().back(), "TDWorklog new view is Tempodial List");
     mWorkLog->SetCalendarView();
-    EXPECT_EQ(mExplorer->view, "Tempodial Calendar");
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial Calendar");
 }
 
 TEST_F(TempodialWorkLogViewsTest, SetTableView_AnotherFolderShown_IsRememberedUntilArrival)
 {
     MakeViews();
     mWorkLog->SetTableView();
-    EXPECT_EQ(mExplorer->viewsSet, 0);
-    mExplorer->folder = LogFolder();
+    EXPECT_THAT(mWindowUses, Not(Contains(testing::StartsWith("Explorer.SetCurrentView"))));
+    mExplorer->GoTo(LogFolder());
     mWorkLog->SwitchingToTasklog();
-    EXPECT_EQ(mExplorer->view, "Tempodial List");
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial List");
 }
 
 TEST_F(TempodialWorkLogViewsTest, SwitchingToTasklog_NothingAskedFor_AppliesTheCalendarView)
 {
     MakeViews();
-    mExplorer->folder = LogFolder();
+    mExplorer->GoTo(LogFolder());
     mWorkLog->SwitchingToTasklog();
-    EXPECT_EQ(mExplorer->view, "Tempodial Calendar");
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial Calendar");
 }
 
 TEST_F(TempodialWorkLogViewsTest, SetTableView_ViewDeleted_IsRestoredFromTheFile)
 {
     MakeViews();
     mMailbox->DeleteView(LogFolder(), "Tempodial List");
-    mExplorer->folder = LogFolder();
+    mExplorer->GoTo(LogFolder());
     mWorkLog->SetTableView();
     ASSERT_TRUE(ViewNamed("Tempodial List"));
     EXPECT_EQ(ViewNamed("Tempodial List")->XML(), TableXml);
-    EXPECT_EQ(mExplorer->view, "Tempodial List");
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial List");
     EXPECT_THAT(Traced(), Contains("TDWorklog View Absent: Tempodial List"));
 }
 
 TEST_F(TempodialWorkLogViewsTest, SetCalendarView_NoExplorer_IsTracedAndRemembered)
 {
     MakeViews();
-    mApplication->activeExplorer = nullptr;
+    mApplication->hasActiveExplorer = false;
     mWorkLog->SetTableView();
     EXPECT_THAT(Traced(), ElementsAre("TDWorklog View error Object variable or With block variable not set new view"));
-    mApplication->activeExplorer = mExplorer;
-    mExplorer->folder = LogFolder();
+    mApplication->hasActiveExplorer = true;
+    mExplorer->GoTo(LogFolder());
     mWorkLog->SwitchingToTasklog();
-    EXPECT_EQ(mExplorer->view, "Tempodial List");
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial List");
 }
 
 TEST_F(TempodialWorkLogViewsTest, GoToLog_AnotherFolderShown_GoesThereWithTheView)
 {
     MakeViews();
     mWorkLog->GoToLog(false);
-    EXPECT_EQ(mExplorer->folder->EntryID(), LogFolder()->EntryID());
-    EXPECT_EQ(mExplorer->view, "Tempodial Calendar");
+    EXPECT_EQ(mExplorer->CurrentFolder()->EntryID(), LogFolder()->EntryID());
+    EXPECT_EQ(mExplorer->CurrentView(), "Tempodial Calendar");
     EXPECT_THAT(Traced(),
         ElementsAre("TDWorklog GetSyncedWorkLog called", "TDWorklog go to log", "TDWorklog GetSyncedWorkLog called",
             "TDWorklog new view is Tempodial Calendar"));
@@ -367,16 +367,16 @@ TEST_F(TempodialWorkLogViewsTest, GoToLog_AnotherFolderShown_GoesThereWithTheVie
 TEST_F(TempodialWorkLogViewsTest, GoToLog_FolderShown_DoesNothing)
 {
     MakeViews();
-    mExplorer->folder = LogFolder();
+    mExplorer->GoTo(LogFolder());
     mWorkLog->GoToLog(true);
-    EXPECT_EQ(mExplorer->foldersSet, 0);
-    EXPECT_EQ(mExplorer->viewsSet, 0);
+    EXPECT_THAT(mWindowUses, Not(Contains("Explorer.SetCurrentFolder")));
+    EXPECT_THAT(mWindowUses, Not(Contains(testing::StartsWith("Explorer.SetCurrentView"))));
 }
 
 TEST_F(TempodialWorkLogViewsTest, GoToLog_NoExplorer_TracesEachStatement)
 {
     MakeViews();
-    mApplication->activeExplorer = nullptr;
+    mApplication->hasActiveExplorer = false;
     mWorkLog->GoToLog(false);
     const std::string text = "error Object variable or With block variable not set ";
     EXPECT_THAT(Traced(),
@@ -388,7 +388,7 @@ TEST_F(TempodialWorkLogViewsTest, GoToLog_NoExplorer_TracesEachStatement)
 TEST_F(TempodialWorkLogViewsTest, GoToLog_NoFolder_StaysWhereItIs)
 {
     mWorkLog->GoToLog(false);
-    EXPECT_EQ(mExplorer->foldersSet, 0);
+    EXPECT_THAT(mWindowUses, Not(Contains("Explorer.SetCurrentFolder")));
     EXPECT_EQ(Traced().back(), "TDWorklog go to log");
 }
 

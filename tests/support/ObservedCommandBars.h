@@ -1,0 +1,236 @@
+#pragma once
+
+#include "platform/commandbars/CommandBarButton.h"
+#include "platform/commandbars/CommandBarPopup.h"
+#include "platform/commandbars/CommandBars.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+
+namespace tempodial {
+
+/// Told of each member of a window or its bars that is about to be used, such as "Button.SetEnabled"; what it throws,
+/// the member fails with.
+using WindowObserver = std::function<void(const std::string& member)>;
+
+class ObservedCommandBar;
+
+/// A control with its observer.
+Ref<CommandBarControl> ObservedControlOf(const Ref<CommandBarControl>& control, const WindowObserver& observer);
+/// A bar with its observer, nothing for nothing.
+Ref<CommandBar> ObservedBarOf(const Ref<CommandBar>& bar, const WindowObserver& observer);
+/// The bar behind a bar with an observer, which may have none.
+Ref<CommandBar> BareBarOf(const Ref<CommandBar>& bar);
+
+/// What all kinds of controls tell an observer of.
+template <class Interface> class ObservedControl : public Interface
+{
+public:
+    ObservedControl(Ref<Interface> control, WindowObserver observer, std::string kind)
+        : mControl(std::move(control))
+        , mObserver(std::move(observer))
+        , mKind(std::move(kind))
+    {
+    }
+
+    CommandBarControlType Type() const override { return Told("Type")->Type(); }
+    std::int32_t Id() const override { return Told("Id")->Id(); }
+    std::string Caption() const override { return Told("Caption")->Caption(); }
+    void SetCaption(const std::string& caption) override { Told("SetCaption " + caption)->SetCaption(caption); }
+    std::string Tag() const override { return Told("Tag")->Tag(); }
+    void SetTag(const std::string& tag) override { Told("SetTag")->SetTag(tag); }
+    bool Enabled() const override { return Told("Enabled")->Enabled(); }
+    void SetEnabled(bool enabled) override { Told("SetEnabled")->SetEnabled(enabled); }
+    bool Visible() const override { return Told("Visible")->Visible(); }
+    void SetVisible(bool visible) override { Told("SetVisible")->SetVisible(visible); }
+    bool BeginGroup() const override { return Told("BeginGroup")->BeginGroup(); }
+    void SetBeginGroup(bool beginGroup) override { Told("SetBeginGroup")->SetBeginGroup(beginGroup); }
+    std::int32_t FaceId() const override { return Told("FaceId")->FaceId(); }
+    Ref<CommandBarControl> Copy(const Ref<CommandBar>& bar) override
+    {
+        return ObservedControlOf(Told("Copy")->Copy(BareBarOf(bar)), mObserver);
+    }
+    void Delete() override { Told("Delete")->Delete(); }
+
+protected:
+    const Ref<Interface>& Told(const std::string& member) const
+    {
+        mObserver(mKind + "." + member);
+        return mControl;
+    }
+    const WindowObserver& Observer() const { return mObserver; }
+
+private:
+    Ref<Interface> mControl;
+    WindowObserver mObserver;
+    std::string mKind;
+};
+
+/// A button that tells an observer of its use.
+class ObservedCommandBarButton : public ObservedControl<CommandBarButton>
+{
+public:
+    ObservedCommandBarButton(Ref<CommandBarButton> button, WindowObserver observer)
+        : ObservedControl(std::move(button), std::move(observer), "Button")
+    {
+    }
+
+    ButtonStyle Style() const override { return Told("Style")->Style(); }
+    void SetStyle(ButtonStyle style) override { Told("SetStyle")->SetStyle(style); }
+    void SetPicture(const Ref<Picture>& picture) override { Told("SetPicture")->SetPicture(picture); }
+    void SetMask(const Ref<Picture>& mask) override { Told("SetMask")->SetMask(mask); }
+    Subscription Subscribe(CommandBarButtonEvents events) override
+    {
+        return Told("Subscribe")->Subscribe(std::move(events));
+    }
+};
+
+/// Controls that tell an observer of their use.
+class ObservedCommandBarControls : public CommandBarControls
+{
+public:
+    ObservedCommandBarControls(Ref<CommandBarControls> controls, WindowObserver observer)
+        : mControls(std::move(controls))
+        , mObserver(std::move(observer))
+    {
+    }
+
+    std::int32_t Count() override { return Told("Count")->Count(); }
+    Ref<CommandBarControl> Item(std::int32_t index) override { return Observed(Told("Item")->Item(index)); }
+    Ref<CommandBarControl> ItemCaptioned(const std::string& caption) override
+    {
+        return Observed(Told("ItemCaptioned")->ItemCaptioned(caption));
+    }
+    Ref<CommandBarControl> Add(const CommandBarAddition& addition) override
+    {
+        return Observed(Told("Add " + addition.parameter)->Add(addition));
+    }
+
+private:
+    Ref<CommandBarControl> Observed(const Ref<CommandBarControl>& control) const
+    {
+        return ObservedControlOf(control, mObserver);
+    }
+    const Ref<CommandBarControls>& Told(const std::string& member) const
+    {
+        mObserver("Controls." + member);
+        return mControls;
+    }
+
+    Ref<CommandBarControls> mControls;
+    WindowObserver mObserver;
+};
+
+/// A menu that tells an observer of its use.
+class ObservedCommandBarPopup : public ObservedControl<CommandBarPopup>
+{
+public:
+    ObservedCommandBarPopup(Ref<CommandBarPopup> popup, WindowObserver observer)
+        : ObservedControl(std::move(popup), std::move(observer), "Popup")
+    {
+    }
+
+    Ref<CommandBarControls> Controls() override
+    {
+        return MakeRef<ObservedCommandBarControls>(Told("Controls")->Controls(), Observer());
+    }
+    Ref<tempodial::CommandBar> CommandBar() override
+    {
+        return ObservedBarOf(Told("CommandBar")->CommandBar(), Observer());
+    }
+};
+
+/// A bar that tells an observer of its use.
+class ObservedCommandBar : public CommandBar
+{
+public:
+    ObservedCommandBar(Ref<CommandBar> bar, WindowObserver observer)
+        : mBar(std::move(bar))
+        , mObserver(std::move(observer))
+    {
+    }
+
+    std::string Name() const override { return Told("Name")->Name(); }
+    BarPosition Position() const override { return Told("Position")->Position(); }
+    void SetPosition(BarPosition position) override { Told("SetPosition")->SetPosition(position); }
+    bool Visible() const override { return Told("Visible")->Visible(); }
+    void SetVisible(bool visible) override { Told("SetVisible")->SetVisible(visible); }
+    Ref<CommandBarControls> Controls() override
+    {
+        return MakeRef<ObservedCommandBarControls>(Told("Controls")->Controls(), mObserver);
+    }
+    Ref<CommandBarControl> FindControl(const ControlSearch& search) override
+    {
+        return ObservedControlOf(Told("FindControl")->FindControl(search), mObserver);
+    }
+    void Delete() override { Told("Delete")->Delete(); }
+
+    const Ref<CommandBar>& Bare() const { return mBar; }
+
+private:
+    const Ref<CommandBar>& Told(const std::string& member) const
+    {
+        mObserver("Bar." + member);
+        return mBar;
+    }
+
+    Ref<CommandBar> mBar;
+    WindowObserver mObserver;
+};
+
+/// Bars that tell an observer of their use.
+class ObservedCommandBars : public CommandBars
+{
+public:
+    ObservedCommandBars(Ref<CommandBars> bars, WindowObserver observer)
+        : mBars(std::move(bars))
+        , mObserver(std::move(observer))
+    {
+    }
+
+    std::int32_t Count() override { return Told("Count")->Count(); }
+    Ref<CommandBar> Item(std::int32_t index) override { return ObservedBarOf(Told("Item")->Item(index), mObserver); }
+    Ref<CommandBar> ItemNamed(const std::string& name) override
+    {
+        return ObservedBarOf(Told("ItemNamed " + name)->ItemNamed(name), mObserver);
+    }
+    Ref<CommandBar> Add(const std::string& name) override
+    {
+        return ObservedBarOf(Told("Add " + name)->Add(name), mObserver);
+    }
+
+private:
+    const Ref<CommandBars>& Told(const std::string& member) const
+    {
+        mObserver("CommandBars." + member);
+        return mBars;
+    }
+
+    Ref<CommandBars> mBars;
+    WindowObserver mObserver;
+};
+
+inline Ref<CommandBarControl> ObservedControlOf(const Ref<CommandBarControl>& control, const WindowObserver& observer)
+{
+    if (const auto button = control.As<CommandBarButton>()) {
+        return MakeRef<ObservedCommandBarButton>(button, observer);
+    }
+    if (const auto popup = control.As<CommandBarPopup>()) {
+        return MakeRef<ObservedCommandBarPopup>(popup, observer);
+    }
+    return control;
+}
+
+inline Ref<CommandBar> ObservedBarOf(const Ref<CommandBar>& bar, const WindowObserver& observer)
+{
+    return bar ? MakeRef<ObservedCommandBar>(bar, observer) : nullptr;
+}
+
+inline Ref<CommandBar> BareBarOf(const Ref<CommandBar>& bar)
+{
+    const auto observed = bar.As<ObservedCommandBar>();
+    return observed ? observed->Bare() : bar;
+}
+
+}
