@@ -1,6 +1,8 @@
 #include "engine/dialogs/ProjectSettingsFixture.h"
 #include "forms/ComboBoxModel.h"
 
+#include <utility>
+
 namespace tempodial {
 
 using testing::Contains;
@@ -384,11 +386,11 @@ TEST_F(ProjectSettingsEditTest, AddInEndsDuringAQuestion_IsComeThrough)
         ShowFor("Beta");
         mUser.Types("SubjectText", "edited");
         mMessages->onShow = [this] {
-            mMessages->onShow = nullptr;
             mForm->Unload();
             mAddIn.Disconnect();
         };
         road();
+        mMessages->onShow = nullptr;
         EXPECT_FALSE(mUser.Sees());
         mAddIn.Connect();
         mForm = MakeRef<ProjectSettingsForm>(mAddIn.platform);
@@ -400,11 +402,14 @@ TEST_F(ProjectSettingsEditTest, ProjectChangedDuringTheJob_IsComeThrough)
 {
     Activity("betaword", 0);
     mUser.Checks("ApplyPastCheck");
-    mAddIn.eventPump->hook = [this] {
-        mAddIn.eventPump->hook = nullptr;
-        mUser.Chooses("ProjectComboBox", "Alpha");
+    bool changed = false;
+    mAddIn.eventPump->hook = [&] {
+        if (!std::exchange(changed, true)) {
+            mUser.Chooses("ProjectComboBox", "Alpha");
+        }
     };
     mUser.Clicks("SaveandCloseButton");
+    EXPECT_TRUE(changed);
     EXPECT_FALSE(mUser.Sees());
     EXPECT_EQ(mUser.Text("ProjectComboBox"), "Alpha");
 }

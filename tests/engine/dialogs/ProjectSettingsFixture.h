@@ -23,7 +23,6 @@ protected:
 
     ProjectSettingsFixture()
     {
-        mAddIn.platform->messageBox = mMessages;
         for (const auto* name : { "Critical", "Other", "Personal", "Supportive", "Wish" }) {
             Main()->DeleteProject(name);
         }
@@ -92,7 +91,7 @@ protected:
         EXPECT_EQ(mUser.Text("DaysText"), "7");
     }
 
-    Ref<CannedMessageBox> mMessages = MakeRef<CannedMessageBox>();
+    Ref<CannedMessageBox> mMessages = mAddIn.messageBox;
     Ref<ProjectSettingsForm> mForm = MakeRef<ProjectSettingsForm>(mAddIn.platform);
     Ref<TempodialInspector> mOwner = Owner();
     FormUser mUser { mAddIn.forms, "ProjectSettingsForm" };
