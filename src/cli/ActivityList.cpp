@@ -1,45 +1,15 @@
 #include "cli/ActivityList.h"
 
-#include "base/Failure.h"
 #include "base/Number.h"
-#include "cli/ProductFacts.h"
 #include "cli/TextTable.h"
-#include "platform/objectmodel/Folders.h"
 #include "platform/objectmodel/Items.h"
+#include "programs/WorkLogFolder.h"
 
 namespace tempodial {
 
 namespace {
 
 constexpr auto ActivityClass = "IPM.Appointment.TDActivity1";
-constexpr auto WorkLogName = "Tempodial";
-
-Ref<MAPIFolder> FindByID(const Ref<Folders>& folders, const std::string& entryID)
-{
-    for (std::int32_t i = 1; i <= folders->Count(); ++i) {
-        auto folder = folders->Item(i);
-        if (folder->EntryID() == entryID) {
-            return folder;
-        }
-        if (auto below = FindByID(folder->Folders(), entryID)) {
-            return below;
-        }
-    }
-    return nullptr;
-}
-
-Ref<MAPIFolder> FindInCalendar(const Ref<NameSpace>& session)
-{
-    try {
-        return session->GetDefaultFolder(DefaultFolder::Calendar)->Folders()->ItemNamed(WorkLogName);
-    } catch (const Failure& failure) {
-        if (failure.Is(Error::ObjectNotFound) || failure.Is(Error::ObjectNotSet)) {
-            return nullptr;
-        }
-        throw;
-    }
-}
-
 bool HasProject(const Ref<AppointmentItem>& item, const std::string& project)
 {
     const auto property = item->UserProperties()->Item("Project");
@@ -56,12 +26,6 @@ std::string DurationText(std::int64_t minutes)
     return std::to_string(minutes / MinutesOfHour) + " h " + Padded(rest, 2) + " min";
 }
 
-}
-
-Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& entryID)
-{
-    auto found = entryID.empty() ? nullptr : FindByID(session->Folders(), entryID);
-    return found ? found : FindInCalendar(session);
 }
 
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
@@ -85,8 +49,7 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
 std::vector<Ref<AppointmentItem>> ActivitiesOf(
     const Profile& profile, const DayRange& days, const std::optional<std::string>& project)
 {
-    const auto id = profile.Registry()->Get(Hive::CurrentUser, ProductKey, WorkLogIdValue);
-    const auto workLog = FindWorkLog(profile.Mailbox()->NameSpace(), id.ToText());
+    const auto workLog = WorkLogOf(profile);
     return workLog ? ActivitiesIn(workLog, profile.Surroundings().formats, days, project)
                    : std::vector<Ref<AppointmentItem>>();
 }

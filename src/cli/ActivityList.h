@@ -4,7 +4,6 @@
 #include "host/profile/Profile.h"
 #include "platform/objectmodel/AppointmentItem.h"
 #include "platform/objectmodel/MAPIFolder.h"
-#include "platform/objectmodel/NameSpace.h"
 #include "platform/system/LocaleFormats.h"
 
 #include <optional>
@@ -12,10 +11,6 @@
 #include <vector>
 
 namespace tempodial {
-
-/// The work log of a session, without the add-in: the folder of that identity, else the calendar's folder "Tempodial";
-/// nothing when there is neither.
-Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& entryID);
 
 /// The activities of a work log that start in the range, in order of start; with a project only those of exactly that
 /// project. Fails as the store does.

@@ -1,9 +1,9 @@
-#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
 #include "cli/KnownProject.h"
-#include "cli/ProductFacts.h"
+#include "programs/Arguments.h"
+#include "programs/ProductFacts.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,9 +1,9 @@
-#include "cli/Arguments.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
-#include "cli/UsageError.h"
+#include "programs/Arguments.h"
+#include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,17 +1,11 @@
 #include "cli/CommandLine.h"
 
-#include "base/Failure.h"
 #include "base/Text.h"
-#include "cli/Arguments.h"
-#include "cli/ProductFacts.h"
-#include "cli/TerminalText.h"
-#include "cli/UsageError.h"
-#include "host/profile/ProfileError.h"
-#include "host/system/IcuLocaleFormats.h"
-#include "host/system/TextEncoding.h"
-
-#include <algorithm>
-#include <exception>
+#include "programs/ArgumentParser.h"
+#include "programs/ProductFacts.h"
+#include "programs/ProgramRun.h"
+#include "programs/TerminalText.h"
+#include "programs/UsageError.h"
 
 namespace tempodial {
 
@@ -44,32 +38,6 @@ constexpr auto ProgramFooter = "An example session, with an invented working lif
 constexpr auto CommandFooter = "\"tempodial --help\" lists the options of every command, such as --profile and\n"
                                "--json.";
 
-/// The arguments as the parser wants them: it takes "--option=" for an option whose value is yet to come.
-std::vector<std::string> Prepared(const std::vector<std::string>& arguments)
-{
-    std::vector<std::string> prepared;
-    for (const auto& argument : arguments) {
-        if (!IsUtf8(argument)) {
-            throw UsageError("the argument \"" + argument + "\" isn't valid UTF-8: give it in that encoding");
-        }
-        const bool endsEmpty = argument.starts_with("--") && argument.find('=') == argument.size() - 1;
-        if (endsEmpty) {
-            prepared.push_back(argument.substr(0, argument.size() - 1));
-            prepared.emplace_back();
-        } else {
-            prepared.push_back(argument);
-        }
-    }
-    return prepared;
-}
-
-/// The words that choose a command, the program's name first.
-std::string Words(const CLI::App& app)
-{
-    const auto* parent = app.get_parent();
-    return (parent ? Words(*parent) + " " : "") + app.get_name();
-}
-
 }
 
 CommandLine::CommandLine(
@@ -96,13 +64,7 @@ void CommandLine::DeclareOptions()
 {
     mApp.set_help_flag("-h,--help", "Show this help, or that of a command");
     mApp.set_version_flag("--version", ProductVersion, "Show the version");
-    mApp.add_option("--profile", mProfile,
-            "The folder that holds all that belongs to you; default\nTEMPODIAL_PROFILE, else ~/.local/share/tempodial")
-        ->option_text("DIR");
-    mApp.add_option("--locale", mLocale, "The locale of dates and names, such as en_US; default\nfrom the environment")
-        ->option_text("NAME");
-    mApp.add_option("--now", mNow, "Run as if it were this moment; the clock goes on from there")
-        ->option_text("YYYY-MM-DDTHH:MM:SS");
+    mProfile.Declare(mApp);
     mApp.add_flag("--json", mJson, "Answer with one JSON document");
     mApp.add_flag("--quiet", mQuiet, "No progress and no summary");
 }
@@ -125,97 +87,30 @@ void CommandLine::DeclareCommand(Command& command)
 
 ExitStatus CommandLine::Run(const std::vector<std::string>& arguments) noexcept
 {
-    try {
-        return Execute(arguments);
-    } catch (const UsageError& error) {
-        Complain(error.what());
-        return ExitStatus::Usage;
-    } catch (const ProfileInUse& error) {
-        Complain(error.what());
-        return ExitStatus::ProfileInUse;
-    } catch (const Failure& failure) {
-        Complain(failure.Description() + ": see to the profile's folder and its disk");
-    } catch (const std::bad_alloc&) {
-        Complain("there isn't enough memory: close other programs and run the command again");
-    } catch (const std::exception& error) {
-        Complain(error.what());
-    }
-    return ExitStatus::NotDone;
+    return RunProgram(mApp.get_name(), mError, [&] { return Execute(arguments); });
 }
 
 ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 {
-    if (!Parse(arguments)) {
-        return Print({}, { .quiet = true });
+    if (!ParseArguments(mApp, arguments, mOut)) {
+        return Print({}, {});
     }
     const auto options = ReadOptions();
     return Print(Chosen().Run(options), options);
 }
 
-bool CommandLine::Parse(const std::vector<std::string>& arguments)
-{
-    auto words = Prepared(arguments);
-    std::reverse(words.begin(), words.end());
-    try {
-        mApp.parse(std::move(words));
-        return true;
-    } catch (const CLI::CallForVersion&) {
-        mOut << "tempodial " << ProductVersion << "\n";
-    } catch (const CLI::Success&) {
-        mOut << mApp.help();
-    } catch (const CLI::ExtrasError&) {
-        throw UsageError(UnexpectedArgument());
-    } catch (const CLI::ArgumentMismatch& error) {
-        const std::string text = error.what();
-        throw UsageError(
-            text.substr(0, text.find(':')) + " needs exactly one value: see \"" + Words(ChosenApp()) + " --help\"");
-    } catch (const CLI::ParseError& error) {
-        throw UsageError(std::string(error.what()) + ": see \"" + Words(ChosenApp()) + " --help\"");
-    }
-    return false;
-}
-
 Options CommandLine::ReadOptions() const
 {
-    Options options { .profile = mProfile, .locale = mLocale, .json = mJson, .quiet = mQuiet };
-    if (mProfile && mProfile->empty()) {
-        throw UsageError("--profile names no folder: give the path of one");
-    }
-    if (mLocale && !IcuLocaleFormats::IsKnown(*mLocale)) {
-        throw UsageError("there is no locale \"" + *mLocale + "\": give one such as en_US or de_DE");
-    }
-    if (mNow) {
-        options.now = ToMomentWithSeconds("--now", *mNow);
-    }
-    return options;
-}
-
-const CLI::App& CommandLine::ChosenApp() const
-{
-    const CLI::App* app = &mApp;
-    while (!app->get_subcommands().empty()) {
-        app = app->get_subcommands().front();
-    }
-    return *app;
+    return { mProfile.Options(), mJson, mQuiet };
 }
 
 Command& CommandLine::Chosen() const
 {
-    const auto found = mCommandOfApp.find(&ChosenApp());
+    const auto found = mCommandOfApp.find(&ChosenApp(mApp));
     if (found == mCommandOfApp.end()) {
         throw UsageError("no command is given: see \"tempodial --help\" for the commands");
     }
     return *found->second;
-}
-
-std::string CommandLine::UnexpectedArgument() const
-{
-    const auto extras = mApp.remaining(true);
-    const auto argument = extras.empty() ? std::string() : extras.front();
-    if (!argument.starts_with("-") && ChosenApp().get_parent() == nullptr) {
-        return "there is no command \"" + argument + R"(": see "tempodial --help" for the commands)";
-    }
-    return "\"" + argument + "\" isn't expected here: see \"" + Words(ChosenApp()) + " --help\"";
 }
 
 void CommandLine::PrintText(const Reply& reply, bool isQuiet)
@@ -234,19 +129,14 @@ ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
     }
     mOut.flush();
     for (const auto& complaint : reply.complaints) {
-        Complain(complaint);
+        Complain(mError, mApp.get_name(), complaint);
     }
     if (!mOut) {
-        Complain("the answer couldn't be written: see to the disk or the program that reads it");
+        Complain(
+            mError, mApp.get_name(), "the answer couldn't be written: see to the disk or the program that reads it");
         return ExitStatus::NotDone;
     }
     return reply.status;
-}
-
-void CommandLine::Complain(const std::string& message)
-{
-    mError << "tempodial: " << HarmlessLine(message) << "\n";
-    mError.flush();
 }
 
 }

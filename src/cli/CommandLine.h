@@ -1,13 +1,13 @@
 #pragma once
 
 #include "cli/Command.h"
-#include "cli/ExitStatus.h"
+#include "programs/ExitStatus.h"
+#include "programs/ProfileArguments.h"
 
 #include <CLI/CLI.hpp>
 
 #include <map>
 #include <memory>
-#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -29,15 +29,10 @@ private:
     void DeclareOptions();
     void DeclareCommand(Command& command);
     ExitStatus Execute(const std::vector<std::string>& arguments);
-    /// Reads the arguments; false when only help or the version was wanted, which is then printed.
-    bool Parse(const std::vector<std::string>& arguments);
     Options ReadOptions() const;
     Command& Chosen() const;
-    const CLI::App& ChosenApp() const;
-    std::string UnexpectedArgument() const;
     void PrintText(const Reply& reply, bool isQuiet);
     ExitStatus Print(const Reply& reply, const Options& options);
-    void Complain(const std::string& message);
 
     std::vector<std::unique_ptr<Command>> mCommands;
     std::ostream& mOut;
@@ -45,9 +40,7 @@ private:
     std::ostream& mError;
     CLI::App mApp;
     std::map<const CLI::App*, Command*> mCommandOfApp;
-    std::optional<std::string> mProfile;
-    std::optional<std::string> mLocale;
-    std::optional<std::string> mNow;
+    ProfileArguments mProfile;
     bool mJson = false;
     bool mQuiet = false;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "cli/AddInSession.h"
-#include "cli/OpenProfile.h"
 #include "cli/Options.h"
 #include "cli/Problems.h"
 #include "cli/Reply.h"
@@ -9,6 +8,7 @@
 #include "host/profile/Profile.h"
 #include "host/store/Mailbox.h"
 #include "platform/system/MailDraftWriter.h"
+#include "programs/OpenProfile.h"
 
 #include <optional>
 

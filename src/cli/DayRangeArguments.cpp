@@ -1,7 +1,7 @@
 #include "cli/DayRangeArguments.h"
 
-#include "cli/Arguments.h"
-#include "cli/UsageError.h"
+#include "programs/Arguments.h"
+#include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

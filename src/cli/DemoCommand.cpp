@@ -1,11 +1,11 @@
 #include "base/Failure.h"
-#include "cli/Arguments.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/DemoTracker.h"
-#include "cli/OpenProfile.h"
-#include "cli/ProductFacts.h"
 #include "host/system/HostClock.h"
+#include "programs/Arguments.h"
+#include "programs/OpenProfile.h"
+#include "programs/ProductFacts.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,8 @@
 #include "cli/DemoTracker.h"
 
 #include "base/Text.h"
-#include "cli/Arguments.h"
 #include "cli/DemoActivities.h"
+#include "programs/Arguments.h"
 
 #include <algorithm>
 #include <random>

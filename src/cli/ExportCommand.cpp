@@ -3,11 +3,11 @@
 #include "cli/ActivityList.h"
 #include "cli/Commands.h"
 #include "cli/DayRangeArguments.h"
-#include "cli/ItemJson.h"
-#include "cli/OpenProfile.h"
 #include "cli/OutputFile.h"
-#include "cli/UsageError.h"
 #include "host/system/HostClock.h"
+#include "programs/ItemJson.h"
+#include "programs/OpenProfile.h"
+#include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,9 +1,9 @@
 #include "cli/ActivityList.h"
 #include "cli/Commands.h"
 #include "cli/DayRangeArguments.h"
-#include "cli/ItemJson.h"
-#include "cli/OpenProfile.h"
 #include "host/system/HostClock.h"
+#include "programs/ItemJson.h"
+#include "programs/OpenProfile.h"
 
 #include <CLI/CLI.hpp>
 

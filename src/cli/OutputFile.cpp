@@ -2,9 +2,9 @@
 
 #include "base/Failure.h"
 #include "cli/CommandError.h"
-#include "cli/UsageError.h"
 #include "host/system/FileReplacer.h"
 #include "host/system/GMimeDraftWriter.h"
+#include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 
@@ -53,7 +53,7 @@ void OutputFile::Write(const std::string& text) const
 
 void OutputFile::Write(const MailDraft& mail) const
 {
-    WriteOrTell(Path(), [&] { GMimeDraftWriter(GMimeDraftWriter::ModuleOfThisProgram()).Write(mail, Path()); });
+    WriteOrTell(Path(), [&] { GMimeDraftWriter().Write(mail, Path()); });
 }
 
 }

@@ -1,6 +1,6 @@
 #include "cli/PrintingMessageBox.h"
 
-#include "cli/TerminalText.h"
+#include "programs/TerminalText.h"
 
 namespace tempodial {
 

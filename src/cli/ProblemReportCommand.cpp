@@ -1,11 +1,11 @@
 #include "base/Text.h"
-#include "cli/Arguments.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/OutputFile.h"
-#include "cli/ProductFacts.h"
 #include "engine/dialogs/ProblemReportText.h"
 #include "host/system/HostClock.h"
+#include "programs/Arguments.h"
+#include "programs/ProductFacts.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 #include "cli/ProgressLine.h"
 
 #include "base/Text.h"
-#include "cli/TerminalText.h"
+#include "programs/TerminalText.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "base/Text.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
-#include "cli/OpenProfile.h"
-#include "cli/ProductFacts.h"
-#include "cli/UsageError.h"
+#include "programs/Arguments.h"
+#include "programs/OpenProfile.h"
+#include "programs/ProductFacts.h"
+#include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 
@@ -12,17 +12,6 @@
 namespace tempodial {
 
 namespace {
-
-Hive ToHive(const std::string& text)
-{
-    if (EqualIgnoringCase(text, "HKCU")) {
-        return Hive::CurrentUser;
-    }
-    if (EqualIgnoringCase(text, "HKLM")) {
-        return Hive::LocalMachine;
-    }
-    throw UsageError("there is no hive \"" + text + "\": give HKCU or HKLM");
-}
 
 class RegistryCommand final : public Command
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ExitStatus.h"
+#include "programs/ExitStatus.h"
 
 #include <nlohmann/json.hpp>
 

@@ -3,8 +3,8 @@
 #include "cli/DayRangeArguments.h"
 #include "cli/Interruption.h"
 #include "cli/OutputFile.h"
-#include "cli/UsageError.h"
 #include "host/system/HostClock.h"
+#include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
-#include "cli/ProductFacts.h"
+#include "programs/ProductFacts.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,6 +1,6 @@
 #include "cli/TextTable.h"
 
-#include "cli/TerminalText.h"
+#include "programs/TerminalText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "cli/Arguments.h"
 #include "cli/Commands.h"
-#include "cli/OpenProfile.h"
-#include "cli/TraceTail.h"
+#include "programs/Arguments.h"
+#include "programs/OpenProfile.h"
+#include "programs/TraceTail.h"
 
 #include <CLI/CLI.hpp>
 

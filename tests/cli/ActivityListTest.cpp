@@ -1,6 +1,5 @@
 #include "cli/ActivityList.h"
 
-#include "cli/ItemJson.h"
 #include "host/store/StoreItem.h"
 #include "platform/objectmodel/Folders.h"
 #include "support/AddInFixture.h"
@@ -67,28 +66,6 @@ protected:
 
 using Names = std::vector<std::string>;
 
-}
-
-TEST_F(ActivityListTest, FindWorkLog_ById_FindsItWhereverItIs)
-{
-    const auto moved = mAddIn.mailbox->NameSpace()
-                           ->GetDefaultFolder(DefaultFolder::Inbox)
-                           ->Folders()
-                           ->Add("Elsewhere", DefaultFolder::Calendar);
-    EXPECT_EQ(FindWorkLog(mAddIn.mailbox->NameSpace(), moved->EntryID())->EntryID(), moved->EntryID());
-}
-
-TEST_F(ActivityListTest, FindWorkLog_NoIdOrAnUnknownOne_FallsBackToTheCalendarsFolder)
-{
-    for (const auto* id : { "", "0123" }) {
-        EXPECT_EQ(FindWorkLog(mAddIn.mailbox->NameSpace(), id)->EntryID(), mWorkLog->EntryID());
-    }
-}
-
-TEST_F(ActivityListTest, FindWorkLog_NoneThere_GivesNothing)
-{
-    mAddIn.mailbox->DeleteFolder(mWorkLog);
-    EXPECT_FALSE(FindWorkLog(mAddIn.mailbox->NameSpace(), ""));
 }
 
 TEST_F(ActivityListTest, ActivitiesIn_BoundsOfTheRange_AreIncluded)
@@ -162,38 +139,6 @@ TEST_F(ActivityListTest, ActivityTotal_CountsThemAndTheirTime)
     EXPECT_EQ(ActivityTotal(In(Tenth)), "\n1 activity, 5 min\n");
     Add("b", At(10, 9, 5), At(10, 10, 5));
     EXPECT_EQ(ActivityTotal(In(Tenth)), "\n2 activities, 1 h 05 min\n");
-}
-
-TEST_F(ActivityListTest, ItemJson_Activity_HasAllFieldsInTheirForms)
-{
-    ItemData data;
-    data.messageClass = ActivityClass;
-    data.subject = "[Plan] Microsoft Word, \"plan.doc\"";
-    data.start = At(10, 10, 0, 30);
-    data.end = At(10, 10, 5, 29);
-    data.body = "a\r\nb";
-    data.mileage = "Plan";
-    data.billingInformation = "\"plan.doc\"";
-    data.properties = { { "Type", PropertyType::Text, Variant("Microsoft Word") },
-        { "Day", PropertyType::DateTime, Variant(At(10, 0, 0)) }, { "Project", PropertyType::Text, Variant("Plan") },
-        { "People", PropertyType::Text, Variant("") }, { "ApplyPast", PropertyType::YesNo, Variant(false) },
-        { "Foreign", PropertyType::Text, Variant("x") } };
-    const auto item = mAddIn.mailbox->NewItem(mWorkLog, data);
-    item->Save();
-    const nlohmann::ordered_json expected { { "entryId", item->EntryID() }, { "messageClass", ActivityClass },
-        { "subject", "[Plan] Microsoft Word, \"plan.doc\"" }, { "start", "2006-10-10T10:00:30" },
-        { "end", "2006-10-10T10:05:29" }, { "duration", 5 }, { "body", "a\r\nb" }, { "mileage", "Plan" },
-        { "billingInformation", "\"plan.doc\"" },
-        { "properties",
-            { { "Type", "Microsoft Word" }, { "Day", "2006-10-10T00:00:00" }, { "Project", "Plan" }, { "People", "" },
-                { "ApplyPast", false } } } };
-    EXPECT_EQ(ItemJson(item).dump(), expected.dump());
-}
-
-TEST_F(ActivityListTest, ItemJson_PlainAppointment_HasNoProperties)
-{
-    const auto item = Add("a", At(10, 9, 0), At(10, 9, 5), "", "IPM.Appointment");
-    EXPECT_EQ(ItemJson(item)["properties"].dump(), "{}");
 }
 
 }

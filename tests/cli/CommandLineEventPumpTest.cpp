@@ -1,9 +1,9 @@
 #include "cli/CommandLineEventPump.h"
 
 #include "cli/Interruption.h"
-#include "cli/ProductFacts.h"
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
+#include "programs/ProductFacts.h"
 #include "support/AddInFixture.h"
 
 #include <gtest/gtest.h>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "cli/Options.h"
 #include "host/profile/Profile.h"
+#include "programs/ProfileOptions.h"
 
 #include <string>
 
 namespace tempodial {
 
 /// The profile that the options name, opened. Fails with `ProfileInUse` or `ProfileError`.
-Profile OpenProfile(const Options& options);
+Profile OpenProfile(const ProfileOptions& options);
 
 /// The path of a file in the profile's data folder.
 std::string DataPath(const Profile& profile, const std::string& name);

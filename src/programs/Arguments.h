@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "platform/system/Registry.h"
 
 #include <cstdint>
 #include <string>
@@ -19,6 +20,9 @@ Date ToMoment(std::string_view name, std::string_view text);
 Date ToMomentWithSeconds(std::string_view name, std::string_view text);
 /// A whole number between two bounds, both included.
 std::int32_t ToCount(std::string_view name, std::string_view text, std::int32_t least, std::int32_t most);
+
+/// A hive of the registry: `HKCU` or `HKLM`, in any case.
+Hive ToHive(std::string_view text);
 
 /// A moment as `YYYY-MM-DDTHH:MM:SS`.
 std::string IsoMoment(Date moment);

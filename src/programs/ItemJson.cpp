@@ -1,6 +1,6 @@
-#include "cli/ItemJson.h"
+#include "programs/ItemJson.h"
 
-#include "cli/Arguments.h"
+#include "programs/Arguments.h"
 
 #include <array>
 

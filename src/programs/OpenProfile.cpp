@@ -1,11 +1,11 @@
-#include "cli/OpenProfile.h"
+#include "programs/OpenProfile.h"
 
 #include "host/profile/ProfileFolder.h"
 #include "host/system/IcuLocaleFormats.h"
 
 namespace tempodial {
 
-Profile OpenProfile(const Options& options)
+Profile OpenProfile(const ProfileOptions& options)
 {
     return { options.profile ? *options.profile : ProfileFolder::Default(),
         options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment(), options.now };

@@ -1,4 +1,4 @@
-#include "cli/TraceTail.h"
+#include "programs/TraceTail.h"
 
 #include "base/Failure.h"
 

@@ -1,6 +1,6 @@
-#include "cli/Arguments.h"
+#include "programs/Arguments.h"
 
-#include "cli/UsageError.h"
+#include "programs/UsageError.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -85,6 +85,13 @@ TEST(ArgumentsTest, IsoTexts_Moment_HaveAllDigits)
     const auto moment = Date::FromParts({ 987, 1, 2, 3, 4, 5 });
     EXPECT_EQ(IsoMoment(moment), "0987-01-02T03:04:05");
     EXPECT_EQ(IsoDay(moment), "0987-01-02");
+}
+
+TEST(ArgumentsTest, ToHive_Names_AreReadInAnyCase)
+{
+    EXPECT_EQ(ToHive("HKCU"), Hive::CurrentUser);
+    EXPECT_EQ(ToHive("hklm"), Hive::LocalMachine);
+    EXPECT_THAT([] { ToHive("HKEY"); }, ThrowsMessage<UsageError>(HasSubstr("there is no hive \"HKEY\"")));
 }
 
 }

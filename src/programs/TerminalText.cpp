@@ -1,4 +1,4 @@
-#include "cli/TerminalText.h"
+#include "programs/TerminalText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,8 @@
-#include "cli/Arguments.h"
+#include "programs/Arguments.h"
 
 #include "base/Number.h"
-#include "cli/UsageError.h"
+#include "base/Text.h"
+#include "programs/UsageError.h"
 
 #include <charconv>
 #include <chrono>
@@ -104,6 +105,17 @@ std::int32_t ToCount(std::string_view name, std::string_view text, std::int32_t 
         Refuse(name, text, "give a whole number from " + std::to_string(least) + " to " + std::to_string(most));
     }
     return count;
+}
+
+Hive ToHive(std::string_view text)
+{
+    if (EqualIgnoringCase(text, "HKCU")) {
+        return Hive::CurrentUser;
+    }
+    if (EqualIgnoringCase(text, "HKLM")) {
+        return Hive::LocalMachine;
+    }
+    throw UsageError("there is no hive \"" + std::string(text) + "\": give HKCU or HKLM");
 }
 
 std::string IsoMoment(Date moment)
