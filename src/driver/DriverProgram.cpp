@@ -1,0 +1,64 @@
+#include "driver/DriverProgram.h"
+
+#include "driver/Driver.h"
+#include "driver/LineReader.h"
+#include "programs/ArgumentParser.h"
+#include "programs/ProductFacts.h"
+#include "programs/ProfileArguments.h"
+#include "programs/ProgramRun.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstddef>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::size_t LongestLine = std::size_t { 64 } * 1024 * 1024;
+
+constexpr auto Description = "The host of the add-in without windows, worked by another program: reads one JSON\n"
+                             "object a line, does it as a person would, and answers with one JSON object a\n"
+                             "line, which shows what a person would see.\n";
+
+constexpr auto Footer = "An example:\n"
+                        "  echo '{\"do\":\"start\"}' | tempodial-drive --profile /tmp/profile\n"
+                        "\n"
+                        "The end of the input ends the host as a normal exit does.\n"
+                        "\n"
+                        "Exit status: 0 done; 1 not done; 2 unusable arguments; 3 the profile is in use by\n"
+                        "another process.";
+
+}
+
+ExitStatus DriverProgram::Run(const std::vector<std::string>& arguments) noexcept
+{
+    return RunProgram(Name, mError, [&] { return Execute(arguments); });
+}
+
+ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
+{
+    CLI::App app(Description, Name);
+    app.footer(Footer);
+    app.set_help_flag("-h,--help", "Show this help");
+    app.set_version_flag("--version", ProductVersion, "Show the version");
+    ProfileArguments profile;
+    profile.Declare(app);
+    if (!ParseArguments(app, arguments, mOut)) {
+        return ExitStatus::Done;
+    }
+    Driver driver(profile.Options());
+    LineReader lines(mInput, LongestLine);
+    for (auto line = lines.Next(); line && mOut; line = lines.Next()) {
+        mOut << (line->isTooLong ? driver.Refuse("the line is too long") : driver.Answer(line->text)) << '\n';
+        mOut.flush();
+    }
+    driver.Exit();
+    if (!mOut) {
+        Complain(mError, Name, "the answer couldn't be written: see to the program that reads it");
+        return ExitStatus::NotDone;
+    }
+    return ExitStatus::Done;
+}
+
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/Ref.h"
+#include "engine/core/Connect.h"
+#include "host/windows/HostApplication.h"
+#include "platform/Platform.h"
+#include "platform/objectmodel/Application.h"
+
+#include <utility>
+
+namespace tempodial {
+
+/// A host that was started, with the add-in in it. When the add-in is disconnected, the host's windows stay.
+class HostSession
+{
+public:
+    HostSession(Ref<HostApplication> application, Ref<const Platform> platform)
+        : mApplication(std::move(application))
+        , mConnect(std::move(platform))
+    {
+    }
+
+    /// Connects the add-in with the application as it is to see it.
+    void Connect(const Ref<Application>& application);
+    /// Begins the shut-down and disconnects the add-in.
+    void Disconnect();
+    /// Closes all windows as the exit of the application does, inspectors first.
+    void CloseWindows();
+
+    /// True while the add-in is connected.
+    bool IsConnected() const { return mConnected; }
+    /// The application with its windows.
+    HostApplication& Windows() const { return *mApplication; }
+
+private:
+    Ref<HostApplication> mApplication;
+    tempodial::Connect mConnect;
+    bool mConnected = false;
+};
+
+}

@@ -1,0 +1,17 @@
+#include "driver/DriverProgram.h"
+#include "programs/ProgramRun.h"
+
+#include <iostream>
+#include <unistd.h>
+
+int main(int count, char** arguments)
+{
+    using namespace tempodial;
+    try {
+        PrepareProcess();
+        DriverProgram program(STDIN_FILENO, std::cout, std::cerr);
+        return static_cast<int>(program.Run({ arguments + 1, arguments + count }));
+    } catch (...) {
+        return static_cast<int>(ExitStatus::NotDone);
+    }
+}
