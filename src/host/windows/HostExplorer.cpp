@@ -107,6 +107,7 @@ void HostExplorer::ShowBeside(const std::vector<Ref<MAPIFolder>>& folders)
         throw Failure(Error::InvalidCall, "There are no folders to show");
     }
     std::vector<std::string> ids;
+    ids.reserve(folders.size());
     for (const auto& folder : folders) {
         ids.push_back(OwnFolder(folder)->EntryID());
     }
