@@ -15,10 +15,12 @@ namespace tempodial {
 
 // Each member takes a reference to its worker for the length of the call: the
 // worker may be released in the midst of it, when a job lets messages be
-// processed and the last window closes.
+// processed and the last window closes. Where that can be the end of this object
+// too, the member holds it.
 
 void TempodialMain::GoToTasklog(bool override)
 {
+    const auto self = shared_from_this();
     const auto attempt = Failing("GoTo error ", LineShape::TextColonStep);
     attempt([&] { Trace("Switch to the task log now"); });
     mStage = "switch";
@@ -272,6 +274,7 @@ void TempodialMain::SwitchingToTasklog()
 void TempodialMain::SetProjectForItems(
     const std::string& project, bool selected, bool range, Date fromDate, Date toDate, bool override)
 {
+    const auto self = shared_from_this();
     const auto attempt = Failing("setprojectforitems", LineShape::TextColonStep);
     attempt([&] { Trace("Set project to" + project); });
     mStage = "setproject";

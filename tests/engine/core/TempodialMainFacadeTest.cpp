@@ -56,6 +56,8 @@ TEST_F(TempodialMainFacadeTest, WorkersGone_MembersAnswerEmptyWithOneLine)
     EXPECT_THAT(Traced(), ElementsAre("validate proj error " + unset + ":create item", "validate error: "));
     EXPECT_EQ(main.WhatProject("s", ""), "");
     EXPECT_THAT(Traced(), ElementsAre("What proj error " + unset + ":create item"));
+    main.ShowAboutForm();
+    EXPECT_THAT(Traced(), ElementsAre("Showaboutform" + unset + ":create item"));
     EXPECT_FALSE(main.IsProject("p", "s", ""));
     EXPECT_THAT(Traced(), ElementsAre("Is proj error " + unset + ":create item"));
     EXPECT_EQ(main.GetProjectPrecedence("p"), "");
@@ -150,6 +152,43 @@ TEST_F(TempodialMainFacadeTest, SetProjectForItems_NeitherSelectedNorRange_AddsT
     EXPECT_THAT(names, Contains("Alpha"));
     EXPECT_EQ(Main().GetProjectPrecedence("Alpha"), "2");
     EXPECT_EQ(Traced().front(), "Set project toAlpha");
+}
+
+TEST_F(TempodialMainFacadeTest, GoToTasklog_HostDisconnectsMeanwhile_EndsTheAddIn)
+{
+    const std::weak_ptr<TempodialMain> main = mConnect.Main().Shared();
+    *mApplication->observer = [this](const std::string& member) {
+        if (member == "Explorer.SetCurrentFolder") {
+            mConnect.OnDisconnection();
+        }
+    };
+    // With the trace gone, the failure of the next line leaves the member.
+    EXPECT_THROW(Main().GoToTasklog(false), Failure);
+    EXPECT_TRUE(main.expired());
+    EXPECT_EQ(Traced().back(), "TRACE SESSION STOP");
+}
+
+TEST_F(TempodialMainFacadeTest, ShowMembers_ShowTheirForms)
+{
+    const auto& forms = *mHost.forms;
+    Main().ShowSettingsForm("No Project", nullptr);
+    EXPECT_TRUE(forms.NewestVisible("ProjectSettingsForm"));
+    Main().ShowReportForm();
+    EXPECT_TRUE(forms.NewestVisible("ReportForm"));
+    Main().ShowAboutForm();
+    EXPECT_TRUE(forms.NewestVisible("AboutBoxForm"));
+    Main().Terminate();
+    for (const auto* name : { "ProjectSettingsForm", "ReportForm", "AboutBoxForm" }) {
+        EXPECT_FALSE(forms.NewestVisible(name)) << name;
+    }
+}
+
+TEST_F(TempodialMainFacadeTest, ShowMembers_AddInEnded_LeaveTheFailureToTheCaller)
+{
+    Main().Terminate();
+    EXPECT_THROW(Main().ShowSettingsForm("x", nullptr), Failure);
+    EXPECT_THROW(Main().ShowReportForm(), Failure);
+    EXPECT_THROW(Main().ShowAboutForm(), Failure);
 }
 
 }
