@@ -27,6 +27,9 @@ void FolderTree::Load()
     Query folders(mDatabase, "SELECT id, ifnull(parent, 0), name, kind, role FROM folder ORDER BY id");
     while (folders.Step()) {
         const auto folder = folders.Int(0);
+        if (nodes.contains(folder)) {
+            FailDamaged();
+        }
         auto& node = nodes[folder];
         node.parent = folders.Int(1);
         node.name = folders.Text(2);
@@ -45,6 +48,10 @@ void FolderTree::Load()
     }
     mNodes = std::move(nodes);
     mDefaults = std::move(defaults);
+    // Nothing leads to a parent or a folder that isn't there, nor into a circle of parents.
+    if (Get(0).children.size() != 1 || Subtree(0).size() != mNodes.size()) {
+        FailDamaged();
+    }
 }
 
 const FolderTree::Node& FolderTree::Get(std::int64_t folder) const
@@ -171,6 +178,11 @@ void FolderTree::AddField(std::int64_t folder, const std::string& name, Property
 FolderTree::Node& FolderTree::Change(std::int64_t folder)
 {
     return const_cast<Node&>(Get(folder));
+}
+
+void FolderTree::FailDamaged() const
+{
+    throw Failure(Error::Automation, "The mailbox " + mDatabase.Path() + " is damaged");
 }
 
 void FolderTree::CheckName(std::int64_t parent, const std::string& name, std::int64_t except) const

@@ -31,7 +31,7 @@ public:
 
     explicit FolderTree(MailboxDatabase& database);
 
-    /// Reads all folders from the file anew.
+    /// Reads all folders from the file anew; fails (440) when they don't make one tree.
     void Load();
 
     bool Exists(std::int64_t folder) const { return folder != 0 && mNodes.contains(folder); }
@@ -58,6 +58,7 @@ public:
 
 private:
     Node& Change(std::int64_t folder);
+    [[noreturn]] void FailDamaged() const;
     void CheckName(std::int64_t parent, const std::string& name, std::int64_t except) const;
     void CheckNotStore(std::int64_t folder) const;
 
