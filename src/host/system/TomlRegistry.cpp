@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "host/system/FileDescriptor.h"
+#include "host/system/RegistryText.h"
 #include "host/system/ReplacementFile.h"
 #include "host/system/TextEncoding.h"
 
@@ -11,7 +12,6 @@
 #include <cstddef>
 #include <fcntl.h>
 #include <limits>
-#include <sstream>
 #include <string_view>
 #include <utility>
 
@@ -108,12 +108,7 @@ public:
         const bool fits = number != nullptr && number->get() >= Limits::min() && number->get() <= Limits::max();
         return fits ? Variant(static_cast<std::int32_t>(number->get())) : Variant();
     }
-    std::string ToText() const
-    {
-        std::ostringstream text;
-        text << toml::toml_formatter(mRoot, toml::format_flags::allow_unicode_strings) << '\n';
-        return text.str();
-    }
+    std::string ToText() const { return RegistryText(mRoot); }
 
 private:
     toml::table mRoot;

@@ -3,6 +3,7 @@
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -152,6 +153,30 @@ TEST_F(TomlRegistryTest, Write_AnyCharacters_ComeBack)
     EXPECT_EQ(Reopened(User, odd, odd), Variant(odd));
     EXPECT_EQ(Reopened(User, "", ""), Variant("nameless"));
     EXPECT_EQ(Reopened(User, "a.b", "c.d"), Variant("dotted"));
+}
+
+TEST_F(TomlRegistryTest, Write_AnyCharacterInAName_ComesBack)
+{
+    for (char character = 0; character < 'A'; ++character) {
+        const std::string name { 'a', character };
+        Open().Write(User, name, name, name);
+        Open().Write(Machine, std::string(1, character), "A", "b");
+        EXPECT_EQ(Reopened(User, name, name), Variant(name));
+        EXPECT_EQ(Reopened(Machine, std::string(1, character), "A"), Variant("b"));
+    }
+}
+
+TEST_F(TomlRegistryTest, Write_OtherThingsInTheFile_AreKept)
+{
+    mFolder.Write("registry.toml",
+        "z = [1, {'a b' = \"it's\", \"'\" = [ ], e = {}}]\n[[t]]\nd = 2006-10-10T09:00:00\n[[t]]\nf = 1.5\n"
+        "[n.'k\\l'.m]\n[HKCU.\"'\"]\nA = true\n");
+    Open().Write(User, "", "B", "c");
+    const std::string rest = "t = [ { d = 2006-10-10T09:00:00 }, { f = 1.5 } ]\n"
+                             "z = [ 1, { \"'\" = [], \"a b\" = \"it's\", e = {} } ]\n";
+    EXPECT_EQ(Content(), rest + "\n[HKCU.\"\"]\nB = \"c\"\n\n[HKCU.\"'\"]\nA = true\n\n[n.\"k\\\\l\".m]\n");
+    Open().Write(User, "", "B", "d");
+    EXPECT_THAT(Content(), testing::StartsWith(rest));
 }
 
 TEST_F(TomlRegistryTest, Write_EveryCharacterThereIs_ComesBack)
