@@ -37,7 +37,7 @@ protected:
     {
         std::vector<std::string> lines;
         auto text = mFolder.Read("Tempodial/WorkLogTrace1.out");
-        for (const auto& line : Split(text.substr(mRead), CrLf)) {
+        for (const auto& line : Split(text.size() < mRead ? text : text.substr(mRead), CrLf)) {
             const auto head = line.find(": ");
             if (head != std::string::npos && !line.starts_with("Tempodial Version")) {
                 lines.push_back(line.substr(head + 2));
@@ -47,6 +47,12 @@ protected:
         return lines;
     }
     void ForgetTrace() { Traced(); }
+    /// Empties the trace, for tests with more lines than the file holds.
+    void EmptyTrace()
+    {
+        mFolder.Write("Tempodial/WorkLogTrace1.out", "");
+        ForgetTrace();
+    }
 
     TempFolder mFolder;
     /// Ten past nine on Tuesday, October 10, 2006.
