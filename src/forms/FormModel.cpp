@@ -104,4 +104,12 @@ bool FormModel::CloseByFrame()
     return !Visible();
 }
 
+void FormModel::CloseForGood()
+{
+    const auto held = shared_from_this();
+    bool cancel = false;
+    mEvents.Raise(&FormEvents::QueryClose, cancel);
+    Unload();
+}
+
 }

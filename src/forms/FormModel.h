@@ -43,6 +43,9 @@ public:
     /// A person closes the form by its frame: it is unloaded unless a listener refuses, who may hide it instead. True
     /// when it is off the screen then; a form that can't be seen fails (5).
     bool CloseByFrame();
+    /// The host ends, which nobody can refuse: listeners hear of it as of the frame, and the form is unloaded. What a
+    /// listener fails with passes through.
+    void CloseForGood();
 
 private:
     FormDefinition mDefinition;

@@ -21,6 +21,15 @@ std::vector<Ref<FormModel>> FormModelFactory::Forms() const
     return forms;
 }
 
+void FormModelFactory::CloseAll() const
+{
+    for (const auto& form : Forms()) {
+        if (form->Visible()) {
+            form->CloseForGood();
+        }
+    }
+}
+
 Ref<FormModel> FormModelFactory::NewestVisible(std::string_view className) const
 {
     Ref<FormModel> newest;

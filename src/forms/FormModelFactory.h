@@ -22,6 +22,8 @@ public:
     std::vector<Ref<FormModel>> Forms() const;
     /// The newest form of that class that can be seen, nothing when there is none.
     Ref<FormModel> NewestVisible(std::string_view className) const;
+    /// The host ends: takes every form that can be seen off the screen for good, so that none holds its owner any more.
+    void CloseAll() const;
 
 private:
     std::vector<std::weak_ptr<FormModel>> mForms;

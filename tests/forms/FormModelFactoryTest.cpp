@@ -40,6 +40,25 @@ TEST_F(FormModelFactoryTest, Create_Forms_GetNumbersNeverUsedBefore)
     EXPECT_EQ(Create("B").As<FormModel>()->Number(), 3);
 }
 
+TEST_F(FormModelFactoryTest, CloseAll_VisibleForms_AreUnloadedWhoeverRefuses)
+{
+    const auto hidden = Create("A");
+    const auto refusing = Create("A");
+    const auto other = Create("B");
+    refusing->Show();
+    other->Show();
+    int asked = 0;
+    const auto unasked = hidden->Subscribe({ .QueryClose = [&](bool&) { ++asked; } });
+    const auto refusal = refusing->Subscribe({ .QueryClose = [&](bool& cancel) {
+        ++asked;
+        cancel = true;
+    } });
+    mFactory.CloseAll();
+    EXPECT_EQ(asked, 1);
+    EXPECT_FALSE(refusing->Visible());
+    EXPECT_FALSE(other->Visible());
+}
+
 TEST_F(FormModelFactoryTest, NewestVisible_ClassName_SkipsHiddenAndOtherForms)
 {
     const auto first = Create("A");

@@ -406,7 +406,7 @@ void ProjectSettingsForm::Form_QueryUnload(bool& cancel)
                 "Apply to past activities?", { Answer::Yes, Answer::No }, MessageIcon::None);
         });
         if (answer == Answer::Yes) {
-            ApplyToPast(mTypedProject, attempt);
+            ApplyToPast(attempt.Get([&] { return mControls.mProjectComboBox->Text(); }), attempt);
         }
     }
     ForgetChanges();

@@ -307,6 +307,17 @@ TEST_F(SetProjectFormTest, EachEnd_LetsTheFormGo)
     }
 }
 
+TEST_F(SetProjectFormTest, HostEnds_FormOnTheScreen_LetsTheFormGo)
+{
+    const std::weak_ptr<SetProjectForm> alive = mForm.Shared();
+    mForm->ShowMe("Critical");
+    mForm = nullptr;
+    mAddIn.Disconnect();
+    EXPECT_FALSE(alive.expired());
+    mAddIn.forms->CloseAll();
+    EXPECT_TRUE(alive.expired());
+}
+
 TEST_F(SetProjectFormTest, Cancel_SetsNothing)
 {
     const auto item = Activity(9 * 60);
