@@ -6,6 +6,12 @@
 
 namespace tempodial {
 
+namespace {
+
+constexpr unsigned long HashSalt = 20061010;
+
+}
+
 SlotReader::SlotReader()
     : mParser(XML_ParserCreate("UTF-8"))
 {
@@ -19,6 +25,8 @@ SlotReader::~SlotReader()
 bool SlotReader::Read(std::string_view line)
 {
     XML_ParserReset(mParser, "UTF-8");
+    // Without one the system would be asked for one at each document.
+    XML_SetHashSalt(mParser, HashSalt);
     XML_SetUserData(mParser, this);
     XML_SetElementHandler(mParser, Begin, End);
     XML_SetCharacterDataHandler(mParser, Letters);

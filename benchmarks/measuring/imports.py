@@ -34,6 +34,8 @@ class Imports:
         profile = self._Tracked("import", self._files)
         blocks, singles = programs.RunTraced(profile, "sync")
         items = programs.Items(profile)
+        if items * 10 != DAYS * LINES * 6:
+            raise processes.RunError(f"the import made {items} items of {DAYS * LINES} lines, not six of ten")
         floor = programs.Path("import-floor")
         ready = programs.Path("import-floor-ready")
         programs.Other("floor-import", place.Fresh(ready), "prepare")

@@ -28,7 +28,11 @@ class Reports:
     def Profile(self, days):
         """The profile with that many days of activities; it is made on first use."""
         if days not in self._profiles:
-            self._profiles[days] = self._programs.Profile(f"store-{days}", days)
+            profile = self._programs.Profile(f"store-{days}", days)
+            items = self._programs.Items(profile)
+            if items != days * DAY_ITEMS:
+                raise processes.RunError(f"a store of {days} days has {items} items")
+            self._profiles[days] = profile
             product.Sync()
         return self._profiles[days]
 
