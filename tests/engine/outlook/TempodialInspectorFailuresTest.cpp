@@ -204,7 +204,7 @@ TEST_F(TempodialInspectorFailuresTest, SaveAndClose_CallsFail_TraceTheRoutinesWo
         { "ProjectComboBox.Value", "view projects error Automation error", settings },
     };
     for (const auto& [failing, line, act] : cases) {
-        SCOPED_TRACE(failing + ": " + line);
+        SCOPED_TRACE(testing::Message() << failing << ": " << line);
         const auto inspector = Prepare(true);
         Fail({ failing });
         EXPECT_NO_THROW(act(inspector));
