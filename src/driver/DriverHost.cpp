@@ -32,6 +32,12 @@ void DriverHost::Start(const Settings& settings)
     }
 }
 
+void DriverHost::Stop()
+{
+    Session()->Disconnect();
+    mForms->CloseAll();
+}
+
 Ref<HostSession> DriverHost::Session() const
 {
     if (!mSession) {
@@ -49,7 +55,7 @@ void DriverHost::Exit()
     Idle();
     if (mSession->IsConnected()) {
         mSession->Windows().RaiseQuit();
-        mSession->Disconnect();
+        Stop();
     }
 }
 

@@ -35,6 +35,8 @@ public:
 
     /// Makes a host with its windows and connects the add-in; fails when one is connected already.
     void Start(const Settings& settings);
+    /// Begins the shut-down of the host and disconnects the add-in, whose forms go with it.
+    void Stop();
     /// The host that was last started; fails with `RequestError` when none was.
     Ref<HostSession> Session() const;
     /// True when a host was started.

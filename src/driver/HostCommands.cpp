@@ -44,7 +44,7 @@ Json HostCommands::Logon()
 
 Json HostCommands::Stop()
 {
-    mHost.Session()->Disconnect();
+    mHost.Stop();
     return Json::object();
 }
 

@@ -92,7 +92,7 @@ Json MailboxCommands::AddFolder(const Request& request)
 {
     const auto path = request.Text("path");
     const auto slash = path.rfind('/');
-    const auto parent = mHost.Mailbox()->FolderByPath(slash == std::string::npos ? "" : path.substr(0, slash));
+    const auto parent = mHost.Folder(slash == std::string::npos ? "" : path.substr(0, slash));
     parent->Folders()->Add(path.substr(slash + 1), parent.As<StoreFolder>()->Kind());
     return Json::object();
 }
