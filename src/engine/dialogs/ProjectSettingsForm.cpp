@@ -241,11 +241,11 @@ std::string ProjectSettingsForm::Save(const std::string& project, bool applyPast
         precedence = "3";
     } else {
         // kept: the caller shows it once more.
-        const auto error = attempt.Get([&] { return mMain->mStrings->mErrorBadPrecedence; });
+        auto error = attempt.Get([&] { return mMain->mStrings->mErrorBadPrecedence; });
         ShowMessage(error, attempt);
         return error;
     }
-    const auto error = attempt.Get([&] {
+    auto error = attempt.Get([&] {
         return mMain->UpdateorAddProject(
             project, mControls.mSubjectText->Text(), mControls.mNotSubjectText->Text(), "", precedence, false);
     });

@@ -55,7 +55,7 @@ protected:
     /// The companion of an activity window, which traces each refresh of its list.
     Ref<TempodialInspector> Owner()
     {
-        const auto owner = MakeRef<TempodialInspector>(mAddIn.platform);
+        auto owner = MakeRef<TempodialInspector>(mAddIn.platform);
         owner->Initialize(Main()->mTempodialDebugLog, Main(), nullptr, 1);
         mAddIn.Trace();
         return owner;
@@ -76,7 +76,7 @@ protected:
     Ref<AppointmentItem> Activity(const std::string& description, std::int32_t daysAgo) const
     {
         const auto start = mAddIn.clock->Now().AddDays(-daysAgo);
-        const auto item = Main()->CreateCalendarItem(
+        auto item = Main()->CreateCalendarItem(
             "No Project", description, "Notepad", "", 5, start.AddMinutes(-10), start.AddMinutes(-5), "", false);
         EXPECT_EQ(ProjectOf(item), "No Project");
         return item;
