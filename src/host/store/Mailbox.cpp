@@ -81,10 +81,9 @@ void Mailbox::Create(const std::string& path)
     const MailboxFile file(path);
     try {
         {
+            // Without a write-ahead log all of it is in the file once it is committed.
             MailboxDatabase draft(file.NewDraft());
-            draft.Execute("PRAGMA journal_mode = WAL");
             MailboxSchema::Migrate(draft, MailboxSchema::Steps());
-            draft.Trust();
         }
         file.TakeDraft();
     } catch (...) {
@@ -161,12 +160,14 @@ void Mailbox::DeleteFolder(const Ref<MAPIFolder>& folder)
     for (const auto& known : live) {
         const auto item = known.second.lock();
         if (item && std::find(subtree.begin(), subtree.end(), item->FolderRow()) != subtree.end()) {
-            item->MarkDeleted();
             gone.emplace_back(item);
         }
     }
     for (const auto& item : gone) {
         item->RaiseLetGo();
+    }
+    for (const auto& item : gone) {
+        item->MarkDeleted();
     }
 }
 
@@ -339,8 +340,9 @@ void Mailbox::Delete(StoreItem& item)
     if (item.Row() != 0) {
         mTable->Delete(item.Row());
     }
-    item.MarkDeleted();
+    // Its windows close first, while whoever watched them can still ask which item it was.
     item.RaiseLetGo();
+    item.MarkDeleted();
 }
 
 void Mailbox::Display(const Ref<StoreItem>& item)

@@ -431,6 +431,21 @@ TEST_F(TempodialInspectorTest, Delete_WindowOpen_PutsTheBarsBack)
     EXPECT_EQ(mApplication->Inspectors()->Count(), 0);
 }
 
+TEST_F(TempodialInspectorTest, Delete_WindowsOpen_LeavesNothingInTheRegister)
+{
+    std::vector<std::weak_ptr<HostInspector>> windows;
+    for (int i = 0; i < 3; ++i) {
+        windows.emplace_back(Open(Activity("Plan " + std::to_string(i))).Shared());
+    }
+    ForgetTrace();
+    Click(windows[0].lock(), "&Delete");
+    mApplication->User().Delete(windows[1].lock()->ShownItem());
+    mMailbox->DeleteFolder(mMain->GetWorkLog());
+
+    EXPECT_THAT(windows, testing::Each(testing::Property(&std::weak_ptr<HostInspector>::expired, true)));
+    EXPECT_THAT(Traced(), testing::Not(testing::Contains(testing::HasSubstr("error"))));
+}
+
 TEST_F(TempodialInspectorTest, Windows_OpenedAndClosedAHundredTimes_LeaveNothing)
 {
     const auto item = Activity();

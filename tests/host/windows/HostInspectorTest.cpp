@@ -306,13 +306,15 @@ TEST_F(HostInspectorTest, Delete_ClosesTheWindowsOfTheItem)
     const auto item = NewActivity();
     const auto inspector = mApplication->OpenInspector(item);
     const auto noting = Note(item);
-    const auto gone = Note(inspector, [&] { EXPECT_EQ(FailureNumber([&] { inspector->Caption(); }), NotFound); });
+    const auto entryId = item->EntryID();
+    const auto gone = Note(inspector, [&] { EXPECT_EQ(inspector->CurrentItem()->EntryID(), entryId); });
     item->Delete();
+    EXPECT_TRUE(item->IsDeleted());
     EXPECT_THAT(mHeard, ElementsAre("gone 1"));
     EXPECT_EQ(mApplication->Inspectors()->Count(), 0);
 }
 
-TEST_F(HostInspectorTest, DeleteFolder_ClosesTheWindowsOfItsItemsOnceAllAreGone)
+TEST_F(HostInspectorTest, DeleteFolder_ClosesTheWindowsOfItsItems)
 {
     const auto folder = mCalendar->Folders()->Add("Log", DefaultFolder::Calendar);
     std::vector<Ref<StoreItem>> items;
@@ -321,13 +323,15 @@ TEST_F(HostInspectorTest, DeleteFolder_ClosesTheWindowsOfItsItemsOnceAllAreGone)
         items.push_back(folder->Items()->Add(ActivityClass).As<StoreItem>());
         items.back()->Save();
         noting.push_back(Note(mApplication->OpenInspector(items.back()), [&items] {
-            EXPECT_TRUE(items.front()->IsDeleted());
-            EXPECT_TRUE(items.back()->IsDeleted());
+            EXPECT_FALSE(items.front()->IsDeleted());
+            EXPECT_FALSE(items.back()->IsDeleted());
         }));
     }
     mMailbox->DeleteFolder(folder);
     EXPECT_THAT(mHeard, testing::UnorderedElementsAre("gone 1", "gone 2"));
     EXPECT_EQ(mApplication->Inspectors()->Count(), 0);
+    EXPECT_TRUE(items.front()->IsDeleted());
+    EXPECT_TRUE(items.back()->IsDeleted());
 }
 
 TEST_F(HostInspectorTest, SaveAndClose_SavesThenCloses)
