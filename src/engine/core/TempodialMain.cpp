@@ -4,6 +4,7 @@
 #include "engine/dialogs/AboutBoxForm.h"
 #include "engine/dialogs/ProjectSettingsForm.h"
 #include "engine/dialogs/ReportForm.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
@@ -60,8 +61,8 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     silently([&] {
         mApplication.Set(application,
             ApplicationEvents {
-                .MapiLogonComplete = Handler(shared_from_this(), &TempodialMain::mApplication_MapiLogonComplete),
-                .Quit = Handler(shared_from_this(), &TempodialMain::mApplication_Quit),
+                .MapiLogonComplete = GuardedHandler(shared_from_this(), &TempodialMain::mApplication_MapiLogonComplete),
+                .Quit = GuardedHandler(shared_from_this(), &TempodialMain::mApplication_Quit),
             });
     });
     silently([&] { mNamespace = application->GetNamespace("MAPI"); });
@@ -138,7 +139,7 @@ void TempodialMain::TempodialMain_Run()
     attempt([&] {
         mExplorers.Set(mApplication->Explorers(),
             ExplorersEvents {
-                .NewExplorer = Handler(shared_from_this(), &TempodialMain::mExplorers_NewExplorer),
+                .NewExplorer = GuardedHandler(shared_from_this(), &TempodialMain::mExplorers_NewExplorer),
             });
     });
     const auto explorers = attempt.Get([&] { return mExplorers->Count(); });
@@ -150,7 +151,7 @@ void TempodialMain::TempodialMain_Run()
     attempt([&] {
         mInspectors.Set(mApplication->Inspectors(),
             InspectorsEvents {
-                .NewInspector = Handler(shared_from_this(), &TempodialMain::mInspectors_NewInspector),
+                .NewInspector = GuardedHandler(shared_from_this(), &TempodialMain::mInspectors_NewInspector),
             });
     });
     mStage = "Create inspectors";

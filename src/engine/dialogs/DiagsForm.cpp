@@ -2,6 +2,7 @@
 
 #include "engine/core/TempodialMain.h"
 #include "engine/dialogs/ProblemReportText.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialUtils.h"
 #include "platform/controls/Button.h"
@@ -58,13 +59,14 @@ void DiagsForm::Initialise(const Ref<TempodialMain>& main)
     mDone = false;
     const auto self = shared_from_this();
     attempt([&] {
-        mOKEvents = mForm->Control("OK").As<Button>()->Subscribe({ .Click = Handler(self, &DiagsForm::OK_Click) });
+        mOKEvents
+            = mForm->Control("OK").As<Button>()->Subscribe({ .Click = GuardedHandler(self, &DiagsForm::OK_Click) });
     });
     attempt([&] {
-        mCancelEvents
-            = mForm->Control("Cancel").As<Button>()->Subscribe({ .Click = Handler(self, &DiagsForm::Cancel_Click) });
+        mCancelEvents = mForm->Control("Cancel").As<Button>()->Subscribe(
+            { .Click = GuardedHandler(self, &DiagsForm::Cancel_Click) });
     });
-    attempt([&] { mFormEvents = mForm->Subscribe({ .QueryClose = Handler(self, &DiagsForm::QueryClose) }); });
+    attempt([&] { mFormEvents = mForm->Subscribe({ .QueryClose = GuardedHandler(self, &DiagsForm::QueryClose) }); });
     attempt([&] { mMain->mUtils->DateSelectorInit(mYearComboFrom, mMonthComboFrom, mDayComboFrom); });
     attempt([&] { mMain->mUtils->DateSelectorToday(mYearComboFrom, mMonthComboFrom, mDayComboFrom); });
 }

@@ -2,7 +2,7 @@
 
 #include "base/Number.h"
 #include "engine/core/TempodialMain.h"
-#include "engine/dialogs/GuardedHandler.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/ReportTypes.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"

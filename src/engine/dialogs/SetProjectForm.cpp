@@ -1,7 +1,7 @@
 #include "engine/dialogs/SetProjectForm.h"
 
 #include "engine/core/TempodialMain.h"
-#include "engine/dialogs/GuardedHandler.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
 #include "platform/controls/Button.h"

@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "engine/core/TempodialMain.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/outlook/TempodialToolbars.h"
 #include "platform/objectmodel/Views.h"
@@ -43,10 +44,10 @@ void TempodialExplorer::Initialize(const Ref<TempodialDebugLog>& applog, const R
         const auto self = shared_from_this();
         mExplorer.Set(explorer,
             ExplorerEvents {
-                .Activate = Handler(self, &TempodialExplorer::mExplorer_Activate),
-                .FolderSwitch = Handler(self, &TempodialExplorer::mExplorer_FolderSwitch),
-                .SelectionChange = Handler(self, &TempodialExplorer::mExplorer_SelectionChange),
-                .Close = Handler(self, &TempodialExplorer::mExplorer_Close),
+                .Activate = GuardedHandler(self, &TempodialExplorer::mExplorer_Activate),
+                .FolderSwitch = GuardedHandler(self, &TempodialExplorer::mExplorer_FolderSwitch),
+                .SelectionChange = GuardedHandler(self, &TempodialExplorer::mExplorer_SelectionChange),
+                .Close = GuardedHandler(self, &TempodialExplorer::mExplorer_Close),
             });
     });
     attempt([&] { mToolbars->Initialize(main, applog, id); });

@@ -1,6 +1,7 @@
 #include "engine/outlook/TempodialInspector.h"
 
 #include "base/Number.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
 #include "engine/foundation/TempodialWin32APICalls.h"
@@ -28,13 +29,16 @@ void TempodialInspector::Initialize(const Ref<TempodialDebugLog>& applog, const 
     mClosed = false;
     mIsOurs = false;
     mStage = "set minspector ";
-    attempt([&] { mInspector.Set(inspector, { .Close = Guarded(&TempodialInspector::mInspector_close) }); });
+    attempt([&] {
+        mInspector.Set(
+            inspector, { .Close = GuardedHandler(shared_from_this(), &TempodialInspector::mInspector_close) });
+    });
     mStage = "set currentitem ";
     attempt([&] {
         mCurrentItem.Set(inspector->CurrentItem().As<AppointmentItem>(),
-            { .Open = Guarded(&TempodialInspector::mCurrentItem_Open),
-                .Write = Guarded(&TempodialInspector::mCurrentItem_Write),
-                .Close = Guarded(&TempodialInspector::mCurrentItem_Close) });
+            { .Open = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Open),
+                .Write = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Write),
+                .Close = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Close) });
     });
     attempt([&] { Trace("caption: " + mInspector->Caption()); });
     if (IsOurItem()) {

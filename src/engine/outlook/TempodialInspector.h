@@ -48,19 +48,6 @@ public:
     void mHelpCommandBarButton_Click(const Ref<CommandBarButton>& control, bool& cancelDefault);
 
 private:
-    /// A callback onto a handler, out of which nothing escapes: without a log, when the add-in was ended in the midst
-    /// of a handler, also the line of a failure fails.
-    template <class... Args> auto Guarded(void (TempodialInspector::*handler)(Args...))
-    {
-        return [call = Handler(shared_from_this(), handler)](Args... args) {
-            try {
-                call(std::forward<Args>(args)...);
-            } catch (...) {
-                return;
-            }
-        };
-    }
-
     bool IsOurItem();
     bool IsActive(const Attempt& attempt);
     void BindControls(const Attempt& attempt);

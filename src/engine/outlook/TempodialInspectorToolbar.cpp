@@ -1,3 +1,4 @@
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/outlook/TempodialInspector.h"
 #include "engine/outlook/TempodialToolbarUtils.h"
@@ -92,7 +93,7 @@ void TempodialInspector::AddSaveCloseButton(
     attempt([&] { faceId = BuiltIn(standard, 1975)->FaceId(); });
     attempt([&] {
         mSaveCloseCommandBarButton.Set(Add(mine, faceId, mMain->mStrings->mOurSaveAndCloseButton + std::to_string(mID)),
-            { .Click = Guarded(&TempodialInspector::mSaveCloseCommandBarButton_Click) });
+            { .Click = GuardedHandler(shared_from_this(), &TempodialInspector::mSaveCloseCommandBarButton_Click) });
     });
     Show(attempt, mSaveCloseCommandBarButton.Get(), mMain->mStrings->mOutlookSaveAndCloseButton, mID);
 }
@@ -102,7 +103,7 @@ void TempodialInspector::AddViewProjectButton(const Attempt& attempt, const Ref<
     const auto& caption = mMain->mStrings->mOurViewProjectsButton;
     attempt([&] {
         mViewProjectCommandBarButton.Set(Add(mine, std::nullopt, caption + std::to_string(mID)),
-            { .Click = Guarded(&TempodialInspector::mViewProjectCommandBarButton_Click) });
+            { .Click = GuardedHandler(shared_from_this(), &TempodialInspector::mViewProjectCommandBarButton_Click) });
     });
     Show(attempt, mViewProjectCommandBarButton.Get(), caption, mID);
     mStage = "set icon";
@@ -128,7 +129,7 @@ void TempodialInspector::AddHelpButton(
     mHelpCommandBarButton.Clear();
     attempt([&] {
         mHelpCommandBarButton.Set(Add(mine, help->FaceId(), caption + std::to_string(mID)),
-            { .Click = Guarded(&TempodialInspector::mHelpCommandBarButton_Click) });
+            { .Click = GuardedHandler(shared_from_this(), &TempodialInspector::mHelpCommandBarButton_Click) });
     });
     Show(attempt, mHelpCommandBarButton.Get(), caption, mID);
 }

@@ -1,5 +1,7 @@
 #include "engine/worklog/TempodialCalendar.h"
 
+#include "engine/foundation/GuardedHandler.h"
+
 namespace tempodial {
 
 TempodialCalendar::TempodialCalendar(Ref<const Platform> platform)
@@ -19,7 +21,7 @@ void TempodialCalendar::Initialize(const Ref<TempodialMain>& main, const Ref<App
     Trace("revision 1 TempodialCalendar");
     attempt([&] {
         mCalendarItems.Set(mNamespace->GetDefaultFolder(DefaultFolder::Calendar)->Items(),
-            { .ItemAdd = Handler(shared_from_this(), &TempodialCalendar::mCalendarItems_ItemAdd) });
+            { .ItemAdd = GuardedHandler(shared_from_this(), &TempodialCalendar::mCalendarItems_ItemAdd) });
     });
 }
 

@@ -1,5 +1,6 @@
 #include "base/Number.h"
 #include "base/Text.h"
+#include "engine/foundation/GuardedHandler.h"
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
@@ -36,8 +37,9 @@ void TempodialWorkLog::LoadForms()
     }
     attempt([&] { item->Close(CloseMode::Discard); });
 
-    attempt(
-        [&] { mLogItems.Set(folder->Items(), { .ItemAdd = Handler(self, &TempodialWorkLog::mLogItems_ItemAdd) }); });
+    attempt([&] {
+        mLogItems.Set(folder->Items(), { .ItemAdd = GuardedHandler(self, &TempodialWorkLog::mLogItems_ItemAdd) });
+    });
 }
 
 void TempodialWorkLog::TempodialWorkLog_CreateWorkLog(bool newVersion)

@@ -7,8 +7,8 @@
 
 namespace tempodial {
 
-/// A callback onto a form's handler, out of which nothing escapes: once the log is gone, also the line of a failure
-/// fails.
+/// A callback onto a handler of the engine, out of which nothing escapes into the host: once the log is gone, also the
+/// line of a failure fails.
 template <class Owner, class... Args>
 auto GuardedHandler(const std::shared_ptr<Owner>& owner, void (Owner::*handler)(Args...))
 {
