@@ -11,6 +11,9 @@ check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g+
 # What ./check --browser needs besides.
 browser_packages=(chromium)
 
+# What ./check --bench needs besides: a peer to compare with, and callgrind.
+bench_packages=(python3 timewarrior valgrind)
+
 # install_missing PACKAGE...: installs those of the packages that are missing; asks dpkg once and nothing else when
 # none is.
 install_missing() {
