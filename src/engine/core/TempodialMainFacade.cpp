@@ -179,7 +179,7 @@ void TempodialMain::DeleteProject(const std::string& project)
 std::string TempodialMain::ValidateProject(const std::string& project)
 {
     const auto attempt = Failing("validate proj error ", LineShape::TextColonStep);
-    const auto message = attempt.Get([&, worker = mProjectManager] { return worker->ValidateProject(project); });
+    auto message = attempt.Get([&, worker = mProjectManager] { return worker->ValidateProject(project); });
     attempt([&] { Trace("validate error: " + message); });
     return message;
 }

@@ -76,7 +76,7 @@ Ref<CommandBar> TempodialToolbarUtils::ReplaceStandardToolbar(
     }
     mStage = "add my toolbar";
     // kept: the name is the log's own and not the argument.
-    const auto added = attempt.Get([&] { return inspector->CommandBars()->Add(mMain->mStrings->mLogName); });
+    auto added = attempt.Get([&] { return inspector->CommandBars()->Add(mMain->mStrings->mLogName); });
     attempt([&] { added->SetVisible(true); });
     attempt([&] { added->SetPosition(BarPosition::Top); });
     return added;

@@ -32,7 +32,7 @@ protected:
 
     Ref<TempodialToolbars> NewToolbars(std::int32_t id)
     {
-        const auto toolbars = MakeRef<TempodialToolbars>(mPlatform);
+        auto toolbars = MakeRef<TempodialToolbars>(mPlatform);
         toolbars->Initialize(mMain, mLog, id);
         return toolbars;
     }
