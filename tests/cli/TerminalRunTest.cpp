@@ -123,6 +123,18 @@ TEST_F(TerminalRunTest, Sync_MailboxMayNotGrow_IsToldAndTheNextSyncGoesOn)
     EXPECT_EQ(Json({ "list" }).size(), 3000U);
 }
 
+TEST_F(TerminalRunTest, NewProfile_MailboxMayNotGrow_IsToldAndTheNextRunMakesIt)
+{
+    for (rlim_t size = 0; size < 72'000; size += 12'000) {
+        StartedProgram program(Whole({ "projects" }), { .largestFile = size });
+        EXPECT_EQ(program.End(), 1) << size;
+        EXPECT_THAT(program.Shown(), HasSubstr("mailbox.db"));
+        EXPECT_FALSE(std::filesystem::exists(mProfile + "/mailbox.db.new"));
+        Json({ "projects" });
+        std::filesystem::remove_all(mProfile);
+    }
+}
+
 TEST(InterruptionTest, SecondControlC_EndsTheProcess)
 {
     EXPECT_EXIT(

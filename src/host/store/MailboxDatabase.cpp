@@ -9,6 +9,8 @@
 #include <SQLiteCpp/Statement.h>
 #include <sqlite3.h>
 
+#include <cerrno>
+
 namespace tempodial {
 
 namespace {
@@ -196,6 +198,12 @@ Failure MailboxDatabase::Failed(int code, const std::string& text)
     return failure;
 }
 
+bool MailboxDatabase::IsDiskFull() const
+{
+    const int reason = mConnection ? sqlite3_system_errno(mConnection->getHandle()) : 0;
+    return reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
+}
+
 Failure MailboxDatabase::Described(int code, const std::string& text) const
 {
     const auto named = [&](Error error) {
@@ -205,7 +213,7 @@ Failure MailboxDatabase::Described(int code, const std::string& text) const
     case SQLITE_FULL:
         return named(Error::DiskFull);
     case SQLITE_IOERR:
-        return named(Error::DeviceError);
+        return named(IsDiskFull() ? Error::DiskFull : Error::DeviceError);
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
     case SQLITE_READONLY:

@@ -79,6 +79,8 @@ private:
     SQLite::Statement& Prepare(const std::string& sql);
     void AddFunctions();
     void RollBack();
+    /// True when the system refused for want of room.
+    bool IsDiskFull() const;
     Failure Described(int code, const std::string& text) const;
     Failure Failed(int code, const std::string& text);
 
