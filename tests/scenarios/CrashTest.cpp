@@ -1,4 +1,6 @@
 #include "scenarios/ProfileState.h"
+#include "support/DurableFiles.h"
+#include "support/LongTests.h"
 #include "support/Program.h"
 #include "support/TempFolder.h"
 
@@ -7,6 +9,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <ostream>
 #include <string>
@@ -54,6 +57,16 @@ std::string MixedDay(const std::string& prefix)
     return text;
 }
 
+/// A day with more lines than are kept from one commit to the next.
+std::string LongDay()
+{
+    std::string text = "tracker 1\r\n";
+    for (int i = 0; i < 1100; ++i) {
+        text += Slot(i * 60, i * 60 + 60, Word("long " + std::to_string(i)));
+    }
+    return text;
+}
+
 struct DataSet
 {
     std::string name;
@@ -75,6 +88,10 @@ std::vector<DataSet> DataSets()
         { "pastDaysAlone", { { "20061009", MixedDay("y") }, { "20061008", MixedDay("s") } },
             "|20061008_32700|20061009_33000" },
         { "goingOnToday", { { "20061010", MixedDay("t") } }, "20061010_34200" },
+        { "mostlyKnown",
+            { { "20061010", MixedDay("t") }, { "20061009", MixedDay("y") }, { "20061008", MixedDay("s") } },
+            "|20061010_86399|20061009_86399" },
+        { "manyLines", { { "20061010", LongDay() }, { "20061009", MixedDay("y") } }, "" },
     };
 }
 
@@ -115,38 +132,66 @@ std::vector<std::string> Sync(const fs::path& profile)
 
 class CrashTest : public testing::TestWithParam<DataSet>
 {
+protected:
+    /// Syncs new profiles; each run is ended at another system call, all spread over the length of a sync. The next
+    /// sync leaves all as an undisturbed one does.
+    void EndEverywhere(int points, const std::function<void(const fs::path& profile, std::int64_t call)>& runAndEnd)
+    {
+        const auto& data = GetParam();
+        const auto undisturbed = fs::path(mFolder.Path()) / "undisturbed";
+        MakeProfile(undisturbed, data);
+        const auto whole = RunTempodialKilledAt(Sync(undisturbed), 0);
+        if (!whole) {
+            GTEST_SKIP() << "this system doesn't let a process be observed";
+        }
+        ASSERT_EQ(whole->status, 0) << whole->error;
+        const auto expected = StateOf(undisturbed, Now);
+        ASSERT_FALSE(expected.items.empty());
+        for (int i = 1; i <= points; ++i) {
+            const auto call = whole->systemCalls * i / (points + 1);
+            SCOPED_TRACE("ended at system call " + std::to_string(call) + " of " + std::to_string(whole->systemCalls));
+            const auto profile = fs::path(mFolder.Path()) / ("ended" + std::to_string(i));
+            MakeProfile(profile, data);
+            runAndEnd(profile, call);
+            const auto next = RunTempodial(Sync(profile));
+            EXPECT_EQ(next.status, 0) << next.error;
+            const auto state = StateOf(profile, Now);
+            EXPECT_EQ(Difference(expected.items, state.items), "");
+            EXPECT_EQ(state.history, expected.history);
+            EXPECT_EQ(state.trackerFiles, expected.trackerFiles);
+            fs::remove_all(profile);
+        }
+    }
+    void LosePowerEverywhere(DurableFiles::Names names)
+    {
+        EndEverywhere(ShortOrLong(5, 60), [names](const fs::path& profile, std::int64_t end) {
+            DurableFiles durable(profile);
+            const auto killed = RunTempodialObserved(Sync(profile),
+                { .goesOn = [end](std::int64_t call) { return call != end; },
+                    .flushed = [&durable](const std::string& path) { durable.Flushed(path); } });
+            ASSERT_EQ(killed->status, 128 + 9);
+            durable.LosePower(names);
+        });
+    }
+
+    TempFolder mFolder;
 };
 
 TEST_P(CrashTest, Sync_KilledAnywhere_EndsAsUndisturbedAfterTheNext)
 {
-    const TempFolder folder;
-    const auto& data = GetParam();
-    const auto undisturbed = fs::path(folder.Path()) / "undisturbed";
-    MakeProfile(undisturbed, data);
-    const auto whole = RunTempodialKilledAt(Sync(undisturbed), 0);
-    if (!whole) {
-        GTEST_SKIP() << "this system doesn't let a process be observed";
-    }
-    ASSERT_EQ(whole->status, 0) << whole->error;
-    const auto expected = StateOf(undisturbed, Now);
-    ASSERT_FALSE(expected.items.empty());
+    EndEverywhere(ShortOrLong(15, 110), [](const fs::path& profile, std::int64_t end) {
+        ASSERT_EQ(RunTempodialKilledAt(Sync(profile), end)->status, 128 + 9);
+    });
+}
 
-    constexpr int Points = 25;
-    for (int i = 1; i <= Points; ++i) {
-        const auto call = whole->systemCalls * i / (Points + 1);
-        SCOPED_TRACE("killed at system call " + std::to_string(call) + " of " + std::to_string(whole->systemCalls));
-        const auto profile = fs::path(folder.Path()) / ("killed" + std::to_string(i));
-        MakeProfile(profile, data);
-        const auto killed = RunTempodialKilledAt(Sync(profile), call);
-        ASSERT_EQ(killed->status, 128 + 9);
-        const auto next = RunTempodial(Sync(profile));
-        EXPECT_EQ(next.status, 0) << next.error;
-        const auto state = StateOf(profile, Now);
-        EXPECT_EQ(Difference(expected.items, state.items), "");
-        EXPECT_EQ(state.history, expected.history);
-        EXPECT_EQ(state.trackerFiles, expected.trackerFiles);
-        fs::remove_all(profile);
-    }
+TEST_P(CrashTest, Sync_PowerLostAnywhere_EndsAsUndisturbedAfterTheNext)
+{
+    LosePowerEverywhere(DurableFiles::Names::Kept);
+}
+
+TEST_P(CrashTest, Sync_PowerLostAnywhereWithNames_EndsAsUndisturbedAfterTheNext)
+{
+    LosePowerEverywhere(DurableFiles::Names::Lost);
 }
 
 INSTANTIATE_TEST_SUITE_P(

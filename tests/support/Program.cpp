@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <stdexcept>
 #include <sys/ptrace.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -39,24 +40,26 @@ struct Pipe
     }
 };
 
-[[noreturn]] void BecomeTempodial(
-    const std::vector<std::string>& arguments, const Pipe& out, const Pipe& error, bool observed)
+/// The words as main and execve take them, which live as long as the words.
+std::vector<char*> Pointers(std::vector<std::string>& words)
+{
+    std::vector<char*> pointers;
+    for (auto& word : words) {
+        pointers.push_back(word.data());
+    }
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+[[noreturn]] void BecomeTempodial(const std::vector<std::string>& arguments, std::vector<std::string> environment,
+    const Pipe& out, const Pipe& error, bool observed)
 {
     std::vector<std::string> words { TEMPODIAL_EXECUTABLE };
     words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> argv;
-    for (auto& word : words) {
-        argv.push_back(word.data());
+    if (observed) {
+        // A leak check can't look into a process that is observed already.
+        environment.emplace_back("ASAN_OPTIONS=detect_leaks=0");
     }
-    argv.push_back(nullptr);
-    // A leak check can't look into a process that is observed already.
-    std::array<std::string, 4> settings { "PATH=/usr/bin:/bin", "LC_ALL=en_US.UTF-8", "HOME=/nonexistent",
-        observed ? "ASAN_OPTIONS=detect_leaks=0" : "TZ=UTC" };
-    std::vector<char*> environment;
-    for (auto& setting : settings) {
-        environment.push_back(setting.data());
-    }
-    environment.push_back(nullptr);
     const int nothing = ::open("/dev/null", O_RDONLY);
     ::dup2(nothing, STDIN_FILENO);
     ::dup2(out.ends[1], STDOUT_FILENO);
@@ -64,7 +67,7 @@ struct Pipe
     if (observed && ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
         ::_exit(125);
     }
-    ::execve(words.front().c_str(), argv.data(), environment.data());
+    ::execve(words.front().c_str(), Pointers(words).data(), Pointers(environment).data());
     ::_exit(126);
 }
 
@@ -96,11 +99,22 @@ int StatusOf(int wait)
     return WIFEXITED(wait) ? WEXITSTATUS(wait) : 128 + WTERMSIG(wait);
 }
 
-/// Follows the observed child from system call to system call up to its end, or to the call at which it is killed.
-int Follow(pid_t child, std::int64_t killAt, std::int64_t& calls)
+/// Tells of a flush when the child comes back from one that went well.
+void TellOfFlush(pid_t child, const __ptrace_syscall_info& entry, const RunObserver& observer)
+{
+    __ptrace_syscall_info exit {};
+    const bool isFlush = entry.entry.nr == SYS_fsync || entry.entry.nr == SYS_fdatasync;
+    if (isFlush && ::ptrace(PTRACE_GET_SYSCALL_INFO, child, sizeof exit, &exit) > 0 && exit.exit.rval == 0) {
+        observer.flushed("/proc/" + std::to_string(child) + "/fd/" + std::to_string(entry.entry.args[0]));
+    }
+}
+
+/// Follows the observed child from system call to system call up to its end.
+int Follow(pid_t child, const RunObserver& observer, std::int64_t& calls)
 {
     int wait = 0;
     bool entering = true;
+    __ptrace_syscall_info entry {};
     ::waitpid(child, &wait, 0);
     if (WIFSTOPPED(wait)) {
         ::ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
@@ -108,11 +122,13 @@ int Follow(pid_t child, std::int64_t killAt, std::int64_t& calls)
     while (WIFSTOPPED(wait)) {
         long signal = WSTOPSIG(wait);
         if (signal == (SIGTRAP | 0x80)) {
-            calls += entering ? 1 : 0;
-            if (entering && killAt > 0 && calls == killAt) {
-                ::kill(child, SIGKILL);
-                ::waitpid(child, &wait, 0);
-                break;
+            if (entering) {
+                ::ptrace(PTRACE_GET_SYSCALL_INFO, child, sizeof entry, &entry);
+                if (!observer.goesOn(++calls)) {
+                    ::kill(child, SIGKILL);
+                }
+            } else {
+                TellOfFlush(child, entry, observer);
             }
             entering = !entering;
             signal = 0;
@@ -127,14 +143,19 @@ int Follow(pid_t child, std::int64_t killAt, std::int64_t& calls)
 
 }
 
-ProgramResult RunTempodial(const std::vector<std::string>& arguments)
+std::vector<std::string> UsualEnvironment()
+{
+    return { "PATH=/usr/bin:/bin", "LC_ALL=en_US.UTF-8", "HOME=/nonexistent", "TZ=UTC" };
+}
+
+ProgramResult RunTempodial(const std::vector<std::string>& arguments, const std::vector<std::string>& environment)
 {
     ProgramResult result;
     Pipe out;
     Pipe error;
     const auto child = ::fork();
     if (child == 0) {
-        BecomeTempodial(arguments, out, error, false);
+        BecomeTempodial(arguments, environment, out, error, false);
     }
     out.CloseWriting();
     error.CloseWriting();
@@ -145,24 +166,41 @@ ProgramResult RunTempodial(const std::vector<std::string>& arguments)
     return result;
 }
 
-std::optional<ProgramResult> RunTempodialKilledAt(const std::vector<std::string>& arguments, std::int64_t systemCall)
+std::optional<ProgramResult> RunTempodialObserved(
+    const std::vector<std::string>& arguments, const RunObserver& observer)
 {
     ProgramResult result;
     Pipe out;
     Pipe error;
     const auto child = ::fork();
     if (child == 0) {
-        BecomeTempodial(arguments, out, error, true);
+        BecomeTempodial(arguments, UsualEnvironment(), out, error, true);
     }
     out.CloseWriting();
     error.CloseWriting();
     // What it prints is short enough for the pipes, which are read when it has ended.
-    result.status = Follow(child, systemCall, result.systemCalls);
+    result.status = Follow(child, observer, result.systemCalls);
     Drain(out, error, result);
     if (result.status == 125) {
         return std::nullopt;
     }
     return result;
+}
+
+std::optional<ProgramResult> RunTempodialKilledAt(const std::vector<std::string>& arguments, std::int64_t systemCall)
+{
+    return RunTempodialObserved(arguments, { .goesOn = [=](std::int64_t call) { return call != systemCall; } });
+}
+
+std::optional<ProgramResult> RunTempodialDisturbedAt(
+    const std::vector<std::string>& arguments, std::int64_t systemCall, const std::function<void()>& disturb)
+{
+    return RunTempodialObserved(arguments, { .goesOn = [&](std::int64_t call) {
+        if (call == systemCall) {
+            disturb();
+        }
+        return true;
+    } });
 }
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,11 +19,32 @@ struct ProgramResult
     std::int64_t systemCalls = 0;
 };
 
-/// Runs the built program with arguments, in an environment without anything of the caller's profile.
-ProgramResult RunTempodial(const std::vector<std::string>& arguments);
+/// What a program sees of its caller: nothing of the caller's own profile.
+std::vector<std::string> UsualEnvironment();
+
+/// Runs the built program with arguments, and with an environment of "NAME=value".
+ProgramResult RunTempodial(
+    const std::vector<std::string>& arguments, const std::vector<std::string>& environment = UsualEnvironment());
+
+/// What a test does while it observes a run.
+struct RunObserver
+{
+    /// Called before each system call, counted from 1; when it answers false, the program is killed there.
+    std::function<bool(std::int64_t call)> goesOn = [](std::int64_t) { return true; };
+    /// Called when a file or a folder was flushed to the disk, with a path by which it can be opened.
+    std::function<void(const std::string& path)> flushed = [](const std::string&) {};
+};
+
+/// Runs it under observation. Nothing when this system forbids that.
+std::optional<ProgramResult> RunTempodialObserved(
+    const std::vector<std::string>& arguments, const RunObserver& observer);
 
 /// Runs it under observation and kills it at the given system call, counted from 1; 0 counts them without killing.
 /// Nothing when this system forbids observation.
 std::optional<ProgramResult> RunTempodialKilledAt(const std::vector<std::string>& arguments, std::int64_t systemCall);
+
+/// The same, but at that system call it stands still while something is done to its surroundings, and then goes on.
+std::optional<ProgramResult> RunTempodialDisturbedAt(
+    const std::vector<std::string>& arguments, std::int64_t systemCall, const std::function<void()>& disturb);
 
 }

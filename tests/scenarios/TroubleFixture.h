@@ -1,0 +1,75 @@
+#pragma once
+
+#include "cli/ProgramFixture.h"
+#include "scenarios/ProfileState.h"
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+
+namespace tempodial {
+
+/// A profile with tracker files of three days, which is synced while something is wrong with the world.
+class TroubleFixture : public ProgramFixture
+{
+protected:
+    static constexpr auto Live = "tracker_granules20061010.out";
+
+    TroubleFixture()
+    {
+        const auto profile = mProfile;
+        mProfile = mFolder.Path("undisturbed");
+        WriteDays();
+        const auto result = Sync();
+        EXPECT_EQ(result.status, 0) << result.error;
+        mExpected = StateOf(mProfile, mNow);
+        EXPECT_EQ(mExpected.items.size(), 31U);
+        mProfile = profile;
+    }
+
+    static std::vector<std::string> SlotsOf(const std::string& day, int count)
+    {
+        std::vector<std::string> slots;
+        for (int i = 0; i < count; ++i) {
+            const int begin = 32400 + i * 600;
+            const auto document = day + " " + std::to_string(i) + ".doc";
+            slots.push_back(Word(begin, begin + 300, document));
+            slots.push_back(Word(begin + 300, begin + 600, document, "<Continuation>1</Continuation>"));
+            slots.push_back(Word(begin + 400, begin + 600, "aside of " + document, "<Detail>1</Detail>"));
+        }
+        return slots;
+    }
+    /// Puts the tracker files of the three days into the profile.
+    void WriteDays() const
+    {
+        WriteTracker("20061010", SlotsOf("today", 12));
+        WriteTracker("20061009", SlotsOf("yesterday", 12));
+        WriteTracker("20061007", SlotsOf("saturday", 7));
+    }
+    ProgramResult Sync() const { return Run({ "sync", "--quiet" }); }
+    /// A run that ended in a way that is told: done, or each problem in a line that says what to do.
+    static void ExpectTold(const ProgramResult& result)
+    {
+        EXPECT_TRUE(result.status == 0 || result.status == 1) << result.status << ": " << result.error;
+        EXPECT_EQ(result.error.empty(), result.status == 0) << result.error;
+        std::istringstream lines(result.error);
+        for (std::string line; std::getline(lines, line);) {
+            EXPECT_THAT(line + "\n", testing::MatchesRegex(MessageForm));
+        }
+    }
+    /// The next sync has nothing to complain of, and all is as if nothing had been wrong.
+    void ExpectNextSyncCompletes() const
+    {
+        const auto result = Sync();
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.error, "");
+        const auto state = StateOf(mProfile, mNow);
+        EXPECT_EQ(state.items, mExpected.items);
+        EXPECT_EQ(state.history, mExpected.history);
+        EXPECT_EQ(state.trackerFiles, mExpected.trackerFiles);
+    }
+
+    ProfileState mExpected;
+};
+
+}
