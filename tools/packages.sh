@@ -11,6 +11,9 @@ check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g+
 # What ./check --browser needs besides.
 browser_packages=(chromium)
 
+# What ./check --fuzz needs besides.
+fuzz_packages=(clang libclang-rt-dev)
+
 # What ./check --bench needs besides: a peer to compare with, and callgrind.
 bench_packages=(python3 timewarrior valgrind)
 
