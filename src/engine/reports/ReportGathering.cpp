@@ -6,6 +6,7 @@
 #include "platform/objectmodel/Items.h"
 #include "platform/objectmodel/MAPIFolder.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace tempodial {
@@ -162,7 +163,11 @@ std::string ReportGathering::ToCSV(const std::string& text)
 {
     const auto attempt = Failing("ToCSV ", LineShape::ColonText);
     // kept: quotes aren't doubled, and a line break stays in the field.
-    return attempt.Get([&] { return "\"" + Replace(text, "\"", "'") + "\""; });
+    return attempt.Get([&] {
+        auto field = "\"" + text + "\"";
+        std::replace(field.begin() + 1, field.end() - 1, '"', '\'');
+        return field;
+    });
 }
 
 std::string ReportGathering::ToDetailString(const Ref<AppointmentItem>& item)

@@ -14,6 +14,8 @@ namespace tempodial {
 namespace {
 
 constexpr auto PlainLineTemplate = "#CONTENT# (#PERCENT#%)";
+/// What closes the document of an HTML report.
+constexpr std::string_view Ending = "</body></html>";
 
 }
 
@@ -218,9 +220,11 @@ std::string TempodialReport::BuildHTMLReport(
         attempt([&] { details = Replace(details, "#CRITERIA#", label); });
         attempt([&] { details = Replace(details, "#DETAILS#", texts.BuildDetail(data, true, detailLine)); });
         attempt([&] { details = html.HTMLMogrify(std::move(details)); });
+        // Room for all of it at once: a report that grew by and by would be held twice and more.
+        attempt([&] { report.reserve(report.size() + details.size() + Ending.size()); });
         attempt([&] { report += details; });
     }
-    return report += "</body></html>";
+    return report += Ending;
 }
 
 std::optional<std::string> TempodialReport::ReadTemplate(

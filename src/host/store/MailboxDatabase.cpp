@@ -91,7 +91,7 @@ MailboxDatabase::MailboxDatabase(const std::string& path)
     Execute("PRAGMA foreign_keys = ON");
     Execute("PRAGMA synchronous = FULL");
     Execute("PRAGMA temp_store = MEMORY");
-    Execute("PRAGMA cache_size = -16384");
+    Execute("PRAGMA cache_size = -4096");
 }
 
 MailboxDatabase::~MailboxDatabase()

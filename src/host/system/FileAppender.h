@@ -3,23 +3,35 @@
 #include "host/system/FileDescriptor.h"
 #include "host/system/WritingStream.h"
 
+#include <memory>
 #include <string>
+#include <utility>
 
 namespace tempodial {
 
-/// A text file opened for appending: each text goes to the system at once. A link is not followed. Locks are not asked
-/// for: the trace is opened for each of its lines, and a lock would cost lines.
+/// A text file opened for appending: each text goes to the system at once. Locks are not asked for: the trace is opened
+/// for each of its lines, and a lock would cost lines.
 class FileAppender : public WritingStream
 {
 public:
-    /// Opens a file, made when it may be; a read-only one or a link fails (70).
-    FileAppender(const NativePath& path, bool create);
+    /// Takes the open file.
+    explicit FileAppender(std::shared_ptr<const FileDescriptor> file)
+        : mFile(std::move(file))
+    {
+    }
 
-    void Write(const std::string& text) override;
-    void Close() override;
+    /// A closed stream fails (52).
+    void Write(const std::string& text) override
+    {
+        if (!mFile) {
+            throw Failure(Error::BadFileName);
+        }
+        mFile->Write(text);
+    }
+    void Close() override { mFile = nullptr; }
 
 private:
-    FileDescriptor mFile;
+    std::shared_ptr<const FileDescriptor> mFile;
 };
 
 }

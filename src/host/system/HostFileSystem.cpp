@@ -141,6 +141,7 @@ bool HostFileSystem::FileExists(const std::string& path)
 
 File HostFileSystem::GetFile(const std::string& path)
 {
+    mAppended.Forget();
     const NativePath native(path);
     struct statx status
     {
@@ -151,11 +152,13 @@ File HostFileSystem::GetFile(const std::string& path)
     if (!S_ISREG(status.stx_mode)) {
         throw Failure(Error::PermissionDenied);
     }
+    mAppended.Seen(path, status);
     return { native.Name(), path, static_cast<std::int64_t>(status.stx_size), CreationDate(status) };
 }
 
 void HostFileSystem::MoveFile(const std::string& source, const std::string& target)
 {
+    mAppended.Forget();
     const NativePath from(source);
     StatusOfFile(from);
     RenameToAbsent(from, NativePath(target));
@@ -163,6 +166,7 @@ void HostFileSystem::MoveFile(const std::string& source, const std::string& targ
 
 void HostFileSystem::CopyFile(const std::string& source, const std::string& target, bool overwrite)
 {
+    mAppended.Forget();
     const FileDescriptor from(NativePath(source), O_RDONLY);
     from.RequireUnlocked();
     const NativePath to(target);
@@ -181,6 +185,7 @@ void HostFileSystem::CopyFile(const std::string& source, const std::string& targ
 
 void HostFileSystem::DeleteFile(const std::string& path, bool force)
 {
+    mAppended.Forget();
     const NativePath native(path);
     const auto status = StatusOfFile(native);
     if (!force && S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) == 0) {
@@ -198,9 +203,10 @@ Ref<TextStream> HostFileSystem::OpenTextFile(const std::string& path, OpenMode m
     case OpenMode::Reading:
         return MakeRef<FileReader>(native, create);
     case OpenMode::Writing:
+        mAppended.Forget();
         return MakeRef<FileReplacer>(native, create);
     case OpenMode::Appending:
-        return MakeRef<FileAppender>(native, create);
+        return MakeRef<FileAppender>(mAppended.Open(path, native, create));
     }
     throw Failure(Error::InvalidCall);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/system/AppendedFile.h"
 #include "host/system/LocalTime.h"
 #include "platform/system/FileSystemObject.h"
 
@@ -35,6 +36,7 @@ private:
 
     std::string mTemporaryFolder;
     LocalTime mLocalTime;
+    AppendedFile mAppended;
 };
 
 }
