@@ -34,6 +34,7 @@ void FaultPlan::Call(std::span<const std::string_view> classes, std::string_view
     }
     std::erase_if(mFaults, [](const Fault& fault) { return fault.times == 0; });
     if (mCalls == mFailingCall) {
+        mFailedCall = std::string(classes.front()) + "." + std::string(member) + ":" + std::string(key);
         throw Failure(Error::Automation);
     }
     if (failure) {

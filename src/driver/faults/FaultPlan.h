@@ -30,6 +30,8 @@ public:
     void Add(Fault fault);
     /// Lets one call fail (440): that of a number in the count of all calls.
     void FailCall(std::int64_t call) { mFailingCall = call; }
+    /// The operation of that call, "" until it was made.
+    const std::string& FailedCall() const { return mFailedCall; }
     /// The calls made so far.
     std::int64_t CallCount() const { return mCalls; }
 
@@ -44,6 +46,7 @@ private:
     std::int64_t mCalls = 0;
     /// 0 for none.
     std::int64_t mFailingCall = 0;
+    std::string mFailedCall;
 };
 
 }

@@ -103,7 +103,9 @@ TEST_F(FaultPlanTest, FailCall_Number_FailsThatCallOfAll)
     Calls(2);
     mPlan.FailCall(4);
     EXPECT_EQ(Calls(1, "Tag"), "+");
-    EXPECT_EQ(Calls(1, "Style"), "-");
+    EXPECT_EQ(mPlan.FailedCall(), "");
+    EXPECT_EQ(Calls(1, "Style", "k"), "-");
+    EXPECT_EQ(mPlan.FailedCall(), "CommandBarButton.Style:k");
     EXPECT_EQ(Calls(2), "++");
     EXPECT_EQ(mLast.Number(), 440);
 }
