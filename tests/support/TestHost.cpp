@@ -53,4 +53,9 @@ TestHost::TestHost(const std::string& folder, const Ref<Registry>& registry, con
     explorer = application->host->OpenExplorer(mailbox->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox));
 }
 
+TestHost::~TestHost()
+{
+    forms->CloseAll();
+}
+
 }

@@ -21,6 +21,8 @@ public:
     /// Takes the folder of the files, the registry, and where the mailbox is.
     explicit TestHost(
         const std::string& folder, const Ref<Registry>& registry, const std::string& mailboxPath = ":memory:");
+    /// Closes the forms that are open, as the end of a host does.
+    ~TestHost();
     TestHost(const TestHost&) = delete;
     TestHost& operator=(const TestHost&) = delete;
 
