@@ -72,7 +72,7 @@ public:
     }
     std::string Text(std::size_t length)
     {
-        const std::string text(mRest.substr(0, length));
+        std::string text(mRest.substr(0, length));
         mRest.remove_prefix(text.size());
         return text;
     }
@@ -127,7 +127,9 @@ void ChangeRows(const std::string& path, Bytes& bytes)
             run(std::string("DELETE FROM ") + column.table + where);
             continue;
         }
-        run(std::string("UPDATE OR IGNORE ") + column.table + " SET " + column.name + " = " + value + where);
+        std::string update = "UPDATE OR IGNORE ";
+        update.append(column.table).append(" SET ").append(column.name).append(" = ").append(value).append(where);
+        run(update);
     }
     run("COMMIT");
     sqlite3_close(connection);
@@ -234,7 +236,8 @@ void DamageAndOpen(std::string_view input)
     try {
         mailbox = OpenTestMailbox(path);
     } catch (const MailboxError& error) {
-        Hold(std::string(error.what()).find(path) != std::string::npos, "a mailbox that is refused is named");
+        Hold(std::string(error.what()).find(path) != std::string::npos,
+            "a mailbox that is refused is named: " + std::string(error.what()));
         Hold(Folder().Read("mailbox.db") == before, "a mailbox that is refused stays as it is");
         return;
     }

@@ -71,7 +71,9 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
         mailbox->mDatabase->Trust();
         return mailbox;
     } catch (const Failure& failure) {
-        throw MailboxError(failure.Description()
+        const auto& reason = failure.Description();
+        const bool isNamed = reason.find(fullPath) != std::string::npos;
+        throw MailboxError((isNamed ? reason : "the mailbox " + fullPath + " can't be read (" + reason + ")")
             + ": check the disk and the file's permissions; a damaged mailbox is replaced by a good copy");
     }
 }
