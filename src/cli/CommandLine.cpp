@@ -115,8 +115,12 @@ Command& CommandLine::Chosen() const
 
 void CommandLine::PrintText(const Reply& reply, bool isQuiet)
 {
-    mOut << (mIsTerminal ? Harmless(Replace(reply.content, CrLf, "\n")) : reply.content)
-         << Harmless(reply.text + (isQuiet ? "" : reply.summary));
+    if (mIsTerminal) {
+        mOut << Harmless(Replace(reply.content, CrLf, "\n"));
+    } else {
+        mOut << reply.content;
+    }
+    mOut << Harmless(reply.text + (isQuiet ? "" : reply.summary));
 }
 
 ExitStatus CommandLine::Print(const Reply& reply, const Options& options)

@@ -54,7 +54,7 @@ Ref<const Platform> ConnectedRun::Surroundings(const Options& options) const
     return platform;
 }
 
-MailDraft ConnectedRun::ShownMail() const
+MailDraft ConnectedRun::TakeShownMail() const
 {
     const auto& mails = mSession->Application().Mails();
     if (mails.empty()) {
@@ -63,7 +63,7 @@ MailDraft ConnectedRun::ShownMail() const
     for (const auto& path : mails.back()->NotAttached()) {
         mProblems->Note(path + " couldn't be attached: see to the file and run the command again");
     }
-    return mails.back()->Draft();
+    return mails.back()->TakeDraft();
 }
 
 Reply ConnectedRun::Concluded(Reply reply)

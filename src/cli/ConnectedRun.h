@@ -27,8 +27,9 @@ public:
     const Platform& Host() const { return mProfile.Surroundings(); }
     /// The path of a file in the data folder.
     std::string DataPath(const std::string& name) const { return tempodial::DataPath(mProfile, name); }
-    /// The mail that the add-in put on the screen, empty when there is none. What couldn't be attached goes wrong.
-    MailDraft ShownMail() const;
+    /// The mail that the add-in put on the screen, taken from there, empty when there is none. What couldn't be
+    /// attached goes wrong.
+    MailDraft TakeShownMail() const;
     /// What was saved since the add-in was connected.
     const SaveStatistics& Saves() const { return mProfile.Mailbox()->Statistics(); }
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.

@@ -50,7 +50,7 @@ public:
         run.AddIn().ReportProblem(ProblemReportText::Body(run.Host().formats->LongDate(day), BoxText(mExpected),
                                       BoxText(mActual), ProductVersion),
             day, false, false);
-        const auto mail = run.ShownMail();
+        const auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         mOut.Write(mail);
         reply.document = { { "subject", mail.subject }, { "body", mail.body },

@@ -59,7 +59,7 @@ public:
         if (!Interruption::IsRequested()) {
             run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
         }
-        auto mail = run.ShownMail();
+        auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
             return reply;
@@ -73,7 +73,9 @@ public:
         for (auto& attachment : mail.attachments) {
             attachment.type = "text/csv; charset=utf-8";
         }
-        reply.document = Document(mail);
+        if (options.json) {
+            reply.document = Document(mail);
+        }
         if (isFile) {
             mOut.Write(mail);
             reply.summary = mOut.Summary();

@@ -172,14 +172,13 @@ std::optional<StoredItem> ItemTable::Load(std::int64_t row)
 
 std::vector<StoredItem> ItemTable::Load(std::span<const std::int64_t> rows)
 {
-    static const std::string sql
-        = "SELECT " + Columns + " FROM json_each(?) AS list CROSS JOIN item ON item.id = list.value ORDER BY list.id";
+    // A statement for all of them has its list to read and its rows to sort, which costs more than a look at each.
     std::vector<StoredItem> items;
     items.reserve(rows.size());
-    Query query(mDatabase, sql);
-    query.Bind(JsonList(rows));
-    while (query.Step()) {
-        items.push_back(Read(query));
+    for (const auto row : rows) {
+        if (auto item = Load(row)) {
+            items.push_back(std::move(*item));
+        }
     }
     return items;
 }

@@ -4,7 +4,9 @@
 
 #include <array>
 #include <cstddef>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 #include <utility>
 
 namespace tempodial {
@@ -36,6 +38,9 @@ private:
             throw Failure(Error::FileNotFound);
         }
         std::string content;
+        std::error_code unknownSize;
+        const auto size = std::filesystem::file_size(path, unknownSize);
+        content.reserve(unknownSize ? 0 : size);
         std::array<char, 65536> piece {};
         while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
             content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
