@@ -18,6 +18,8 @@ namespace tempodial {
 class DriverFixture : public testing::Test
 {
 protected:
+    ~DriverFixture() override { mDriver->Exit(); }
+
     /// Does a command that must go well, and answers what it answered.
     Json Do(const Json& command)
     {
