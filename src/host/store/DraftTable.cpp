@@ -1,6 +1,7 @@
 #include "host/store/DraftTable.h"
 
 #include "base/Failure.h"
+#include "host/store/EntryIds.h"
 #include "host/store/MailboxDatabase.h"
 #include "host/store/Query.h"
 
@@ -17,8 +18,8 @@ std::int64_t DraftTable::Save(const MailDraft& draft)
 {
     mDatabase.Atomically([&] {
         // The file forgets a row that was undone, while the mail of that row may still be on the screen.
-        mLastRow
-            = std::max(mLastRow, mDatabase.Number("SELECT max(seq) FROM sqlite_sequence WHERE name = 'draft'")) + 1;
+        const auto last = mDatabase.Number("SELECT max(seq) FROM sqlite_sequence WHERE name = 'draft'");
+        mLastRow = EntryIds::Next(std::max(mLastRow, last));
         Insert(mLastRow, draft);
     });
     return mLastRow;

@@ -1,5 +1,7 @@
 #include "host/store/EntryIds.h"
 
+#include "base/Failure.h"
+
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -10,11 +12,26 @@ namespace {
 
 constexpr std::size_t RowDigits = 15;
 
+void RequireRow(std::int64_t row)
+{
+    if (row < 1 || row > EntryIds::LastRow) {
+        throw Failure(Error::Automation, "The mailbox is damaged: it has a row " + std::to_string(row));
+    }
+}
+
+}
+
+std::int64_t EntryIds::Next(std::int64_t row)
+{
+    const auto next = row < LastRow ? row + 1 : 0;
+    RequireRow(next);
+    return next;
 }
 
 std::string EntryIds::Make(char kind, std::int64_t row) const
 {
-    std::array<char, 16> digits {};
+    RequireRow(row);
+    std::array<char, RowDigits> digits {};
     const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), row, 16).ptr;
     const auto length = static_cast<std::size_t>(end - digits.data());
     return mMailbox + kind + std::string(RowDigits - length, '0') + std::string(digits.data(), length);

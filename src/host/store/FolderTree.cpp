@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "host/store/EntryIds.h"
 #include "host/store/MailboxDatabase.h"
 #include "host/store/MailboxSchema.h"
 #include "host/store/Query.h"
@@ -27,7 +28,7 @@ void FolderTree::Load()
     Query folders(mDatabase, "SELECT id, ifnull(parent, 0), name, kind, role FROM folder ORDER BY id");
     while (folders.Step()) {
         const auto folder = folders.Int(0);
-        if (nodes.contains(folder)) {
+        if (folder < 1 || folder > EntryIds::LastRow || nodes.contains(folder)) {
             FailDamaged();
         }
         auto& node = nodes[folder];

@@ -1,5 +1,6 @@
 #include "host/store/ItemTable.h"
 
+#include "host/store/EntryIds.h"
 #include "host/store/ItemSpan.h"
 #include "host/store/MailboxDatabase.h"
 #include "host/store/PropertyCodec.h"
@@ -85,7 +86,8 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
 {
     mDatabase.CheckWhole();
     // Rows go up even over insertions that were undone, whose identity somebody may still hold.
-    const auto row = ++mLastRow;
+    const auto row = EntryIds::Next(mLastRow);
+    mLastRow = row;
     static const std::string sql
         = "INSERT INTO item (id, folder, kind, message_class, starts, ends, span, recurring, "
           "subject, mileage, billing, properties, body) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
