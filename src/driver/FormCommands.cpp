@@ -142,7 +142,7 @@ Ref<Control> FormCommands::WorkableControl(const Request& request) const
     for (const auto& row : form->Definition().rows) {
         for (const auto& definition : row) {
             if (definition.name == name) {
-                const auto control = form->Control(name);
+                auto control = form->Control(name);
                 if (!control.As<ControlState>()->CanBeWorked()) {
                     throw RequestError("the control \"" + name + "\" is disabled or hidden");
                 }

@@ -1,5 +1,7 @@
 #include "driver/HostSession.h"
 
+#include <algorithm>
+
 namespace tempodial {
 
 void HostSession::Connect(const Ref<Application>& application)
@@ -19,10 +21,11 @@ void HostSession::Disconnect()
 void HostSession::CloseWindows()
 {
     // Copies, since a window that closes takes itself out.
-    const auto inspectors = mApplication->OpenInspectors();
-    for (auto inspector = inspectors.rbegin(); inspector != inspectors.rend(); ++inspector) {
-        if (!(*inspector)->IsGone()) {
-            (*inspector)->Close();
+    auto inspectors = mApplication->OpenInspectors();
+    std::reverse(inspectors.begin(), inspectors.end());
+    for (const auto& inspector : inspectors) {
+        if (!inspector->IsGone()) {
+            inspector->Close();
         }
     }
     const auto explorers = mApplication->OpenExplorers();

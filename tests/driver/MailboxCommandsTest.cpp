@@ -21,7 +21,7 @@ protected:
         }
         return paths;
     }
-    std::string Create(Json more = Json::object())
+    std::string Create(const Json& more = Json::object())
     {
         Json command { { "do", "item.create" }, { "folder", "Calendar" }, { "subject", "a" },
             { "start", "2006-10-10T09:00:00" }, { "end", "2006-10-10T09:05:00" } };

@@ -63,9 +63,9 @@ TEST_F(MorningTest, NextMorning_Rule_FindsItsActivitiesByItself)
     Morning(mPerson);
     mPerson.Do({ { "do", "stop" } });
     mPerson.Do({ { "do", "clock" }, { "now", "2006-10-11T09:00:00" } });
-    const auto slot = "<slot><StartTime>28800</StartTime><EndTime>29100</EndTime><AppType>2</AppType>"
-                      "<WordDocName>budget for all</WordDocName></slot>\r\n";
-    mPerson.Profile().Write("Tempodial/tracker_granules20061011.out", std::string("tracker\r\n") + slot);
+    const std::string slot = "<slot><StartTime>28800</StartTime><EndTime>29100</EndTime><AppType>2</AppType>"
+                             "<WordDocName>budget for all</WordDocName></slot>\r\n";
+    mPerson.Profile().Write("Tempodial/tracker_granules20061011.out", "tracker\r\n" + slot);
     mPerson.Start();
     mPerson.Refresh(1);
     const auto items = mPerson.ItemsOf("budget for all");
