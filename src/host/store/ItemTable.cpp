@@ -174,13 +174,14 @@ std::optional<StoredItem> ItemTable::Load(std::int64_t row)
 
 std::vector<StoredItem> ItemTable::Load(std::span<const std::int64_t> rows)
 {
-    // A statement for all of them has its list to read and its rows to sort, which costs more than a look at each.
+    static const std::string sql
+        = "SELECT " + Columns + " FROM json_each(?) AS list CROSS JOIN item ON item.id = list.value ORDER BY list.id";
     std::vector<StoredItem> items;
     items.reserve(rows.size());
-    for (const auto row : rows) {
-        if (auto item = Load(row)) {
-            items.push_back(std::move(*item));
-        }
+    Query query(mDatabase, sql);
+    query.Bind(JsonList(rows));
+    while (query.Step()) {
+        items.push_back(Read(query));
     }
     return items;
 }
