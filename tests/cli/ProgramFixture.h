@@ -79,7 +79,7 @@ protected:
         return subjects;
     }
 
-    TempFolder mFolder;
+    TempFolder mFolder { TempFolder::InMemory() };
     std::string mProfile = mFolder.Path("profile");
     std::string mNow = "2006-10-10T17:00:00";
 };
