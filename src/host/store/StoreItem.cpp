@@ -177,6 +177,8 @@ void StoreItem::Display()
 
 void StoreItem::Delete()
 {
+    // A window that closes may have been the last to hold it.
+    const auto self = shared_from_this();
     CheckAlive();
     mMailbox->Delete(*this);
 }
