@@ -7,13 +7,13 @@ namespace tempodial {
 
 namespace {
 
-/// A slot of five minutes in which a document was open in the word processor.
-std::string Slot(int minute, const std::string& document)
+/// A slot of five minutes in which a document was open in the word processor, with further nodes.
+std::string Slot(int minute, const std::string& document, const std::string& more = "")
 {
     constexpr int Seconds = 60;
     return "<slot><StartTime>" + std::to_string(minute * Seconds) + "</StartTime><EndTime>"
         + std::to_string((minute + 5) * Seconds) + "</EndTime><AppType>2</AppType><WordDocName>" + document
-        + "</WordDocName></slot>\r\n";
+        + "</WordDocName>" + more + "</slot>\r\n";
 }
 
 }
@@ -76,6 +76,15 @@ void DrivenPerson::WriteTracker() const
     write("20061010", 7 * 60,
         { "budget", "minutes", "budget", "letter", "budget", "minutes", "budget", "letter", "budget", "minutes",
             "budget", "letter", "budget", "minutes", "budget", "letter" });
+}
+
+void DrivenPerson::WriteSlots() const
+{
+    std::filesystem::create_directories(mFolder.Path("Tempodial"));
+    std::ofstream file(mFolder.Path("Tempodial/tracker_granules20061010.out"), std::ios::binary);
+    file << "tracker\r\n"
+         << Slot(420, "budget") << Slot(425, "budget", "<Continuation>1</Continuation>")
+         << Slot(425, "aside", "<Detail>1</Detail>") << Slot(430, "letter");
 }
 
 void DrivenPerson::Start(int explorers)
