@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <fcntl.h>
+#include <iterator>
 #include <limits>
 #include <string_view>
 #include <utility>
@@ -37,6 +38,15 @@ std::string SpelledIn(const toml::table& table, std::string_view name)
         }
     }
     return std::string(name);
+}
+
+/// Takes a name out of a table in every spelling: a second one, which only a file made by hand can have, would be found
+/// instead.
+void Erase(toml::table& table, std::string_view name)
+{
+    for (auto at = table.begin(); at != table.end();) {
+        at = EqualIgnoringCase(at->first.str(), name) ? table.erase(at) : std::next(at);
+    }
 }
 
 /// The table of that name, made when there is none; null when something else has the name.
@@ -152,8 +162,7 @@ bool TomlRegistry::Delete(Hive hive, const std::string& key, const std::string& 
         return false;
     }
     auto changed = std::make_unique<Tables>(*mTables);
-    auto* values = changed->Make(hive, key);
-    values->erase(SpelledIn(*values, value));
+    Erase(*changed->Make(hive, key), value);
     Save(*changed);
     mTables = std::move(changed);
     return true;
@@ -174,10 +183,11 @@ void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& val
         throw Failure(Error::PathFileAccess);
     }
     const auto name = SpelledIn(*values, value);
+    Erase(*values, name);
     if (text != nullptr) {
-        values->insert_or_assign(name, *text);
+        values->insert(name, *text);
     } else {
-        values->insert_or_assign(name, data.ToInt32());
+        values->insert(name, data.ToInt32());
     }
     Save(*changed);
     mTables = std::move(changed);

@@ -102,6 +102,25 @@ TEST_F(TomlRegistryTest, Read_AnyCase_FindsTheValueAndKeepsTheSpelling)
     EXPECT_TRUE(registry.Get(User, Key, "CurrentVersion").IsEmpty());
 }
 
+TEST_F(TomlRegistryTest, Write_OtherSpellingsMadeByHand_AreReplaced)
+{
+    mFolder.Write("registry.toml", "[HKLM.key]\nnumber = 'a'\nNumber = 'b'\nother = 1\n");
+    Open().Write(Machine, "key", "Number", "c");
+
+    EXPECT_EQ(Reopened(Machine, "key", "number"), Variant("c"));
+    EXPECT_EQ(Reopened(Machine, "key", "Number"), Variant("c"));
+    EXPECT_EQ(Reopened(Machine, "key", "other"), Variant(1));
+}
+
+TEST_F(TomlRegistryTest, Delete_OtherSpellingsMadeByHand_AreGoneToo)
+{
+    mFolder.Write("registry.toml", "[HKLM.key]\nnumber = 'a'\nNumber = 'b'\nother = 1\n");
+
+    EXPECT_TRUE(Open().Delete(Machine, "key", "NUMBER"));
+    EXPECT_EQ(Reopened(Machine, "key", "number"), Variant());
+    EXPECT_EQ(Reopened(Machine, "key", "other"), Variant(1));
+}
+
 TEST_F(TomlRegistryTest, Read_AbsentKey_IsInTheFileAfterTheNextWrite)
 {
     auto registry = Open();
