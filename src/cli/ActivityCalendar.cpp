@@ -11,8 +11,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto NoProject = "No Project";
-
 /// A text as the value of a property: marks of the format are escaped, line ends become "\n" and tabs blanks, and
 /// control characters, which a value may not hold, go.
 std::string TextValue(const std::string& text)

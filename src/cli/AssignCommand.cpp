@@ -1,8 +1,10 @@
+#include "base/Text.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
 #include "programs/Arguments.h"
+#include "programs/ProductFacts.h"
 #include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
@@ -19,9 +21,11 @@ public:
             "Sets the project on the activities that start in the span, the first moment\n"
             "included and the last one not, whatever the rules say. A project that there\n"
             "isn't yet comes into being. Activities that have a project keep it, unless\n"
-            "--overwrite is given.\n"
+            "--overwrite is given; \"No Project\" takes it from them.\n"
             "\n"
-            "  tempodial assign Riverside --from 2006-10-10T09:00 --to 2006-10-10T12:30" })
+            "  tempodial assign Riverside --from 2006-10-10T09:00 --to 2006-10-10T12:30\n"
+            "  tempodial assign \"No Project\" --from 2006-10-10T09:00 --to 2006-10-10T12:30 \\\n"
+            "    --overwrite" })
     {
     }
 
@@ -43,8 +47,9 @@ public:
         }
         ConnectedRun run(options);
         auto& addIn = run.AddIn();
-        const auto name = KnownProject::NameOrNew(addIn, mName);
-        if (const auto refusal = addIn.ValidateProject(name); !refusal.empty()) {
+        const bool isNone = EqualIgnoringCase(mName, NoProject);
+        const auto name = isNone ? NoProject : KnownProject::NameOrNew(addIn, mName);
+        if (const auto refusal = addIn.ValidateProject(name); !isNone && !refusal.empty()) {
             throw CommandError(refusal);
         }
         addIn.SetProjectForItems(name, false, true, from, to, mOverwrite);

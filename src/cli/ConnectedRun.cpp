@@ -2,14 +2,12 @@
 
 #include "cli/CommandLineEventPump.h"
 #include "cli/Interruption.h"
-#include "cli/PrintingMessageBox.h"
 #include "cli/ProgressLine.h"
 #include "cli/RecordingFileSystem.h"
 #include "cli/RecordingImportJournal.h"
 #include "cli/RecordingRegistry.h"
 #include "forms/FormModelFactory.h"
 
-#include <iostream>
 #include <memory>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -48,7 +46,7 @@ Ref<const Platform> ConnectedRun::Surroundings(const Options& options) const
     platform->registry = MakeRef<RecordingRegistry>(platform->registry, mProblems);
     platform->importJournal = MakeRef<RecordingImportJournal>(platform->importJournal, mProblems);
     platform->forms = forms;
-    platform->messageBox = MakeRef<PrintingMessageBox>(std::cerr);
+    platform->messageBox = mMessageBox;
     platform->eventPump
         = MakeRef<CommandLineEventPump>(platform->eventPump, forms, options.quiet ? nullptr : TerminalLine());
     return platform;

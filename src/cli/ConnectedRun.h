@@ -2,6 +2,7 @@
 
 #include "cli/AddInSession.h"
 #include "cli/Options.h"
+#include "cli/PrintingMessageBox.h"
 #include "cli/Problems.h"
 #include "cli/Reply.h"
 #include "engine/core/TempodialMain.h"
@@ -10,6 +11,7 @@
 #include "platform/system/MailDraftWriter.h"
 #include "programs/OpenProfile.h"
 
+#include <iostream>
 #include <optional>
 
 namespace tempodial {
@@ -32,6 +34,10 @@ public:
     MailDraft TakeShownMail() const;
     /// What was saved since the add-in was connected.
     const SaveStatistics& Saves() const { return mProfile.Mailbox()->Statistics(); }
+    /// True when the add-in showed a message, as it does when it can't make activities.
+    bool WasAddInRefusing() const { return mMessageBox->HasShown(); }
+    /// Notes something that went wrong, with what to do about it.
+    void Complain(const std::string& message) { mProblems->Note(message); }
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.
     Reply Concluded(Reply reply);
     /// The same for a reply that tells how many items were saved.
@@ -42,6 +48,7 @@ private:
 
     Profile mProfile;
     Ref<Problems> mProblems = MakeRef<Problems>();
+    Ref<PrintingMessageBox> mMessageBox = MakeRef<PrintingMessageBox>(std::cerr);
     std::optional<AddInSession> mSession;
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "cli/CommandError.h"
+#include "programs/TerminalText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,6 +29,18 @@ std::optional<std::string> Find(TempodialMain& addIn, const std::string& name)
     const auto found = std::find_if(
         names.begin(), names.end(), [&name](const auto& known) { return EqualIgnoringCase(known, name); });
     return found == names.end() ? std::nullopt : std::optional(*found);
+}
+
+/// Fails for characters that a list of projects, being XML, doesn't give back as they are.
+void RequireReadable(const std::string& text, const std::string& what)
+{
+    const bool hasControl = std::any_of(text.begin(), text.end(), [](char character) {
+        return static_cast<unsigned char>(character) < ' ' && character != '\t' && character != '\n';
+    });
+    if (hasControl || text.find("\uFFFE") != std::string::npos || text.find("\uFFFF") != std::string::npos) {
+        throw CommandError(what + " can't hold control characters, since the list of projects couldn't be read back: "
+            + "leave them out of \"" + HarmlessLine(text) + "\"");
+    }
 }
 
 }
@@ -58,7 +71,21 @@ std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
 
 std::string KnownProject::NameOrNew(TempodialMain& addIn, const std::string& name)
 {
-    return Find(addIn, name).value_or(name);
+    if (const auto known = Find(addIn, name)) {
+        return *known;
+    }
+    RequireReadable(name, "a name");
+    return name;
+}
+
+void KnownProject::RequireReadableRule(const std::string& rule)
+{
+    if (rule.find('|') != std::string::npos) {
+        throw CommandError(
+            R"(a rule can't hold "|", since the list of projects couldn't be read back: leave it out of ")" + rule
+            + "\"");
+    }
+    RequireReadable(rule, "a rule");
 }
 
 nlohmann::ordered_json KnownProject::ToJson() const

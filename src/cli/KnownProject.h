@@ -26,8 +26,11 @@ struct KnownProject
     /// The name of a project as it is kept, whatever the case of the letters given; fails with a `CommandError` when
     /// there is no such project.
     static std::string NameOf(TempodialMain& addIn, const std::string& name);
-    /// The same, or the name as it was given when there is no such project.
+    /// The same, or the name as it was given when there is no such project; fails with a `CommandError` when a project
+    /// of that name couldn't be read back.
     static std::string NameOrNew(TempodialMain& addIn, const std::string& name);
+    /// Fails with a `CommandError` for a rule with which the list of projects couldn't be read back.
+    static void RequireReadableRule(const std::string& rule);
 
     nlohmann::ordered_json ToJson() const;
 };

@@ -8,13 +8,28 @@
 
 #include <CLI/CLI.hpp>
 
+#include <fstream>
+#include <string_view>
+
 namespace tempodial {
 
 namespace {
 
+/// True for a mailbox, or another file that holds a database: nothing that an answer may take the place of.
+bool IsDatabase(const std::string& path)
+{
+    constexpr std::string_view mark = "SQLite format 3";
+    std::string head(mark.size(), '\0');
+    std::ifstream file(NativePath(path).CText(), std::ios::binary);
+    return file.read(head.data(), static_cast<std::streamsize>(head.size())) && head == mark;
+}
+
 /// Runs what writes the file; a failure is told with what to do about it.
 template <class Writing> void WriteOrTell(const std::string& path, Writing&& writing)
 {
+    if (IsDatabase(path)) {
+        throw CommandError(path + " is a mailbox or another database: give another file");
+    }
     try {
         writing();
     } catch (const Failure& failure) {

@@ -18,9 +18,12 @@ public:
     }
 
     Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override;
+    /// True once there was a message.
+    bool HasShown() const { return mHasShown; }
 
 private:
     std::ostream& mStream;
+    bool mHasShown = false;
 };
 
 }

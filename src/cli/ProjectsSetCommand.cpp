@@ -55,11 +55,8 @@ public:
     {
         const auto precedence = mPrecedence ? std::optional(PrecedenceNumber(*mPrecedence)) : std::nullopt;
         for (const auto& rule : { mSubject, mNotSubject, mPeople }) {
-            if (rule && rule->find('|') != std::string::npos) {
-                throw CommandError(
-                    "a rule can't hold \"|\", since the list of projects couldn't be read back: leave it "
-                    "out of \""
-                    + *rule + "\"");
+            if (rule) {
+                KnownProject::RequireReadableRule(*rule);
             }
         }
         ConnectedRun run(options);

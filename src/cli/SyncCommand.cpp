@@ -34,6 +34,10 @@ public:
         if (!Interruption::IsRequested()) {
             run.AddIn().SyncData(SavedDataDays, true);
         }
+        if (run.WasAddInRefusing()) {
+            run.Complain("no new activity can be made, since the form of activities can't be used: install the program "
+                         "again");
+        }
         const bool cancelled = Interruption::IsRequested();
         const auto& saves = run.Saves();
         Reply reply;

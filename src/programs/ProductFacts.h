@@ -12,6 +12,8 @@ inline constexpr auto ProductVersion = "1.2.0";
 inline constexpr std::int32_t SavedDataDays = 21;
 /// Default number of days over which a project is applied.
 inline constexpr auto ApplyBackDays = "7";
+/// What an activity without a project has in its place.
+inline constexpr auto NoProject = "No Project";
 /// The key that an empty one stands for.
 inline constexpr auto ProductKey = R"(Software\Lindenfold\Tempodial)";
 /// The value that holds the identity of the work log folder.

@@ -53,6 +53,15 @@ TEST_F(AssignCommandTest, Assign_Overwrite_ChangesThoseThatHaveAProject)
     EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Plan", "Plan"));
 }
 
+TEST_F(AssignCommandTest, Assign_NoProject_TakesTheProjectAway)
+{
+    auto arguments = Assign("no project", "10T09:00", "10T23:59");
+    arguments.emplace_back("--overwrite");
+    EXPECT_EQ(Run(arguments).status, 0);
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "No Project", "No Project", "No Project"));
+    EXPECT_EQ(Json({ "projects" }).size(), 5U) << "it is no project of the list";
+}
+
 TEST_F(AssignCommandTest, Assign_NameInOtherCase_GivesTheNameKept)
 {
     EXPECT_EQ(Json(Assign("wISH", "10T09:00", "10T09:05")), Changed(1));
@@ -74,7 +83,7 @@ TEST_F(AssignCommandTest, Assign_Refused_ChangesNothing)
 
 TEST_F(AssignCommandTest, Apply_Days_CountTodayAsTheFirst)
 {
-    Json({ "projects", "set", "Wish", "--subject", "\"a.doc\", \"b.doc\"" });
+    Json({ "projects", "set", "Wish", "--subject", R"("a.doc", "b.doc")" });
     EXPECT_EQ(Json({ "apply", "wish", "--days", "1" }), Changed(2));
     EXPECT_THAT(Projects(), ElementsAre("No Project", "Wish", "Wish", "No Project"));
     EXPECT_EQ(Json({ "apply", "Wish" }), Changed(3)) << "what matches is saved again";

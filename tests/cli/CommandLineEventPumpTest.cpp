@@ -77,6 +77,7 @@ TEST_F(CommandLineEventPumpTest, ProductFacts_AreTheAddInsOwn)
     EXPECT_EQ(mAddIn.main->mConfig->mSavedDataDays, SavedDataDays);
     EXPECT_EQ(mAddIn.main->mConfig->mApplyBackDaysText, ApplyBackDays);
     EXPECT_EQ(mAddIn.main->mStrings->mRegistryValueOLFolderID, WorkLogIdValue);
+    EXPECT_EQ(mAddIn.main->mStrings->mNoProject, NoProject);
 }
 
 }

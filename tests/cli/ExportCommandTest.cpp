@@ -99,6 +99,14 @@ TEST_F(ExportCommandTest, Export_FileCantBeWritten_IsTold)
     EXPECT_THAT(Refusal({ "export", "--format", "ics", "--out", mFolder.Path() }, 1), HasSubstr("couldn't be written"));
 }
 
+TEST_F(ExportCommandTest, Export_MailboxAsTheFile_IsRefusedAndStays)
+{
+    const auto before = Json({ "list" });
+    EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", mProfile + "/mailbox.db" }, 1),
+        testing::HasSubstr("is a mailbox"));
+    EXPECT_EQ(Json({ "list" }), before);
+}
+
 TEST_F(ExportCommandTest, Export_HostileCaptions_StayTexts)
 {
     WriteTracker("20061010", { Word(32400, 32700, "x&#10;END:VCALENDAR&#13;&#10;=1&#9;\",\"") });

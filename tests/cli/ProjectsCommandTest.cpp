@@ -90,6 +90,10 @@ TEST_F(ProjectsCommandTest, Set_Refused_SaysWhyAndChangesNothing)
     for (const auto* option : { "--subject", "--not-subject", "--people" }) {
         EXPECT_THAT(Refusal({ "projects", "set", "Wish", option, "a|b" }, 1), HasSubstr("can't hold \"|\""));
     }
+    EXPECT_THAT(Refusal({ "projects", "set", "a\x01z" }, 1), HasSubstr("a name can't hold control characters"));
+    EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--people", "a\rb" }, 1),
+        HasSubstr("a rule can't hold control characters"));
+    EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--subject", "a\uFFFE" }, 1), HasSubstr("control characters"));
     EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--precedence", "highest" }, 2), HasSubstr("high, medium or low"));
     EXPECT_THAT(Refusal({ "projects", "set" }, 2), HasSubstr("NAME is required"));
     EXPECT_THAT(Names(), ElementsAre("Critical", "Other", "Personal", "Supportive", "Wish"));

@@ -65,6 +65,17 @@ TEST_F(SyncCommandTest, Sync_HistoryThatCantBeWritten_IsNamed)
     EXPECT_THAT(result.error, HasSubstr("TempodialHistory.out couldn't be written: Permission denied"));
 }
 
+TEST_F(SyncCommandTest, Sync_NoForm_IsToldAndTheNextSyncImports)
+{
+    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    ASSERT_EQ(Run({ "registry", "set", "HKLM", "", "Install Directory", "/nowhere" }).status, 0);
+    const auto result = Run({ "sync" });
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.error, HasSubstr("no new activity can be made"));
+    ASSERT_EQ(Run({ "registry", "delete", "HKLM", "", "Install Directory" }).status, 0);
+    EXPECT_EQ(Json({ "sync" }).at("created"), 1);
+}
+
 TEST_F(SyncCommandTest, Sync_Arguments_AreRefused)
 {
     EXPECT_THAT(Refusal({ "sync", "now" }, 2), HasSubstr("\"now\" isn't expected here"));

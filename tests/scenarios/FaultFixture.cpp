@@ -55,8 +55,12 @@ void FaultFixture::ExpectWhole(DrivenPerson& person, std::size_t least, std::siz
     }
     std::set<std::string> starts;
     for (const auto& item : items) {
-        EXPECT_TRUE(starts.insert(item.at("start")).second) << item;
+        starts.insert(item.at("start"));
     }
+    // An activity that can't be asked whether it is one counts as an appointment, of which the add-in makes an
+    // activity.
+    const bool isUnknown = failed == "AppointmentItem.MessageClass:" || failed == "AppointmentItem.Subject:";
+    EXPECT_LE(items.size(), starts.size() + (isUnknown ? 1 : 0));
     EXPECT_GE(starts.size(), least);
     EXPECT_LE(starts.size(), most);
 }

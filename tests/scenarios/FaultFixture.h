@@ -20,9 +20,9 @@ protected:
     /// Every window can be looked at and closed, and nothing stays behind when the add-in stops. On the days after, the
     /// add-in works, and what was put off and not met on this day comes up.
     static void LiveOn(DrivenPerson& person);
-    /// The work log has as many activities as said, and none of them twice. It may have any number when the call that
-    /// failed was reading a line: the line is damaged then, and a damaged end time is the place where the next sync
-    /// begins.
+    /// The work log has activities at so many different times, and none of them twice. It may have any number when the
+    /// call that failed was reading a line: the line is damaged then, and a damaged end time is the place where the
+    /// next sync begins.
     static void ExpectWhole(DrivenPerson& person, std::size_t least, std::size_t most);
 };
 

@@ -230,6 +230,7 @@ void TempodialMain::Terminate()
     };
     mStage = "inspectors";
     endAll(mInspectorList);
+    mClosingInspectors.clear();
     mStage = "explorers";
     endAll(mExplorerList);
 

@@ -76,6 +76,10 @@ public:
     /// Takes all wrappers of an item's windows out of the register. The caller's reference is cleared.
     void RemoveInspector(Ref<TempodialInspector>& inspector);
     void RemoveInspectorByEntryID(const std::string& entryID);
+    /// Keeps a wrapper that has left the register, since its window has still to close.
+    void KeepUntilClosed(const Ref<TempodialInspector>& inspector);
+    /// Lets go of a wrapper whose window has closed, whether it was kept or not.
+    void LetGoOfClosed(const Ref<TempodialInspector>& inspector);
     /// Ends the wrappers of inspectors whose item has gone.
     void RegularCleanUp();
     void mExplorers_NewExplorer(const Ref<Explorer>& explorer);
@@ -158,9 +162,9 @@ private:
     void AddExplorer(const Ref<Explorer>& explorer);
     void AddInspector(const Ref<Inspector>& inspector);
     void LoadIcons();
-    /// Fills in the problem report's mail. Where the security guard refuses the recipient, e-mail objects are left
-    /// alone from then on.
-    void AddressProblemReport(const Ref<MailItem>& item, std::string body);
+    /// Addresses the problem report's mail, or has its text ask the user to. Where the security guard refuses the
+    /// recipient, e-mail objects are left alone from then on.
+    void AddressProblemReport(const Ref<MailItem>& item, std::string& body);
 
     Ref<TempodialWorkLog> mWorkLog;
     Ref<TempodialDataHandler> mDataHandler;
@@ -173,6 +177,8 @@ private:
     Watched<Inspectors> mInspectors;
     OrderedCollection<Ref<TempodialExplorer>> mExplorerList;
     OrderedCollection<Ref<TempodialInspector>> mInspectorList;
+    /// Wrappers that have left the register, but whose windows are still closing.
+    std::vector<Ref<TempodialInspector>> mClosingInspectors;
     std::int32_t mExplorerCount = 0;
     std::int32_t mInspectorCount = 0;
     Ref<FileSystemObject> mFileSystem;

@@ -22,36 +22,35 @@ void TempodialMain::ReportProblem(const std::string& body, Date day, bool all, b
     mStage = "attach";
     attempt([&, utils = mUtils] { utils->AttachDiagsFiles(item, day, all); });
     mStage = "subject and body";
-    AddressProblemReport(item, body);
-    mStage = "display";
-    attempt([&] { item->Display(); });
-}
-
-void TempodialMain::AddressProblemReport(const Ref<MailItem>& item, std::string body)
-{
-    const auto attempt = Failing("", LineShape::Silent);
-    const auto guarded = [&](const auto& statement) {
-        attempt(statement, [&](const Failure& failure) {
-            Trace("security exception on errorreport" + failure.Description());
-            if (failure.Is(Error::SecurityRefusal)) {
-                Trace("security popup seen! drop all email guarded function from now on");
-                mSecurityPopups = true;
-                mCommonUtils->MarkEmailObjectGuardInPlace();
-            }
-        });
-    };
-    if (mSecurityPopups) {
-        // kept: the header ends in a line end of its own.
-        guarded([&] { body = mStrings->mReport2002header + std::string(CrLf) + body; });
-    } else {
-        guarded([&] { item->Recipients()->Add(mStrings->mReportRecip); });
-    }
-    guarded([&] {
+    auto text = body;
+    AddressProblemReport(item, text);
+    attempt([&] {
         const auto now = mPlatform->clock->Now();
         item->SetSubject(
             "Tempodial Problem Report: " + mPlatform->formats->LongDate(now) + " " + mPlatform->formats->LongTime(now));
     });
-    guarded([&] { item->SetBody(body); });
+    attempt([&] { item->SetBody(text); });
+    mStage = "display";
+    attempt([&] { item->Display(); });
+}
+
+void TempodialMain::AddressProblemReport(const Ref<MailItem>& item, std::string& body)
+{
+    const auto refused = [this](const Failure& failure) {
+        Trace("security exception on errorreport" + failure.Description());
+        if (failure.Is(Error::SecurityRefusal)) {
+            Trace("security popup seen! drop all email guarded function from now on");
+            mSecurityPopups = true;
+            mCommonUtils->MarkEmailObjectGuardInPlace();
+        }
+    };
+    const auto attempt = Failing("", LineShape::Silent);
+    if (mSecurityPopups) {
+        // kept: the header ends in a line end of its own.
+        attempt([&] { body = mStrings->mReport2002header + std::string(CrLf) + body; }, refused);
+    } else {
+        attempt([&] { item->Recipients()->Add(mStrings->mReportRecip); }, refused);
+    }
 }
 
 void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed,

@@ -126,6 +126,17 @@ void TempodialMain::RemoveInspectorByEntryID(const std::string& entryID)
     attempt([&] { Trace("list: " + std::to_string(mInspectorList.Count())); });
 }
 
+void TempodialMain::KeepUntilClosed(const Ref<TempodialInspector>& inspector)
+{
+    LetGoOfClosed(inspector);
+    mClosingInspectors.push_back(inspector);
+}
+
+void TempodialMain::LetGoOfClosed(const Ref<TempodialInspector>& inspector)
+{
+    std::erase(mClosingInspectors, inspector);
+}
+
 void TempodialMain::RegularCleanUp()
 {
     const auto attempt = Failing("RegCleanup error ", LineShape::TextColonStep);

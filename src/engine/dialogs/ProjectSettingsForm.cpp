@@ -407,6 +407,8 @@ void ProjectSettingsForm::Form_QueryUnload(bool& cancel)
         });
         if (answer == Answer::Yes) {
             ApplyToPast(attempt.Get([&] { return mControls.mProjectComboBox->Text(); }), attempt);
+        } else {
+            attempt([&] { mControls.mApplyPastCheck->SetValue(false); });
         }
     }
     ForgetChanges();

@@ -172,7 +172,11 @@ void TempodialExplorer::mExplorer_FolderSwitch()
     const auto main = mMain;
     const auto attempt = Failing("", LineShape::Silent);
     attempt([&] { Trace("folder switch"); });
-    if (attempt.Get([&] { return mExplorer->CurrentFolder()->EntryID() == main->GetCalendarID(); })) {
+    const bool isLog = attempt.Get([&] {
+        const auto current = mExplorer->CurrentFolder()->EntryID();
+        return current == main->GetCalendarID();
+    });
+    if (isLog) {
         attempt([&] { main->SwitchingToTasklog(); });
     }
 }

@@ -89,7 +89,10 @@ void TempodialInspector::mCurrentItem_Open(bool& cancel)
     Trace("Item open " + std::to_string(mID));
     if (mCurrentItem) {
         Trace("appointment");
-        const bool inLog = attempt.Get([&] { return mCurrentItem->Parent()->EntryID() == mMain->GetCalendarID(); });
+        const bool inLog = attempt.Get([&] {
+            const auto parent = mCurrentItem->Parent()->EntryID();
+            return parent == mMain->GetCalendarID();
+        });
         if (inLog || mIsOurs) {
             Trace("in log");
         }
@@ -168,6 +171,8 @@ void TempodialInspector::mCurrentItem_Close(bool& cancel)
     silently(
         [&] { Trace("Item close - exit closed? " + std::string(BooleanText(mClosed)) + " " + std::to_string(mID)); });
     LeaveRegister(silently);
+    // The window's own close is still to come.
+    silently([&] { mMain->KeepUntilClosed(shared_from_this()); });
 }
 
 bool TempodialInspector::SettleChanges(const Attempt& attempt)
@@ -205,6 +210,7 @@ void TempodialInspector::mInspector_close()
     attempt([&] { Trace("Inspector-close " + std::to_string(mID)); });
     RestoreToolbars(attempt);
     LeaveRegister(attempt);
+    attempt([&] { mMain->LetGoOfClosed(shared_from_this()); });
 }
 
 void TempodialInspector::mSaveCloseCommandBarButton_Click(const Ref<CommandBarButton>& /*control*/, bool& cancelDefault)

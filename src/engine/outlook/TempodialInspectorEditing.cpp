@@ -221,10 +221,8 @@ void TempodialInspector::SaveRules()
     }
     attempt([&] { Trace("new desc rule: " + TextOf(mDescControl)); });
     Trace("add desc rule");
-    attempt([&] {
-        const auto rule = WithBothMarks(Trim(TextOf(mDescControl)));
-        mMain->UpdateorAddProjectRule(TextOf(mProjectControl), rule, "");
-    });
+    const auto rule = attempt.Get([&] { return WithBothMarks(Trim(TextOf(mDescControl))); });
+    attempt([&] { mMain->UpdateorAddProjectRule(TextOf(mProjectControl), rule, ""); });
     mStage = "exit save rules";
 }
 

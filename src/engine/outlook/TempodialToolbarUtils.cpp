@@ -43,8 +43,9 @@ void TempodialToolbarUtils::RemoveMyToolbar(const Ref<Inspector>& inspector, con
     attempt([&] { Trace("remove my toolbar: " + toolbar); });
     mStage = "remove command bar";
     const auto count = attempt.Get([&] { return inspector->CommandBars()->Count(); });
+    Ref<CommandBar> bar;
     for (std::int32_t i = 1; i <= count; ++i) {
-        const auto bar = attempt.Get([&] { return inspector->CommandBars()->Item(i); });
+        attempt([&] { bar = inspector->CommandBars()->Item(i); });
         if (attempt.Get([&] { return bar->Name() == toolbar; })) {
             mStage = "make delete call";
             attempt([&] { Trace("delete it"); });

@@ -41,16 +41,15 @@ struct stat StatusOfFile(const NativePath& path)
     return status;
 }
 
-/// Looks at a file; false with errno when it can't be looked at. The time of its last change is only asked for where the
-/// file system knows no creation: a file whose time was seen makes Linux note a new one at the next write, which costs a
-/// trace line half as much again.
+/// Looks at a file; false with errno when it can't be looked at. The time of its last change is only asked for where
+/// the file system knows no creation: a file whose time was seen makes Linux note a new one at the next write, which
+/// costs a trace line half as much again.
 bool Look(int folder, const char* name, int flags, struct statx& status)
 {
     if (::statx(folder, name, flags, FileFields, &status) != 0) {
         return false;
     }
-    return (status.stx_mask & STATX_BTIME) != 0
-        || ::statx(folder, name, flags, FileFields | STATX_MTIME, &status) == 0;
+    return (status.stx_mask & STATX_BTIME) != 0 || ::statx(folder, name, flags, FileFields | STATX_MTIME, &status) == 0;
 }
 
 bool Exists(const NativePath& path)

@@ -4,6 +4,7 @@
 #include "engine/reports/TempodialReport.h"
 #include "host/windows/HostMail.h"
 
+#include <functional>
 #include <optional>
 
 namespace tempodial {
@@ -17,13 +18,13 @@ namespace {
 
 const Date Day = Date::FromYearMonthDay(2006, 10, 10);
 
-/// A mail of which the recipients refuse everyone with an error, as the security guard does.
+/// A mail of which a member can be refused, as the security guard refuses the recipients.
 class GuardedMail : public MailItem
 {
 public:
-    GuardedMail(Ref<MailItem> mail, Failure refusal)
+    GuardedMail(Ref<MailItem> mail, std::function<void(const std::string& member)> guard)
         : mMail(std::move(mail))
-        , mRefusal(std::move(refusal))
+        , mGuard(std::move(guard))
     {
     }
 
@@ -31,18 +32,31 @@ public:
     std::string MessageClass() const override { return mMail->MessageClass(); }
     std::string EntryID() const override { return mMail->EntryID(); }
     std::string Subject() const override { return mMail->Subject(); }
-    void SetSubject(const std::string& subject) override { mMail->SetSubject(subject); }
+    void SetSubject(const std::string& subject) override
+    {
+        mGuard("Subject");
+        mMail->SetSubject(subject);
+    }
     std::string Body() const override { return mMail->Body(); }
-    void SetBody(const std::string& body) override { mMail->SetBody(body); }
+    void SetBody(const std::string& body) override
+    {
+        mGuard("Body");
+        mMail->SetBody(body);
+    }
     std::string HTMLBody() const override { return mMail->HTMLBody(); }
     void SetHTMLBody(const std::string& html) override { mMail->SetHTMLBody(html); }
     Ref<tempodial::Attachments> Attachments() override { return mMail->Attachments(); }
-    Ref<tempodial::Recipients> Recipients() override { throw Failure(mRefusal); }
+    Ref<tempodial::Recipients> Recipients() override
+    {
+        mGuard("Recipients");
+        return mMail->Recipients();
+    }
     void Display() override { mMail->Display(); }
 
 private:
     Ref<MailItem> mMail;
-    Failure mRefusal;
+    /// Called with each member that can be refused.
+    std::function<void(const std::string& member)> mGuard;
 };
 
 }
@@ -54,7 +68,11 @@ protected:
     {
         mApplication->newMail = [this]() -> Ref<MailItem> {
             const auto mail = mApplication->host->CreateItem();
-            return mRefusal ? Ref<MailItem>(MakeRef<GuardedMail>(mail, *mRefusal)) : mail;
+            return MakeRef<GuardedMail>(mail, [this](const std::string& member) {
+                if (mRefusal && member == mRefused) {
+                    throw Failure(*mRefusal);
+                }
+            });
         };
         ConnectAddIn();
         mApplication->LogOn();
@@ -68,6 +86,7 @@ protected:
     std::vector<Ref<HostMail>> Mails() const { return mApplication->host->Mails(); }
     const MailDraft& Shown() const { return Mails().at(0)->Draft(); }
 
+    std::string mRefused = "Recipients";
     std::optional<Failure> mRefusal;
 };
 
@@ -124,6 +143,21 @@ TEST_F(TempodialMainMailsTest, ReportProblem_OtherFailure_IsNotRemembered)
     const auto lines = Traced();
     EXPECT_THAT(lines, Contains("security exception on errorreportAutomation error"));
     EXPECT_THAT(lines, Not(Contains("security popup seen! drop all email guarded function from now on")));
+}
+
+TEST_F(TempodialMainMailsTest, ReportProblem_SubjectOrBodyRefused_IsNoMatterOfTheGuard)
+{
+    mRefusal = Failure(Error::SecurityRefusal);
+    for (const auto* member : { "Subject", "Body" }) {
+        mRefused = member;
+        Main().ReportProblem("B", Day, false, false);
+        EXPECT_FALSE(Main().mSecurityPopups);
+        EXPECT_THAT(Traced(),
+            testing::AllOf(
+                Contains("ReportProblem error Application-defined or object-defined error:subject and body").Times(1),
+                Not(Contains(testing::HasSubstr("security")))));
+    }
+    EXPECT_EQ(Shown().body, "B") << "what follows is done";
 }
 
 TEST_F(TempodialMainMailsTest, ReportProblem_NoMail_TracesAndGoesOn)

@@ -357,7 +357,9 @@ TEST_F(ProjectSettingsEditTest, Frame_BoxTicked_AsksWhetherToApply)
         mUser.Checks("ApplyPastCheck");
         mMessages->NextAnswer(answer);
         mMessages->shown.clear();
+        mAddIn.TraceTexts();
         EXPECT_TRUE(mUser.Closes());
+        EXPECT_THAT(mAddIn.TraceTexts(), Contains("PSF Set Apply")) << "the box is cleared whatever the answer";
         ASSERT_EQ(mMessages->shown.size(), 1U);
         EXPECT_EQ(mMessages->shown[0],
             (CannedMessageBox::Box { "Apply to past activities?", { Answer::Yes, Answer::No }, MessageIcon::None }));

@@ -163,8 +163,12 @@ TEST_F(TempodialExplorerTest, FolderSwitch_OtherFolder_DoesNothing)
 TEST_F(TempodialExplorerTest, FolderSwitch_FolderUnreadable_DoesNothing)
 {
     FailAt("Explorer.CurrentFolder");
+    Traced();
     mExplorer->GoTo(mLogFolder);
-    EXPECT_THAT(Traced(), Not(Contains("TDMain User has switched to our folder")));
+    EXPECT_THAT(Traced(),
+        testing::AllOf(Contains("TDExplorer: 1 folder switch"), Not(Contains("TDMain User has switched to our folder")),
+            Not(Contains("TDWorklog GetSyncedWorkLog called"))))
+        << "the work log isn't asked for before the window's folder is known";
 }
 
 TEST_F(TempodialExplorerTest, SelectionChange_OldOutlook_DoesNothing)

@@ -227,7 +227,9 @@ TEST_F(TempodialInspectorTest, Close_Unchanged_SavesAndShowsStandard)
     EXPECT_FALSE(mMain->IsInspector(item));
     EXPECT_THAT(Companions(),
         ElementsAre("Item close for us? True closed? False 1", "IsBoundData to write? No Project", "Item write 1",
-            "IsBoundData to write? No Project", "Item write - exit", "Item close - exit closed? True 1"));
+            "IsBoundData to write? No Project", "Item write - exit", "Item close - exit closed? True 1",
+            "Inspector-close 1"))
+        << "the companion lives until its window has closed";
 }
 
 TEST_F(TempodialInspectorTest, Close_ChangedAndYes_WritesAndSaves)

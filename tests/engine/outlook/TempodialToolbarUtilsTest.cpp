@@ -37,10 +37,11 @@ protected:
     {
         mUtils->ChangeMenu(hide, popup, id);
     }
-    void FailAt(const std::string& member)
+    /// Lets the calls of a member fail, or only one of them, counted from 1.
+    void FailAt(const std::string& member, int only = 0)
     {
-        *mApplication->observer = [member](const std::string& used) {
-            if (used == member) {
+        *mApplication->observer = [member, only, calls = 0](const std::string& used) mutable {
+            if (used == member && (++calls == only || only == 0)) {
                 throw Failure(Error::Automation);
             }
         };
@@ -89,6 +90,18 @@ TEST_F(TempodialToolbarUtilsTest, RemoveMyToolbar_Refused_IsTracedWithItsStepGlu
     EXPECT_THAT(Traced(),
         ElementsAre("TDToolbarUt remove my toolbar: Tempodial", "TDToolbarUt delete it",
             "TDToolbarUt remove toolbars error Automation errormake delete call"));
+}
+
+TEST_F(TempodialToolbarUtilsTest, RemoveMyToolbar_BarUnreadable_TheLastOneIsLookedAtAgain)
+{
+    mBars->Add("Other");
+    mBars->Add("Tempodial");
+    FailAt("CommandBars.Item", 2);
+    mUtils->RemoveMyToolbar(mInspector, "Tempodial");
+    EXPECT_THAT(BarNames(), ElementsAre("Standard", "Other (hidden)"));
+    EXPECT_THAT(Traced(),
+        ElementsAre("TDToolbarUt remove my toolbar: Tempodial",
+            "TDToolbarUt remove toolbars error Automation errorremove command bar", "TDToolbarUt delete it"));
 }
 
 TEST_F(TempodialToolbarUtilsTest, ReplaceStandardToolbar_HidesStandardAndAddsOurs)
