@@ -53,16 +53,18 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
     const bool inMemory = path == ":memory:";
     const auto fullPath = inMemory ? path : std::filesystem::absolute(path).string();
     try {
-        auto state = MailboxFile::State::Clean;
+        bool isDoubtful = false;
         if (!inMemory) {
             const MailboxFile file(fullPath);
-            state = file.Examine(MailboxSchema::Version());
+            const auto state = file.Examine(MailboxSchema::Version());
             if (state == MailboxFile::State::Absent) {
                 Create(fullPath);
+            } else {
+                isDoubtful = state == MailboxFile::State::Unclean || file.IsSmall();
             }
         }
         auto database = std::make_unique<MailboxDatabase>(fullPath);
-        if (state == MailboxFile::State::Unclean && !database->IsSound()) {
+        if (isDoubtful && !database->IsSound()) {
             throw Failure(Error::Automation, "the mailbox " + fullPath + " is damaged");
         }
         MailboxSchema::Migrate(*database, MailboxSchema::Steps());
@@ -74,7 +76,7 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
         const auto& reason = failure.Description();
         const bool isNamed = reason.find(fullPath) != std::string::npos;
         throw MailboxError((isNamed ? reason : "the mailbox " + fullPath + " can't be read (" + reason + ")")
-            + ": check the disk and the file's permissions; a damaged mailbox is replaced by a good copy");
+            + ": check the disk and the file's permissions; put a good copy in the place of a damaged mailbox");
     }
 }
 

@@ -17,6 +17,8 @@ namespace tempodial {
 namespace {
 
 constexpr std::size_t HeaderSize = 100;
+/// Bytes that are checked in a few milliseconds: about two months of activities.
+constexpr std::uint64_t SmallSize = std::uint64_t { 8 } << 20;
 const std::string Restore = "move it away and put a good copy of the mailbox in its place, or start with a new mailbox";
 
 /// An open file descriptor that closes itself.
@@ -95,6 +97,11 @@ MailboxFile::State MailboxFile::Examine(int newestVersion) const
     }
     CheckHeader(header.data(), static_cast<std::uint64_t>(info.st_size), newestVersion);
     return HasJournal() ? State::Unclean : State::Clean;
+}
+
+bool MailboxFile::IsSmall() const
+{
+    return SizeOf(mPath) <= SmallSize;
 }
 
 std::string MailboxFile::NewDraft() const

@@ -25,6 +25,8 @@ public:
 
     /// What lies under the name; throws `MailboxError` for anything but nothing or a mailbox of at most that version.
     State Examine(int newestVersion) const;
+    /// True when the file is so small that checking all of it at each opening isn't felt.
+    bool IsSmall() const;
     /// The name of a new, empty file beside the mailbox, private to the user, in which a new mailbox is made; throws
     /// `MailboxError` when there can be none.
     std::string NewDraft() const;
