@@ -8,13 +8,23 @@
 #include <csignal>
 #include <exception>
 #include <fcntl.h>
+#include <malloc.h>
 #include <new>
 #include <unistd.h>
 
 namespace tempodial {
 
+namespace {
+
+/// Bytes from which on a block of memory is the system's again as soon as it is let go of. By itself the library raises
+/// this to 32 MiB, and a long report's texts leave holes then.
+constexpr int LargeBlock = 4 << 20;
+
+}
+
 void PrepareProcess()
 {
+    ::mallopt(M_MMAP_THRESHOLD, LargeBlock);
     for (const int stream : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO }) {
         if (::fcntl(stream, F_GETFD) < 0) {
             // Writing to it fails, as it would have.
