@@ -17,8 +17,8 @@ namespace tempodial {
 namespace {
 
 constexpr std::size_t HeaderSize = 100;
-/// Bytes that are checked in a few milliseconds: about two months of activities.
-constexpr std::uint64_t SmallSize = std::uint64_t { 8 } << 20;
+/// Bytes that are checked in a few milliseconds: about two weeks of activities.
+constexpr std::uint64_t SmallSize = std::uint64_t { 2 } << 20;
 const std::string Restore = "move it away and put a good copy of the mailbox in its place, or start with a new mailbox";
 
 /// An open file descriptor that closes itself.
