@@ -2,13 +2,14 @@
 
 #include "base/Failure.h"
 #include "cli/CommandError.h"
+#include "host/system/FileDescriptor.h"
 #include "host/system/FileReplacer.h"
 #include "host/system/GMimeDraftWriter.h"
 #include "programs/UsageError.h"
 
 #include <CLI/CLI.hpp>
 
-#include <fstream>
+#include <fcntl.h>
 #include <string_view>
 
 namespace tempodial {
@@ -20,8 +21,13 @@ bool IsDatabase(const std::string& path)
 {
     constexpr std::string_view mark = "SQLite format 3";
     std::string head(mark.size(), '\0');
-    std::ifstream file(NativePath(path).CText(), std::ios::binary);
-    return file.read(head.data(), static_cast<std::streamsize>(head.size())) && head == mark;
+    try {
+        // Doesn't wait at a pipe, as a stream would.
+        const FileDescriptor file(NativePath(path), O_RDONLY);
+        return file.Read(head.data(), head.size()) == head.size() && head == mark;
+    } catch (const Failure&) {
+        return false;
+    }
 }
 
 /// Runs what writes the file; a failure is told with what to do about it.

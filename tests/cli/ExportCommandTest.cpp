@@ -1,6 +1,8 @@
 #include "cli/ProgramFixture.h"
 #include "cli/ReadBack.h"
 
+#include <sys/stat.h>
+
 namespace tempodial {
 
 namespace {
@@ -97,13 +99,17 @@ TEST_F(ExportCommandTest, Export_FileCantBeWritten_IsTold)
     EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", mFolder.Path("no/a.csv") }, 1),
         HasSubstr("no/a.csv couldn't be written: Path not found"));
     EXPECT_THAT(Refusal({ "export", "--format", "ics", "--out", mFolder.Path() }, 1), HasSubstr("couldn't be written"));
+    const auto pipe = mFolder.Path("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", pipe }, 1), HasSubstr("couldn't be written"))
+        << "it doesn't wait for a reader";
 }
 
 TEST_F(ExportCommandTest, Export_MailboxAsTheFile_IsRefusedAndStays)
 {
     const auto before = Json({ "list" });
-    EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", mProfile + "/mailbox.db" }, 1),
-        testing::HasSubstr("is a mailbox"));
+    EXPECT_THAT(
+        Refusal({ "export", "--format", "csv", "--out", mProfile + "/mailbox.db" }, 1), HasSubstr("is a mailbox"));
     EXPECT_EQ(Json({ "list" }), before);
 }
 
