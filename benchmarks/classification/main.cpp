@@ -7,7 +7,7 @@
 #include "engine/foundation/TempodialDebugLog.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/projects/TempodialProjectManager.h"
-#include "host/profile/Profile.h"
+#include "session/Profile.h"
 #include "workload/Activities.h"
 #include "workload/Projects.h"
 

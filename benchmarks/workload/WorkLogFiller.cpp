@@ -1,7 +1,7 @@
 #include "workload/WorkLogFiller.h"
 
 #include "host/store/MailboxDatabase.h"
-#include "programs/WorkLogFolder.h"
+#include "session/WorkLogFolder.h"
 
 #include <stdexcept>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Date.h"
-#include "host/profile/Profile.h"
 #include "host/store/ItemData.h"
+#include "session/Profile.h"
 #include "workload/Activities.h"
 
 #include <cstdint>

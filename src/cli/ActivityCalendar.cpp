@@ -2,7 +2,7 @@
 
 #include "base/Number.h"
 #include "base/Text.h"
-#include "programs/ProductFacts.h"
+#include "session/ProductFacts.h"
 
 #include <cstddef>
 #include <string_view>

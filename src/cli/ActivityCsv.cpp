@@ -1,7 +1,7 @@
 #include "cli/ActivityCsv.h"
 
 #include "base/Text.h"
-#include "programs/Arguments.h"
+#include "terminal/Arguments.h"
 
 #include <string_view>
 

@@ -3,7 +3,7 @@
 #include "base/Number.h"
 #include "cli/TextTable.h"
 #include "platform/objectmodel/Items.h"
-#include "programs/WorkLogFolder.h"
+#include "session/WorkLogFolder.h"
 
 namespace tempodial {
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "cli/DayRange.h"
-#include "host/profile/Profile.h"
 #include "platform/objectmodel/AppointmentItem.h"
 #include "platform/objectmodel/MAPIFolder.h"
 #include "platform/system/LocaleFormats.h"
+#include "session/Profile.h"
 
 #include <optional>
 #include <string>

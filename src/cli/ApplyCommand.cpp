@@ -2,8 +2,8 @@
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
 #include "cli/KnownProject.h"
-#include "programs/Arguments.h"
-#include "programs/ProductFacts.h"
+#include "session/ProductFacts.h"
+#include "terminal/Arguments.h"
 
 #include <CLI/CLI.hpp>
 

@@ -3,9 +3,9 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
-#include "programs/Arguments.h"
-#include "programs/ProductFacts.h"
-#include "programs/UsageError.h"
+#include "session/ProductFacts.h"
+#include "terminal/Arguments.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,11 +1,11 @@
 #include "cli/CommandLine.h"
 
 #include "base/Text.h"
-#include "programs/ArgumentParser.h"
-#include "programs/ProductFacts.h"
-#include "programs/ProgramRun.h"
-#include "programs/TerminalText.h"
-#include "programs/UsageError.h"
+#include "session/ProductFacts.h"
+#include "terminal/ArgumentParser.h"
+#include "terminal/ProgramRun.h"
+#include "terminal/TerminalText.h"
+#include "terminal/UsageError.h"
 
 namespace tempodial {
 

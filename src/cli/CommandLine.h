@@ -1,8 +1,8 @@
 #pragma once
 
 #include "cli/Command.h"
-#include "programs/ExitStatus.h"
-#include "programs/ProfileArguments.h"
+#include "terminal/ExitStatus.h"
+#include "terminal/ProfileArguments.h"
 
 #include <CLI/CLI.hpp>
 

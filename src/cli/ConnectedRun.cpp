@@ -3,9 +3,9 @@
 #include "cli/CommandLineEventPump.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
-#include "cli/RecordingFileSystem.h"
-#include "cli/RecordingImportJournal.h"
-#include "cli/RecordingRegistry.h"
+#include "faults/RecordingFileSystem.h"
+#include "faults/RecordingImportJournal.h"
+#include "faults/RecordingRegistry.h"
 #include "forms/FormModelFactory.h"
 
 #include <memory>

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "cli/AddInSession.h"
 #include "cli/Options.h"
 #include "cli/PrintingMessageBox.h"
-#include "cli/Problems.h"
 #include "cli/Reply.h"
 #include "engine/core/TempodialMain.h"
-#include "host/profile/Profile.h"
+#include "faults/Problems.h"
 #include "host/store/Mailbox.h"
 #include "platform/system/MailDraftWriter.h"
-#include "programs/OpenProfile.h"
+#include "session/AddInSession.h"
+#include "session/OpenProfile.h"
+#include "session/Profile.h"
 
 #include <iostream>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "cli/DayRangeArguments.h"
 
-#include "programs/Arguments.h"
-#include "programs/UsageError.h"
+#include "terminal/Arguments.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

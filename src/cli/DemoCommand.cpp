@@ -3,9 +3,9 @@
 #include "cli/Commands.h"
 #include "cli/DemoTracker.h"
 #include "host/system/HostClock.h"
-#include "programs/Arguments.h"
-#include "programs/OpenProfile.h"
-#include "programs/ProductFacts.h"
+#include "session/OpenProfile.h"
+#include "session/ProductFacts.h"
+#include "terminal/Arguments.h"
 
 #include <CLI/CLI.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "base/Text.h"
 #include "cli/DemoActivities.h"
-#include "programs/Arguments.h"
+#include "terminal/Arguments.h"
 
 #include <algorithm>
 #include <random>

@@ -5,9 +5,9 @@
 #include "cli/DayRangeArguments.h"
 #include "cli/OutputFile.h"
 #include "host/system/HostClock.h"
-#include "programs/ItemJson.h"
-#include "programs/OpenProfile.h"
-#include "programs/UsageError.h"
+#include "session/OpenProfile.h"
+#include "terminal/ItemJson.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

@@ -2,7 +2,7 @@
 
 #include "base/Text.h"
 #include "cli/CommandError.h"
-#include "programs/TerminalText.h"
+#include "terminal/TerminalText.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,8 +2,8 @@
 #include "cli/Commands.h"
 #include "cli/DayRangeArguments.h"
 #include "host/system/HostClock.h"
-#include "programs/ItemJson.h"
-#include "programs/OpenProfile.h"
+#include "session/OpenProfile.h"
+#include "terminal/ItemJson.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "programs/ProfileOptions.h"
+#include "session/ProfileOptions.h"
 
 namespace tempodial {
 

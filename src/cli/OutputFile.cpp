@@ -2,10 +2,10 @@
 
 #include "base/Failure.h"
 #include "cli/CommandError.h"
-#include "host/system/FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 #include "host/system/FileReplacer.h"
 #include "host/system/GMimeDraftWriter.h"
-#include "programs/UsageError.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

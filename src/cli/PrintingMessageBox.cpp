@@ -1,6 +1,6 @@
 #include "cli/PrintingMessageBox.h"
 
-#include "programs/TerminalText.h"
+#include "terminal/TerminalText.h"
 
 namespace tempodial {
 

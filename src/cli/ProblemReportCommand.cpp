@@ -4,8 +4,8 @@
 #include "cli/OutputFile.h"
 #include "engine/dialogs/ProblemReportText.h"
 #include "host/system/HostClock.h"
-#include "programs/Arguments.h"
-#include "programs/ProductFacts.h"
+#include "session/ProductFacts.h"
+#include "terminal/Arguments.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 #include "cli/ProgressLine.h"
 
 #include "base/Text.h"
-#include "programs/TerminalText.h"
+#include "terminal/TerminalText.h"
 
 #include <algorithm>
 

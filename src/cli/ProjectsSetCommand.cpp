@@ -2,7 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
-#include "programs/UsageError.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

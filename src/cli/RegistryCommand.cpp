@@ -1,9 +1,9 @@
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
-#include "programs/Arguments.h"
-#include "programs/OpenProfile.h"
-#include "programs/ProductFacts.h"
-#include "programs/UsageError.h"
+#include "session/OpenProfile.h"
+#include "session/ProductFacts.h"
+#include "terminal/Arguments.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

@@ -4,7 +4,7 @@
 #include "cli/Interruption.h"
 #include "cli/OutputFile.h"
 #include "host/system/HostClock.h"
-#include "programs/UsageError.h"
+#include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 

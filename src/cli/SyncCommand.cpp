@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
-#include "programs/ProductFacts.h"
+#include "session/ProductFacts.h"
 
 #include <CLI/CLI.hpp>
 

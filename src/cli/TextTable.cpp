@@ -1,6 +1,6 @@
 #include "cli/TextTable.h"
 
-#include "programs/TerminalText.h"
+#include "terminal/TerminalText.h"
 
 #include <algorithm>
 

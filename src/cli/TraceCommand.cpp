@@ -1,7 +1,7 @@
 #include "cli/Commands.h"
-#include "programs/Arguments.h"
-#include "programs/OpenProfile.h"
-#include "programs/TraceTail.h"
+#include "session/OpenProfile.h"
+#include "session/TraceTail.h"
+#include "terminal/Arguments.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,6 +1,6 @@
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
-#include "programs/ProgramRun.h"
+#include "terminal/ProgramRun.h"
 
 #include <iostream>
 #include <unistd.h>

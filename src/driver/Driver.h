@@ -6,7 +6,7 @@
 #include "driver/HostCommands.h"
 #include "driver/MailboxCommands.h"
 #include "driver/WindowCommands.h"
-#include "programs/ProfileOptions.h"
+#include "session/ProfileOptions.h"
 
 #include <string>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "driver/DriverHost.h"
 
 #include "driver/RequestError.h"
-#include "driver/faults/Wrapped.h"
+#include "faults/Wrapped.h"
 #include "host/system/HostShell.h"
-#include "programs/OpenProfile.h"
+#include "session/OpenProfile.h"
 
 namespace tempodial {
 

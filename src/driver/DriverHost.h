@@ -4,12 +4,12 @@
 #include "driver/DriverEventPump.h"
 #include "driver/DriverMessageBox.h"
 #include "driver/HostSession.h"
-#include "driver/faults/FaultPlan.h"
+#include "faults/FaultPlan.h"
 #include "forms/FormModelFactory.h"
-#include "host/profile/Profile.h"
 #include "host/store/StoreItem.h"
 #include "platform/Platform.h"
-#include "programs/ProfileOptions.h"
+#include "session/Profile.h"
+#include "session/ProfileOptions.h"
 
 #include <cstdint>
 #include <string>

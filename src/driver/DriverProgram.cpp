@@ -2,10 +2,10 @@
 
 #include "driver/Driver.h"
 #include "driver/LineReader.h"
-#include "programs/ArgumentParser.h"
-#include "programs/ProductFacts.h"
-#include "programs/ProfileArguments.h"
-#include "programs/ProgramRun.h"
+#include "session/ProductFacts.h"
+#include "terminal/ArgumentParser.h"
+#include "terminal/ProfileArguments.h"
+#include "terminal/ProgramRun.h"
 
 #include <CLI/CLI.hpp>
 

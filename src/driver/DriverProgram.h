@@ -1,6 +1,6 @@
 #pragma once
 
-#include "programs/ExitStatus.h"
+#include "terminal/ExitStatus.h"
 
 #include <ostream>
 #include <string>

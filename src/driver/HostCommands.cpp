@@ -2,10 +2,10 @@
 
 #include "driver/RequestError.h"
 #include "host/system/HostClock.h"
-#include "programs/Arguments.h"
-#include "programs/OpenProfile.h"
-#include "programs/ProductFacts.h"
-#include "programs/TraceTail.h"
+#include "session/OpenProfile.h"
+#include "session/ProductFacts.h"
+#include "session/TraceTail.h"
+#include "terminal/Arguments.h"
 
 #include <algorithm>
 #include <cstddef>

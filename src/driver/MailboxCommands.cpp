@@ -6,8 +6,8 @@
 #include "platform/objectmodel/Folders.h"
 #include "platform/objectmodel/Items.h"
 #include "platform/objectmodel/Views.h"
-#include "programs/ItemJson.h"
-#include "programs/WorkLogFolder.h"
+#include "session/WorkLogFolder.h"
+#include "terminal/ItemJson.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,8 +1,8 @@
 #include "driver/Request.h"
 
 #include "driver/RequestError.h"
-#include "programs/Arguments.h"
-#include "programs/UsageError.h"
+#include "terminal/Arguments.h"
+#include "terminal/UsageError.h"
 
 #include <limits>
 

@@ -2,7 +2,7 @@
 
 #include "driver/CommandBarsJson.h"
 #include "driver/RequestError.h"
-#include "programs/Arguments.h"
+#include "terminal/Arguments.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 #include "driver/DriverProgram.h"
-#include "programs/ProgramRun.h"
+#include "terminal/ProgramRun.h"
 
 #include <iostream>
 #include <unistd.h>

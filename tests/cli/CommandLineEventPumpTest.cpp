@@ -3,7 +3,7 @@
 #include "cli/Interruption.h"
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
-#include "programs/ProductFacts.h"
+#include "session/ProductFacts.h"
 #include "support/AddInFixture.h"
 
 #include <gtest/gtest.h>

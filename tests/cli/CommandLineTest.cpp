@@ -2,8 +2,8 @@
 
 #include "base/Failure.h"
 #include "cli/CommandError.h"
-#include "host/profile/ProfileError.h"
-#include "programs/UsageError.h"
+#include "session/ProfileError.h"
+#include "terminal/UsageError.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "cli/ProgramFixture.h"
-#include "host/profile/ProfileFolder.h"
+#include "session/ProfileFolder.h"
 
 #include <cstdlib>
 #include <sys/stat.h>

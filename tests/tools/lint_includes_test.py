@@ -110,7 +110,7 @@ class LibraryTest(unittest.TestCase):
         self.Allows("host/store/A.h", "sqlite3.h")
         self.Refuses("host/windows/A.h", "SQLiteCpp/Database.h")
         self.Refuses("cli/A.h", "sqlite3.h")
-        self.Allows("host/qt/A.h", "QWidget")
+        self.Allows("desktop/qt/A.h", "QWidget")
         self.Refuses("host/windows/A.h", "QWidget")
         self.Refuses("cli/A.h", "QtCore/QObject")
         self.Allows("host/system/A.h", "expat.h")

@@ -1,7 +1,7 @@
 #include "host/store/CompoundFile.h"
 
 #include "base/Failure.h"
-#include "host/module/ProgramModule.h"
+#include "host/files/ProgramModule.h"
 
 namespace tempodial {
 

@@ -1,7 +1,7 @@
 #include "host/system/BitmapLoader.h"
 
+#include "host/files/FileDescriptor.h"
 #include "host/system/BitmapPicture.h"
-#include "host/system/FileDescriptor.h"
 
 #include <array>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "host/system/ExpatXml.h"
 
 #include "base/Failure.h"
-#include "host/system/TextEncoding.h"
+#include "host/files/TextEncoding.h"
 
 #include <algorithm>
 #include <utility>

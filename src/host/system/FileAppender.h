@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/system/FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 #include "host/system/WritingStream.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "host/system/FileReader.h"
 
-#include "host/system/TextEncoding.h"
+#include "host/files/TextEncoding.h"
 
 #include <cstring>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/system/FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
 #include "platform/system/TextStream.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/system/ReplacementFile.h"
+#include "host/files/ReplacementFile.h"
 #include "host/system/WritingStream.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "host/system/GMimeDraftWriter.h"
 
+#include "host/files/ReplacementFile.h"
+#include "host/files/SystemFailure.h"
 #include "host/system/FileReplacer.h"
-#include "host/system/ReplacementFile.h"
-#include "host/system/SystemFailure.h"
 
 #include <utility>
 

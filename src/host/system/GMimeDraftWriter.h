@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/module/ProgramModule.h"
+#include "host/files/ProgramModule.h"
 #include "host/system/MimeMessage.h"
 #include "platform/system/MailDraftWriter.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/system/AppendedFile.h"
+#include "host/files/AppendedFile.h"
 #include "host/system/LocalTime.h"
 #include "platform/system/FileSystemObject.h"
 

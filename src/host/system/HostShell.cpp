@@ -1,7 +1,7 @@
 #include "host/system/HostShell.h"
 
 #include "base/Failure.h"
-#include "host/system/NativePath.h"
+#include "host/files/NativePath.h"
 
 #include <array>
 #include <cerrno>

@@ -2,10 +2,10 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
-#include "host/system/FileDescriptor.h"
+#include "host/files/FileDescriptor.h"
+#include "host/files/ReplacementFile.h"
+#include "host/files/TextEncoding.h"
 #include "host/system/RegistryText.h"
-#include "host/system/ReplacementFile.h"
-#include "host/system/TextEncoding.h"
 
 #include <toml++/toml.h>
 

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/files/FileDescriptor.h"
+
+#include <optional>
+#include <string_view>
+
+namespace tempodial {
+
+/// New content for a file. It is written beside the file and takes its place as a whole; until then, and whenever
+/// something fails, the file is as it was.
+class ReplacementFile
+{
+public:
+    /// Begins with no content; fails as opening a new file does.
+    explicit ReplacementFile(const NativePath& path);
+    ~ReplacementFile();
+    ReplacementFile(const ReplacementFile&) = delete;
+    ReplacementFile& operator=(const ReplacementFile&) = delete;
+
+    /// Adds content; fails when the disk refuses (61, 57), and then it can't take the file's place any more.
+    void Write(std::string_view bytes);
+    /// The descriptor of the new content, for a library that writes to it by itself.
+    int Descriptor() const { return mFile.Number(); }
+    /// Gives the new content a time of last change.
+    void SetModificationTime(const timespec& moment) { mFile.SetModificationTime(moment); }
+    /// Takes the file's place, safe on disk when it returns; fails when the disk refuses it or refused a part (61, 57).
+    void Commit();
+
+private:
+    NativePath mPath;
+    NativePath mNewPath;
+    FileDescriptor mFile;
+    std::optional<Failure> mFailure;
+    bool mHasTakenPlace = false;
+};
+
+}

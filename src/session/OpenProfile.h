@@ -1,0 +1,16 @@
+#pragma once
+
+#include "session/Profile.h"
+#include "session/ProfileOptions.h"
+
+#include <string>
+
+namespace tempodial {
+
+/// The profile that the options name, opened. Fails with `ProfileInUse` or `ProfileError`.
+Profile OpenProfile(const ProfileOptions& options);
+
+/// The path of a file in the profile's data folder.
+std::string DataPath(const Profile& profile, const std::string& name);
+
+}

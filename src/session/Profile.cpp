@@ -1,0 +1,39 @@
+#include "session/Profile.h"
+
+#include "host/store/MailboxError.h"
+#include "host/store/StoreImportJournal.h"
+#include "host/system/BitmapLoader.h"
+#include "host/system/ExpatXml.h"
+#include "host/system/HostFileSystem.h"
+#include "host/system/HostShell.h"
+#include "host/system/IcuLocaleFormats.h"
+#include "session/MailboxEventPump.h"
+#include "session/ProfileError.h"
+#include "session/ProgramRegistry.h"
+
+namespace tempodial {
+
+Profile::Profile(const std::string& folder, const std::string& locale, std::optional<Date> now)
+    : mFolder(folder)
+    , mClock(MakeRef<HostClock>(now))
+{
+    try {
+        mPlatform.formats = MakeRef<IcuLocaleFormats>(locale);
+        mPlatform.xml = MakeRef<ExpatXmlFactory>();
+        mRegistry = MakeRef<TomlRegistry>(mFolder.Path() + "/registry.toml");
+        mMailbox = Mailbox::Open(mFolder.Path() + "/mailbox.db", mPlatform.formats, mPlatform.xml);
+    } catch (const RegistryFileError& error) {
+        throw ProfileError(error.what());
+    } catch (const MailboxError& error) {
+        throw ProfileError(error.what());
+    }
+    mPlatform.fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
+    mPlatform.registry = MakeRef<ProgramRegistry>(mRegistry, ProgramRegistry::FolderOfThisProgram());
+    mPlatform.shell = MakeRef<HostShell>();
+    mPlatform.clock = mClock;
+    mPlatform.pictures = MakeRef<BitmapLoader>();
+    mPlatform.importJournal = MakeRef<StoreImportJournal>(mMailbox);
+    mPlatform.eventPump = MakeRef<MailboxEventPump>(mMailbox);
+}
+
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/Date.h"
+#include "base/Ref.h"
+#include "host/store/Mailbox.h"
+#include "host/system/HostClock.h"
+#include "host/system/TomlRegistry.h"
+#include "platform/Platform.h"
+#include "session/ProfileFolder.h"
+
+#include <optional>
+#include <string>
+
+namespace tempodial {
+
+/// A profile opened: its folder locked, its mailbox and registry open, and the surroundings made for the engine.
+class Profile
+{
+public:
+    /// Opens a profile, making an absent one. The locale is one that ICU knows; without a moment the clock is that of
+    /// the system. Fails with `ProfileInUse`, or with `ProfileError` for a file that can't be used, which is then never
+    /// written to.
+    Profile(const std::string& folder, const std::string& locale, std::optional<Date> now);
+
+    /// The folder of the tracker's files, the history and the trace; it may be absent.
+    std::string DataFolder() const { return mFolder.Path() + "/Tempodial"; }
+    const Ref<TomlRegistry>& Registry() const { return mRegistry; }
+    const Ref<tempodial::Mailbox>& Mailbox() const { return mMailbox; }
+    const Ref<HostClock>& Clock() const { return mClock; }
+    /// The surroundings, but for forms and message boxes, which a program adds; their event pump tells what the mailbox
+    /// has to tell.
+    const Platform& Surroundings() const { return mPlatform; }
+
+private:
+    ProfileFolder mFolder;
+    Ref<TomlRegistry> mRegistry;
+    Ref<tempodial::Mailbox> mMailbox;
+    Ref<HostClock> mClock;
+    Platform mPlatform;
+};
+
+}

@@ -1,0 +1,28 @@
+#include "session/TraceTail.h"
+
+#include "base/Failure.h"
+
+namespace tempodial {
+
+void TraceTail::Read(FileSystemObject& fileSystem, const std::string& path)
+{
+    if (!fileSystem.FileExists(path)) {
+        return;
+    }
+    const auto stream = fileSystem.OpenTextFile(path, OpenMode::Reading, false);
+    try {
+        while (true) {
+            mLines.push_back(stream->ReadLine());
+            if (mLines.size() > mLimit) {
+                mLines.pop_front();
+            }
+        }
+    } catch (const Failure& failure) {
+        // The end of a file is found by reading past it.
+        if (!failure.Is(Error::InputPastEnd)) {
+            throw;
+        }
+    }
+}
+
+}

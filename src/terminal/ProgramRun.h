@@ -1,0 +1,23 @@
+#pragma once
+
+#include "terminal/ExitStatus.h"
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+namespace tempodial {
+
+/// Prepares the process of a program: standard streams that the caller has closed are opened, so that no file of ours
+/// takes their place, and a reader that goes away early, or a file that may not grow, is noticed by the write that
+/// fails. Large blocks of memory go back to the system at once.
+void PrepareProcess();
+
+/// Writes what went wrong, and what to do, as the one line `program: message`.
+void Complain(std::ostream& stream, const std::string& program, const std::string& message);
+
+/// Does a program's work; what leaves it becomes a complaint and the exit status for it.
+ExitStatus RunProgram(
+    const std::string& program, std::ostream& error, const std::function<ExitStatus()>& work) noexcept;
+
+}

@@ -1,0 +1,150 @@
+#include "terminal/TerminalText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <span>
+
+namespace tempodial {
+
+namespace {
+
+constexpr char32_t Replacement = 0xFFFD;
+
+struct Range
+{
+    char32_t first, last;
+};
+
+/// East Asian wide and full-width characters, and pictures that are drawn as wide as those.
+constexpr std::array<Range, 20> Wide { { { 0x1100, 0x115F }, { 0x231A, 0x231B }, { 0x23E9, 0x23EC }, { 0x2E80, 0x303E },
+    { 0x3041, 0x33FF }, { 0x3400, 0x4DBF }, { 0x4E00, 0x9FFF }, { 0xA000, 0xA4CF }, { 0xA960, 0xA97F },
+    { 0xAC00, 0xD7A3 }, { 0xF900, 0xFAFF }, { 0xFE10, 0xFE19 }, { 0xFE30, 0xFE6F }, { 0xFF00, 0xFF60 },
+    { 0xFFE0, 0xFFE6 }, { 0x1F300, 0x1F64F }, { 0x1F680, 0x1F6FF }, { 0x1F900, 0x1F9FF }, { 0x20000, 0x2FFFD },
+    { 0x30000, 0x3FFFD } } };
+/// Characters that are drawn over the one before them, or not at all.
+constexpr std::array<Range, 12> Narrow { { { 0x0300, 0x036F }, { 0x0483, 0x0489 }, { 0x0591, 0x05BD },
+    { 0x0610, 0x061A }, { 0x064B, 0x065F }, { 0x0E34, 0x0E3A }, { 0x0E47, 0x0E4E }, { 0x1AB0, 0x1AFF },
+    { 0x200B, 0x200D }, { 0x20D0, 0x20FF }, { 0xFE00, 0xFE0F }, { 0xFE20, 0xFE2F } } };
+/// Marks, embeddings, overrides and isolates of the direction of writing.
+constexpr std::array<Range, 4> Directions { { { 0x061C, 0x061C }, { 0x200E, 0x200F }, { 0x202A, 0x202E },
+    { 0x2066, 0x2069 } } };
+
+bool IsIn(std::span<const Range> ranges, char32_t character)
+{
+    return std::any_of(ranges.begin(), ranges.end(),
+        [character](const auto& range) { return character >= range.first && character <= range.last; });
+}
+
+/// A character and the bytes that it took.
+struct Decoded
+{
+    char32_t character;
+    std::size_t length;
+    bool valid;
+};
+
+/// The first character of a text that isn't empty; a byte that belongs to none counts as one.
+Decoded Decode(std::string_view text)
+{
+    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const auto lead = byte(0);
+    std::size_t length = 1;
+    char32_t character = lead;
+    char32_t least = 0;
+    if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+        character = lead & 0x07U;
+        least = 0x10000;
+    } else if (lead >= 0xE0 && lead < 0xF0) {
+        length = 3;
+        character = lead & 0x0FU;
+        least = 0x800;
+    } else if (lead >= 0xC2 && lead < 0xE0) {
+        length = 2;
+        character = lead & 0x1FU;
+        least = 0x80;
+    } else if (lead >= 0x80) {
+        return { Replacement, 1, false };
+    }
+    if (length > text.size()) {
+        return { Replacement, 1, false };
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xC0U) != 0x80U) {
+            return { Replacement, 1, false };
+        }
+        character = character << 6U | (byte(i) & 0x3FU);
+    }
+    if (character < least || character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) {
+        return { Replacement, 1, false };
+    }
+    return { character, length, true };
+}
+
+void Append(std::string& text, char32_t character)
+{
+    // Only signs of three bytes are put in the place of others.
+    text += static_cast<char>(0xE0U | character >> 12U);
+    text += static_cast<char>(0x80U | (character >> 6U & 0x3FU));
+    text += static_cast<char>(0x80U | (character & 0x3FU));
+}
+
+template <class Sink> void ForEach(std::string_view text, Sink&& sink)
+{
+    while (!text.empty()) {
+        const auto decoded = Decode(text);
+        sink(decoded, text.substr(0, decoded.length));
+        text.remove_prefix(decoded.length);
+    }
+}
+
+}
+
+std::string Harmless(std::string_view text)
+{
+    constexpr char32_t Delete = 0x7F;
+    constexpr char32_t ControlPictures = 0x2400;
+    constexpr char32_t PictureOfDelete = 0x2421;
+    std::string harmless;
+    harmless.reserve(text.size());
+    ForEach(text, [&harmless](const Decoded& decoded, std::string_view bytes) {
+        if (decoded.character < U' ' && decoded.character != U'\n') {
+            Append(harmless, ControlPictures + decoded.character);
+        } else if (decoded.character == Delete) {
+            Append(harmless, PictureOfDelete);
+        } else if (!decoded.valid || (decoded.character > Delete && decoded.character < 0xA0)) {
+            Append(harmless, Replacement);
+        } else if (!IsIn(Directions, decoded.character)) {
+            harmless += bytes;
+        }
+    });
+    return harmless;
+}
+
+std::string HarmlessLine(std::string_view text)
+{
+    std::string line;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool ends = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        if (!ends) {
+            line += text[i] == '\n' || text[i] == '\t' ? ' ' : text[i];
+        }
+    }
+    return Harmless(line);
+}
+
+int DisplayWidth(std::string_view text)
+{
+    int width = 0;
+    ForEach(text, [&width](const Decoded& decoded, std::string_view) {
+        if (IsIn(Wide, decoded.character)) {
+            width += 2;
+        } else if (!IsIn(Narrow, decoded.character)) {
+            ++width;
+        }
+    });
+    return width;
+}
+
+}

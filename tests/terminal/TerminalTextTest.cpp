@@ -1,0 +1,54 @@
+#include "terminal/TerminalText.h"
+
+#include <gtest/gtest.h>
+
+namespace tempodial {
+
+TEST(TerminalTextTest, Harmless_ControlCharacters_BecomeSigns)
+{
+    EXPECT_EQ(Harmless("a\x1b[31mb\x07\x7f"), "a␛[31mb␇␡");
+    EXPECT_EQ(Harmless("a\r\tb"), "a␍␉b");
+    EXPECT_EQ(Harmless(std::string_view("a\0b", 3)), "a␀b");
+    EXPECT_EQ(Harmless("a\xc2\x9b"
+                       "31mb"),
+        "a\uFFFD31mb");
+}
+
+TEST(TerminalTextTest, Harmless_LineFeed_Stays)
+{
+    EXPECT_EQ(Harmless("a\nb\n"), "a\nb\n");
+}
+
+TEST(TerminalTextTest, Harmless_MarksOfDirection_AreLeftOut)
+{
+    EXPECT_EQ(Harmless("a\u202Ecod.exe\u202C\u2066b\u2069\u200F\u200E\u061C"), "acod.exeb");
+    EXPECT_EQ(Harmless("שלום"), "שלום");
+}
+
+TEST(TerminalTextTest, Harmless_BytesThatAreNoUtf8_AreReplacedOneByOne)
+{
+    EXPECT_EQ(Harmless("M\xfcller"), "M\uFFFDller");
+    EXPECT_EQ(Harmless("\xe4\xb8"), "\uFFFD\uFFFD");
+    EXPECT_EQ(Harmless("\xc0\x80"), "\uFFFD\uFFFD");
+    EXPECT_EQ(Harmless("\xed\xa0\x80"), "\uFFFD\uFFFD\uFFFD");
+    EXPECT_EQ(Harmless("\xf4\x90\x80\x80"), "\uFFFD\uFFFD\uFFFD\uFFFD");
+    EXPECT_EQ(Harmless("Größe 売上 😀"), "Größe 売上 😀");
+}
+
+TEST(TerminalTextTest, HarmlessLine_LineEndsAndTabs_BecomeABlank)
+{
+    EXPECT_EQ(HarmlessLine("a\r\nb\nc\td"), "a b c d");
+    EXPECT_EQ(HarmlessLine("a\rb"), "a␍b");
+}
+
+TEST(TerminalTextTest, DisplayWidth_WideAndCombining_CountAsDrawn)
+{
+    EXPECT_EQ(DisplayWidth(""), 0);
+    EXPECT_EQ(DisplayWidth("abc"), 3);
+    EXPECT_EQ(DisplayWidth("Größe"), 5);
+    EXPECT_EQ(DisplayWidth("売上"), 4);
+    EXPECT_EQ(DisplayWidth("e\u0301"), 1);
+    EXPECT_EQ(DisplayWidth("😀"), 2);
+}
+
+}
