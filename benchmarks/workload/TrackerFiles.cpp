@@ -1,5 +1,6 @@
 #include "workload/TrackerFiles.h"
 
+#include "session/ProductFacts.h"
 #include "workload/TrackerDay.h"
 
 #include <fstream>
@@ -26,7 +27,7 @@ void TrackerFiles::Write(Date last, std::int64_t days, std::int64_t lines) const
 
 std::string TrackerFiles::Path(Date day) const
 {
-    return mFolder + "/tracker_granules" + day.DayKey() + ".out";
+    return mFolder + "/" + TrackerFileName(day.DayKey());
 }
 
 }

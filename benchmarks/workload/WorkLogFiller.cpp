@@ -1,6 +1,7 @@
 #include "workload/WorkLogFiller.h"
 
 #include "host/store/MailboxDatabase.h"
+#include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 
 #include <stdexcept>
@@ -43,9 +44,9 @@ void WorkLogFiller::Fill(Date last, std::int64_t days)
 ItemData WorkLogFiller::Item(Activities& activities, Date start)
 {
     const auto activity = activities.Next();
-    const auto project = activity.project.empty() ? "No Project" : activity.project;
+    const auto project = activity.project.empty() ? NoProject : activity.project;
     ItemData item;
-    item.messageClass = "IPM.Appointment.TDActivity1";
+    item.messageClass = ActivityClass;
     item.subject = (activity.project.empty() ? "" : "[" + project + "] ") + activity.type + ", " + activity.description;
     item.start = start;
     item.end = start.AddMinutes(ItemMinutes);

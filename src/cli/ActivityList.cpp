@@ -3,13 +3,13 @@
 #include "base/Number.h"
 #include "cli/TextTable.h"
 #include "platform/objectmodel/Items.h"
+#include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 
 namespace tempodial {
 
 namespace {
 
-constexpr auto ActivityClass = "IPM.Appointment.TDActivity1";
 bool HasProject(const Ref<AppointmentItem>& item, const std::string& project)
 {
     const auto property = item->UserProperties()->Item("Project");

@@ -46,7 +46,7 @@ public:
 
 private:
     std::string mName;
-    std::string mDays = ApplyBackDays;
+    std::string mDays = std::to_string(ApplyBackDays);
 };
 
 }

@@ -64,7 +64,7 @@ private:
         }
         const auto files = fileSystem.GetFolder(folder).files;
         const auto found = std::find_if(
-            files.begin(), files.end(), [](const auto& file) { return file.name.starts_with("tracker_granules"); });
+            files.begin(), files.end(), [](const auto& file) { return file.name.starts_with(TrackerFilePrefix); });
         if (found != files.end()) {
             throw CommandError(
                 "there are tracker files already, such as " + found->path + ": name an empty profile with --profile");

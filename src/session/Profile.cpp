@@ -20,8 +20,8 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
     try {
         mPlatform.formats = MakeRef<IcuLocaleFormats>(locale);
         mPlatform.xml = MakeRef<ExpatXmlFactory>();
-        mRegistry = MakeRef<TomlRegistry>(mFolder.Path() + "/registry.toml");
-        mMailbox = Mailbox::Open(mFolder.Path() + "/mailbox.db", mPlatform.formats, mPlatform.xml);
+        mRegistry = MakeRef<TomlRegistry>(mFolder.Path() + "/" + RegistryFileName);
+        mMailbox = Mailbox::Open(mFolder.Path() + "/" + MailboxFileName, mPlatform.formats, mPlatform.xml);
     } catch (const RegistryFileError& error) {
         throw ProfileError(error.what());
     } catch (const MailboxError& error) {

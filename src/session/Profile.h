@@ -6,6 +6,7 @@
 #include "host/system/HostClock.h"
 #include "host/system/TomlRegistry.h"
 #include "platform/Platform.h"
+#include "session/ProductFacts.h"
 #include "session/ProfileFolder.h"
 
 #include <optional>
@@ -23,7 +24,7 @@ public:
     Profile(const std::string& folder, const std::string& locale, std::optional<Date> now);
 
     /// The folder of the tracker's files, the history and the trace; it may be absent.
-    std::string DataFolder() const { return mFolder.Path() + "/Tempodial"; }
+    std::string DataFolder() const { return mFolder.Path() + "/" + DataFolderName; }
     const Ref<TomlRegistry>& Registry() const { return mRegistry; }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mMailbox; }
     const Ref<HostClock>& Clock() const { return mClock; }

@@ -1,5 +1,6 @@
 #include "session/ProfileFolder.h"
 
+#include "session/ProductFacts.h"
 #include "session/ProfileError.h"
 
 #include <algorithm>
@@ -33,7 +34,7 @@ std::string SystemText(int error)
 /// True for a folder in which nothing but our own files can be.
 bool IsOurs(const fs::path& folder)
 {
-    constexpr std::array<const char*, 3> names { "mailbox.db", "registry.toml", "Tempodial" };
+    constexpr std::array<const char*, 3> names { MailboxFileName, RegistryFileName, DataFolderName };
     std::error_code ignored;
     return fs::is_empty(folder, ignored)
         || std::any_of(names.begin(), names.end(), [&](auto name) { return fs::exists(folder / name, ignored); });

@@ -1,6 +1,7 @@
 #include "session/ProgramRegistry.h"
 
 #include "base/Text.h"
+#include "session/ProductFacts.h"
 
 #include <filesystem>
 #include <system_error>
@@ -16,8 +17,8 @@ ProgramRegistry::ProgramRegistry(Ref<Registry> registry, std::string installFold
 Variant ProgramRegistry::Read(Hive hive, const std::string& key, const std::string& value, RegistryAccess access)
 {
     auto found = mRegistry->Read(hive, key, value, access);
-    if (found.IsEmpty() && hive == Hive::LocalMachine && EqualIgnoringCase(key, R"(Software\Lindenfold\Tempodial)")
-        && EqualIgnoringCase(value, "Install Directory")) {
+    if (found.IsEmpty() && hive == Hive::LocalMachine && EqualIgnoringCase(key, ProductKey)
+        && EqualIgnoringCase(value, InstallFolderValue)) {
         return mInstallFolder;
     }
     return found;

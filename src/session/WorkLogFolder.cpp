@@ -8,8 +8,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto WorkLogName = "Tempodial";
-
 Ref<MAPIFolder> FindByID(const Ref<Folders>& folders, const std::string& entryID)
 {
     for (std::int32_t i = 1; i <= folders->Count(); ++i) {
@@ -27,7 +25,7 @@ Ref<MAPIFolder> FindByID(const Ref<Folders>& folders, const std::string& entryID
 Ref<MAPIFolder> FindInCalendar(const Ref<NameSpace>& session)
 {
     try {
-        return session->GetDefaultFolder(DefaultFolder::Calendar)->Folders()->ItemNamed(WorkLogName);
+        return session->GetDefaultFolder(DefaultFolder::Calendar)->Folders()->ItemNamed(ProductName);
     } catch (const Failure& failure) {
         if (failure.Is(Error::ObjectNotFound) || failure.Is(Error::ObjectNotSet)) {
             return nullptr;

@@ -2,6 +2,7 @@
 
 #include "host/store/StoreItem.h"
 #include "platform/objectmodel/Folders.h"
+#include "session/ProductFacts.h"
 #include "support/AddInFixture.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +10,6 @@
 namespace tempodial {
 
 namespace {
-
-constexpr auto ActivityClass = "IPM.Appointment.TDActivity1";
 
 const DayRange Tenth { Date::FromYearMonthDay(2006, 10, 10), Date::FromYearMonthDay(2006, 10, 10) };
 const DayRange NinthToTenth { Date::FromYearMonthDay(2006, 10, 9), Date::FromYearMonthDay(2006, 10, 10) };

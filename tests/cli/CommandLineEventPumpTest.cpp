@@ -1,8 +1,6 @@
 #include "cli/CommandLineEventPump.h"
 
 #include "cli/Interruption.h"
-#include "engine/foundation/TempodialConfig.h"
-#include "engine/foundation/TempodialStrings.h"
 #include "session/ProductFacts.h"
 #include "support/AddInFixture.h"
 
@@ -69,15 +67,6 @@ TEST_F(CommandLineEventPumpTest, ProcessPending_InterruptedBeforeAFormIsShown_Pr
     mAddIn.platform->eventPump->ProcessPending();
     mAddIn.main->SyncData(SavedDataDays, true);
     EXPECT_EQ(mAddIn.Items().size(), 3U);
-}
-
-TEST_F(CommandLineEventPumpTest, ProductFacts_AreTheAddInsOwn)
-{
-    EXPECT_EQ(mAddIn.main->mConfig->mTDVersion, ProductVersion);
-    EXPECT_EQ(mAddIn.main->mConfig->mSavedDataDays, SavedDataDays);
-    EXPECT_EQ(mAddIn.main->mConfig->mApplyBackDaysText, ApplyBackDays);
-    EXPECT_EQ(mAddIn.main->mStrings->mRegistryValueOLFolderID, WorkLogIdValue);
-    EXPECT_EQ(mAddIn.main->mStrings->mNoProject, NoProject);
 }
 
 }

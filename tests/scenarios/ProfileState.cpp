@@ -1,6 +1,7 @@
 #include "scenarios/ProfileState.h"
 
 #include "base/Text.h"
+#include "session/ProductFacts.h"
 #include "support/Program.h"
 
 #include <nlohmann/json.hpp>
@@ -32,11 +33,11 @@ ProfileState StateOf(const std::filesystem::path& profile, const std::string& no
         state.items.push_back(item.dump());
     }
     std::sort(state.items.begin(), state.items.end());
-    const auto data = profile / "Tempodial";
-    state.history = ContentOf(data / "TempodialHistory.out");
+    const auto data = profile / DataFolderName;
+    state.history = ContentOf(data / HistoryFileName);
     for (const auto& entry : std::filesystem::directory_iterator(data)) {
         const auto name = entry.path().filename().string();
-        if (name.starts_with("WorkLogTrace") || name == "TempodialHistory.out") {
+        if (name == TraceFileName || name == OlderTraceFileName || name == HistoryFileName) {
             continue;
         }
         state.trackerFiles[name] = ContentOf(entry.path());

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "forms/ButtonModel.h"
 #include "platform/objectmodel/Items.h"
+#include "session/ProductFacts.h"
 
 #include <filesystem>
 #include <fstream>
@@ -29,12 +30,11 @@ void WriteContent(const std::string& path, const std::string& content)
 }
 
 TestAddIn::TestAddIn(const std::string& profile, const std::string& mailboxPath)
-    : TestHost(profile, MakeRef<TomlRegistry>(profile + "/registry.toml"), mailboxPath)
+    : TestHost(profile, MakeRef<TomlRegistry>(profile + "/" + RegistryFileName), mailboxPath)
     , registry(platform->registry.As<TomlRegistry>())
     , mProfile(profile)
 {
-    registry->Write(
-        Hive::LocalMachine, "Software\\Lindenfold\\Tempodial", "Install Directory", TEMPODIAL_SOURCE_DIR "/resources");
+    registry->Write(Hive::LocalMachine, ProductKey, InstallFolderValue, TEMPODIAL_SOURCE_DIR "/resources");
 }
 
 TestAddIn::~TestAddIn()
@@ -45,7 +45,7 @@ TestAddIn::~TestAddIn()
 void TestAddIn::Connect()
 {
     main = MakeRef<TempodialMain>(platform);
-    main->Initialize("Tempodial.Connect", application);
+    main->Initialize(ConnectProgId, application);
     main->TempodialMain_Run();
 }
 
@@ -68,12 +68,12 @@ void TestAddIn::WriteTracker(const std::string& dayKey, const std::vector<std::s
 
 void TestAddIn::WriteHistory(const std::string& text) const
 {
-    WriteContent(DataPath("TempodialHistory.out"), text);
+    WriteContent(DataPath(HistoryFileName), text);
 }
 
 std::string TestAddIn::HistoryText() const
 {
-    return HasFile("TempodialHistory.out") ? ReadFile("TempodialHistory.out") : "(absent)";
+    return HasFile(HistoryFileName) ? ReadFile(HistoryFileName) : "(absent)";
 }
 
 bool TestAddIn::HasFile(const std::string& name) const
@@ -88,7 +88,7 @@ std::string TestAddIn::ReadFile(const std::string& name) const
 
 std::vector<std::string> TestAddIn::Trace()
 {
-    const auto text = ReadFile("WorkLogTrace1.out");
+    const auto text = ReadFile(TraceFileName);
     std::vector<std::string> lines;
     auto pieces = Split(text.size() < mTraceRead ? text : text.substr(mTraceRead), CrLf);
     mTraceRead = text.size();
@@ -146,7 +146,7 @@ void TestAddIn::ClickCancel() const
 
 std::string TestAddIn::DataPath(const std::string& name) const
 {
-    return mProfile + "/Tempodial/" + name;
+    return mProfile + "/" + DataFolderName + "/" + name;
 }
 
 std::string Slot(std::int32_t start, std::int32_t end, const std::string& nodes)

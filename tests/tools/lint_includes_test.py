@@ -15,6 +15,7 @@ HEADERS = {
     "platform/system/Clock.h",
     "engine/foundation/TempodialUtils.h",
     "engine/core/TempodialMain.h",
+    "engine/core/ProductWords.h",
     "engine/core/Connect.h",
     "engine/worklog/TempodialWorkLog.h",
     "engine/dialogs/ProgressBarForm.h",
@@ -52,8 +53,8 @@ class ArrowTest(unittest.TestCase):
         self.Allows("platform/Platform.h", "base/Date.h")
         self.Refuses("platform/Platform.h", "engine/core/TempodialMain.h")
 
-    def test_EngineFolders_KnowFoundationAndMain(self):
-        for header in ("engine/foundation/TempodialUtils.h", "engine/core/TempodialMain.h", "base/Date.h"):
+    def test_EngineFolders_KnowFoundationMainAndWords(self):
+        for header in ("engine/foundation/TempodialUtils.h", "engine/core/TempodialMain.h", "engine/core/ProductWords.h"):
             self.Allows("engine/import/TempodialDataHandler.h", header)
         self.Refuses("engine/import/TempodialDataHandler.h", "engine/core/Connect.h")
         self.Refuses("engine/import/TempodialDataHandler.h", "engine/worklog/TempodialWorkLog.h")

@@ -1,6 +1,7 @@
 #include "engine/core/TempodialMain.h"
 
 #include "base/Number.h"
+#include "engine/core/ProductWords.h"
 #include "engine/dialogs/AboutBoxForm.h"
 #include "engine/dialogs/ProjectSettingsForm.h"
 #include "engine/dialogs/ReportForm.h"
@@ -69,7 +70,7 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     silently([&] { mStrings->Initialize(); });
     silently([&] { mConfig->Initialize(); });
     silently([&] {
-        mTempodialDebugLog->Initialize(mCommonUtils, mConfig->mTDVersion, "WorkLogTrace1.out", "WorkLogTrace2.out", 0);
+        mTempodialDebugLog->Initialize(mCommonUtils, mConfig->mTDVersion, TraceFileName, OlderTraceFileName, 0);
     });
     // Without a version the data folder must be found all the same.
     const auto version = silently.Get([&] { return application->Version(); });

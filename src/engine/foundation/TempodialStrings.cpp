@@ -1,5 +1,7 @@
 #include "engine/foundation/TempodialStrings.h"
 
+#include "engine/core/ProductWords.h"
+
 namespace tempodial {
 
 namespace {
@@ -20,22 +22,22 @@ std::string DefaultProjects()
 
 void TempodialStrings::Initialize()
 {
-    mLogName = "Tempodial";
+    mLogName = ProductName;
     mLogNameAccessible = "&Tempodial";
     mCalendarName = mLogName;
     mFolderName = mLogName;
     mFolderTail = " Folder";
     mProjectListFileName = "TempodialProjectList.out";
-    mHistoryFile = "TempodialHistory.out";
+    mHistoryFile = HistoryFileName;
     mFormName = "WorkLogForm.oft";
-    mFormClass = "IPM.Appointment.TDActivity1";
+    mFormClass = ActivityClass;
     mTableView = "WorkLogCategoryView.xml";
     mTableViewName = mLogName + " List";
     mCalendarViewName = mLogName + " Calendar";
     mFAQName = "FAQ.html";
     mUserGuideName = "userguide.html";
 
-    mNoProject = "No Project";
+    mNoProject = NoProject;
     mUnknownString = "None";
     mNoValue = "<None>";
     mSelectAKeyword = "<word or phrase to match an activity to this project>";
@@ -123,9 +125,9 @@ void TempodialStrings::Initialize()
     mErrorSaveFirst = "You must save or cancel your last change.";
     mErrorBadPrecedence = "Invalid precedence selected";
 
-    mRegistryValueInstall = "Install Directory";
+    mRegistryValueInstall = InstallFolderValue;
     mRegistryValueOLFolder = "Outlook Folder";
-    mRegistryValueOLFolderID = "Outlook Folder Unique ID";
+    mRegistryValueOLFolderID = WorkLogIdValue;
     mRegistryValueOLFolderName = "Outlook Folder Display Name";
     mRegistryValueProjectList = "Project List";
     mRegistryValueVersion = "CurrentVersion";

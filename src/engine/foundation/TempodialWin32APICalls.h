@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Variant.h"
+#include "engine/core/ProductWords.h"
 #include "platform/Platform.h"
 #include "platform/system/Registry.h"
 
@@ -14,7 +15,7 @@ class TempodialWin32APICalls
 {
 public:
     /// The key that an empty one stands for.
-    static constexpr const char* DefaultKey = R"(Software\Lindenfold\Tempodial)";
+    static constexpr const char* DefaultKey = ProductKey;
 
     /// A text or a number, the empty text when nothing can be read. An absent key is made.
     static Variant ReadRegistryValue(const Platform& platform, Hive hive, const std::string& key,

@@ -1,6 +1,7 @@
 #include "engine/import/TempodialDataHandler.h"
 
 #include "base/Number.h"
+#include "engine/core/ProductWords.h"
 #include "engine/core/TempodialMain.h"
 #include "engine/dialogs/ProgressBarForm.h"
 #include "engine/foundation/TempodialCommonUtils.h"
@@ -161,10 +162,8 @@ TempodialDataHandler::DayFile TempodialDataHandler::DayOf(
     file.daysBack = daysBack;
     file.day = sync.today.AddDays(-daysBack);
     file.key = file.day.DayKey();
-    attempt([&] { file.livePath = mFileSystem->BuildPath(sync.dataFolder, "tracker_granules" + file.key + ".out"); });
-    attempt([&] {
-        file.finishedPath = mFileSystem->BuildPath(sync.dataFolder, "tracker_granules(done)" + file.key + ".out");
-    });
+    attempt([&] { file.livePath = mFileSystem->BuildPath(sync.dataFolder, TrackerFileName(file.key)); });
+    attempt([&] { file.finishedPath = mFileSystem->BuildPath(sync.dataFolder, FinishedTrackerFileName(file.key)); });
     attempt([&] { file.committed = mPlatform->importJournal->Committed(file.key); });
     return file;
 }

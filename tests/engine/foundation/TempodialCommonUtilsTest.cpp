@@ -1,5 +1,6 @@
 #include "engine/foundation/TempodialCommonUtils.h"
 
+#include "engine/core/ProductWords.h"
 #include "engine/foundation/TempodialWin32APICalls.h"
 #include "support/MapRegistry.h"
 #include "support/TraceFixture.h"
@@ -11,7 +12,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr auto ProductKey = "Software\\Lindenfold\\Tempodial";
 constexpr auto PolicyKey = R"(Software\Policies\Microsoft\Security)";
 constexpr auto Popups = "Outlook Security Popups";
 

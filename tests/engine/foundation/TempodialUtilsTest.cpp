@@ -1,5 +1,6 @@
 #include "engine/foundation/TempodialUtils.h"
 
+#include "engine/core/ProductWords.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "forms/ComboBoxModel.h"
 #include "support/AddInFixture.h"
@@ -11,7 +12,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr auto ProductKey = "Software\\Lindenfold\\Tempodial";
 constexpr auto CalendarKey = R"(Software\Microsoft\Office\16.0\Outlook\Options\Calendar)";
 
 /// A data folder with files of any age, of which it notes those that are deleted.
