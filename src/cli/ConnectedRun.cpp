@@ -6,7 +6,6 @@
 #include "faults/RecordingFileSystem.h"
 #include "faults/RecordingImportJournal.h"
 #include "faults/RecordingRegistry.h"
-#include "forms/FormModelFactory.h"
 
 #include <memory>
 #include <sys/ioctl.h>
@@ -32,36 +31,34 @@ std::unique_ptr<ProgressLine> TerminalLine()
 }
 
 ConnectedRun::ConnectedRun(const Options& options)
-    : mProfile(OpenProfile(options))
+    : mSession(options)
 {
-    mSession.emplace(mProfile.Mailbox(), Surroundings(options));
-    mProfile.Mailbox()->MarkStatistics();
+    mSession.Start(Surroundings(options));
+    mSession.Mailbox()->MarkStatistics();
 }
 
-Ref<const Platform> ConnectedRun::Surroundings(const Options& options) const
+Platform ConnectedRun::Surroundings(const Options& options) const
 {
-    const auto platform = MakeRef<Platform>(mProfile.Surroundings());
-    const auto forms = MakeRef<FormModelFactory>();
-    platform->fileSystem = MakeRef<RecordingFileSystem>(platform->fileSystem, mProblems);
-    platform->registry = MakeRef<RecordingRegistry>(platform->registry, mProblems);
-    platform->importJournal = MakeRef<RecordingImportJournal>(platform->importJournal, mProblems);
-    platform->forms = forms;
-    platform->messageBox = mMessageBox;
-    platform->eventPump
-        = MakeRef<CommandLineEventPump>(platform->eventPump, forms, options.quiet ? nullptr : TerminalLine());
-    return platform;
+    auto surroundings = mSession.Surroundings();
+    surroundings.fileSystem = MakeRef<RecordingFileSystem>(surroundings.fileSystem, mProblems);
+    surroundings.registry = MakeRef<RecordingRegistry>(surroundings.registry, mProblems);
+    surroundings.importJournal = MakeRef<RecordingImportJournal>(surroundings.importJournal, mProblems);
+    surroundings.messageBox = mMessageBox;
+    surroundings.eventPump = MakeRef<CommandLineEventPump>(
+        surroundings.eventPump, mSession.Forms(), options.quiet ? nullptr : TerminalLine());
+    return surroundings;
 }
 
 MailDraft ConnectedRun::TakeShownMail() const
 {
-    const auto& mails = mSession->Application().Mails();
-    if (mails.empty()) {
+    const auto mail = mSession.ShownMail();
+    if (!mail) {
         return {};
     }
-    for (const auto& path : mails.back()->NotAttached()) {
+    for (const auto& path : mail->NotAttached()) {
         mProblems->Note(path + " couldn't be attached: see to the file and run the command again");
     }
-    return mails.back()->TakeDraft();
+    return mail->TakeDraft();
 }
 
 Reply ConnectedRun::Concluded(Reply reply)
@@ -70,7 +67,7 @@ Reply ConnectedRun::Concluded(Reply reply)
         mProblems->Note("the activity \"" + save.subject + "\" couldn't be saved: " + save.message
             + ": see to the profile's disk and run the command again");
     }
-    mSession.reset();
+    mSession.End();
     reply.complaints = mProblems->Messages();
     if (Interruption::IsRequested()) {
         reply.status = ExitStatus::Interrupted;

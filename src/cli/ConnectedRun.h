@@ -7,12 +7,10 @@
 #include "faults/Problems.h"
 #include "host/store/Mailbox.h"
 #include "platform/system/MailDraftWriter.h"
-#include "session/AddInSession.h"
 #include "session/OpenProfile.h"
-#include "session/Profile.h"
+#include "session/Session.h"
 
 #include <iostream>
-#include <optional>
 
 namespace tempodial {
 
@@ -22,18 +20,22 @@ class ConnectedRun
 public:
     /// Fails with `ProfileInUse` or `ProfileError`.
     explicit ConnectedRun(const Options& options);
+    /// Disconnects the add-in.
+    ~ConnectedRun() { mSession.End(); }
+    ConnectedRun(const ConnectedRun&) = delete;
+    ConnectedRun& operator=(const ConnectedRun&) = delete;
 
     /// The add-in's own members.
-    TempodialMain& AddIn() const { return mSession->Main(); }
+    TempodialMain& AddIn() const { return mSession.AddIn(); }
     /// The surroundings of the profile.
-    const Platform& Host() const { return mProfile.Surroundings(); }
+    const Platform& Host() const { return mSession.Profile().Surroundings(); }
     /// The path of a file in the data folder.
-    std::string DataPath(const std::string& name) const { return tempodial::DataPath(mProfile, name); }
+    std::string DataPath(const std::string& name) const { return tempodial::DataPath(mSession.Profile(), name); }
     /// The mail that the add-in put on the screen, taken from there, empty when there is none. What couldn't be
     /// attached goes wrong.
     MailDraft TakeShownMail() const;
     /// What was saved since the add-in was connected.
-    const SaveStatistics& Saves() const { return mProfile.Mailbox()->Statistics(); }
+    const SaveStatistics& Saves() const { return mSession.Mailbox()->Statistics(); }
     /// True when the add-in showed a message, as it does when it can't make activities.
     bool WasAddInRefusing() const { return mMessageBox->HasShown(); }
     /// Notes something that went wrong, with what to do about it.
@@ -44,12 +46,11 @@ public:
     Reply ConcludedWithChanges();
 
 private:
-    Ref<const Platform> Surroundings(const Options& options) const;
+    Platform Surroundings(const Options& options) const;
 
-    Profile mProfile;
+    Session mSession;
     Ref<Problems> mProblems = MakeRef<Problems>();
     Ref<PrintingMessageBox> mMessageBox = MakeRef<PrintingMessageBox>(std::cerr);
-    std::optional<AddInSession> mSession;
 };
 
 }

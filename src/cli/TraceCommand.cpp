@@ -35,9 +35,7 @@ public:
         constexpr auto Most = std::numeric_limits<std::int32_t>::max();
         TraceTail tail(static_cast<std::size_t>(ToCount("--lines", mLines, 1, Most)));
         const auto profile = OpenProfile(options);
-        for (const auto* name : { "WorkLogTrace2.out", "WorkLogTrace1.out" }) {
-            tail.Read(*profile.Surroundings().fileSystem, DataPath(profile, name));
-        }
+        tail.Read(profile);
         Reply reply;
         const auto lines = tail.Lines();
         reply.document["lines"] = lines;

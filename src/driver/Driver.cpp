@@ -74,8 +74,8 @@ Json Driver::Do(const Json& command)
 
 void Driver::Exit()
 {
-    mHost.Exit();
-    mHost.DropReplaced();
+    mHost.Session().Exit();
+    mHost.Session().DropReplaced();
 }
 
 template <class Source> Json Driver::Concluded(Source&& source)
@@ -86,7 +86,7 @@ template <class Source> Json Driver::Concluded(Source&& source)
     } catch (...) {
         answer = RefusalOfCurrentException();
     }
-    mHost.DropReplaced();
+    mHost.Session().DropReplaced();
     answer["messages"] = mHost.MessageBox().Take();
     if (!mPumped.empty()) {
         answer["pumped"] = std::exchange(mPumped, {});
@@ -104,7 +104,7 @@ Json Driver::Execute(const Json& command)
     } catch (...) {
         answer = RefusalOfCurrentException();
     }
-    mHost.Idle();
+    mHost.Session().Idle();
     return answer;
 }
 

@@ -3,60 +3,33 @@
 #include "driver/RequestError.h"
 #include "faults/Wrapped.h"
 #include "host/system/HostShell.h"
-#include "session/OpenProfile.h"
 
 namespace tempodial {
 
 DriverHost::DriverHost(const ProfileOptions& options)
-    : mProfile(OpenProfile(options))
+    : mSession(options)
 {
 }
 
-void DriverHost::Start(const Settings& settings)
+void DriverHost::Start(HostSettings settings)
 {
-    if (mSession && mSession->IsConnected()) {
+    if (mSession.IsConnected()) {
         throw RequestError("the host is started already: stop it first");
     }
-    const auto application = MakeRef<HostApplication>(Mailbox(), settings.version);
-    for (std::int32_t i = 0; i < settings.explorers; ++i) {
-        application->OpenExplorer(settings.folder);
-    }
-    if (mSession) {
-        mReplaced.push_back(mSession);
-    }
-    const auto session = MakeRef<HostSession>(application, Surroundings());
-    mSession = session;
-    session->Connect(Wrapped(Ref<Application>(application), mFaults));
-    if (settings.logon) {
-        application->RaiseMapiLogonComplete();
-    }
+    settings.seen = [faults = mFaults](const Ref<Application>& application) { return Wrapped(application, faults); };
+    mSession.Start(Surroundings(), settings);
 }
 
 void DriverHost::Stop()
 {
-    Session()->Disconnect();
-    mForms->CloseAll();
+    RequireStarted();
+    mSession.Stop();
 }
 
-Ref<HostSession> DriverHost::Session() const
+HostApplication& DriverHost::Windows() const
 {
-    if (!mSession) {
-        throw RequestError("no host is started: give the command \"start\" first");
-    }
-    return mSession;
-}
-
-void DriverHost::Exit()
-{
-    if (!mSession) {
-        return;
-    }
-    mSession->CloseWindows();
-    Idle();
-    if (mSession->IsConnected()) {
-        mSession->Windows().RaiseQuit();
-        Stop();
-    }
+    RequireStarted();
+    return mSession.Windows();
 }
 
 Ref<MAPIFolder> DriverHost::Folder(const std::string& path) const
@@ -77,15 +50,21 @@ Ref<StoreItem> DriverHost::Item(const std::string& entryId) const
     }
 }
 
-Ref<const Platform> DriverHost::Surroundings() const
+Platform DriverHost::Surroundings() const
 {
-    auto platform = mProfile.Surroundings();
-    platform.forms = mForms;
-    platform.messageBox = mMessageBox;
-    platform.eventPump = mEventPump;
-    platform.shell
+    auto surroundings = mSession.Surroundings();
+    surroundings.messageBox = mMessageBox;
+    surroundings.eventPump = mEventPump;
+    surroundings.shell
         = MakeRef<HostShell>([opened = mOpened](const std::string& document) { opened->push_back(document); });
-    return MakeRef<Platform>(Wrapped(platform, mFaults));
+    return Wrapped(surroundings, mFaults);
+}
+
+void DriverHost::RequireStarted() const
+{
+    if (!mSession.IsStarted()) {
+        throw RequestError("no host is started: give the command \"start\" first");
+    }
 }
 
 }

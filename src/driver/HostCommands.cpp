@@ -2,7 +2,6 @@
 
 #include "driver/RequestError.h"
 #include "host/system/HostClock.h"
-#include "session/OpenProfile.h"
 #include "session/ProductFacts.h"
 #include "session/TraceTail.h"
 #include "terminal/Arguments.h"
@@ -38,7 +37,7 @@ Json HostCommands::Start(const Request& request)
 
 Json HostCommands::Logon()
 {
-    mHost.Session()->Windows().RaiseMapiLogonComplete();
+    mHost.Windows().RaiseMapiLogonComplete();
     return Json::object();
 }
 
@@ -50,7 +49,7 @@ Json HostCommands::Stop()
 
 Json HostCommands::Quit()
 {
-    mHost.Session()->Windows().RaiseQuit();
+    mHost.Windows().RaiseQuit();
     return Json::object();
 }
 
@@ -88,9 +87,7 @@ Json HostCommands::Trace(const Request& request)
 {
     const auto since = static_cast<std::size_t>(request.NumberFrom(0, "since", 0));
     TraceTail trace(std::numeric_limits<std::size_t>::max());
-    for (const auto* name : { "WorkLogTrace2.out", "WorkLogTrace1.out" }) {
-        trace.Read(*mHost.Profile().Surroundings().fileSystem, DataPath(mHost.Profile(), name));
-    }
+    trace.Read(mHost.Profile());
     auto lines = trace.Lines();
     lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(std::min(since, lines.size())));
     return { { "lines", lines } };

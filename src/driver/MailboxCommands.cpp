@@ -210,8 +210,8 @@ Json MailboxCommands::SetView(const Request& request)
 Json MailboxCommands::Mails()
 {
     auto list = Json::array();
-    if (mHost.IsStarted()) {
-        const auto& windows = mHost.Session()->Windows();
+    if (mHost.Session().IsStarted()) {
+        const auto& windows = mHost.Windows();
         const auto shown = windows.Mails();
         for (const auto& mail : windows.MadeMails()) {
             auto attachments = Json::array();

@@ -39,7 +39,7 @@ private:
     Json Click(const Request& request);
 
     /// The host's windows; fails when no host was started.
-    HostApplication& Application() const { return mHost.Session()->Windows(); }
+    HostApplication& Application() const { return mHost.Windows(); }
     /// The window of a number; one that isn't open fails.
     Ref<HostExplorer> Explorer(const Request& request) const;
     /// The window of a number; one that isn't open fails.

@@ -1,8 +1,17 @@
 #include "session/TraceTail.h"
 
 #include "base/Failure.h"
+#include "session/OpenProfile.h"
+#include "session/ProductFacts.h"
 
 namespace tempodial {
+
+void TraceTail::Read(const Profile& profile)
+{
+    for (const auto* name : { OlderTraceFileName, TraceFileName }) {
+        Read(*profile.Surroundings().fileSystem, DataPath(profile, name));
+    }
+}
 
 void TraceTail::Read(FileSystemObject& fileSystem, const std::string& path)
 {

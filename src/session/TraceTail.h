@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/system/FileSystemObject.h"
+#include "session/Profile.h"
 
 #include <cstddef>
 #include <deque>
@@ -9,7 +10,7 @@
 
 namespace tempodial {
 
-/// The last lines of files that continue one another.
+/// The last lines of a trace.
 class TraceTail
 {
 public:
@@ -19,12 +20,15 @@ public:
     {
     }
 
-    /// Reads a further file, later than those before; an absent one adds nothing. Fails as opening and reading do.
-    void Read(FileSystemObject& fileSystem, const std::string& path);
+    /// Reads the trace of a profile, the older file before the newer one; an absent one adds nothing. Fails as opening
+    /// and reading do.
+    void Read(const Profile& profile);
     /// The lines kept, oldest first.
     std::vector<std::string> Lines() const { return { mLines.begin(), mLines.end() }; }
 
 private:
+    void Read(FileSystemObject& fileSystem, const std::string& path);
+
     std::size_t mLimit;
     std::deque<std::string> mLines;
 };

@@ -73,7 +73,7 @@ public:
     const std::vector<Json>& Pumped() const { return mPumped; }
     FaultPlan& Faults() { return mDriver->Host().Faults(); }
     /// The host's windows.
-    HostApplication& Application() { return mDriver->Host().Session()->Windows(); }
+    HostApplication& Application() { return mDriver->Host().Windows(); }
     const TempFolder& Profile() const { return mFolder; }
 
 private:

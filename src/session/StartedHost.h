@@ -2,6 +2,7 @@
 
 #include "base/Ref.h"
 #include "engine/core/Connect.h"
+#include "engine/core/TempodialMain.h"
 #include "host/windows/HostApplication.h"
 #include "platform/Platform.h"
 #include "platform/objectmodel/Application.h"
@@ -11,10 +12,10 @@
 namespace tempodial {
 
 /// A host that was started, with the add-in in it. When the add-in is disconnected, the host's windows stay.
-class HostSession
+class StartedHost
 {
 public:
-    HostSession(Ref<HostApplication> application, Ref<const Platform> platform)
+    StartedHost(Ref<HostApplication> application, Ref<const Platform> platform)
         : mApplication(std::move(application))
         , mConnect(std::move(platform))
     {
@@ -31,6 +32,8 @@ public:
     bool IsConnected() const { return mConnected; }
     /// The application with its windows.
     HostApplication& Windows() const { return *mApplication; }
+    /// The add-in's own members; fails with `Failure` while it isn't connected, and when it stays dormant.
+    TempodialMain& AddIn() const { return *mConnect.Main(); }
 
 private:
     Ref<HostApplication> mApplication;

@@ -1,24 +1,26 @@
-#include "driver/HostSession.h"
+#include "session/StartedHost.h"
+
+#include "session/ProductFacts.h"
 
 #include <algorithm>
 
 namespace tempodial {
 
-void HostSession::Connect(const Ref<Application>& application)
+void StartedHost::Connect(const Ref<Application>& application)
 {
     mConnected = true;
-    mConnect.OnConnection(application, "Tempodial.Connect");
+    mConnect.OnConnection(application, ConnectProgId);
     mConnect.OnStartupComplete();
 }
 
-void HostSession::Disconnect()
+void StartedHost::Disconnect()
 {
     mConnected = false;
     mConnect.OnBeginShutdown();
     mConnect.OnDisconnection();
 }
 
-void HostSession::CloseWindows()
+void StartedHost::CloseWindows()
 {
     // Copies, since a window that closes takes itself out.
     auto inspectors = mApplication->OpenInspectors();

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/Ref.h"
+#include "host/windows/HostApplication.h"
+#include "platform/objectmodel/Application.h"
+#include "platform/objectmodel/MAPIFolder.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace tempodial {
+
+/// How a host is started: what a person finds there, and what the add-in sees of it.
+struct HostSettings
+{
+    std::int32_t explorers = 1;
+    /// The folder that they show, nothing for the inbox.
+    Ref<MAPIFolder> folder = nullptr;
+    std::string version = HostApplication::DefaultVersion;
+    /// True to tell of the mail logon once the add-in is connected.
+    bool logon = true;
+    /// Makes what the add-in gets in the place of the application, nothing for the application itself.
+    std::function<Ref<Application>(const Ref<Application>& application)> seen = nullptr;
+};
+
+}

@@ -1,0 +1,75 @@
+#include "session/Session.h"
+
+#include "session/OpenProfile.h"
+
+#include <utility>
+
+namespace tempodial {
+
+Session::Session(const ProfileOptions& options)
+    : mProfile(OpenProfile(options))
+{
+}
+
+Platform Session::Surroundings() const
+{
+    auto surroundings = mProfile.Surroundings();
+    surroundings.forms = mForms;
+    return surroundings;
+}
+
+void Session::Start(Platform surroundings, const HostSettings& settings)
+{
+    const auto application = MakeRef<HostApplication>(Mailbox(), settings.version);
+    const auto folder
+        = settings.folder ? settings.folder : Mailbox()->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox);
+    for (std::int32_t i = 0; i < settings.explorers; ++i) {
+        application->OpenExplorer(folder);
+    }
+    if (mHost) {
+        mReplaced.push_back(mHost);
+    }
+    const auto host = MakeRef<StartedHost>(application, MakeRef<Platform>(std::move(surroundings)));
+    mHost = host;
+    host->Connect(settings.seen ? settings.seen(application) : application);
+    if (settings.logon) {
+        application->RaiseMapiLogonComplete();
+    }
+    Idle();
+}
+
+void Session::Stop()
+{
+    mHost->Disconnect();
+    mForms->CloseAll();
+}
+
+void Session::Exit()
+{
+    if (!mHost) {
+        return;
+    }
+    mHost->CloseWindows();
+    Idle();
+    if (mHost->IsConnected()) {
+        mHost->Windows().RaiseQuit();
+        Stop();
+    }
+}
+
+void Session::End()
+{
+    if (IsConnected()) {
+        Idle();
+        Stop();
+        mHost = nullptr;
+    }
+}
+
+Ref<HostMail> Session::ShownMail() const
+{
+    const auto mails = Windows().Mails();
+    return mails.empty() ? nullptr : mails.back();
+}
+
+}
