@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "cli/DemoActivities.h"
+#include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ public:
 
     DemoFile File(const std::vector<Session>& sessions)
     {
-        DemoFile file { "tracker_granules" + mDay.DayKey() + ".out", { "Tempodial demo tracker, " + IsoDay(mDay) } };
+        DemoFile file { TrackerFileName(mDay.DayKey()), { "Tempodial demo tracker, " + IsoDay(mDay) } };
         // The day begins with another kind of application each time, so that all of them occur.
         const auto* activity = &AnyOfKind(static_cast<std::size_t>(mDayNumber) % DemoKinds);
         for (std::size_t i = 0; i < sessions.size(); ++i) {
