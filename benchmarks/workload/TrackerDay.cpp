@@ -1,5 +1,7 @@
 #include "workload/TrackerDay.h"
 
+#include "slots/SlotLine.h"
+
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -24,10 +26,6 @@ TrackerDay::TrackerDay(std::uint32_t seed)
 
 const std::string& TrackerDay::NextLine()
 {
-    constexpr std::string_view ownerBegin = "<OwnedWindowText>";
-    constexpr std::string_view ownerEnd = "</OwnedWindowText>";
-    constexpr std::string_view end = "</slot>";
-
     mKind = NextKind();
     switch (mKind) {
     case Kind::New:
@@ -44,21 +42,22 @@ const std::string& TrackerDay::NextLine()
         break;
     }
     const auto& activity = mKind == Kind::Detail ? mDetail : mActivity;
-    mLine = "<slot>";
-    Append("StartTime", std::to_string(mStart));
-    Append("EndTime", std::to_string(mEnd));
-    if (mKind != Kind::New) {
-        Append(mKind == Kind::Detail ? "Detail" : "Continuation", "1");
+    SlotLine line(mStart, mEnd);
+    if (mKind == Kind::Continuation) {
+        line.Continuation();
+    } else if (mKind == Kind::Detail) {
+        line.Detail();
     }
-    Append("AppType", std::to_string(activity.application));
+    line.Application(activity.application);
     for (const auto& [name, text] : activity.values) {
-        Append(name, text);
+        line.Node(name, text);
     }
-    const auto taken = mLine.size() + ownerBegin.size() + ownerEnd.size() + end.size();
+    const std::string owner = "OwnedWindowText";
+    const auto taken = SlotLine(line).Node(owner, "").Text().size();
     if (taken > LineSize) {
         throw std::length_error("a slot line is longer than the lines of the benchmarks");
     }
-    mLine.append(ownerBegin).append(Filler.substr(0, LineSize - taken)).append(ownerEnd).append(end);
+    mLine = line.Node(owner, Filler.substr(0, LineSize - taken)).Text();
     return mLine;
 }
 
@@ -78,11 +77,6 @@ TrackerDay::Kind TrackerDay::NextKind()
         mPlace = 0;
     }
     return mTen[mPlace++];
-}
-
-void TrackerDay::Append(const std::string& name, const std::string& text)
-{
-    mLine.append("<").append(name).append(">").append(text).append("</").append(name).append(">");
 }
 
 }

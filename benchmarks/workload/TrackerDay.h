@@ -30,7 +30,6 @@ public:
 
 private:
     Kind NextKind();
-    void Append(const std::string& name, const std::string& text);
 
     Activities mActivities;
     Activity mActivity;

@@ -1,8 +1,8 @@
 #include "cli/DemoTracker.h"
 
-#include "base/Text.h"
 #include "cli/DemoActivities.h"
 #include "session/ProductFacts.h"
+#include "slots/SlotLine.h"
 #include "terminal/Arguments.h"
 
 #include <algorithm>
@@ -26,12 +26,6 @@ struct Session
 {
     int begin, end;
 };
-
-std::string Element(std::string_view name, std::string_view text)
-{
-    auto escaped = Replace(Replace(Replace(text, "&", "&amp;"), "<", "&lt;"), ">", "&gt;");
-    return "<" + std::string(name) + ">" + escaped + "</" + std::string(name) + ">";
-}
 
 /// One day: decides when work was done and writes down what.
 class DemoDay
@@ -158,22 +152,25 @@ private:
     {
         const auto begin = slot * SecondsOfSlot;
         const auto end = begin + SecondsOfSlot;
-        lines.push_back(Line(activity, begin, end, continues ? "Continuation" : ""));
+        auto line = Line(activity, begin, end);
+        lines.push_back(continues ? line.Continuation().Text() : line.Text());
         // A detail at the very end of a file would be taken again at each sync.
         if (!isLast && OneIn(6)) {
             const auto aside = begin + Between(1, 4) * SecondsOfSlot / 5;
-            lines.push_back(Line(Another(&activity), aside, end, "Detail"));
+            lines.push_back(Line(Another(&activity), aside, end).Detail().Text());
         }
     }
 
-    static std::string Line(const DemoActivity& activity, int begin, int end, std::string_view mark)
+    static SlotLine Line(const DemoActivity& activity, int begin, int end)
     {
-        std::string line = "<slot>" + Element("StartTime", std::to_string(begin))
-            + Element("EndTime", std::to_string(end)) + Element("AppType", std::to_string(activity.application));
+        SlotLine line(begin, end);
+        line.Application(activity.application);
         for (const auto& [name, text] : activity.nodes) {
-            line += name.empty() ? "" : Element(name, text);
+            if (!name.empty()) {
+                line.Node(name, text);
+            }
         }
-        return line + (mark.empty() ? "" : Element(mark, "1")) + "</slot>";
+        return line;
     }
 
     Date mDay;

@@ -14,9 +14,9 @@ protected:
     void SetUp() override
     {
         WriteTracker("20061010",
-            { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc", "<Project>Other</Project>"),
-                Word(33000, 33300, "c.doc") });
-        WriteTracker("20061009", { Word(32400, 32700, "a.doc") });
+            { WordSlot(32400, 32700, "a.doc"), WordLine(32700, 33000, "b.doc").Node("Project", "Other").Text(),
+                WordSlot(33000, 33300, "c.doc") });
+        WriteTracker("20061009", { WordSlot(32400, 32700, "a.doc") });
         ASSERT_EQ(Run({ "sync" }).status, 0);
     }
     std::vector<std::string> Projects() const

@@ -15,9 +15,9 @@ class ExportCommandTest : public ProgramFixture
 protected:
     void Import()
     {
-        WriteTracker(
-            "20061010", { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b, c.doc", "<Project>Plan</Project>") });
-        WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
+        WriteTracker("20061010",
+            { WordSlot(32400, 32700, "a.doc"), WordLine(32700, 33000, "b, c.doc").Node("Project", "Plan").Text() });
+        WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
         ASSERT_EQ(Run({ "sync" }).status, 0);
     }
     /// What a run that succeeds prints.
@@ -115,7 +115,7 @@ TEST_F(ExportCommandTest, Export_MailboxAsTheFile_IsRefusedAndStays)
 
 TEST_F(ExportCommandTest, Export_HostileCaptions_StayTexts)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "x&#10;END:VCALENDAR&#13;&#10;=1&#9;\",\"") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "x\nEND:VCALENDAR\r\n=1\t\",\"") });
     Run({ "sync" });
     const auto path = mFolder.Path("a.ics");
     Run({ "export", "--format", "ics", "--out", path });

@@ -39,18 +39,6 @@ std::vector<std::string> Captions()
         "{\"a\": [1" };
 }
 
-/// A text as a node of a slot holds it.
-std::string XmlText(const std::string& text)
-{
-    std::string xml;
-    for (const char character : text) {
-        constexpr std::string_view marks = "&<>\"'\t\r\n";
-        xml += marks.find(character) == std::string_view::npos ? std::string(1, character)
-                                                               : "&#" + std::to_string(int { character }) + ";";
-    }
-    return xml;
-}
-
 /// A text as a page shows it: blanks drawn together. An escape of the text's own is shown as what it stands for.
 std::string Shown(std::string text)
 {
@@ -118,10 +106,9 @@ protected:
         std::vector<std::string> slots;
         int begin = 30000;
         for (const auto& caption : captions) {
-            const auto text = XmlText(caption);
-            slots.push_back("<slot><StartTime>" + std::to_string(begin) + "</StartTime><EndTime>"
-                + std::to_string(begin + 300) + "</EndTime><AppName>" + text + "</AppName><WindowText>" + text
-                + "</WindowText><Project>" + text + "</Project></slot>");
+            SlotLine slot(begin, begin + 300);
+            slot.Node("AppName", caption).Node("WindowText", caption).Node("Project", caption);
+            slots.push_back(slot.Text());
             begin += 300;
         }
         WriteTracker("20061010", slots);

@@ -12,10 +12,10 @@ class ListCommandTest : public ProgramFixture
 protected:
     void Import()
     {
-        WriteTracker(
-            "20061010", { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc", "<Project>Plan</Project>") });
-        WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
-        WriteTracker("20061007", { Word(32400, 32700, "s\xc3\xbc\xc3\x9f.doc") });
+        WriteTracker("20061010",
+            { WordSlot(32400, 32700, "a.doc"), WordLine(32700, 33000, "b.doc").Node("Project", "Plan").Text() });
+        WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
+        WriteTracker("20061007", { WordSlot(32400, 32700, "s\xc3\xbc\xc3\x9f.doc") });
         ASSERT_EQ(Run({ "sync" }).status, 0);
     }
 };
@@ -69,8 +69,8 @@ TEST_F(ListCommandTest, List_Project_IsExact)
 TEST_F(ListCommandTest, List_Item_HasItsFields)
 {
     WriteTracker("20061010",
-        { Word(36000, 36300, "plan.doc", "<Project>Plan</Project>"),
-            Word(36300, 36600, "plan.doc", "<Continuation>1</Continuation><Project>Plan</Project>") });
+        { WordLine(36000, 36300, "plan.doc").Node("Project", "Plan").Text(),
+            WordLine(36300, 36600, "plan.doc").Continuation().Node("Project", "Plan").Text() });
     Run({ "sync" });
     auto item = Json({ "list" }).at(0);
     EXPECT_GE(item.at("entryId").get<std::string>().size(), 1U);
@@ -98,7 +98,7 @@ TEST_F(ListCommandTest, List_ForPeople_IsATable)
 
 TEST_F(ListCommandTest, List_CaptionWithControlCharacters_IsHarmlessForPeopleAndWholeInJson)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a&#9;\xe2\x80\xae.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a\t\xe2\x80\xae.doc") });
     Run({ "sync" });
     EXPECT_THAT(Run({ "list" }).out, HasSubstr("Microsoft Word, \"a .doc\"\n"));
     EXPECT_THAT(Subjects(Json({ "list" })), ElementsAre("Microsoft Word, \"a\t\xe2\x80\xae.doc\""));

@@ -31,8 +31,8 @@ protected:
 
 TEST_F(ProblemReportCommandTest, ProblemReport_Today_TakesTraceAndTrackerFile)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
-    WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
+    WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
     const auto report = Json(Report());
     EXPECT_EQ(report.at("subject"), "Tempodial Problem Report: Tuesday, October 10, 2006 5:00:00 PM");
     EXPECT_THAT(report.at("body").get<std::string>(),
@@ -44,7 +44,7 @@ TEST_F(ProblemReportCommandTest, ProblemReport_Today_TakesTraceAndTrackerFile)
 
 TEST_F(ProblemReportCommandTest, ProblemReport_Mail_IsReadBackWithoutDefects)
 {
-    WriteTracker("20061009", { Word(32400, 32700, "s\xfc\xdf.doc") });
+    WriteTracker("20061009", { WordSlot(32400, 32700, "s\xfc\xdf.doc") });
     EXPECT_EQ(Run(Report({ "--day", "yesterday" })).out, "Written: " + mMail + "\n");
     const auto lines = Split(ReadBack("host/system/read_mail.py", mMail), "\n");
     EXPECT_THAT(lines, Contains("to: support@tempodial.example"));
@@ -57,7 +57,7 @@ TEST_F(ProblemReportCommandTest, ProblemReport_Mail_IsReadBackWithoutDefects)
 
 TEST_F(ProblemReportCommandTest, ProblemReport_DayWithoutTrackerFile_HasTheTraceAlone)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
     const auto report = Json(Report({ "--day", "2006-10-08" }));
     EXPECT_THAT(report.at("attachments").get<Arguments>(), ElementsAre("WorkLogTrace1.out"));
     EXPECT_THAT(report.at("body").get<std::string>(), StartsWith("Day: Sunday, October 8, 2006\r\n"));
@@ -81,7 +81,7 @@ TEST_F(ProblemReportCommandTest, ProblemReport_FileThatCantBeRead_IsNamedAndLeft
     if (::geteuid() == 0) {
         GTEST_SKIP() << "nothing is unreadable for root";
     }
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
     std::filesystem::permissions(DataPath("tracker_granules20061010.out"), std::filesystem::perms::none);
     const auto result = Run(Report());
     EXPECT_EQ(result.status, 1);

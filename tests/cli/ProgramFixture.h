@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Program.h"
+#include "support/SlotLines.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -56,19 +57,10 @@ protected:
         std::filesystem::create_directories(mProfile + "/Tempodial");
         std::ofstream(DataPath(name), std::ios::binary) << content;
     }
-    /// Writes a day's tracker file of slots, each given as its begin, its end and its nodes.
+    /// Writes a day's tracker file of slots.
     void WriteTracker(const std::string& dayKey, const std::vector<std::string>& slots) const
     {
-        std::string text = "tracker\r\n";
-        for (const auto& slot : slots) {
-            text += slot + "\r\n";
-        }
-        WriteData("tracker_granules" + dayKey + ".out", text);
-    }
-    static std::string Word(int begin, int end, const std::string& document, const std::string& nodes = "")
-    {
-        return "<slot><StartTime>" + std::to_string(begin) + "</StartTime><EndTime>" + std::to_string(end)
-            + "</EndTime><AppType>2</AppType><WordDocName>" + document + "</WordDocName>" + nodes + "</slot>";
+        WriteData("tracker_granules" + dayKey + ".out", TrackerText(slots));
     }
     std::vector<std::string> Subjects(const nlohmann::json& items) const
     {

@@ -20,9 +20,9 @@ protected:
     void Import()
     {
         WriteTracker("20061010",
-            { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc", "<Project>Plan</Project>"),
-                Word(68400, 68700, "late.doc") });
-        WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
+            { WordSlot(32400, 32700, "a.doc"), WordLine(32700, 33000, "b.doc").Node("Project", "Plan").Text(),
+                WordSlot(68400, 68700, "late.doc") });
+        WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
         ASSERT_EQ(Run({ "sync" }).status, 0);
     }
     std::string Out(const Arguments& arguments) const
@@ -166,8 +166,9 @@ TEST_F(ReportCommandTest, Report_Demo_AgreesWithItselfAndWithTheList)
 TEST_F(ReportCommandTest, Report_HostileCaptions_StayTexts)
 {
     WriteTracker("20061010",
-        { Word(32400, 32700, "&lt;script&gt;alert(1)&lt;/script&gt;#DETAILS#&lt;img src=x onerror=alert(1)&gt;.doc",
-            "<Project>&lt;u&gt;\"P\"</Project>") });
+        { WordLine(32400, 32700, "<script>alert(1)</script>#DETAILS#<img src=x onerror=alert(1)>.doc")
+                .Node("Project", "<u>\"P\"")
+                .Text() });
     ASSERT_EQ(Run({ "sync" }).status, 0);
     for (const auto* by : { "project", "application", "description", "date" }) {
         const auto report = Json({ "report", "--by", by });
@@ -203,8 +204,8 @@ TEST_F(ReportCommandTest, Report_AnyTime_LeavesNothingBehind)
 {
     Import();
     WriteTracker("20061010",
-        { Word(32400, 32700, "a.doc"), Word(32700, 33000, "b.doc"), Word(68400, 68700, "late.doc"),
-            Word(68700, 69000, "new.doc") });
+        { WordSlot(32400, 32700, "a.doc"), WordSlot(32700, 33000, "b.doc"), WordSlot(68400, 68700, "late.doc"),
+            WordSlot(68700, 69000, "new.doc") });
     const auto list = Json({ "list", "--from", "yesterday" });
     EXPECT_THAT(Json({ "report" }).at("body").get<std::string>(), Not(HasSubstr("new.doc")));
     EXPECT_EQ(Json({ "list", "--from", "yesterday" }), list);
@@ -251,7 +252,7 @@ TEST_F(ReportCommandTest, Report_ControlC_WritesNothing)
 {
     std::vector<std::string> slots;
     for (int i = 1; i <= 6000; ++i) {
-        slots.push_back(Word(i * 10, i * 10 + 10, std::to_string(i) + ".doc"));
+        slots.push_back(WordSlot(i * 10, i * 10 + 10, std::to_string(i) + ".doc"));
     }
     WriteTracker("20061010", slots);
     Json({ "sync" });

@@ -27,9 +27,9 @@ TEST_F(SyncCommandTest, Sync_NewProfile_CountsNothing)
 TEST_F(SyncCommandTest, Sync_LinesOfEachKind_AreCounted)
 {
     WriteTracker("20061010",
-        { Word(32400, 32700, "a.doc"), Word(32700, 33000, "a.doc", "<Continuation>1</Continuation>"),
-            Word(32800, 33000, "b.doc", "<Detail>1</Detail>"), Word(33000, 33300, "c.doc") });
-    WriteTracker("20061009", { Word(32400, 32700, "y.doc") });
+        { WordSlot(32400, 32700, "a.doc"), WordLine(32700, 33000, "a.doc").Continuation().Text(),
+            WordLine(32800, 33000, "b.doc").Detail().Text(), WordSlot(33000, 33300, "c.doc") });
+    WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
     EXPECT_EQ(Json({ "sync" }), Counts(3, 1, 1));
     EXPECT_TRUE(std::filesystem::exists(DataPath("tracker_granules(done)20061009.out")));
     EXPECT_TRUE(std::filesystem::exists(DataPath("tracker_granules20061010.out")));
@@ -38,7 +38,7 @@ TEST_F(SyncCommandTest, Sync_LinesOfEachKind_AreCounted)
 
 TEST_F(SyncCommandTest, Sync_NoTerminal_ShowsNoProgress)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
     const auto result = Run({ "sync" });
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.error, "");
@@ -46,7 +46,7 @@ TEST_F(SyncCommandTest, Sync_NoTerminal_ShowsNoProgress)
 
 TEST_F(SyncCommandTest, Sync_FileThatCantBeRead_IsNamedAndTheOthersAreImported)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
     std::filesystem::create_directories(DataPath("tracker_granules20061009.out"));
     const auto result = Run({ "sync", "--json" });
     EXPECT_EQ(result.status, 1);
@@ -57,7 +57,7 @@ TEST_F(SyncCommandTest, Sync_FileThatCantBeRead_IsNamedAndTheOthersAreImported)
 
 TEST_F(SyncCommandTest, Sync_HistoryThatCantBeWritten_IsNamed)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
     std::filesystem::create_directories(DataPath("TempodialHistory.out"));
     const auto result = Run({ "sync", "--quiet" });
     EXPECT_EQ(result.status, 1);
@@ -67,7 +67,7 @@ TEST_F(SyncCommandTest, Sync_HistoryThatCantBeWritten_IsNamed)
 
 TEST_F(SyncCommandTest, Sync_NoForm_IsToldAndTheNextSyncImports)
 {
-    WriteTracker("20061010", { Word(32400, 32700, "a.doc") });
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
     ASSERT_EQ(Run({ "registry", "set", "HKLM", "", "Install Directory", "/nowhere" }).status, 0);
     const auto result = Run({ "sync" });
     EXPECT_EQ(result.status, 1);

@@ -19,7 +19,7 @@ protected:
     {
         std::vector<std::string> slots;
         for (int i = 1; i <= lines; ++i) {
-            slots.push_back(Word(i * 10, i * 10 + 10, std::to_string(i) + ".doc"));
+            slots.push_back(WordSlot(i * 10, i * 10 + 10, std::to_string(i) + ".doc"));
         }
         WriteTracker(dayKey, slots);
     }

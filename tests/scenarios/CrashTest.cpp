@@ -2,6 +2,7 @@
 #include "support/DurableFiles.h"
 #include "support/LongTests.h"
 #include "support/Program.h"
+#include "support/SlotLines.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -23,48 +24,37 @@ namespace fs = std::filesystem;
 
 constexpr auto Now = "2006-10-10T17:00:00";
 
-std::string Slot(int start, int end, const std::string& nodes)
-{
-    return "<slot><StartTime>" + std::to_string(start) + "</StartTime><EndTime>" + std::to_string(end) + "</EndTime>"
-        + nodes + "</slot>\r\n";
-}
-
-std::string Word(const std::string& document)
-{
-    return "<AppType>2</AppType><WordDocName>" + document + "</WordDocName>";
-}
-
 /// A day of slots with everything that may stand in a file: continuations, details at a slot's end, end times that
 /// are equal or fall back, lines that aren't well-formed, a slot without times.
 std::string MixedDay(const std::string& prefix)
 {
-    std::string text = "tracker 1\r\n";
+    std::vector<std::string> lines;
     int time = 32400;
     for (int i = 0; i < 12; ++i) {
         const auto name = prefix + std::to_string(i) + ".doc";
-        text += Slot(time, time + 300, Word(name));
-        text += Slot(time + 300, time + 600, Word(name) + "<Continuation>1</Continuation>");
-        text += Slot(time + 400, time + 600, Word("aside " + name) + "<Detail>1</Detail>");
-        text += Slot(time + 450, time + 600, Word("more " + name) + "<Detail>1</Detail>");
+        lines.push_back(WordSlot(time, time + 300, name));
+        lines.push_back(WordLine(time + 300, time + 600, name).Continuation().Text());
+        lines.push_back(WordLine(time + 400, time + 600, "aside " + name).Detail().Text());
+        lines.push_back(WordLine(time + 450, time + 600, "more " + name).Detail().Text());
         time += 600;
     }
-    text += "<slot><half written\r\n\r\n";
-    text += Slot(time, time + 300, Word(prefix + "first of two"));
-    text += Slot(time, time + 300, Word(prefix + "second of two"));
-    text += Slot(time - 600, time - 300, Word(prefix + "out of order"));
-    text += "<slot><AppType>8</AppType><WindowText>a.txt - Notepad</WindowText></slot>\r\n";
-    text += Slot(time + 300, time + 600, Word(prefix + "behind") + "<Project>Crash</Project>");
-    return text;
+    lines.insert(lines.end(),
+        { "<slot><half written", "", WordSlot(time, time + 300, prefix + "first of two"),
+            WordSlot(time, time + 300, prefix + "second of two"),
+            WordSlot(time - 600, time - 300, prefix + "out of order"),
+            "<slot><AppType>8</AppType><WindowText>a.txt - Notepad</WindowText></slot>",
+            WordLine(time + 300, time + 600, prefix + "behind").Node("Project", "Crash").Text() });
+    return TrackerText(lines);
 }
 
 /// A day with more lines than are kept from one commit to the next.
 std::string LongDay()
 {
-    std::string text = "tracker 1\r\n";
+    std::vector<std::string> lines;
     for (int i = 0; i < 1100; ++i) {
-        text += Slot(i * 60, i * 60 + 60, Word("long " + std::to_string(i)));
+        lines.push_back(WordSlot(i * 60, i * 60 + 60, "long " + std::to_string(i)));
     }
-    return text;
+    return TrackerText(lines);
 }
 
 struct DataSet

@@ -1,5 +1,7 @@
 #include "scenarios/DrivenPerson.h"
 
+#include "support/SlotLines.h"
+
 #include <filesystem>
 #include <fstream>
 
@@ -7,13 +9,11 @@ namespace tempodial {
 
 namespace {
 
-/// A slot of five minutes in which a document was open in the word processor, with further nodes.
-std::string Slot(int minute, const std::string& document, const std::string& more = "")
+/// A slot of five minutes in which a document was open in the word processor.
+SlotLine Slot(int minute, const std::string& document)
 {
-    constexpr int Seconds = 60;
-    return "<slot><StartTime>" + std::to_string(minute * Seconds) + "</StartTime><EndTime>"
-        + std::to_string((minute + 5) * Seconds) + "</EndTime><AppType>2</AppType><WordDocName>" + document
-        + "</WordDocName>" + more + "</slot>\r\n";
+    constexpr int seconds = 60;
+    return WordLine(minute * seconds, (minute + 5) * seconds, document);
 }
 
 }
@@ -63,14 +63,13 @@ void DrivenPerson::Leave()
 
 void DrivenPerson::WriteTracker() const
 {
-    std::filesystem::create_directories(mFolder.Path("Tempodial"));
     const auto write = [this](const std::string& day, int minute, const std::vector<std::string>& documents) {
-        std::ofstream file(mFolder.Path("Tempodial/tracker_granules" + day + ".out"), std::ios::binary);
-        file << "tracker\r\n";
+        std::vector<std::string> lines;
         for (const auto& document : documents) {
-            file << Slot(minute, document);
+            lines.push_back(Slot(minute, document).Text());
             minute += 5;
         }
+        WriteDay(day, lines);
     };
     write("20061009", 9 * 60, { "budget", "letter", "budget", "letter", "budget", "letter", "budget", "letter" });
     write("20061010", 7 * 60,
@@ -78,13 +77,17 @@ void DrivenPerson::WriteTracker() const
             "budget", "letter", "budget", "minutes", "budget", "letter" });
 }
 
-void DrivenPerson::WriteSlots() const
+void DrivenPerson::WriteDay(const std::string& dayKey, const std::vector<std::string>& slots) const
 {
     std::filesystem::create_directories(mFolder.Path("Tempodial"));
-    std::ofstream file(mFolder.Path("Tempodial/tracker_granules20061010.out"), std::ios::binary);
-    file << "tracker\r\n"
-         << Slot(420, "budget") << Slot(425, "budget", "<Continuation>1</Continuation>")
-         << Slot(425, "aside", "<Detail>1</Detail>") << Slot(430, "letter");
+    std::ofstream(mFolder.Path("Tempodial/tracker_granules" + dayKey + ".out"), std::ios::binary) << TrackerText(slots);
+}
+
+void DrivenPerson::WriteSlots() const
+{
+    WriteDay("20061010",
+        { Slot(420, "budget").Text(), Slot(425, "budget").Continuation().Text(), Slot(425, "aside").Detail().Text(),
+            Slot(430, "letter").Text() });
 }
 
 void DrivenPerson::Start(int explorers)

@@ -32,6 +32,8 @@ public:
 
     /// Writes a tracker file for yesterday and one for today: budget, letter and minutes, in slots of five minutes.
     void WriteTracker() const;
+    /// Writes a day's tracker file of slots.
+    void WriteDay(const std::string& dayKey, const std::vector<std::string>& slots) const;
     /// Writes a tracker file for today with a few slots: budget with a continuation and a detail, and letter.
     void WriteSlots() const;
     /// Starts the host, and lets the time pass in which nothing is imported unless asked for.

@@ -89,7 +89,7 @@ TEST_F(FileTroubleTest, Sync_FileGrowsWhileItIsRead_TakesEachLineOnce)
     DisturbEverywhere(
         [&] {
             std::ofstream(DataPath(Live), std::ios::binary | std::ios::app)
-                << Word(60000, 60300, "added.doc") << "\r\n<slot><StartTime>60300</StartTime>";
+                << WordSlot(60000, 60300, "added.doc") << "\r\n<slot><StartTime>60300</StartTime>";
         },
         [&](const ProgramResult&) {
             // The tracker ends the line that it had half written.
@@ -262,7 +262,7 @@ TEST_F(FileTroubleTest, EachCommand_MailboxCutInHalf_IsToldAndAGoodCopyGoesOn)
 
 TEST_F(FileTroubleTest, Sync_LineOfTenMegabytes_IsPassedOver)
 {
-    for (const auto& line : { std::string(10 << 20, 'x'), Word(40000, 40300, std::string(10 << 20, 'y')),
+    for (const auto& line : { std::string(10 << 20, 'x'), WordSlot(40000, 40300, std::string(10 << 20, 'y')),
              std::string(10 << 20, '<'), std::string(10 << 20, '\0') }) {
         fs::remove_all(mProfile);
         auto slots = SlotsOf("today", 12);

@@ -1,4 +1,5 @@
 #include "scenarios/Scripts.h"
+#include "support/SlotLines.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -63,9 +64,7 @@ TEST_F(MorningTest, NextMorning_Rule_FindsItsActivitiesByItself)
     Morning(mPerson);
     mPerson.Do({ { "do", "stop" } });
     mPerson.Do({ { "do", "clock" }, { "now", "2006-10-11T09:00:00" } });
-    const std::string slot = "<slot><StartTime>28800</StartTime><EndTime>29100</EndTime><AppType>2</AppType>"
-                             "<WordDocName>budget for all</WordDocName></slot>\r\n";
-    mPerson.Profile().Write("Tempodial/tracker_granules20061011.out", "tracker\r\n" + slot);
+    mPerson.WriteDay("20061011", { WordSlot(28800, 29100, "budget for all") });
     mPerson.Start();
     mPerson.Refresh(1);
     const auto items = mPerson.ItemsOf("budget for all");

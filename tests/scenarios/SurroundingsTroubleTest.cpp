@@ -60,10 +60,11 @@ TEST_F(SurroundingsTroubleTest, Sync_FirstAtAnEarlierDay_TakesTheLaterOneWhenItC
 TEST_F(SurroundingsTroubleTest, Sync_AcrossTheChangesOfDaylightSaving_TakesEachLineOnce)
 {
     // In the night of spring the hour from 2 is missing, in that of autumn it is there twice.
-    const std::vector<std::string> spring { Word(6600, 6900, "a"), Word(6900, 7200, "b"), Word(10800, 11100, "c"),
-        Word(11100, 11400, "d") };
-    const std::vector<std::string> autumn { Word(10200, 10500, "a"), Word(10500, 10800, "b"), Word(7200, 7500, "c"),
-        Word(10500, 10800, "d"), Word(10800, 11100, "e"), Word(11100, 11400, "f") };
+    const std::vector<std::string> spring { WordSlot(6600, 6900, "a"), WordSlot(6900, 7200, "b"),
+        WordSlot(10800, 11100, "c"), WordSlot(11100, 11400, "d") };
+    const std::vector<std::string> autumn { WordSlot(10200, 10500, "a"), WordSlot(10500, 10800, "b"),
+        WordSlot(7200, 7500, "c"), WordSlot(10500, 10800, "d"), WordSlot(10800, 11100, "e"),
+        WordSlot(11100, 11400, "f") };
     for (const auto* zone : { "TZ=Europe/Berlin", "TZ=America/New_York", "TZ=UTC" }) {
         for (const auto& [day, key, nextDay, slots] :
             std::vector<std::tuple<std::string, std::string, std::string, std::vector<std::string>>> {

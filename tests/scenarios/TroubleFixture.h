@@ -35,9 +35,9 @@ protected:
         for (int i = 0; i < count; ++i) {
             const int begin = 32400 + i * 600;
             const auto document = day + " " + std::to_string(i) + ".doc";
-            slots.push_back(Word(begin, begin + 300, document));
-            slots.push_back(Word(begin + 300, begin + 600, document, "<Continuation>1</Continuation>"));
-            slots.push_back(Word(begin + 400, begin + 600, "aside of " + document, "<Detail>1</Detail>"));
+            slots.push_back(WordSlot(begin, begin + 300, document));
+            slots.push_back(WordLine(begin + 300, begin + 600, document).Continuation().Text());
+            slots.push_back(WordLine(begin + 400, begin + 600, "aside of " + document).Detail().Text());
         }
         return slots;
     }

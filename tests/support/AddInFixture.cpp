@@ -59,11 +59,7 @@ void TestAddIn::Disconnect()
 
 void TestAddIn::WriteTracker(const std::string& dayKey, const std::vector<std::string>& lines) const
 {
-    std::string text = "tracker\r\n";
-    for (const auto& line : lines) {
-        text += line + "\r\n";
-    }
-    WriteContent(DataPath("tracker_granules" + dayKey + ".out"), text);
+    WriteContent(DataPath("tracker_granules" + dayKey + ".out"), TrackerText(lines));
 }
 
 void TestAddIn::WriteHistory(const std::string& text) const
@@ -147,17 +143,6 @@ void TestAddIn::ClickCancel() const
 std::string TestAddIn::DataPath(const std::string& name) const
 {
     return mProfile + "/" + DataFolderName + "/" + name;
-}
-
-std::string Slot(std::int32_t start, std::int32_t end, const std::string& nodes)
-{
-    return "<slot><StartTime>" + std::to_string(start) + "</StartTime><EndTime>" + std::to_string(end) + "</EndTime>"
-        + nodes + "</slot>";
-}
-
-std::string WordSlot(std::int32_t start, std::int32_t end, const std::string& document, const std::string& nodes)
-{
-    return Slot(start, end, "<AppType>2</AppType><WordDocName>" + document + "</WordDocName>" + nodes);
 }
 
 }

@@ -3,6 +3,7 @@
 #include "base/Date.h"
 #include "engine/core/TempodialMain.h"
 #include "host/system/TomlRegistry.h"
+#include "support/SlotLines.h"
 #include "support/TempFolder.h"
 #include "support/TestHost.h"
 
@@ -57,11 +58,6 @@ private:
     std::string mProfile;
     std::size_t mTraceRead = 0;
 };
-
-/// A tracker line of a slot, in seconds after midnight, with further nodes as they are.
-std::string Slot(std::int32_t start, std::int32_t end, const std::string& nodes);
-/// A tracker line of a slot in which a document was open in the word processor.
-std::string WordSlot(std::int32_t start, std::int32_t end, const std::string& document, const std::string& nodes = "");
 
 /// The add-in, connected, with an empty trace.
 class AddInFixture : public testing::Test

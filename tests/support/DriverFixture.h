@@ -1,6 +1,7 @@
 #pragma once
 
 #include "driver/Driver.h"
+#include "support/SlotLines.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -46,18 +47,13 @@ protected:
     void WriteTracker(const std::string& dayKey, const std::vector<std::string>& slots) const
     {
         std::filesystem::create_directories(mFolder.Path("Tempodial"));
-        std::ofstream file(DataPath("tracker_granules" + dayKey + ".out"), std::ios::binary);
-        file << "tracker\r\n";
-        for (const auto& slot : slots) {
-            file << slot << "\r\n";
-        }
+        std::ofstream(DataPath("tracker_granules" + dayKey + ".out"), std::ios::binary) << TrackerText(slots);
     }
     /// A slot of five minutes from a time of the day on, in which a document was open in the word processor.
     static std::string Slot(int hour, int minute, const std::string& document)
     {
         const auto begin = (hour * 60 + minute) * 60;
-        return "<slot><StartTime>" + std::to_string(begin) + "</StartTime><EndTime>" + std::to_string(begin + 300)
-            + "</EndTime><AppType>2</AppType><WordDocName>" + document + "</WordDocName></slot>";
+        return WordSlot(begin, begin + 300, document);
     }
 
     TempFolder mFolder { TempFolder::InMemory() };

@@ -1,6 +1,7 @@
 #include "engine/core/CoreFixture.h"
 #include "engine/core/TempodialMain.h"
 #include "engine/foundation/TempodialStrings.h"
+#include "support/SlotLines.h"
 
 namespace tempodial {
 
@@ -132,12 +133,11 @@ TEST_F(TempodialMainFacadeTest, SwitchingToTasklog_HostDisconnectsInTheMidst_End
         Connect& mPumped;
     };
     mPlatform->eventPump = MakeRef<DisconnectingPump>(mConnect);
-    std::string lines = "first\r\n";
+    std::vector<std::string> lines;
     for (int end = 32700; end <= 36000; end += 300) {
-        lines += "<slot><StartTime>" + std::to_string(end - 300) + "</StartTime><EndTime>" + std::to_string(end)
-            + "</EndTime><AppType>8</AppType></slot>\r\n";
+        lines.push_back(SlotLine(end - 300, end).Application(8).Text());
     }
-    mFolder.Write("Tempodial/tracker_granules20061010.out", lines);
+    mFolder.Write("Tempodial/tracker_granules20061010.out", TrackerText(lines));
     mClock->Advance(60);
     Main().SwitchingToTasklog();
     EXPECT_FALSE(mConnect.Main());

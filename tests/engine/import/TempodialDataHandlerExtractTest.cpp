@@ -254,11 +254,7 @@ TEST_F(TempodialDataHandlerExtractTest, ExtractData_Project_OverridesAndShowsInT
 
 TEST_F(TempodialDataHandlerExtractTest, ExtractData_Duration_CountsMinuteBoundaries)
 {
-    const auto duration = [&](int start, int end) {
-        return ExtractLine("<slot><StartTime>" + std::to_string(start) + "</StartTime><EndTime>" + std::to_string(end)
-            + "</EndTime></slot>")
-            .duration;
-    };
+    const auto duration = [&](int start, int end) { return ExtractLine(SlotLine(start, end).Text()).duration; };
     EXPECT_EQ(duration(36000, 36300), 5);
     EXPECT_EQ(duration(36030, 36329), 5);
     EXPECT_EQ(duration(36059, 36061), 1);

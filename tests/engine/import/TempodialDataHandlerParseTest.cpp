@@ -16,8 +16,6 @@ using testing::Not;
 using testing::StartsWith;
 
 constexpr auto Today = "20061010";
-constexpr auto Continuation = "<Continuation>1</Continuation>";
-constexpr auto Detail = "<Detail>1</Detail>";
 
 }
 
@@ -170,12 +168,12 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_CountAndDetail_DecideWhatIsTaken
     const std::string noEnd = "<slot><StartTime>1</StartTime>";
     const Row rows[] = {
         { 4000, WordSlot(3900, 4000, "x"), false },
-        { 4000, WordSlot(3900, 4000, "x", Detail), true },
-        { 4000, WordSlot(3900, 3999, "x", Detail), false },
+        { 4000, WordLine(3900, 4000, "x").Detail().Text(), true },
+        { 4000, WordLine(3900, 3999, "x").Detail().Text(), false },
         { 4000, WordSlot(3900, 4001, "x"), true },
         { -1, WordSlot(0, 0, "x"), true },
         { -1, noEnd + "</slot>", true },
-        { 0, noEnd + Detail + "</slot>", true },
+        { 0, noEnd + "<Detail>1</Detail></slot>", true },
         { 0, noEnd + "</slot>", false },
         { 4000, "<slot><EndTime>x</EndTime></slot>", false },
     };
@@ -200,8 +198,8 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_NoEndTimeOnAFirstLoad_TakesTheCo
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_Continuations_StretchTheItem)
 {
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation),
-        WordSlot(33000, 33300, "c", Continuation), WordSlot(33300, 33600, "d", Continuation) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Continuation().Text(),
+        WordLine(33000, 33300, "c").Continuation().Text(), WordLine(33300, 33600, "d").Continuation().Text() });
     // The text of the last continuation stands in the place of the others.
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:00-09:20 Microsoft Word, \"d\""));
     EXPECT_THAT(Durations(), ElementsAre(20));
@@ -212,7 +210,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_Continuations_StretchTheItem)
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationWithoutAnItem_MakesOneOfOneSlot)
 {
-    Import({ WordSlot(36000, 36600, "a", Continuation) });
+    Import({ WordLine(36000, 36600, "a").Continuation().Text() });
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("10:05-10:10 Microsoft Word, \"a\""));
     const auto lines = mAddIn.TraceTexts();
     const auto from
@@ -233,7 +231,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationOfAnItemOfAnEarlierS
     mAddIn.Disconnect();
     mAddIn.Connect();
     mAddIn.Trace();
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Continuation().Text() });
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:00-09:10 Microsoft Word, \"b\""));
     EXPECT_THAT(mAddIn.TraceTexts(), Contains("found one"));
 }
@@ -241,7 +239,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationOfAnItemOfAnEarlierS
 TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationASecondOff_IsSearchedByTheMinute)
 {
     // Ends 10:05:00; expected 10:04:59, which is another minute.
-    Import({ WordSlot(36000, 36300, "a"), WordSlot(36300, 36599, "b", Continuation) });
+    Import({ WordSlot(36000, 36300, "a"), WordLine(36300, 36599, "b").Continuation().Text() });
     EXPECT_THAT(mAddIn.TraceTexts(),
         testing::AllOf(Contains("unmatched last item against: 10/10/2006 10:04:59 AM"), Contains("didn't find one")));
     EXPECT_EQ(mAddIn.Items().size(), 2);
@@ -249,7 +247,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationASecondOff_IsSearche
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationASecondOffInTheSameMinute_ExtendsTheItem)
 {
-    Import({ WordSlot(36000, 36300, "a"), WordSlot(36300, 36601, "b", Continuation) });
+    Import({ WordSlot(36000, 36300, "a"), WordLine(36300, 36601, "b").Continuation().Text() });
     EXPECT_THAT(mAddIn.TraceTexts(),
         testing::AllOf(Contains("unmatched last item against: 10/10/2006 10:05:01 AM"), Contains("found one")));
     ASSERT_EQ(mAddIn.Items().size(), 1);
@@ -260,7 +258,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationOfAnOpenItem_CountsA
 {
     Import({ WordSlot(32400, 32700, "a") });
     mAddIn.Items()[0]->Display();
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Continuation().Text() });
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:00-09:05 Microsoft Word, \"a\""));
     EXPECT_EQ(mAddIn.HistoryText(), "20061010_33000");
 }
@@ -273,7 +271,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_UpdateFails_MakesANewItem)
             refusing = mAddIn.Items()[0]->Subscribe({ .Write = [](bool& cancel) { cancel = true; } });
         }
     };
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Continuation().Text() });
     EXPECT_THAT(mAddIn.TraceTexts(), Contains("update failed with error: 1"));
     EXPECT_THAT(
         mAddIn.ItemTexts(), ElementsAre("09:00-09:05 Microsoft Word, \"a\"", "09:05-09:10 Microsoft Word, \"b\""));
@@ -284,17 +282,17 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_LastItemWasDeleted_IsNotWrittenA
 {
     Import({ WordSlot(32400, 32700, "a") });
     mAddIn.Items()[0]->Delete();
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", Continuation) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Continuation().Text() });
     EXPECT_THAT(mAddIn.TraceTexts(), Contains("unmatched last item against: 10/10/2006 9:05:00 AM"));
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:05-09:10 Microsoft Word, \"b\""));
 }
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_Details_GrowTheBody)
 {
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32450, 32700, "A", Detail) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32450, 32700, "A").Detail().Text() });
     EXPECT_EQ(mAddIn.Items()[0]->Body(), "Your activities include: \r\n\r\n\"A\"\r\n");
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32450, 32700, "A", Detail), WordSlot(32500, 32700, "B", Detail),
-        WordSlot(32550, 32700, "A", Detail) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32450, 32700, "A").Detail().Text(),
+        WordLine(32500, 32700, "B").Detail().Text(), WordLine(32550, 32700, "A").Detail().Text() });
     EXPECT_EQ(mAddIn.Items()[0]->Body(), "Your activities include: \r\n\r\n\"A\"\r\n\"B\"\r\n");
     EXPECT_EQ(mAddIn.Items().size(), 1);
     EXPECT_EQ(mAddIn.HistoryText(), "20061010_32700");
@@ -302,7 +300,8 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_Details_GrowTheBody)
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailTwice_IsListedOnceAndCalledTwice)
 {
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32450, 32700, "A", Detail), WordSlot(32500, 32700, "A", Detail) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32450, 32700, "A").Detail().Text(),
+        WordLine(32500, 32700, "A").Detail().Text() });
     EXPECT_EQ(mAddIn.Items()[0]->Body(), "Your activities include: \r\n\r\n\"A\"\r\n");
     const auto lines = mAddIn.TraceTexts();
     EXPECT_EQ(Count(lines, "add xtra info to"), 2);
@@ -312,8 +311,8 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailTwice_IsListedOnceAndCalle
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailsOfAnItemWithAUrl_AreGluedToIt)
 {
-    const auto detail = WordSlot(32450, 32700, "B", Detail);
-    std::vector<std::string> lines { Slot(32400, 32700, "<AppType>6</AppType><URL>http://u</URL>"), detail };
+    const auto detail = WordLine(32450, 32700, "B").Detail().Text();
+    std::vector<std::string> lines { SlotLine(32400, 32700).Application(6).Node("URL", "http://u").Text(), detail };
     Import(lines);
     EXPECT_EQ(mAddIn.Items()[0]->Body(), "Your activities include: \r\nhttp://u\"B\"\r\n");
     // The first repeat isn't recognised, the next ones are; the detail at the last count is taken again each time.
@@ -325,7 +324,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailsOfAnItemWithAUrl_AreGlued
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailOfAnItemFoundBySearch_PutsAnotherHeadingInFront)
 {
-    const auto lines = std::vector { WordSlot(32400, 32700, "a"), WordSlot(32450, 32700, "A", Detail) };
+    const auto lines = std::vector { WordSlot(32400, 32700, "a"), WordLine(32450, 32700, "A").Detail().Text() };
     Import(lines);
     mAddIn.Disconnect();
     mAddIn.Connect();
@@ -335,7 +334,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailOfAnItemFoundBySearch_Puts
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailAtTheLastCount_IsTakenAtEachSync)
 {
-    const auto lines = std::vector { WordSlot(32400, 32700, "a"), WordSlot(32450, 32700, "A", Detail) };
+    const auto lines = std::vector { WordSlot(32400, 32700, "a"), WordLine(32450, 32700, "A").Detail().Text() };
     Import(lines);
     mAddIn.Trace();
     Import(lines);
@@ -348,10 +347,10 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailAtTheLastCount_IsTakenAtEa
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailOfAnotherSlot_FindsItsItem)
 {
     Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b"), WordSlot(33000, 33300, "c"),
-        WordSlot(33000, 33300, "C", Detail) });
+        WordLine(33000, 33300, "C").Detail().Text() });
     mAddIn.Trace();
     // The end lies in the minute of the second item.
-    Import({ WordSlot(32400, 33300, "c"), WordSlot(33000, 33301, "late", Detail) });
+    Import({ WordSlot(32400, 33300, "c"), WordLine(33000, 33301, "late").Detail().Text() });
     EXPECT_EQ(mAddIn.Items()[2]->Body(),
         "Your activities include: \r\nYour activities include: \r\n\r\n\"C\"\r\n\"late\"\r\n");
     const auto lines = mAddIn.TraceTexts();
@@ -360,7 +359,7 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailOfAnotherSlot_FindsItsItem
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailWithoutAnItem_IsDroppedAndCounts)
 {
-    Import({ WordSlot(32400, 32700, "A", Detail) });
+    Import({ WordLine(32400, 32700, "A").Detail().Text() });
     EXPECT_THAT(mAddIn.Items(), IsEmpty());
     EXPECT_EQ(mAddIn.HistoryText(), "20061010_32700");
     const auto lines = mAddIn.TraceTexts();
@@ -370,14 +369,14 @@ TEST_F(TempodialDataHandlerParseTest, ParseLine_DetailWithoutAnItem_IsDroppedAnd
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_ContinuationAndDetail_IsAContinuation)
 {
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", std::string(Continuation) + Detail) });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Continuation().Detail().Text() });
     EXPECT_THAT(mAddIn.ItemTexts(), ElementsAre("09:00-09:10 Microsoft Word, \"b\""));
 }
 
 TEST_F(TempodialDataHandlerParseTest, ParseLine_MarkerThatReadsNone_IsNoMarker)
 {
-    Import({ WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b", "<Continuation>None</Continuation>"),
-        WordSlot(33000, 33300, "c", "<Continuation></Continuation>") });
+    Import({ WordSlot(32400, 32700, "a"), WordLine(32700, 33000, "b").Node("Continuation", "None").Text(),
+        WordLine(33000, 33300, "c").Node("Continuation", "").Text() });
     EXPECT_THAT(
         mAddIn.ItemTexts(), ElementsAre("09:00-09:05 Microsoft Word, \"a\"", "09:05-09:15 Microsoft Word, \"c\""));
 }

@@ -18,8 +18,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr auto Continuation = "<Continuation>1</Continuation>";
-constexpr auto Detail = "<Detail>1</Detail>";
 constexpr auto History = "TempodialHistory.out";
 
 /// Lines of a day with everything that may stand in a file: continuations, details, some of them at the last count,
@@ -28,16 +26,16 @@ std::vector<std::string> MixedDay(const std::string& name)
 {
     return {
         WordSlot(32400, 32700, name + " 1"),
-        WordSlot(32500, 32700, name + " aside", Detail),
-        WordSlot(32700, 33000, name + " 2", Continuation),
+        WordLine(32500, 32700, name + " aside").Detail().Text(),
+        WordLine(32700, 33000, name + " 2").Continuation().Text(),
         "<slot><half written",
-        WordSlot(32800, 33000, name + " more", Detail),
+        WordLine(32800, 33000, name + " more").Detail().Text(),
         WordSlot(33000, 33300, name + " first of two"),
         WordSlot(33000, 33300, name + " second of two"),
         WordSlot(32400, 32700, name + " falls back"),
         "<slot><AppType>2</AppType><WordDocName>no times</WordDocName></slot>",
-        Slot(33300, 33600, "<AppType>6</AppType><URL>http://" + name + "</URL>"),
-        WordSlot(33400, 33600, name + " last", Detail),
+        SlotLine(33300, 33600).Application(6).Node("URL", "http://" + name).Text(),
+        WordLine(33400, 33600, name + " last").Detail().Text(),
     };
 }
 
@@ -216,7 +214,7 @@ TEST_F(TempodialDataHandlerResumeTest, SyncData_TimePasses_CommitsBeforeANewActi
         }
     };
     mAddIn.WriteTracker("20061010",
-        { WordSlot(0, 300, "a"), WordSlot(300, 600, "b", Continuation), WordSlot(400, 600, "c", Detail),
+        { WordSlot(0, 300, "a"), WordLine(300, 600, "b").Continuation().Text(), WordLine(400, 600, "c").Detail().Text(),
             WordSlot(600, 900, "d"), WordSlot(900, 1200, "e") });
     Sync();
     EXPECT_THAT(mAddIn.journal->calls,

@@ -188,7 +188,7 @@ TEST_F(TempodialDataHandlerTest, SyncData_DetailAtTheLastCount_IsLoadedToo)
 {
     mAddIn.WriteHistory("20061010_04000");
     mAddIn.WriteTracker("20061010",
-        { WordSlot(3600, 3900, "a"), WordSlot(3900, 4000, "b", "<Detail>1</Detail>"), WordSlot(4000, 4300, "c") });
+        { WordSlot(3600, 3900, "a"), WordLine(3900, 4000, "b").Detail().Text(), WordSlot(4000, 4300, "c") });
     Sync();
     EXPECT_EQ(Count(mAddIn.TraceTexts(), "load line: "), 2);
     EXPECT_EQ(mAddIn.HistoryText(), "20061010_04300");

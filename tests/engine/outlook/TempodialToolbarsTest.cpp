@@ -5,6 +5,7 @@
 #include "host/windows/HostCommandBarPopup.h"
 #include "host/windows/HostCommandBars.h"
 #include "support/EngineFixture.h"
+#include "support/SlotLines.h"
 
 #include <algorithm>
 #include <memory>
@@ -444,13 +445,12 @@ TEST_F(TempodialToolbarsTest, Click_LastWindowClosesMeanwhile_EndsTheAddInQuietl
 {
     mMain->TempodialMain_Run();
     std::filesystem::create_directories(mFolder.Path("Tempodial"));
-    std::string lines = "tracker\r\n";
+    std::vector<std::string> lines;
     for (int slot = 0; slot < 4; ++slot) {
         const auto start = 32400 + slot * 300;
-        lines += "<slot><StartTime>" + std::to_string(start) + "</StartTime><EndTime>" + std::to_string(start + 300)
-            + "</EndTime><AppType>2</AppType><WordDocName>" + std::to_string(slot) + "</WordDocName></slot>\r\n";
+        lines.push_back(WordSlot(start, start + 300, std::to_string(slot)));
     }
-    mFolder.Write("Tempodial/tracker_granules20061010.out", lines);
+    mFolder.Write("Tempodial/tracker_granules20061010.out", TrackerText(lines));
     bool closed = false;
     mEventPump->hook = [&] {
         if (!closed) {
