@@ -2,6 +2,16 @@
 
 namespace tempodial {
 
+void Attempt::Say(std::string_view text) const
+{
+    (*this)([&] { Trace(text); });
+}
+
+void Attempt::Trace(std::string_view text) const
+{
+    mObject.Trace(text);
+}
+
 void Attempt::TraceFailure(const Failure& failure) const
 {
     const auto& text = failure.Description();

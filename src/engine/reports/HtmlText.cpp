@@ -107,10 +107,8 @@ std::string HtmlText::HTMLMogrify(std::string text)
         const auto length = Length(url);
         // The positions are those in the text as it has become so far.
         const auto position = characters + Length(before) + 1;
-        attempt([&] {
-            Trace("found url=" + std::string(url) + " at [" + std::to_string(position) + ","
-                + std::to_string(position + length) + ")");
-        });
+        attempt.Say("found url=" + std::string(url) + " at [" + std::to_string(position) + ","
+            + std::to_string(position + length) + ")");
         attempt([&] {
             linked.append(before).append(LinkBegin).append(url).append(LinkMiddle).append(url).append(LinkEnd);
         });

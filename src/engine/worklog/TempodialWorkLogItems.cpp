@@ -141,9 +141,9 @@ void TempodialWorkLog::ExtraCalendarItemInfo(const Ref<AppointmentItem>& item, c
 {
     const auto attempt = Failing("ExtraCalendarInfo error ", LineShape::TextBlankStep);
     const auto& strings = *mMain->mStrings;
-    attempt([&] {
-        Trace("add xtra info to: " + item->Subject() + "start " + mPlatform->formats->General(item->Start()) + " end "
-            + mPlatform->formats->General(item->End()));
+    attempt.Say([&] {
+        return "add xtra info to: " + item->Subject() + "start " + mPlatform->formats->General(item->Start()) + " end "
+            + mPlatform->formats->General(item->End());
     });
     mStage = "new detail";
     if (mMain->IsInspector(item)) {
@@ -246,9 +246,9 @@ bool TempodialWorkLog::ApplyProjectToItem(const std::string& project, const Ref<
 void TempodialWorkLog::CreateCalendarDuplicate(const Ref<AppointmentItem>& item, bool display, bool save)
 {
     const auto attempt = Failing("create dupe now error ", LineShape::TextBlankStep);
-    attempt([&] {
-        Trace("Create dupe now for: " + mPlatform->formats->General(item->Start()) + " to "
-            + mPlatform->formats->General(item->End()));
+    attempt.Say([&] {
+        return "Create dupe now for: " + mPlatform->formats->General(item->Start()) + " to "
+            + mPlatform->formats->General(item->End());
     });
     const auto subject = attempt.Get([&] { return item->Subject(); });
     const auto start = attempt.Get([&] { return item->Start(); });
