@@ -227,13 +227,18 @@ bool TempodialWorkLog::ApplyProjectToItem(const std::string& project, const Ref<
     const auto attempt = Failing("applyproject error ", LineShape::TextBlankStep);
     mStage = "set properties";
     const auto properties = attempt.Get([&] { return item->UserProperties(); });
-    const auto text
-        = [&](const char* name) { return attempt.Get([&] { return properties->Item(name)->Value().ToText(); }); };
+    bool isReadable = true;
+    const auto text = [&](const char* name) {
+        std::string value;
+        isReadable &= attempt([&] { value = properties->Item(name)->Value().ToText(); });
+        return value;
+    };
     const auto people = text("People");
     const auto type = text("Type");
     const auto description = text("Description");
     Trace("check if project matches");
-    if (!mMain->IsProject(project, CreateSubject("", type, description), people)) {
+    // An item that couldn't be read whole would be written with what is missing.
+    if (!mMain->IsProject(project, CreateSubject("", type, description), people) || !isReadable) {
         return false;
     }
     Trace("project matches");
