@@ -74,7 +74,6 @@ Ref<AppointmentItem> TempodialMain::CreateCalendarItem(const std::string& projec
 {
     const auto attempt = Failing("create item error ", LineShape::TextColonStep);
     attempt.Say("Create item");
-    mStage = "create item";
     return attempt.Get([&, worker = mWorkLog] {
         return worker->CreateCalendarItem(
             project, newDescription, newApplication, newContacts, newDuration, newStart, newEnd, body, display, true);
