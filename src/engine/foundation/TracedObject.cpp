@@ -22,6 +22,7 @@ void Attempt::TraceFailure(const Failure& failure) const
         line += text + ":" + step;
         break;
     case LineShape::TextBlankStep:
+    case LineShape::TextBlankStepFinished:
         line += text + " " + step;
         break;
     case LineShape::TextAmpersandStep:
@@ -43,6 +44,9 @@ void Attempt::TraceFailure(const Failure& failure) const
         return;
     }
     mObject.Trace(line);
+    if (mShape == LineShape::TextBlankStepFinished && text.find("Input past end") != std::string::npos) {
+        mObject.Trace("Finished file");
+    }
 }
 
 }

@@ -17,6 +17,8 @@ namespace tempodial {
 enum class LineShape {
     TextColonStep,
     TextBlankStep,
+    /// As `TextBlankStep`; behind the line of a read past the end of a file stands a second one.
+    TextBlankStepFinished,
     TextAmpersandStep,
     TextStep,
     TextOnly,

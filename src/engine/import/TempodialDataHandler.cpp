@@ -59,7 +59,7 @@ void TempodialDataHandler::Release()
 
 void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
 {
-    const auto attempt = Failing(SyncWords, LineShape::TextBlankStep);
+    const auto attempt = Failing(SyncWords, LineShape::TextBlankStepFinished);
     // A click while the progress form lets events in may end the add-in.
     const auto self = weak_from_this().lock();
     if (mSyncing) {
@@ -126,13 +126,7 @@ void TempodialDataHandler::ReadHistory(
         attempt.Say("no history");
         return;
     }
-    attempt([&] { history = HistoryText(stream->ReadAll()); },
-        [&](const Failure& failure) {
-            Trace(SyncWords + failure.Description() + " " + mStage);
-            if (failure.Description().find("Input past end") != std::string::npos) {
-                Trace("Finished file");
-            }
-        });
+    attempt([&] { history = HistoryText(stream->ReadAll()); });
     attempt.Say([&] { return "history: " + history.Text(); });
 }
 

@@ -58,6 +58,16 @@ TEST_F(TracedObjectTest, Attempt_StatementFails_TracesTheLineOfTheShape)
     }
 }
 
+TEST_F(TracedObjectTest, Attempt_FinishedShape_TellsOfTheEndOfAFileBehindItsLine)
+{
+    const auto attempt = mWorker.Failing("words ", LineShape::TextBlankStepFinished);
+    attempt([] { throw Failure(Error::InputPastEnd); });
+    attempt([] { Fail(); });
+    EXPECT_THAT(Traced(),
+        ElementsAre(
+            "Worker words Input past end of file step", "Worker Finished file", "Worker words File not found step"));
+}
+
 TEST_F(TracedObjectTest, Attempt_SilentStatementFails_TracesNothing)
 {
     EXPECT_FALSE(mWorker.Failing("words ", LineShape::Silent)([] { Fail(); }));
