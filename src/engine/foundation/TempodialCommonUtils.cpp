@@ -53,9 +53,11 @@ std::string TempodialCommonUtils::GetDataFolderName()
     return mDataFolderName;
 }
 
-Folder TempodialCommonUtils::GetDataFolder()
+Ref<const Folder> TempodialCommonUtils::GetDataFolder()
 {
-    return Failing("", LineShape::Silent).Get([&] { return mFileSystem->GetFolder(GetDataFolderName()); });
+    return Failing("", LineShape::Silent).Get([&] {
+        return Ref<const Folder>(MakeRef<Folder>(mFileSystem->GetFolder(GetDataFolderName())));
+    });
 }
 
 std::string TempodialCommonUtils::GetDataFilePath(const std::string& filename)

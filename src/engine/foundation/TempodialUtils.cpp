@@ -213,7 +213,7 @@ void TempodialUtils::CleanUpOldFiles()
     Date cutOff;
     attempt([&] { cutOff = mPlatform->clock->Now().AddDays(-mMain->mConfig->mSavedDataDays); });
     mStage = "Iterate";
-    for (const auto& file : folder.files) {
+    for (const auto& file : attempt.Get([&] { return folder->files; })) {
         const auto isOld = attempt.Get([&] {
             return file.name.find("tracker_") != std::string::npos && DaysBetween(file.dateCreated, cutOff) > 0;
         });
@@ -232,7 +232,7 @@ void TempodialUtils::AttachDiagsFiles(const Ref<MailItem>& item, Date day, bool 
     mStage = "GDF";
     const auto folder = attempt.Get([&] { return mMain->mCommonUtils->GetDataFolder(); });
     mStage = "get files";
-    for (const auto& file : folder.files) {
+    for (const auto& file : attempt.Get([&] { return folder->files; })) {
         mStage = "Iterate";
         attempt.Say("file: " + file.name);
         const auto holds = [&](const char* word) { return InStrIgnoringCase(file.name, word) > 0; };
@@ -240,7 +240,7 @@ void TempodialUtils::AttachDiagsFiles(const Ref<MailItem>& item, Date day, bool 
             || (all && file.name.find(".out") != std::string::npos) || file.name.find(dayFile) != std::string::npos;
         if (isWanted) {
             mStage = "Buildpath";
-            attempt([&] { item->Attachments()->Add(mFileSystem->BuildPath(folder.path, file.name)); });
+            attempt([&] { item->Attachments()->Add(mFileSystem->BuildPath(folder->path, file.name)); });
         }
     }
 }
