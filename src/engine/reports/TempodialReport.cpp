@@ -34,6 +34,7 @@ void TempodialReport::Initialize(
     mApplication = ReportTypes::Application;
     mDescription = ReportTypes::Description;
     mDate = ReportTypes::Date;
+    Trace("revision 1 TempodialReport");
 }
 
 void TempodialReport::Terminate()
