@@ -93,6 +93,26 @@ class ArrowTest(unittest.TestCase):
         self.assertIn("no arrows", Findings("stray.h")[0])
 
 
+class NeedlessTest(unittest.TestCase):
+    HEADER = "engine/dialogs/ProgressBarForm.h"
+
+    def test_ExceptionThatIsNeeded_IsKept(self):
+        needed = f'#include "{self.HEADER}"\n'
+        self.assertEqual(lint.Needless({"engine/import/A.cpp": needed, "engine/import/B.cpp": ""}), [])
+
+    def test_ExceptionThatNobodyNeeds_IsFound(self):
+        other = '#include "engine/core/TempodialMain.h"\n'
+        found = lint.Needless({"engine/import/A.cpp": other, "engine/reports/A.cpp": f'#include "{self.HEADER}"\n'})
+        self.assertEqual(len(found), 1, found)
+        self.assertIn(f'engine/import needs no "{self.HEADER}"', found[0])
+
+    def test_ArrowThatNobodyNeeds_IsNoException(self):
+        self.assertEqual(lint.Needless({"engine/worklog/A.cpp": "", "novel/A.cpp": ""}), [])
+
+    def test_FolderThatIsNotThereYet_MayHaveExceptions(self):
+        self.assertEqual(lint.Needless({"base/Date.h": ""}), [])
+
+
 class LibraryTest(unittest.TestCase):
     def Refuses(self, path, header):
         self.assertEqual(len(Findings(path, f"<{header}>")), 1)
@@ -154,6 +174,13 @@ class ProgramTest(unittest.TestCase):
             bad = self.Run(root)
             self.assertEqual(bad.returncode, 1)
             self.assertIn("src/base/Number.h:1: ", bad.stdout)
+
+    def test_NeedlessException_IsAFinding(self):
+        with tempfile.TemporaryDirectory() as root:
+            loading.Write(root, "src/engine/import/A.h", "#include <string>\n")
+            bad = self.Run(root)
+            self.assertEqual(bad.returncode, 1)
+            self.assertIn("lint-includes: 1 files, 1 findings", bad.stdout)
 
     def test_NoFiles_AreAFailure(self):
         with tempfile.TemporaryDirectory() as root:

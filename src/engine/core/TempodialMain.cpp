@@ -86,14 +86,14 @@ void TempodialMain::Initialize(const std::string& /*progID*/, const Ref<Applicat
     attempt([&] { mReportForm->Initialise(shared_from_this(), mTempodialDebugLog); });
     mInspectorCount = 0;
     mExplorerCount = 0;
-    attempt([&] { Trace(std::string(Revision) + "Initialize "); });
+    attempt.Say(std::string(Revision) + "Initialize ");
     attempt([&] { mWorkLog->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mDataHandler->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mAnalyser->Initialize(shared_from_this(), application, mTempodialDebugLog); });
     attempt([&] { mTempodialReport->Initialize(shared_from_this(), application, mTempodialDebugLog); });
     attempt([&] { mProjectManager->Initialize(shared_from_this(), application, mNamespace, mTempodialDebugLog); });
     attempt([&] { mUtils->CleanUpOldFiles(); });
-    attempt([&] { Trace("Initialized, run next "); });
+    attempt.Say("Initialized, run next ");
 }
 
 void TempodialMain::CompareVersions()
@@ -103,7 +103,7 @@ void TempodialMain::CompareVersions()
         return mUtils->GetRegistryValue(mStrings->mRegistryValueVersion, "", Hive::CurrentUser, RegistryAccess::All)
             .ToText();
     });
-    attempt([&] { Trace("Oldver: " + previous + " currVer: " + mConfig->mTDVersion); });
+    attempt.Say([&] { return "Oldver: " + previous + " currVer: " + mConfig->mTDVersion; });
     if (previous != mConfig->mTDVersion) {
         mNewVersion = true;
         attempt([&] {
@@ -116,22 +116,22 @@ void TempodialMain::TempodialMain_Run()
 {
     const auto attempt = Failing("Run failed ", LineShape::TextBlankStep);
     mStage = "entry";
-    attempt([&] { Trace("Entering run"); });
+    attempt.Say("Entering run");
     ReadOutlookVersion();
 
     mStage = "create log";
-    attempt([&] { Trace("new version? " + std::string(BooleanText(mNewVersion))); });
+    attempt.Say("new version? " + std::string(BooleanText(mNewVersion)));
     attempt([&] { mWorkLog->TempodialWorkLog_CreateWorkLog(mNewVersion); });
-    attempt([&] { Trace("created log "); });
+    attempt.Say("created log ");
     mStage = "log created";
 
     mStage = "load forms";
     attempt([&] { mWorkLog->LoadForms(); });
-    attempt([&] { Trace("loaded forms"); });
+    attempt.Say("loaded forms");
 
     mStage = "init projects";
     attempt([&] { mProjectManager->InitProjects(); });
-    attempt([&] { Trace("inited projects"); });
+    attempt.Say("inited projects");
 
     mStage = "load icons";
     LoadIcons();
@@ -146,7 +146,7 @@ void TempodialMain::TempodialMain_Run()
     const auto explorers = attempt.Get([&] { return mExplorers->Count(); });
     for (std::int32_t i = 1; i <= explorers; ++i) {
         const auto explorer = attempt.Get([&] { return mExplorers->Item(i); });
-        attempt([&] { Trace("Explorer caption: " + explorer->Caption()); });
+        attempt.Say([&] { return "Explorer caption: " + explorer->Caption(); });
         attempt([&] { AddExplorer(explorer); });
     }
     attempt([&] {
@@ -172,7 +172,7 @@ void TempodialMain::ReadOutlookVersion()
     if (!attempt([&] { version = mApplication->Version(); }, [&](const Failure&) { mOutlook2003orLater = false; })) {
         return;
     }
-    attempt([&] { Trace("version: " + version); });
+    attempt.Say("version: " + version);
     std::int32_t major = 0;
     // A version that is no number can't be read either.
     if (!attempt([&] { major = MajorVersion(version); }) || (major >= 8 && major <= 10)) {
@@ -189,7 +189,7 @@ void TempodialMain::LoadIcons()
     };
     const auto test = [&](const Ref<Picture>& picture, const char* text) {
         if (!picture) {
-            attempt([&] { Trace(text); });
+            attempt.Say(text);
         }
     };
     load(mTempodialIcon, "TDSettingsIconImage.bmp");
@@ -210,12 +210,12 @@ void TempodialMain::Terminate()
     const auto attempt = Failing("TDMain Term failed on a call: ", LineShape::TextStep);
     const auto end = [&](auto& worker, const char* word) {
         if (worker) {
-            attempt([&] { Trace(word); });
+            attempt.Say(word);
             attempt([&] { worker->Terminate(); });
             worker = nullptr;
         }
     };
-    attempt([&] { Trace("Main terminate"); });
+    attempt.Say("Main terminate");
     end(mWorkLog, "clean worklog");
     end(mAnalyser, "clean analyser");
     end(mTempodialReport, "clean reporter");
@@ -284,7 +284,7 @@ void TempodialMain::mApplication_MapiLogonComplete()
 
 void TempodialMain::mApplication_Quit()
 {
-    Failing("", LineShape::Silent)([&] { Trace("Quit received"); });
+    Failing("", LineShape::Silent).Say("Quit received");
 }
 
 } // namespace tempodial

@@ -22,10 +22,10 @@ void TempodialMain::GoToTasklog(bool override)
 {
     const auto self = shared_from_this();
     const auto attempt = Failing("GoTo error ", LineShape::TextColonStep);
-    attempt([&] { Trace("Switch to the task log now"); });
+    attempt.Say("Switch to the task log now");
     mStage = "switch";
     attempt([&, worker = mWorkLog] { worker->GoToLog(override); });
-    attempt([&] { Trace("Switched"); });
+    attempt.Say("Switched");
 }
 
 std::string TempodialMain::GetCalendarID()
@@ -39,7 +39,7 @@ void TempodialMain::SyncData(std::int32_t numDays, bool forceSync)
 {
     const auto self = shared_from_this();
     const auto attempt = Failing("sd error ", LineShape::TextColonStep);
-    attempt([&] { Trace("load " + std::to_string(numDays) + " days"); });
+    attempt.Say("load " + std::to_string(numDays) + " days");
     mStage = "sd";
     attempt([&, worker = mDataHandler] { worker->SyncData(numDays, forceSync); });
 }
@@ -47,7 +47,7 @@ void TempodialMain::SyncData(std::int32_t numDays, bool forceSync)
 void TempodialMain::ChangeViewToCalendar()
 {
     const auto attempt = Failing("CalView error ", LineShape::TextColonStep);
-    attempt([&] { Trace("Switch to cal view now"); });
+    attempt.Say("Switch to cal view now");
     mStage = "switch";
     attempt([worker = mWorkLog] { worker->SetCalendarView(); });
 }
@@ -55,7 +55,7 @@ void TempodialMain::ChangeViewToCalendar()
 void TempodialMain::ChangeViewToTable()
 {
     const auto attempt = Failing("tableview error ", LineShape::TextColonStep);
-    attempt([&] { Trace("Switch to table view now"); });
+    attempt.Say("Switch to table view now");
     mStage = "switch";
     attempt([worker = mWorkLog] { worker->SetTableView(); });
 }
@@ -63,7 +63,7 @@ void TempodialMain::ChangeViewToTable()
 Ref<MAPIFolder> TempodialMain::GetWorkLog()
 {
     const auto attempt = Failing("getlog error ", LineShape::TextColonStep);
-    attempt([&] { Trace("Get log"); });
+    attempt.Say("Get log");
     mStage = "getlog";
     return attempt.Get([worker = mWorkLog] { return worker->GetSyncedWorkLog(false); });
 }
@@ -73,8 +73,7 @@ Ref<AppointmentItem> TempodialMain::CreateCalendarItem(const std::string& projec
     Date newEnd, const std::string& body, bool display)
 {
     const auto attempt = Failing("create item error ", LineShape::TextColonStep);
-    attempt([&] { Trace("Create item"); });
-    mStage = "create item";
+    attempt.Say("Create item");
     return attempt.Get([&, worker = mWorkLog] {
         return worker->CreateCalendarItem(
             project, newDescription, newApplication, newContacts, newDuration, newStart, newEnd, body, display, true);
@@ -98,7 +97,7 @@ std::int32_t TempodialMain::UpdateCalendarItem(const Ref<AppointmentItem>& item,
             newStart, newEnd, body, newItem, closeIt, true);
     });
     if (result != 0) {
-        attempt([&] { Trace("Main update failed with error: " + std::to_string(result)); });
+        attempt.Say("Main update failed with error: " + std::to_string(result));
     }
     return result;
 }
@@ -180,7 +179,7 @@ std::string TempodialMain::ValidateProject(const std::string& project)
 {
     const auto attempt = Failing("validate proj error ", LineShape::TextColonStep);
     auto message = attempt.Get([&, worker = mProjectManager] { return worker->ValidateProject(project); });
-    attempt([&] { Trace("validate error: " + message); });
+    attempt.Say("validate error: " + message);
     return message;
 }
 
@@ -260,7 +259,7 @@ void TempodialMain::SwitchingToTasklog()
 {
     const auto self = shared_from_this();
     const auto attempt = Failing("SwitchingTo error ", LineShape::TextColonStep);
-    attempt([&] { Trace("User has switched to our folder"); });
+    attempt.Say("User has switched to our folder");
     mStage = "call syncdata";
     attempt([worker = mWorkLog] { worker->SwitchingToTasklog(); });
     attempt([&, worker = mDataHandler] { worker->SyncData(mConfig->mSavedDataDays, false); });
@@ -276,7 +275,7 @@ void TempodialMain::SetProjectForItems(
 {
     const auto self = shared_from_this();
     const auto attempt = Failing("setprojectforitems", LineShape::TextColonStep);
-    attempt([&] { Trace("Set project to" + project); });
+    attempt.Say("Set project to" + project);
     mStage = "setproject";
     attempt([&, worker = mProjectManager] { worker->UpdateorAddProject(project, "", "", "", "2", true); });
     if (selected) {

@@ -12,7 +12,7 @@ namespace tempodial {
 void TempodialMain::ReportProblem(const std::string& body, Date day, bool all, bool cancelled)
 {
     const auto attempt = Failing("ReportProblem error ", LineShape::TextColonStep);
-    attempt([&] { Trace("Generate a problem report"); });
+    attempt.Say("Generate a problem report");
     mStage = "generate";
     if (cancelled) {
         return;
@@ -60,7 +60,7 @@ void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t repo
     const auto self = shared_from_this();
     // kept: the words are those of the dialog's member.
     const auto attempt = Failing("Showreportform", LineShape::TextColonStep);
-    attempt([&] { Trace("Generate a temporeport, with csv? " + std::string(BooleanText(createCSVFile))); });
+    attempt.Say("Generate a temporeport, with csv? " + std::string(BooleanText(createCSVFile)));
     mStage = "generate";
     attempt([&] { SyncData(mConfig->mSavedDataDays, false); });
     mStage = "create email";
@@ -82,7 +82,7 @@ void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t repo
         attempt([&] { item->SetBody(text); });
     }
     if (createCSVFile) {
-        attempt([&] { Trace("attach csv file"); });
+        attempt.Say("attach csv file");
         attempt([&] { item->Attachments()->Add(csvFilePath); });
         // kept: the file goes also when attaching it failed.
         attempt([&] { mFileSystem->DeleteFile(csvFilePath, false); });

@@ -10,7 +10,7 @@ namespace tempodial {
 void TempodialMain::AddExplorer(const Ref<Explorer>& explorer)
 {
     const auto attempt = Failing("AddExplorer error ", LineShape::TextColonStep);
-    attempt([&] { Trace("AddExp called for: " + explorer->Caption()); });
+    attempt.Say([&] { return "AddExp called for: " + explorer->Caption(); });
     mStage = "Init handler";
     const auto wrapper = MakeRef<TempodialExplorer>(mPlatform);
     mStage = "Call initialise";
@@ -18,32 +18,32 @@ void TempodialMain::AddExplorer(const Ref<Explorer>& explorer)
     attempt([&] { wrapper->Initialize(mTempodialDebugLog, shared_from_this(), explorer, mExplorerCount); });
     mStage = "Add handler to list";
     mExplorerList.Add(wrapper);
-    attempt([&] { Trace("AddExp complete"); });
+    attempt.Say("AddExp complete");
 }
 
 void TempodialMain::mExplorers_NewExplorer(const Ref<Explorer>& explorer)
 {
     const auto attempt = Failing("New Explorer error ", LineShape::TextOnly);
-    attempt([&] { Trace("NewExplorer called"); });
+    attempt.Say("NewExplorer called");
     attempt([&] { AddExplorer(explorer); });
 }
 
 void TempodialMain::RemoveExplorer(Ref<TempodialExplorer>& explorer)
 {
     const auto attempt = Failing("RemExplorer error ", LineShape::TextColonStep);
-    attempt([&] { Trace("RemoveExplorer called"); });
+    attempt.Say("RemoveExplorer called");
     attempt([&] { RemoveDeadExplorers(); });
     for (std::int32_t position = 1; position <= mExplorerList.Count(); ++position) {
         if (mExplorerList.Item(position) == explorer) {
-            attempt([&] { Trace("Removed: " + std::to_string(position)); });
+            attempt.Say("Removed: " + std::to_string(position));
             mExplorerList.Remove(position);
             break;
         }
     }
-    attempt([&] { Trace("list: " + std::to_string(mExplorerList.Count())); });
+    attempt.Say("list: " + std::to_string(mExplorerList.Count()));
     // It is the host that knows whether a window is left.
     if (attempt.Get([&] { return mExplorers->Count() == 0; })) {
-        attempt([&] { Trace("last explorer gone - clean up"); });
+        attempt.Say("last explorer gone - clean up");
         attempt([&] { Terminate(); });
     }
     explorer = nullptr;
@@ -55,24 +55,24 @@ void TempodialMain::RemoveDeadExplorers()
     const auto isDead = [&](std::int32_t position) {
         return !attempt([&] { mExplorerList.Item(position)->mExplorer->Caption(); }, [](const Failure&) {});
     };
-    attempt([&] { Trace("RemoveDeadExplorers called"); });
+    attempt.Say("RemoveDeadExplorers called");
     std::int32_t position = 1;
     while (position <= mExplorerList.Count()) {
         if (isDead(position)) {
-            attempt([&] { Trace("Removed dead: " + std::to_string(position)); });
+            attempt.Say("Removed dead: " + std::to_string(position));
             mExplorerList.Remove(position);
             position = 1;
         } else {
             ++position;
         }
     }
-    attempt([&] { Trace("Explorer list: " + std::to_string(mExplorerList.Count())); });
+    attempt.Say("Explorer list: " + std::to_string(mExplorerList.Count()));
 }
 
 void TempodialMain::AddInspector(const Ref<Inspector>& inspector)
 {
     const auto attempt = Failing("AddInspector error ", LineShape::TextColonStep);
-    attempt([&] { Trace("AddInspector called"); });
+    attempt.Say("AddInspector called");
     mStage = "init insp handler";
     // An item opened again drops its former wrapper.
     attempt([&] { RemoveInspectorByEntryID(inspector->CurrentItem()->EntryID()); });
@@ -87,12 +87,12 @@ void TempodialMain::mInspectors_NewInspector(const Ref<Inspector>& inspector)
 {
     const auto attempt = Failing("NewInspector error ", LineShape::TextColonStep);
     mStage = "look at item type";
-    attempt([&] { Trace("NewInspector called"); });
+    attempt.Say("NewInspector called");
     if (attempt.Get([&] { return inspector->CurrentItem().As<AppointmentItem>(); })) {
-        attempt([&] { Trace("For appointment"); });
+        attempt.Say("For appointment");
         attempt([&] { AddInspector(inspector); });
     } else {
-        attempt([&] { Trace("not ours - remove our toolbar"); });
+        attempt.Say("not ours - remove our toolbar");
         attempt([&] { mToolbarUtils->RemoveMyToolbar(inspector, mStrings->mLogName); });
         attempt([&] { mToolbarUtils->EnableStandardToolBar(inspector); });
     }
@@ -103,7 +103,7 @@ void TempodialMain::mInspectors_NewInspector(const Ref<Inspector>& inspector)
 void TempodialMain::RemoveInspector(Ref<TempodialInspector>& inspector)
 {
     const auto attempt = Failing("RemInspector error ", LineShape::TextColonStep);
-    attempt([&] { Trace("RemoveInspector called"); });
+    attempt.Say("RemoveInspector called");
     attempt([&] { RemoveInspectorByEntryID(inspector->GetItem()->EntryID()); });
     inspector = nullptr;
 }
@@ -111,19 +111,19 @@ void TempodialMain::RemoveInspector(Ref<TempodialInspector>& inspector)
 void TempodialMain::RemoveInspectorByEntryID(const std::string& entryID)
 {
     const auto attempt = Failing("RemInspectorbyID error ", LineShape::TextColonStep);
-    attempt([&] { Trace("RemoveInspectorByID called"); });
+    attempt.Say("RemoveInspectorByID called");
     std::int32_t position = 1;
     while (position <= mInspectorList.Count()) {
         // An entry that can't be asked stays, for the clean-up to end it.
         if (attempt.Get([&] { return mInspectorList.Item(position)->GetItem()->EntryID() == entryID; })) {
-            attempt([&] { Trace("Removed: " + std::to_string(position)); });
+            attempt.Say("Removed: " + std::to_string(position));
             mInspectorList.Remove(position);
             position = 1;
         } else {
             ++position;
         }
     }
-    attempt([&] { Trace("list: " + std::to_string(mInspectorList.Count())); });
+    attempt.Say("list: " + std::to_string(mInspectorList.Count()));
 }
 
 void TempodialMain::KeepUntilClosed(const Ref<TempodialInspector>& inspector)
@@ -157,7 +157,7 @@ bool TempodialMain::IsInspector(const Ref<AppointmentItem>& item)
     const auto attempt = Failing("IsInspector error ", LineShape::TextColonStep);
     for (std::int32_t position = 1; position <= mInspectorList.Count(); ++position) {
         if (attempt.Get([&] { return mInspectorList.Item(position)->GetItem()->EntryID() == item->EntryID(); })) {
-            attempt([&] { Trace("IsInspector - open"); });
+            attempt.Say("IsInspector - open");
             return true;
         }
     }

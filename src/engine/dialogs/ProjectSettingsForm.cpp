@@ -40,7 +40,7 @@ void ProjectSettingsForm::Initialise(const Ref<TempodialMain>& main, const Ref<T
     attempt([&] { MakeForm(); });
     attempt([&] { mControls.mDaysText->SetText(mMain->mConfig->mApplyBackDaysText); });
     mLog = logObj;
-    attempt([&] { Trace("PSF Init"); });
+    attempt.Say("PSF Init");
 }
 
 void ProjectSettingsForm::MakeForm()
@@ -67,7 +67,7 @@ void ProjectSettingsForm::MakeForm()
 
 void ProjectSettingsForm::Terminate()
 {
-    Failing("", LineShape::Silent)([&] { Trace("PSF term"); });
+    Failing("", LineShape::Silent).Say("PSF term");
     mMain = nullptr;
     mOwningInspector = nullptr;
     mLog = nullptr;
@@ -78,7 +78,7 @@ void ProjectSettingsForm::ShowMe(const std::string& project, const Ref<Tempodial
     // A question lets events in, and the host may disconnect then.
     const auto self = shared_from_this();
     const auto attempt = Failing("Error ShowMe", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF ShowMe: " + project); });
+    attempt.Say("PSF ShowMe: " + project);
     attempt([&] { mControls.mForm->Show(); });
     if (!PreparedForProjectChangeWithoutInput()) {
         return;
@@ -87,7 +87,7 @@ void ProjectSettingsForm::ShowMe(const std::string& project, const Ref<Tempodial
     const auto error = attempt.Get([&] { return mMain->ValidateProject(project); });
     const bool showFirst = !error.empty() || !mOwningInspector;
     if (showFirst) {
-        attempt([&] { Trace("show first project in list"); });
+        attempt.Say("show first project in list");
     }
     RefreshLists(project, showFirst);
     attempt([&] { InitFormFields(mControls.mProjectComboBox->Text()); });
@@ -109,7 +109,7 @@ void ProjectSettingsForm::Unload()
 void ProjectSettingsForm::RefreshLists(const std::string& project, bool showFirst)
 {
     const auto attempt = Failing("Error refresh lists ", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF Lists"); });
+    attempt.Say("PSF Lists");
     std::vector<std::string> projects;
     attempt([&] { mMain->GetProjects(projects, true, false, false); });
     attempt([&] { mControls.mProjectComboBox->Clear(); });
@@ -127,7 +127,7 @@ void ProjectSettingsForm::RefreshLists(const std::string& project, bool showFirs
 void ProjectSettingsForm::InitFormFields(const std::string& project)
 {
     const auto attempt = Failing("Error InitFormFields ", LineShape::TextColonStep);
-    attempt([&] { Trace("set for " + project); });
+    attempt.Say("set for " + project);
     attempt([&] { mControls.mApplyPastCheck->SetValue(false); });
     attempt([&] { mControls.mDaysText->SetText(mMain->mConfig->mApplyBackDaysText); });
     SetApplyFields();
@@ -149,13 +149,13 @@ void ProjectSettingsForm::InitFormFields(const std::string& project)
     mPrecedenceChanged = false;
     // The selection counts as a click, which lights the button.
     ShowSaveButton(attempt);
-    attempt([&] { Trace("all set for " + mControls.mProjectComboBox->Text()); });
+    attempt.Say([&] { return "all set for " + mControls.mProjectComboBox->Text(); });
 }
 
 void ProjectSettingsForm::SetRules(const std::string& project)
 {
     const auto attempt = Failing("Error Sset rules", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF SetRules"); });
+    attempt.Say("PSF SetRules");
     attempt([&] { mControls.mSubjectText->SetText(mMain->GetProjectSubRule(project)); });
     attempt([&] { mControls.mNotSubjectText->SetText(mMain->GetProjectNotSubRule(project)); });
     SetRulesChanged(false);
@@ -164,7 +164,7 @@ void ProjectSettingsForm::SetRules(const std::string& project)
 void ProjectSettingsForm::SetApplyFields()
 {
     const auto attempt = Failing("Error Sset apply fields", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF Set Apply"); });
+    attempt.Say("PSF Set Apply");
     attempt([&] { mControls.mDaysText->SetEnabled(mControls.mApplyPastCheck->Value()); });
 }
 
@@ -190,15 +190,15 @@ bool ProjectSettingsForm::PreparedForProjectChangeWithoutInput()
 {
     const auto attempt = Failing("Error prepforchange", LineShape::TextColonStep);
     bool result = true;
-    attempt([&] { Trace("PSF PreparedForProjectChangeWithoutInput"); });
-    attempt([&] { Trace("click/change to new project"); });
+    attempt.Say("PSF PreparedForProjectChangeWithoutInput");
+    attempt.Say("click/change to new project");
     const auto name = mProjectChanged ? mTypedProject : mCurrentProject;
     const auto stay = [&] {
         attempt([&] { mControls.mProjectComboBox->SetText(name); });
         result = false;
     };
     if (mProjectChanged && mCurrentProject != mTypedProject) {
-        attempt([&] { Trace("click/change not allowed"); });
+        attempt.Say("click/change not allowed");
         ShowMessage(attempt.Get([&] { return mMain->mStrings->mErrorSaveFirst; }), attempt);
         stay();
     } else if (mRulesChanged || mPrecedenceChanged) {
@@ -217,9 +217,9 @@ bool ProjectSettingsForm::PreparedForProjectChangeWithoutInput()
             }
         }
     }
-    attempt([&] {
-        Trace("prepared complete for " + mControls.mProjectComboBox->Text() + "prepared? "
-            + std::string(BooleanText(result)));
+    attempt.Say([&] {
+        return "prepared complete for " + mControls.mProjectComboBox->Text() + "prepared? "
+            + std::string(BooleanText(result));
     });
     return result;
 }
@@ -227,7 +227,7 @@ bool ProjectSettingsForm::PreparedForProjectChangeWithoutInput()
 std::string ProjectSettingsForm::Save(const std::string& project, bool applyPast, bool noRefresh)
 {
     const auto attempt = Failing("Error Save ", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF Save"); });
+    attempt.Say("PSF Save");
     const auto chosen = attempt.Get([&] { return mControls.mPrecedenceCombo->Text(); });
     const auto is = [&](std::string TempodialStrings::*name) {
         return attempt.Get([&] { return chosen == (*mMain->mStrings).*name; });
@@ -258,7 +258,7 @@ std::string ProjectSettingsForm::Save(const std::string& project, bool applyPast
     if (applyPast && attempt.Get([&] { return mControls.mApplyPastCheck->Value(); })) {
         ApplyToPast(project, attempt);
     }
-    attempt([&] { Trace("saved on current: " + mControls.mProjectComboBox->Text()); });
+    attempt.Say([&] { return "saved on current: " + mControls.mProjectComboBox->Text(); });
     return {};
 }
 
@@ -326,7 +326,7 @@ void ProjectSettingsForm::ProjectComboBox_Click()
 void ProjectSettingsForm::PrecedenceCombo_Click()
 {
     const auto attempt = Failing("", LineShape::Silent);
-    attempt([&] { Trace("precedence changed click"); });
+    attempt.Say("precedence changed click");
     mPrecedenceChanged = true;
     attempt([&] { mControls.mSaveButton->SetEnabled(true); });
 }
@@ -347,7 +347,7 @@ void ProjectSettingsForm::SaveandCloseButton_Click()
 {
     const auto attempt = Failing("Error S&C button ", LineShape::TextColonStep);
     const auto text = attempt.Get([&] { return mControls.mProjectComboBox->Text(); });
-    attempt([&] { Trace("save and close clicked for " + text); });
+    attempt.Say("save and close clicked for " + text);
     if (SaveChanges(text, attempt).empty()) {
         mOwningInspector = nullptr;
         attempt([&] { mControls.mForm->Hide(); });
@@ -358,7 +358,7 @@ void ProjectSettingsForm::SaveButton_Click()
 {
     const auto attempt = Failing("Save button ", LineShape::TextColonStep);
     const auto text = attempt.Get([&] { return mControls.mProjectComboBox->Text(); });
-    attempt([&] { Trace("save clicked for " + text); });
+    attempt.Say("save clicked for " + text);
     if (SaveChanges(text, attempt).empty()) {
         attempt([&] { InitFormFields(mControls.mProjectComboBox->Text()); });
     }
@@ -367,7 +367,7 @@ void ProjectSettingsForm::SaveButton_Click()
 void ProjectSettingsForm::CancelButton_Click()
 {
     const auto attempt = Failing("Error Cancel ", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF Cancel"); });
+    attempt.Say("PSF Cancel");
     ForgetChanges();
     mOwningInspector = nullptr;
     attempt([&] { mControls.mForm->Hide(); });
@@ -376,7 +376,7 @@ void ProjectSettingsForm::CancelButton_Click()
 void ProjectSettingsForm::DeleteButton_Click()
 {
     const auto attempt = Failing("Error Delete", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF Del"); });
+    attempt.Say("PSF Del");
     auto answer = Answer::No;
     attempt([&] {
         answer = mPlatform->messageBox->Show("Are you sure you want to remove this project from the list?",
@@ -394,7 +394,7 @@ void ProjectSettingsForm::DeleteButton_Click()
 void ProjectSettingsForm::Form_QueryUnload(bool& cancel)
 {
     const auto attempt = Failing("Error QueryUnload ", LineShape::TextColonStep);
-    attempt([&] { Trace("PSF QueryUnload"); });
+    attempt.Say("PSF QueryUnload");
     if (!PreparedForProjectChangeWithoutInput()) {
         cancel = true;
         return;

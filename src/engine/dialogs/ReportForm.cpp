@@ -66,7 +66,7 @@ void ReportForm::Initialise(const Ref<TempodialMain>& main, const Ref<TempodialD
     mTraceInfo = "ReportForm";
     mMain = main;
     mLog = applog;
-    attempt([&] { Trace("ReportForm Init"); });
+    attempt.Say("ReportForm Init");
     attempt([&] { MakeForm(); });
     attempt([&] { mMain->mUtils->DateSelectorInit(mFrom.year, mFrom.month, mFrom.day); });
     attempt([&] { mMain->mUtils->DateSelectorInit(mTo.year, mTo.month, mTo.day); });
@@ -103,7 +103,7 @@ ReportForm::DateSelector ReportForm::Selector(const std::string& suffix) const
 void ReportForm::ShowMe()
 {
     const auto attempt = Failing("Error ShowMe ", LineShape::TextColonStep);
-    attempt([&] { Trace("ReportForm ShowMe "); });
+    attempt.Say("ReportForm ShowMe ");
     attempt([&] { mMain->mUtils->DateSelectorToday(mFrom.year, mFrom.month, mFrom.day); });
     attempt([&] { mMain->mUtils->DateSelectorToday(mTo.year, mTo.month, mTo.day); });
     ShowLastChoices(attempt);
@@ -136,7 +136,7 @@ void ReportForm::ShowLastChoices(const Attempt& attempt)
 void ReportForm::Terminate()
 {
     const auto attempt = Failing("Error RepForm Term", LineShape::TextColonStep);
-    attempt([&] { Trace("ReportForm term"); });
+    attempt.Say("ReportForm term");
     mMain = nullptr;
     mLog = nullptr;
 }

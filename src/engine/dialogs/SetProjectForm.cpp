@@ -62,7 +62,7 @@ void SetProjectForm::Initialise(const Ref<TempodialMain>& main, const Ref<Tempod
     mTraceInfo = "SetProjectForm";
     mMain = main;
     mLog = applog;
-    attempt([&] { Trace("SetProjectForm Init"); });
+    attempt.Say("SetProjectForm Init");
     attempt([&] { MakeForm(); });
     attempt([&] { mMain->mUtils->DateSelectorInit(mYearCombo, mMonthCombo, mDayCombo); });
     for (std::int32_t index = 0; index < TimeCount; ++index) {
@@ -98,7 +98,7 @@ void SetProjectForm::MakeForm()
 void SetProjectForm::ShowMe(const std::string& project)
 {
     const auto attempt = Failing("Error ShowMe", LineShape::TextColonStep);
-    attempt([&] { Trace("SetProjectForm ShowMe "); });
+    attempt.Say("SetProjectForm ShowMe ");
     std::vector<std::string> projects;
     attempt([&] { mMain->GetProjects(projects, false, false, false); });
     attempt([&] { mProjectComboBox->Clear(); });
@@ -121,7 +121,7 @@ void SetProjectForm::Terminate()
 {
     const auto attempt = Failing("Error RepForm Term", LineShape::TextColonStep);
     // kept: the line of the report dialog.
-    attempt([&] { Trace("ReportForm term"); });
+    attempt.Say("ReportForm term");
     mMain = nullptr;
     mLog = nullptr;
 }
@@ -144,7 +144,7 @@ void SetProjectForm::Command1_Click()
 {
     const auto attempt = Failing("Error setting ", LineShape::TextColonStep);
     mStage = "check text";
-    attempt([&] { Trace("Set project"); });
+    attempt.Say("Set project");
     const auto project = attempt.Get([&] { return mProjectComboBox->Text(); });
     if (!attempt.Get([&] { return project == mMain->mStrings->mSelectAProject; })) {
         SetProject(project, attempt);
@@ -165,9 +165,9 @@ void SetProjectForm::SetProject(const std::string& project, const Attempt& attem
         from = Moment(day, mFromTimeCombo, attempt);
         to = Moment(day, mToTimeCombo, attempt);
     }
-    attempt([&] {
-        Trace("Set project on date range [" + mPlatform->formats->General(from) + ", " + mPlatform->formats->General(to)
-            + ")");
+    attempt.Say([&] {
+        return "Set project on date range [" + mPlatform->formats->General(from) + ", "
+            + mPlatform->formats->General(to) + ")";
     });
     // The job lets messages be processed, in which the person may end this form.
     attempt(

@@ -31,7 +31,7 @@ void TempodialCommonUtils::Terminate()
 {
     const auto attempt = Failing("Term error ", LineShape::TextOnly);
     if (mLog) {
-        attempt([&] { Trace("terminate common utils"); });
+        attempt.Say("terminate common utils");
     }
     mFolderBaseName.clear();
     mLog = nullptr;
@@ -53,9 +53,11 @@ std::string TempodialCommonUtils::GetDataFolderName()
     return mDataFolderName;
 }
 
-Folder TempodialCommonUtils::GetDataFolder()
+Ref<const Folder> TempodialCommonUtils::GetDataFolder()
 {
-    return Failing("", LineShape::Silent).Get([&] { return mFileSystem->GetFolder(GetDataFolderName()); });
+    return Failing("", LineShape::Silent).Get([&] {
+        return Ref<const Folder>(MakeRef<Folder>(mFileSystem->GetFolder(GetDataFolderName())));
+    });
 }
 
 std::string TempodialCommonUtils::GetDataFilePath(const std::string& filename)
@@ -81,22 +83,22 @@ bool TempodialCommonUtils::EmailObjectGuardInPlace()
                      .ToText();
     });
     if (popups == "true") {
-        attempt([&] { Trace("Popups says reg"); });
+        attempt.Say("Popups says reg");
         return true;
     }
     if (popups == "false") {
-        attempt([&] { Trace("No popups says reg "); });
+        attempt.Say("No popups says reg ");
         return false;
     }
 
-    attempt([&] { Trace("Check for Outlook 2002"); });
+    attempt.Say("Check for Outlook 2002");
     if (!known) {
         return true;
     }
-    attempt([&] { Trace("Outlook version is " + mOutlookVersion); });
+    attempt.Say("Outlook version is " + mOutlookVersion);
     const auto major = attempt.Get([&] { return MajorVersion(mOutlookVersion); });
     if (major == 10) {
-        attempt([&] { Trace("Outlook version is 2002 so abandon ship"); });
+        attempt.Say("Outlook version is 2002 so abandon ship");
         return true;
     }
     return major == 9 || major == 8 || PolicyInPlace(attempt);
@@ -104,25 +106,25 @@ bool TempodialCommonUtils::EmailObjectGuardInPlace()
 
 bool TempodialCommonUtils::PolicyInPlace(const Attempt& attempt)
 {
-    attempt([&] { Trace("not 2002"); });
+    attempt.Say("not 2002");
     std::string settings;
     attempt([&] {
         settings = TempodialWin32APICalls::ReadRegistryValue(*mPlatform, Hive::CurrentUser,
             R"(Software\Policies\Microsoft\Security)", "CheckAdminSettings", RegistryAccess::All)
                        .ToText();
     });
-    attempt([&] { Trace("server security settings: " + settings); });
+    attempt.Say("server security settings: " + settings);
     if (settings.empty() || !attempt.Get([&] { return ToInt32(settings) != 0; })) {
         return false;
     }
-    attempt([&] { Trace("server security settings enabled"); });
+    attempt.Say("server security settings enabled");
     return true;
 }
 
 void TempodialCommonUtils::MarkEmailObjectGuardInPlace()
 {
     const auto attempt = Failing("MarkEmailObjectGuardInPlace error ", LineShape::TextBlankStep);
-    attempt([&] { Trace("MarkEmailObjectGuardInPlace"); });
+    attempt.Say("MarkEmailObjectGuardInPlace");
     attempt([&] {
         TempodialWin32APICalls::WriteRegistryValue(
             *mPlatform, Hive::LocalMachine, TempodialWin32APICalls::DefaultKey, GuardValue, "true");

@@ -19,8 +19,8 @@ public:
 
     /// The path of the data folder, which is made when it is absent.
     std::string GetDataFolderName();
-    /// The data folder with its files, without a path when it can't be had.
-    Folder GetDataFolder();
+    /// The data folder with its files, nothing when it can't be had.
+    Ref<const Folder> GetDataFolder();
     /// The path of a file in the data folder, whether or not the file exists.
     std::string GetDataFilePath(const std::string& filename);
     /// Opens a file of the data folder; nothing when that fails.

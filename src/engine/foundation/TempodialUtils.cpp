@@ -39,7 +39,7 @@ void TempodialUtils::Terminate()
 {
     const auto attempt = Failing("Term error ", LineShape::TextOnly);
     if (mLog) {
-        attempt([&] { Trace("term inspector"); });
+        attempt.Say("term inspector");
     }
     mMain = nullptr;
     mLog = nullptr;
@@ -75,14 +75,14 @@ void TempodialUtils::SetRegistryValue(
     const std::string& value, const std::string& strvalue, const std::string& key, Hive area)
 {
     const auto attempt = Failing("SetRegistryValue error ", LineShape::TextBlankStep);
-    attempt([&] { Trace("SetRegistryValue: " + value + " to " + strvalue); });
+    attempt.Say("SetRegistryValue: " + value + " to " + strvalue);
     attempt([&] { TempodialWin32APICalls::WriteRegistryValue(*mPlatform, area, KeyOrDefault(key), value, strvalue); });
 }
 
 void TempodialUtils::SetBoolRegistryValue(const std::string& value, bool strvalue, const std::string& key, Hive area)
 {
     const auto attempt = Failing("SetBoolRegistryValue error ", LineShape::TextBlankStep);
-    attempt([&] { Trace("SetBoolRegistryValue: " + value + " to " + std::string(BooleanText(strvalue))); });
+    attempt.Say("SetBoolRegistryValue: " + value + " to " + std::string(BooleanText(strvalue)));
     attempt([&] {
         TempodialWin32APICalls::WriteRegistryValue(
             *mPlatform, area, KeyOrDefault(key), value, strvalue ? "true" : "false");
@@ -97,7 +97,7 @@ std::string TempodialUtils::GetInstallFolderName()
         folder = GetRegistryValue(mMain->mStrings->mRegistryValueInstall, "", Hive::LocalMachine, RegistryAccess::Query)
                      .ToText();
     });
-    attempt([&] { Trace("Install folder: " + folder); });
+    attempt.Say("Install folder: " + folder);
     return folder;
 }
 
@@ -213,12 +213,12 @@ void TempodialUtils::CleanUpOldFiles()
     Date cutOff;
     attempt([&] { cutOff = mPlatform->clock->Now().AddDays(-mMain->mConfig->mSavedDataDays); });
     mStage = "Iterate";
-    for (const auto& file : folder.files) {
+    for (const auto& file : attempt.Get([&] { return folder->files; })) {
         const auto isOld = attempt.Get([&] {
             return file.name.find("tracker_") != std::string::npos && DaysBetween(file.dateCreated, cutOff) > 0;
         });
         if (isOld) {
-            attempt([&] { Trace("old enough to delete"); });
+            attempt.Say("old enough to delete");
             attempt([&] { mFileSystem->DeleteFile(file.path, false); });
         }
     }
@@ -232,15 +232,15 @@ void TempodialUtils::AttachDiagsFiles(const Ref<MailItem>& item, Date day, bool 
     mStage = "GDF";
     const auto folder = attempt.Get([&] { return mMain->mCommonUtils->GetDataFolder(); });
     mStage = "get files";
-    for (const auto& file : folder.files) {
+    for (const auto& file : attempt.Get([&] { return folder->files; })) {
         mStage = "Iterate";
-        attempt([&] { Trace("file: " + file.name); });
+        attempt.Say("file: " + file.name);
         const auto holds = [&](const char* word) { return InStrIgnoringCase(file.name, word) > 0; };
         const bool isWanted = holds("trace1") || holds("trace2") || holds("TDCaptureLog1") || holds("TDCaptureLog2")
             || (all && file.name.find(".out") != std::string::npos) || file.name.find(dayFile) != std::string::npos;
         if (isWanted) {
             mStage = "Buildpath";
-            attempt([&] { item->Attachments()->Add(mFileSystem->BuildPath(folder.path, file.name)); });
+            attempt([&] { item->Attachments()->Add(mFileSystem->BuildPath(folder->path, file.name)); });
         }
     }
 }

@@ -2,6 +2,16 @@
 
 namespace tempodial {
 
+void Attempt::Say(std::string_view text) const
+{
+    (*this)([&] { Trace(text); });
+}
+
+void Attempt::Trace(std::string_view text) const
+{
+    mObject.Trace(text);
+}
+
 void Attempt::TraceFailure(const Failure& failure) const
 {
     const auto& text = failure.Description();
@@ -12,6 +22,7 @@ void Attempt::TraceFailure(const Failure& failure) const
         line += text + ":" + step;
         break;
     case LineShape::TextBlankStep:
+    case LineShape::TextBlankStepFinished:
         line += text + " " + step;
         break;
     case LineShape::TextAmpersandStep:
@@ -33,6 +44,9 @@ void Attempt::TraceFailure(const Failure& failure) const
         return;
     }
     mObject.Trace(line);
+    if (mShape == LineShape::TextBlankStepFinished && text.find("Input past end") != std::string::npos) {
+        mObject.Trace("Finished file");
+    }
 }
 
 }

@@ -5,6 +5,7 @@
 #include "engine/foundation/TempodialDebugLog.h"
 #include "platform/Platform.h"
 
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -16,6 +17,8 @@ namespace tempodial {
 enum class LineShape {
     TextColonStep,
     TextBlankStep,
+    /// As `TextBlankStep`; behind the line of a read past the end of a file stands a second one.
+    TextBlankStepFinished,
     TextAmpersandStep,
     TextStep,
     TextOnly,
@@ -70,8 +73,16 @@ public:
             return Value();
         }
     }
+    /// Runs the statement that only traces a text in hand.
+    void Say(std::string_view text) const;
+    /// The same for a text whose making is part of the statement, since it asks another object or may be of any size.
+    template <std::invocable Expression> void Say(Expression&& text) const
+    {
+        (*this)([&] { Trace(std::forward<Expression>(text)()); });
+    }
 
 private:
+    void Trace(std::string_view text) const;
     void TraceFailure(const Failure& failure) const;
 
     const TracedObject& mObject;
@@ -96,7 +107,8 @@ protected:
 
     /// The runner of one routine's statements, with the routine's words, which outlive it, and the shape of its lines.
     Attempt Failing(std::string_view words, LineShape shape) const { return { *this, words, shape }; }
-    /// Writes a trace line; without a log fails (91).
+    /// Writes a trace line; without a log fails (91). Bare it belongs to the statement or the routine around it, which
+    /// ends with that failure; `Attempt::Say` is a statement of its own, behind which the routine goes on.
     void Trace(std::string_view text) const { mLog->Out(mTraceInfo, text); }
 
     Ref<const Platform> mPlatform;

@@ -37,7 +37,7 @@ void TempodialDataHandler::Initialize(const Ref<TempodialMain>& main, const Ref<
     ForgetLastItem();
     mSyncing = false;
     mTerminated = false;
-    attempt([&] { Trace(std::string("Initialize ") + Revision); });
+    attempt.Say(std::string("Initialize ") + Revision);
     attempt([&] { mLastSynced = mPlatform->clock->Now().AddSeconds(FirstSyncDelay - SyncInterval); });
 }
 
@@ -60,7 +60,7 @@ void TempodialDataHandler::Release()
 
 void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
 {
-    const auto attempt = Failing(SyncWords, LineShape::TextBlankStep);
+    const auto attempt = Failing(SyncWords, LineShape::TextBlankStepFinished);
     // A click while the progress form lets events in may end the add-in.
     const auto self = weak_from_this().lock();
     if (mSyncing) {
@@ -69,7 +69,7 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
     Sync sync;
     attempt([&] { sync.progress = MakeRef<ProgressBarForm>(mPlatform); });
     mSyncing = true;
-    attempt([&] { Trace("last synced: " + mPlatform->formats->General(mLastSynced)); });
+    attempt.Say([&] { return "last synced: " + mPlatform->formats->General(mLastSynced); });
     Date now;
     if (!forceSync) {
         attempt([&] { now = mPlatform->clock->Now(); });
@@ -112,7 +112,7 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
     attempt([&] { sync.progress->Unload(); });
     mSyncing = false;
     attempt([&] { mLog->SetBufferedTrace(false); });
-    attempt([&] { Trace("Exiting syncdata"); });
+    attempt.Say("Exiting syncdata");
     if (mTerminated) {
         Release();
     }
@@ -121,20 +121,14 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
 void TempodialDataHandler::ReadHistory(
     const Attempt& attempt, const std::string& path, Ref<TextStream>& stream, HistoryText& history)
 {
-    attempt([&] { Trace("historyfile: " + path); });
+    attempt.Say("historyfile: " + path);
     attempt([&] { stream = mFileSystem->OpenTextFile(path, OpenMode::Reading, false); });
     if (!stream) {
-        attempt([&] { Trace("no history"); });
+        attempt.Say("no history");
         return;
     }
-    attempt([&] { history = HistoryText(stream->ReadAll()); },
-        [&](const Failure& failure) {
-            Trace(SyncWords + failure.Description() + " " + mStage);
-            if (failure.Description().find("Input past end") != std::string::npos) {
-                Trace("Finished file");
-            }
-        });
-    attempt([&] { Trace("history: " + history.Text()); });
+    attempt([&] { history = HistoryText(stream->ReadAll()); });
+    attempt.Say([&] { return "history: " + history.Text(); });
 }
 
 void TempodialDataHandler::WriteHistory(
@@ -171,7 +165,7 @@ TempodialDataHandler::DayFile TempodialDataHandler::DayOf(
 void TempodialDataHandler::SyncDay(const Attempt& attempt, Sync& sync, std::int32_t daysBack)
 {
     const auto day = DayOf(attempt, sync, daysBack);
-    attempt([&] { Trace("file: " + day.livePath); });
+    attempt.Say("file: " + day.livePath);
     Ref<TextStream> stream;
     attempt([&] { stream = mFileSystem->OpenTextFile(day.livePath, OpenMode::Reading, false); });
     if (!stream) {
@@ -214,14 +208,14 @@ std::int32_t TempodialDataHandler::FindLastCount(const Attempt& attempt, Sync& s
 {
     const auto position = attempt.Get([&] { return sync.history.Find(dayKey); });
     if (position > 0) {
-        attempt([&] { Trace("dayoffset: " + std::to_string(position)); });
+        attempt.Say("dayoffset: " + std::to_string(position));
         // kept: an entry that can't be read leaves the count of the day before it in this sync.
         attempt([&] { sync.lastCount = sync.history.Count(position); });
     } else {
-        attempt([&] { Trace("Create zero "); });
+        attempt.Say("Create zero ");
         sync.lastCount = NothingLoaded;
     }
-    attempt([&] { Trace("Last count: " + std::to_string(sync.lastCount)); });
+    attempt.Say("Last count: " + std::to_string(sync.lastCount));
     return position;
 }
 
@@ -239,11 +233,11 @@ void TempodialDataHandler::FinishDay(const Attempt& attempt, Sync& sync, const D
 
 void TempodialDataHandler::KeepCount(const Attempt& attempt, Sync& sync, const DayFile& day, std::int32_t position)
 {
-    attempt([&] { Trace("New Last second count: " + Padded(mNewLastCount, 5)); });
+    attempt.Say([&] { return "New Last second count: " + Padded(mNewLastCount, 5); });
     if (position > 0) {
-        attempt([&] { Trace("before: " + sync.history.Tail(position)); });
+        attempt.Say([&] { return "before: " + sync.history.Tail(position); });
         attempt([&] { sync.history.SetCount(position, mNewLastCount); });
-        attempt([&] { Trace("after: " + sync.history.Tail(position)); });
+        attempt.Say([&] { return "after: " + sync.history.Tail(position); });
     } else {
         attempt([&] { sync.history.Append(day.key, mNewLastCount); });
     }

@@ -94,10 +94,10 @@ void TempodialDataHandler::ExtractData(const Ref<XmlNode>& objXML, Date dayDate,
     };
     takeTime(activity.startTime, "slot/StartTime");
     takeTime(activity.endTime, "slot/EndTime");
-    attempt([&] {
+    attempt.Say([&] {
         auto& formats = *mPlatform->formats;
-        Trace("start: " + formats.General(activity.startTime) + " End: " + formats.General(activity.endTime)
-            + " Override: " + activity.project);
+        return "start: " + formats.General(activity.startTime) + " End: " + formats.General(activity.endTime)
+            + " Override: " + activity.project;
     });
     attempt([&] { activity.duration = MinutesBetween(activity.startTime, activity.endTime); });
 }

@@ -65,7 +65,7 @@ bool TempodialDataHandler::ParseFile(Ref<TextStream> stream, const DayFile& day,
         if (mLineLoaded && !cancelled && !showing) {
             showing = true;
             attempt([&] { progress->Show(); });
-            attempt([&] { Trace("show progress"); });
+            attempt.Say("show progress");
         }
         if (cancelled) {
             fileEnded = true;
@@ -111,7 +111,7 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
     const bool taken = endCount > lastCount || (endCount == lastCount && isDetail);
     SlotActivity activity;
     if (taken) {
-        attempt([&] { Trace("load line: " + line); });
+        attempt.Say([&] { return "load line: " + line; });
         attempt([&] { ExtractData(mSlot, day.day, activity); });
     }
     mStage = ".text";
@@ -138,7 +138,7 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
     mStage = "finish up";
     mLineLoaded = true;
     mNewLastCount = endCount;
-    attempt([&] { Trace(" new Last count: " + std::to_string(mNewLastCount)); });
+    attempt.Say(" new Last count: " + std::to_string(mNewLastCount));
     ++mUncommittedLines;
     if (!attempt([&] { mPlatform->importJournal->Loaded(day.key, { mNewLastCount, mLinesRead }); })) {
         GoBackToCommitted(attempt, day.key);
@@ -147,7 +147,7 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
     bool cancelled = false;
     if (showing && mLineCount % LinesPerProgressStep == 0) {
         attempt([&] { progress->Update(mLineCount / LinesPerProgressStep); });
-        attempt([&] { Trace("update progress"); });
+        attempt.Say("update progress");
         cancelled = attempt.Get([&] { return progress->IsCancelled(); }) || mTerminated;
     }
     return cancelled;
@@ -156,11 +156,11 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
 bool TempodialDataHandler::Continue(const Attempt& attempt, Date expectedEnd, const SlotActivity& activity)
 {
     if (mLastItem && !attempt.Get([&] { return mLastItem->End() == expectedEnd; })) {
-        attempt([&] { Trace("unmatched last item against: " + mPlatform->formats->General(expectedEnd)); });
+        attempt.Say([&] { return "unmatched last item against: " + mPlatform->formats->General(expectedEnd); });
         ForgetLastItem();
     }
     FindLastItem(attempt, expectedEnd);
-    attempt([&] { Trace("continuation of " + mLastItem->Subject()); });
+    attempt.Say([&] { return "continuation of " + mLastItem->Subject(); });
     mStage = "updateitem";
     if (!mLastItem) {
         return false;
@@ -181,14 +181,14 @@ bool TempodialDataHandler::Continue(const Attempt& attempt, Date expectedEnd, co
             activity.contacts, duration, mLastItem->Start(), activity.endTime, "", false, true);
     });
     if (result != 0) {
-        attempt([&] { Trace("update failed with error: " + std::to_string(result)); });
+        attempt.Say("update failed with error: " + std::to_string(result));
     }
     return result == 0;
 }
 
 void TempodialDataHandler::AddDetail(const Attempt& attempt, const SlotActivity& activity)
 {
-    attempt([&] { Trace("detail"); });
+    attempt.Say("detail");
     if (mLastItem && !attempt.Get([&] { return mLastItem->End() == activity.endTime; })) {
         ForgetLastItem();
     }
@@ -197,7 +197,7 @@ void TempodialDataHandler::AddDetail(const Attempt& attempt, const SlotActivity&
         return;
     }
 
-    attempt([&] { Trace("detail of " + mLastItem->Subject()); });
+    attempt.Say([&] { return "detail of " + mLastItem->Subject(); });
     const auto entry = activity.description + std::string(CrLf);
     if (mLastItemBody.find(std::string(CrLf) + entry) == std::string::npos) {
         if (mLastItemBody.empty()) {
@@ -214,17 +214,17 @@ void TempodialDataHandler::AddDetail(const Attempt& attempt, const SlotActivity&
 bool TempodialDataHandler::CreateItem(const Attempt& attempt, const SlotActivity& activity)
 {
     mStage = "CreateCalendarItem";
-    attempt([&] { Trace("create item"); });
+    attempt.Say("create item");
     ForgetLastItem();
     attempt([&] {
         mLastItem = mMain->CreateCalendarItem(activity.project, activity.description, activity.application,
             activity.contacts, activity.duration, activity.startTime, activity.endTime, activity.body, false);
     });
     if (!mLastItem) {
-        attempt([&] { Trace("Item save attempt failed"); });
+        attempt.Say("Item save attempt failed");
         return false;
     }
-    attempt([&] { Trace("new last item at: " + mPlatform->formats->General(mLastItem->Start())); });
+    attempt.Say([&] { return "new last item at: " + mPlatform->formats->General(mLastItem->Start()); });
     mLastItemBody = activity.body;
     return true;
 }

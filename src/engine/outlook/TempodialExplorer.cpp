@@ -171,7 +171,7 @@ void TempodialExplorer::mExplorer_FolderSwitch()
 {
     const auto main = mMain;
     const auto attempt = Failing("", LineShape::Silent);
-    attempt([&] { Trace("folder switch"); });
+    attempt.Say("folder switch");
     const bool isLog = attempt.Get([&] {
         const auto current = mExplorer->CurrentFolder()->EntryID();
         return current == main->GetCalendarID();

@@ -19,8 +19,8 @@ void TempodialInspector::Initialize(const Ref<TempodialDebugLog>& applog, const 
     const auto attempt = Failing("Initialize error ", LineShape::TextAmpersandStep);
     mTraceInfo = "TDInspector";
     mLog = applog;
-    attempt([&] {
-        Trace("Init inspector " + std::to_string(id) + " " + inspector->Caption() + " revision 1 TempodialInspector");
+    attempt.Say([&] {
+        return "Init inspector " + std::to_string(id) + " " + inspector->Caption() + " revision 1 TempodialInspector";
     });
     mStage = "init";
     mMain = main;
@@ -40,12 +40,12 @@ void TempodialInspector::Initialize(const Ref<TempodialDebugLog>& applog, const 
                 .Write = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Write),
                 .Close = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Close) });
     });
-    attempt([&] { Trace("caption: " + mInspector->Caption()); });
+    attempt.Say([&] { return "caption: " + mInspector->Caption(); });
     if (IsOurItem()) {
         mIsOurs = true;
         return; // Its window has no bars yet that could be worked: they wait for the opening.
     }
-    attempt([&] { Trace("not one of ours: " + std::to_string(mInspector->CommandBars()->Count())); });
+    attempt.Say([&] { return "not one of ours: " + std::to_string(mInspector->CommandBars()->Count()); });
     RestoreToolbars(attempt);
 }
 
@@ -53,7 +53,7 @@ void TempodialInspector::Terminate()
 {
     const auto attempt = Failing("Initialize error ", LineShape::TextOnly); // kept: the words of another routine
     if (mLog) {
-        attempt([&] { Trace("term inspector " + std::to_string(mID)); });
+        attempt.Say("term inspector " + std::to_string(mID));
     }
     mInspector.Clear();
     mMain = nullptr;
@@ -207,7 +207,7 @@ bool TempodialInspector::SettleChanges(const Attempt& attempt)
 void TempodialInspector::mInspector_close()
 {
     const auto attempt = Failing("", LineShape::Silent);
-    attempt([&] { Trace("Inspector-close " + std::to_string(mID)); });
+    attempt.Say("Inspector-close " + std::to_string(mID));
     RestoreToolbars(attempt);
     LeaveRegister(attempt);
     attempt([&] { mMain->LetGoOfClosed(shared_from_this()); });
@@ -216,9 +216,9 @@ void TempodialInspector::mInspector_close()
 void TempodialInspector::mSaveCloseCommandBarButton_Click(const Ref<CommandBarButton>& /*control*/, bool& cancelDefault)
 {
     const auto attempt = Failing("Save/close error ", LineShape::TextBlankStep);
-    attempt([&] {
-        Trace(
-            "Save/close button clicked for " + std::to_string(mID) + " project: " + mProjectControl->Value().ToText());
+    attempt.Say([&] {
+        return "Save/close button clicked for " + std::to_string(mID)
+            + " project: " + mProjectControl->Value().ToText();
     });
     if (!IsActive(attempt) || !mIsOurs) {
         return;
@@ -240,8 +240,8 @@ void TempodialInspector::mViewProjectCommandBarButton_Click(
     const Ref<CommandBarButton>& /*control*/, bool& /*cancelDefault*/)
 {
     const auto attempt = Failing("view projects error ", LineShape::TextOnly);
-    attempt([&] {
-        Trace("View project settings button clicked for " + mInspector->Caption() + " " + std::to_string(mID));
+    attempt.Say([&] {
+        return "View project settings button clicked for " + mInspector->Caption() + " " + std::to_string(mID);
     });
     attempt([&, main = mMain] { main->ShowSettingsForm(mProjectControl->Value().ToText(), shared_from_this()); });
 }

@@ -51,7 +51,7 @@ void TempodialInspector::InitUnbound()
 {
     const auto attempt = Failing("InitUnbound error ", LineShape::TextOnly);
     attempt([&] { mApplicationControl->SetText(Property("Type")->Value().ToText()); });
-    attempt([&] { Trace("Type: " + Property("Type")->Value().ToText()); });
+    attempt.Say([&] { return "Type: " + Property("Type")->Value().ToText(); });
 }
 
 void TempodialInspector::UpdateProjectDropdown()
@@ -111,7 +111,7 @@ bool TempodialInspector::IsUnbound()
 bool TempodialInspector::IsBoundData()
 {
     const auto attempt = Failing("IsBound error ", LineShape::TextOnly);
-    attempt([&] { Trace("IsBoundData to write? " + TextOf(mProjectControl)); });
+    attempt.Say([&] { return "IsBoundData to write? " + TextOf(mProjectControl); });
     const bool same = attempt.Get([&] { return TextOf(mProjectControl) == mOldProject; })
         && attempt.Get([&] { return TextOf(mDescControl) == mOldKeyword; })
         && attempt.Get([&] { return mSubjectControl->Text() == mOldDescription; })
@@ -134,7 +134,7 @@ void TempodialInspector::ResetAll()
 
 void TempodialInspector::ResetUnbound()
 {
-    Failing("ResetUnbound error ", LineShape::TextOnly)([&] { Trace("ResetUnbound mOldProject: " + mOldProject); });
+    Failing("ResetUnbound error ", LineShape::TextOnly).Say("ResetUnbound mOldProject: " + mOldProject);
 }
 
 void TempodialInspector::Resetbound()
@@ -219,7 +219,7 @@ void TempodialInspector::SaveRules()
     if (known || attempt.Get([&] { return TextOf(mDescControl) == mMain->mStrings->mSelectAKeyword; })) {
         return;
     }
-    attempt([&] { Trace("new desc rule: " + TextOf(mDescControl)); });
+    attempt.Say([&] { return "new desc rule: " + TextOf(mDescControl); });
     Trace("add desc rule");
     const auto rule = attempt.Get([&] { return WithBothMarks(Trim(TextOf(mDescControl))); });
     attempt([&] { mMain->UpdateorAddProjectRule(TextOf(mProjectControl), rule, ""); });
@@ -235,16 +235,16 @@ void TempodialInspector::ReverseAll()
 
 void TempodialInspector::ReverseUnbound()
 {
-    Failing("ReverseUnbound error ", LineShape::TextOnly)([&] { Trace("ReverseUnbound mOldProject: " + mOldProject); });
+    Failing("ReverseUnbound error ", LineShape::TextOnly).Say("ReverseUnbound mOldProject: " + mOldProject);
 }
 
 void TempodialInspector::Reversebound()
 {
     const auto attempt = Failing("Reversebound error ", LineShape::TextOnly);
     Trace("Reversebound");
-    attempt([&] { Trace("Item description before: " + mSubjectControl->Text()); });
+    attempt.Say([&] { return "Item description before: " + mSubjectControl->Text(); });
     attempt([&] { mSubjectControl->SetText(mOldDescription); });
-    attempt([&] { Trace("Item description aft: " + mSubjectControl->Text()); });
+    attempt.Say([&] { return "Item description aft: " + mSubjectControl->Text(); });
     attempt([&] { mPeopleControl->SetText(mOldPeople); });
     attempt([&] { mStartControl->SetValue(mOldStart); });
     attempt([&] { mEndControl->SetValue(mOldEnd); });

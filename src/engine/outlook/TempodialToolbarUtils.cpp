@@ -26,13 +26,13 @@ void TempodialToolbarUtils::Initialize(const Ref<TempodialDebugLog>& applog, con
     mTraceInfo = "TDToolbarUt";
     mLog = applog;
     mMain = main;
-    attempt([&] { Trace(std::string("Init toolbar utils ") + Revision); });
+    attempt.Say(std::string("Init toolbar utils ") + Revision);
 }
 
 void TempodialToolbarUtils::Terminate()
 {
     const auto attempt = Failing("Term error ", LineShape::TextOnly);
-    attempt([&] { Trace("term inspector"); });
+    attempt.Say("term inspector");
     mMain = nullptr;
     mLog = nullptr;
 }
@@ -40,7 +40,7 @@ void TempodialToolbarUtils::Terminate()
 void TempodialToolbarUtils::RemoveMyToolbar(const Ref<Inspector>& inspector, const std::string& toolbar)
 {
     const auto attempt = Failing("remove toolbars error ", LineShape::TextStep);
-    attempt([&] { Trace("remove my toolbar: " + toolbar); });
+    attempt.Say("remove my toolbar: " + toolbar);
     mStage = "remove command bar";
     const auto count = attempt.Get([&] { return inspector->CommandBars()->Count(); });
     Ref<CommandBar> bar;
@@ -48,7 +48,7 @@ void TempodialToolbarUtils::RemoveMyToolbar(const Ref<Inspector>& inspector, con
         attempt([&] { bar = inspector->CommandBars()->Item(i); });
         if (attempt.Get([&] { return bar->Name() == toolbar; })) {
             mStage = "make delete call";
-            attempt([&] { Trace("delete it"); });
+            attempt.Say("delete it");
             attempt([&] { bar->Delete(); });
             return;
         }
@@ -59,14 +59,14 @@ Ref<CommandBar> TempodialToolbarUtils::ReplaceStandardToolbar(
     const Ref<Inspector>& inspector, const std::string& toolbar)
 {
     const auto attempt = Failing("replace toolbars error ", LineShape::TextOnly);
-    attempt([&] { Trace("replace toolbar"); });
+    attempt.Say("replace toolbar");
     mStage = "set up command bars";
     const auto standard = attempt.Get(
         [&] { return inspector->CommandBars()->ItemNamed(mMain->mStrings->mOutlookStandardToolbarName); });
     const auto mine = attempt.Get([&] { return inspector->CommandBars()->ItemNamed(toolbar); });
     if (standard) {
         mStage = "Make standard toolbar invis";
-        attempt([&] { Trace("invis toolbar - standard"); });
+        attempt.Say("invis toolbar - standard");
         if (attempt.Get([&] { return standard->Visible(); })) {
             attempt([&] { standard->SetVisible(false); });
         }
@@ -95,7 +95,7 @@ void TempodialToolbarUtils::EnableStandardToolBar(const Ref<Inspector>& inspecto
     const auto attempt = Failing("enable standard error ", LineShape::TextOnly);
     const auto standard
         = [&] { return inspector->CommandBars()->ItemNamed(mMain->mStrings->mOutlookStandardToolbarName); };
-    attempt([&] { Trace("enable standard toolbar"); });
+    attempt.Say("enable standard toolbar");
     attempt([&] {
         const auto visible = inspector->CommandBars()->ItemNamed("Standard")->Visible();
         Trace("visible? " + std::string(BooleanText(visible)));
@@ -108,7 +108,7 @@ void TempodialToolbarUtils::EnableStandardToolBar(const Ref<Inspector>& inspecto
 void TempodialToolbarUtils::ChangeMenu(bool hide, const Ref<CommandBarPopup>& popup, std::int32_t id)
 {
     const auto attempt = Failing("ChangeMenu remove,  error ", LineShape::TextOnly);
-    attempt([&] { Trace("Remove ID: " + std::to_string(id)); });
+    attempt.Say("Remove ID: " + std::to_string(id));
     if (!popup) {
         return;
     }
@@ -119,7 +119,7 @@ void TempodialToolbarUtils::ChangeMenu(bool hide, const Ref<CommandBarPopup>& po
         }
         return;
     }
-    attempt([&] { Trace("Trace menu and IDs"); });
+    attempt.Say("Trace menu and IDs");
     const auto count = attempt.Get([&] { return popup->Controls()->Count(); });
     for (std::int32_t i = 1; i <= count; ++i) {
         attempt([&] {

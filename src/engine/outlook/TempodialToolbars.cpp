@@ -93,7 +93,7 @@ void TempodialToolbars::Terminate()
         return; // Ended before.
     }
     const auto attempt = Failing("Toolbars Terminate error ", LineShape::TextBlankStep);
-    attempt([&] { Trace("Toolbars cleanup: " + std::to_string(mID)); });
+    attempt.Say("Toolbars cleanup: " + std::to_string(mID));
     mStage = "clean up";
     if (mMain) {
         mViewSettingsSubMenu.Clear();
@@ -156,7 +156,7 @@ void TempodialToolbars::CreateMenu(const Attempt& attempt, const Ref<CommandBar>
     const auto caption = attempt.Get([&] { return mMain->mStrings->mLogNameAccessible; });
     mStage = "delete old controls";
     Failing("", LineShape::Silent)([&] { menuBar->Controls()->ItemCaptioned(caption)->Delete(); });
-    attempt([&] { Trace("Create TD Menu Items: " + std::to_string(mID)); });
+    attempt.Say("Create TD Menu Items: " + std::to_string(mID));
     if (!menuBar) {
         return;
     }
@@ -211,12 +211,12 @@ void TempodialToolbars::AddBefore(const Attempt& attempt, const Ref<CommandBar>&
     const auto count = attempt.Get([&] { return bar->Controls()->Count(); });
     for (std::int32_t i = 1; i <= count && !addition.before; ++i) {
         if (attempt.Get([&] { return bar->Controls()->Item(i)->Id() == id; })) {
-            attempt([&] { Trace("found help"); });
+            attempt.Say("found help");
             addition.before = i;
         }
     }
     mStage = addition.before ? "add button 1" : "add button 2";
-    attempt([&] { Trace(addition.before ? "add 1" : "add 2"); });
+    attempt.Say(addition.before ? "add 1" : "add 2");
     attempt([&] { keep(bar->Controls()->Add(addition)); });
 }
 
@@ -232,13 +232,13 @@ void TempodialToolbars::SetIcon(const Attempt& attempt, const WatchedButton& but
     const std::string& noPicture, const std::string& done)
 {
     if (!attempt.Get([&] { return (*mMain).*picture; })) {
-        attempt([&] { Trace(noPicture); });
+        attempt.Say(noPicture);
         return;
     }
     attempt([&] { button->SetPicture((*mMain).*picture); });
     attempt([&] { button->SetMask((*mMain).*mask); });
     if (!done.empty()) {
-        attempt([&] { Trace(done); });
+        attempt.Say(done);
     }
 }
 
@@ -265,7 +265,7 @@ void TempodialToolbars::ListAvailable(bool available)
 Attempt TempodialToolbars::Clicked(const std::string& words)
 {
     const auto attempt = Failing("", LineShape::Silent);
-    attempt([&] { Trace(words + std::to_string(mID)); });
+    attempt.Say(words + std::to_string(mID));
     return attempt;
 }
 

@@ -20,8 +20,8 @@ void TempodialProject::Initialize(const Ref<TempodialDebugLog>& log, const std::
     mLog = log;
     mName = name;
     mPrecedence = precedence;
-    attempt([&] { Trace("Initialize revision 1 TempodialProject"); });
-    attempt([&] { Trace("Project Init: " + name + " " + subjectRule + " " + peopleRule + " " + notSubjectRule); });
+    attempt.Say("Initialize revision 1 TempodialProject");
+    attempt.Say("Project Init: " + name + " " + subjectRule + " " + peopleRule + " " + notSubjectRule);
     SetSubjectRule(subjectRule);
     SetPeopleRule(peopleRule);
     SetNotSubjectRule(notSubjectRule);

@@ -56,7 +56,8 @@ void TempodialProjectManager::InitProjects()
                        mMain->mStrings->mRegistryValueProjectXML, "", Hive::CurrentUser, RegistryAccess::All)
                    .ToText();
     });
-    attempt([&] { Trace("Init Projects " + text + " new version? " + std::string(BooleanText(mMain->mNewVersion))); });
+    attempt.Say(
+        [&] { return "Init Projects " + text + " new version? " + std::string(BooleanText(mMain->mNewVersion)); });
     if (text.empty() && mMain->mNewVersion) {
         attempt([&] { text = mMain->mStrings->mRegistryValueDefaultProjects; });
     }

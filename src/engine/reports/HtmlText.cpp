@@ -46,6 +46,12 @@ std::size_t EndOfAddress(std::string_view text, std::size_t begin)
     return isBracketed ? end - 1 : end;
 }
 
+/// An address as the value of an attribute in single quotes.
+std::string AttributeOf(std::string_view url)
+{
+    return Replace(std::string(url), "'", "&#39;");
+}
+
 std::vector<Address> FindAddresses(std::string_view text)
 {
     std::vector<Address> addresses;
@@ -92,29 +98,29 @@ std::string HtmlText::HTMLMogrify(std::string text)
     }
 
     std::string linked;
-    auto size = text.size();
-    for (const auto& address : addresses) {
-        size += LinkBegin.size() + (address.end - address.begin) + LinkMiddle.size() + LinkEnd.size();
+    const std::string_view all = text;
+    auto size = all.size();
+    for (const auto& [begin, end] : addresses) {
+        size += LinkBegin.size() + AttributeOf(all.substr(begin, end - begin)).size() + LinkMiddle.size()
+            + LinkEnd.size();
     }
     attempt([&] { linked.reserve(size); });
 
-    const std::string_view all = text;
     std::size_t done = 0;
     std::int64_t characters = 0;
     for (const auto& [begin, end] : addresses) {
         const auto before = all.substr(done, begin - done);
         const auto url = all.substr(begin, end - begin);
         const auto length = Length(url);
+        const auto attribute = AttributeOf(url);
         // The positions are those in the text as it has become so far.
         const auto position = characters + Length(before) + 1;
+        attempt.Say("found url=" + std::string(url) + " at [" + std::to_string(position) + ","
+            + std::to_string(position + length) + ")");
         attempt([&] {
-            Trace("found url=" + std::string(url) + " at [" + std::to_string(position) + ","
-                + std::to_string(position + length) + ")");
+            linked.append(before).append(LinkBegin).append(attribute).append(LinkMiddle).append(url).append(LinkEnd);
         });
-        attempt([&] {
-            linked.append(before).append(LinkBegin).append(url).append(LinkMiddle).append(url).append(LinkEnd);
-        });
-        characters = position - 1 + 2 * std::int64_t(length)
+        characters = position - 1 + Length(attribute) + length
             + static_cast<std::int64_t>(LinkBegin.size() + LinkMiddle.size() + LinkEnd.size());
         done = end;
     }

@@ -75,7 +75,7 @@ Ref<Items> ReportGathering::GetDayItems(Date day, std::int32_t startTime, std::i
     // The last minute belongs to the day: 1440 gives 23:59.
     const auto endText
         = attempt.Get([&] { return dayText + " " + formats.ShortTime(Date().AddMinutes(std::int64_t(endTime) - 1)); });
-    attempt([&] { Trace("start: " + startText + " end: " + endText); });
+    attempt.Say("start: " + startText + " end: " + endText);
 
     // kept: by overlap, so an item over midnight counts whole on each day that it touches.
     const auto filter = R"([End] > ")" + startText + R"(" and [Start] <= ")" + endText + R"(")";
@@ -155,7 +155,7 @@ std::string ReportGathering::ToCSVLine(const Ref<AppointmentItem>& item)
     const auto end = attempt.Get([&] { return formats.ShortTime(item->End()); });
     line += ToCSV(day) + "," + ToCSV(start) + "," + ToCSV(end) + ",";
     attempt([&] { line += GetText("Duration", item); });
-    attempt([&] { Trace("ToCSVLine: " + line); });
+    attempt.Say("ToCSVLine: " + line);
     return line;
 }
 
@@ -193,7 +193,7 @@ std::string ReportGathering::ToDetailString(const Ref<AppointmentItem>& item)
     if (mRequest.html) {
         line += "<br>";
     }
-    attempt([&] { Trace("ToDetailString: " + line); });
+    attempt.Say("ToDetailString: " + line);
     return line;
 }
 

@@ -68,7 +68,7 @@ std::string ReportText::BuildTail(std::int32_t total)
 std::string ReportText::BuildDetail(ReportData& data, bool html, const std::string& groupTemplate)
 {
     const auto attempt = Failing("BuildDetail ", LineShape::ColonText);
-    attempt([&] { Trace("build detail"); });
+    attempt.Say("build detail");
 
     std::size_t size = CrLf.size();
     for (const auto& group : data.groups) {

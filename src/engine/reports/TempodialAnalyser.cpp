@@ -40,8 +40,8 @@ Ref<AppointmentItem> TempodialAnalyser::ReturnMatchingItem(const std::string& pa
     const auto folder = attempt.Get([&] { return mMain->GetWorkLog(); });
     const auto filter
         = attempt.Get([&] { return "[" + param + "] = \"" + mPlatform->formats->Moment(paramDate) + "\""; });
-    attempt([&] {
-        Trace("ReturnItem by " + param + ": " + mPlatform->formats->General(paramDate) + " search on: " + filter);
+    attempt.Say([&] {
+        return "ReturnItem by " + param + ": " + mPlatform->formats->General(paramDate) + " search on: " + filter;
     });
     auto item = attempt.Get([&] { return folder->Items()->Find(filter).As<AppointmentItem>(); });
     Trace(item ? "found one" : "didn't find one");
@@ -88,9 +88,9 @@ bool TempodialAnalyser::ApplyProjectForDay(const std::string& project, Date day,
     const auto count = attempt.Get([&] { return dayItems->Count(); });
     for (std::int32_t index = 1; index <= count; ++index) {
         const auto item = attempt.Get([&] { return dayItems->Item(index).As<AppointmentItem>(); });
-        attempt([&] { Trace("iterate item: " + item->Subject()); });
+        attempt.Say([&] { return "iterate item: " + item->Subject(); });
         if (!mMain->IsInspector(item)) {
-            attempt([&] { Trace("trying apply to item: " + item->Subject()); });
+            attempt.Say([&] { return "trying apply to item: " + item->Subject(); });
             if (mMain->ApplyProjectToItem(project, item)) {
                 Trace("matched, save it");
                 attempt([&] { item->Save(); });
@@ -176,14 +176,14 @@ void TempodialAnalyser::DisplayAnalysis(const std::string& day, const std::strin
 {
     const auto attempt = Failing("Display", LineShape::ColonText);
     mStage = "OpenDataFile";
-    attempt([&] { Trace("display data"); });
+    attempt.Say("display data");
 
     std::string page;
     const auto source = attempt.Get(
         [&] { return mMain->mCommonUtils->OpenDataFile("analysistemplate.html", false, OpenMode::Reading); });
     if (source) {
         attempt([&] { page = source->ReadAll(); });
-        attempt([&] { Trace("read contents"); });
+        attempt.Say("read contents");
         const std::pair<std::string_view, std::string> figures[] = {
             { "#DAY#", day },
             { "#STARTTIME#", startTime },

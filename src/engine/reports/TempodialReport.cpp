@@ -34,6 +34,7 @@ void TempodialReport::Initialize(
     mApplication = ReportTypes::Application;
     mDescription = ReportTypes::Description;
     mDate = ReportTypes::Date;
+    Trace("revision 1 TempodialReport");
 }
 
 void TempodialReport::Terminate()
@@ -50,9 +51,9 @@ std::string TempodialReport::CreateReport(Date startDate, Date endDate, std::int
     const auto self = shared_from_this();
     mStage = "looping through days";
     const auto progress = attempt.Get([&] { return MakeRef<ProgressBarForm>(mPlatform); });
-    attempt([&] {
+    attempt.Say([&] {
         auto& formats = *mPlatform->formats;
-        Trace("generate report on [" + formats.General(startDate) + "," + formats.General(endDate) + "]");
+        return "generate report on [" + formats.General(startDate) + "," + formats.General(endDate) + "]";
     });
     const auto csv = createCSVFile ? OpenCSVFile(startDate, endDate, csvFilePath, attempt) : Ref<TextStream>();
     const auto [attribute, label] = GetGrouping(reportType);
@@ -121,7 +122,7 @@ Ref<TextStream> TempodialReport::OpenCSVFile(
     attempt([&] {
         csvFilePath = files.BuildPath(mMain->mCommonUtils->GetDataFolderName(), "Tempodial " + dateText + ".csv");
     });
-    attempt([&] { Trace("csv file: " + csvFilePath); });
+    attempt.Say("csv file: " + csvFilePath);
     auto csv = attempt.Get([&] { return files.OpenTextFile(csvFilePath, OpenMode::Writing, true); });
     attempt([&] { csv->WriteLine(mMain->mStrings->mReportCSVHeader); });
     return csv;
@@ -137,10 +138,8 @@ std::optional<ReportData> TempodialReport::GatherDays(
     std::int32_t daymask = 0;
     if (workDayOnly) {
         attempt([&] { mMain->mUtils->GetWorkDay(startTime, endTime, daymask); });
-        attempt([&] {
-            Trace("restrict to times [" + std::to_string(startTime) + "," + std::to_string(endTime) + ") on days "
-                + std::to_string(daymask));
-        });
+        attempt.Say("restrict to times [" + std::to_string(startTime) + "," + std::to_string(endTime) + ") on days "
+            + std::to_string(daymask));
     }
 
     mStage = "looping through, by day";
@@ -150,7 +149,7 @@ std::optional<ReportData> TempodialReport::GatherDays(
     for (std::int64_t step = 0; step <= steps; ++step) {
         const auto day = startDate.AddDays(step);
         if (workDayOnly && (daymask & (Sunday >> (day.Weekday() - 1))) == 0) {
-            attempt([&] { Trace("skipping " + formats.General(day) + " as it looks to be non-working day"); });
+            attempt.Say([&] { return "skipping " + formats.General(day) + " as it looks to be non-working day"; });
             continue;
         }
         const bool isCancelled = gathering.GetReportInfo(day, startTime, endTime, heading, text);
@@ -158,7 +157,7 @@ std::optional<ReportData> TempodialReport::GatherDays(
         if (hasAddInEnded) {
             return std::nullopt;
         }
-        attempt([&] { Trace("new totaltime: " + std::to_string(gathering.mData.totalTime)); });
+        attempt.Say("new totaltime: " + std::to_string(gathering.mData.totalTime));
         if (isCancelled) {
             return std::nullopt;
         }
@@ -179,7 +178,7 @@ std::string TempodialReport::BuildPlainReport(ReportData& data, bool detailed, c
             = "#DETAILTITLE# " + mMain->mStrings->mReportActivityList + std::string(CrLf) + "#DETAILLIST#";
         attempt([&] { report += texts.BuildDetail(data, false, groupTemplate); });
     }
-    attempt([&] { Trace("Report: " + report); });
+    attempt.Say([&] { return "Report: " + report; });
     return report;
 }
 
@@ -197,7 +196,7 @@ std::string TempodialReport::BuildHTMLReport(
     auto line = ReadTemplate("ReportLineTemplate.html", "read line contents", attempt);
     if (!line) {
         line = PlainLineTemplate;
-        attempt([&] { Trace("default to plain per-line contents"); });
+        attempt.Say("default to plain per-line contents");
     }
 
     ReportText texts(mPlatform, mLog, mMain->mStrings);
@@ -216,7 +215,7 @@ std::string TempodialReport::BuildHTMLReport(
     auto report = header + summary;
     summary = std::string(); // it may be long, and isn't to be held twice
     if (detailed) {
-        attempt([&] { Trace("set details"); });
+        attempt.Say("set details");
         attempt([&] { details = Replace(details, "#CRITERIA#", label); });
         attempt([&] { details = Replace(details, "#DETAILS#", texts.BuildDetail(data, true, detailLine)); });
         attempt([&] { details = html.HTMLMogrify(std::move(details)); });
@@ -238,7 +237,7 @@ std::optional<std::string> TempodialReport::ReadTemplate(
         return std::nullopt;
     }
     auto text = attempt.Get([&] { return stream->ReadAll(); });
-    attempt([&] { Trace(readWords); });
+    attempt.Say(readWords);
     attempt([&] { stream->Close(); });
     return text;
 }

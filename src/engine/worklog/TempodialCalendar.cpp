@@ -41,7 +41,7 @@ void TempodialCalendar::mCalendarItems_ItemAdd(const Ref<OutlookItem>& item)
     if (!attempt.Get([&] { return appointment->IsRecurring(); })) {
         return;
     }
-    attempt([&] { Trace("new item add: " + mPlatform->formats->General(appointment->Start())); });
+    attempt.Say([&] { return "new item add: " + mPlatform->formats->General(appointment->Start()); });
     const auto copy = attempt.Get([&] { return appointment->Copy(); });
     attempt([&] { copy->Move(mMain->GetWorkLog()); });
 }

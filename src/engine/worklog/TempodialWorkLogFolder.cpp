@@ -125,9 +125,14 @@ Ref<MAPIFolder> TempodialWorkLog::GetFolder(const std::string& strFolderPath)
         if (part.empty()) {
             continue;
         }
-        const auto folders = attempt.Get([&] { return folder ? folder->Folders() : mNamespace->Folders(); });
-        Trace((folder ? "now search under " : "search under ") + part);
-        folder = attempt.Get([&] { return folders->ItemNamed(part); });
+        if (!folder) {
+            Trace("search under " + part);
+            folder = attempt.Get([&] { return mNamespace->Folders()->ItemNamed(part); });
+        } else {
+            const auto folders = attempt.Get([&] { return folder->Folders(); });
+            Trace("now search under " + part);
+            folder = attempt.Get([&] { return folders->ItemNamed(part); });
+        }
         if (!folder) {
             return nullptr;
         }

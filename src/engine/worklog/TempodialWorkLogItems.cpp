@@ -141,9 +141,9 @@ void TempodialWorkLog::ExtraCalendarItemInfo(const Ref<AppointmentItem>& item, c
 {
     const auto attempt = Failing("ExtraCalendarInfo error ", LineShape::TextBlankStep);
     const auto& strings = *mMain->mStrings;
-    attempt([&] {
-        Trace("add xtra info to: " + item->Subject() + "start " + mPlatform->formats->General(item->Start()) + " end "
-            + mPlatform->formats->General(item->End()));
+    attempt.Say([&] {
+        return "add xtra info to: " + item->Subject() + "start " + mPlatform->formats->General(item->Start()) + " end "
+            + mPlatform->formats->General(item->End());
     });
     mStage = "new detail";
     if (mMain->IsInspector(item)) {
@@ -227,13 +227,18 @@ bool TempodialWorkLog::ApplyProjectToItem(const std::string& project, const Ref<
     const auto attempt = Failing("applyproject error ", LineShape::TextBlankStep);
     mStage = "set properties";
     const auto properties = attempt.Get([&] { return item->UserProperties(); });
-    const auto text
-        = [&](const char* name) { return attempt.Get([&] { return properties->Item(name)->Value().ToText(); }); };
+    bool isReadable = true;
+    const auto text = [&](const char* name) {
+        std::string value;
+        isReadable &= attempt([&] { value = properties->Item(name)->Value().ToText(); });
+        return value;
+    };
     const auto people = text("People");
     const auto type = text("Type");
     const auto description = text("Description");
     Trace("check if project matches");
-    if (!mMain->IsProject(project, CreateSubject("", type, description), people)) {
+    // An item that couldn't be read whole would be written with what is missing.
+    if (!mMain->IsProject(project, CreateSubject("", type, description), people) || !isReadable) {
         return false;
     }
     Trace("project matches");
@@ -246,9 +251,9 @@ bool TempodialWorkLog::ApplyProjectToItem(const std::string& project, const Ref<
 void TempodialWorkLog::CreateCalendarDuplicate(const Ref<AppointmentItem>& item, bool display, bool save)
 {
     const auto attempt = Failing("create dupe now error ", LineShape::TextBlankStep);
-    attempt([&] {
-        Trace("Create dupe now for: " + mPlatform->formats->General(item->Start()) + " to "
-            + mPlatform->formats->General(item->End()));
+    attempt.Say([&] {
+        return "Create dupe now for: " + mPlatform->formats->General(item->Start()) + " to "
+            + mPlatform->formats->General(item->End());
     });
     const auto subject = attempt.Get([&] { return item->Subject(); });
     const auto start = attempt.Get([&] { return item->Start(); });

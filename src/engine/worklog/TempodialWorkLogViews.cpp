@@ -23,14 +23,14 @@ void TempodialWorkLog::LoadForms()
     const auto path = attempt.Get([&] { return mMain->mUtils->GetPathToInstallFile(mMain->mStrings->mFormName); });
     mStage = "CreateItemfromTemplate";
     const auto item = attempt.Get([&] { return mApplication->CreateItemFromTemplate(path, folder); });
-    attempt([&] { Trace("form item: " + item->MessageClass()); });
+    attempt.Say([&] { return "form item: " + item->MessageClass(); });
     mStage = "assign FD";
     const auto form = attempt.Get([&] { return item->FormDescription(); });
     mStage = "init FD";
     attempt([&] { form->SetDisplayName("Activity"); });
     attempt([&] { form->PublishForm(FormRegistry::Personal); });
-    attempt([&] { Trace("form description: " + form->MessageClass()); });
-    attempt([&] { Trace("LoadForms Loaded Form: " + std::to_string(static_cast<std::int32_t>(form->Class()))); });
+    attempt.Say([&] { return "form description: " + form->MessageClass(); });
+    attempt.Say([&] { return "LoadForms Loaded Form: " + std::to_string(static_cast<std::int32_t>(form->Class())); });
     if (!attempt.Get([&] { return form->MessageClass() == mMain->mStrings->mFormClass; })) {
         attempt(
             [&] { mPlatform->messageBox->Show("Form not in sync. cannot run", { Answer::Ok }, MessageIcon::None); });
@@ -172,7 +172,7 @@ void TempodialWorkLog::CreateMyView(
         text = ReadToEnd(attempt, OpenInstallFile(attempt, filename));
     }
     mStage = "Views.count";
-    attempt([&] { Trace(" view count: " + std::to_string(objviews->Count())); });
+    attempt.Say([&] { return " view count: " + std::to_string(objviews->Count()); });
     mStage = "Views.add";
     const auto view = attempt.Get([&] { return objviews->Add(myName, myType, ViewSaveOption::ThisFolderEveryone); });
     mStage = "Views.Add complete";

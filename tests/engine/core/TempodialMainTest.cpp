@@ -23,7 +23,7 @@ TEST_F(TempodialMainTest, Initialize_TracesItsStepsInOrder)
             "Outlook version is 11.0.0.8010", "not 2002", "server security settings: ", "Oldver:  currVer: 1.2.0",
             "SetRegistryValue: CurrentVersion to 1.2.0", "Init toolbar utils revision 1 TempodialToolbarUtils",
             "PSF Init", "ReportForm Init", "revision 1 TempodialMain Initialize ", "revision 1 TempodialWorkLog",
-            "Initialize revision 1 TempodialDataHandler", "revision 1 TempodialAnalyser",
+            "Initialize revision 1 TempodialDataHandler", "revision 1 TempodialAnalyser", "revision 1 TempodialReport",
             "revision 1 TempodialProjectManager", "Initialized, run next "));
     EXPECT_EQ(Main().mTraceInfo, "TDMain");
 }

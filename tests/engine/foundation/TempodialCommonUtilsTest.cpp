@@ -60,16 +60,17 @@ TEST_F(TempodialCommonUtilsTest, GetDataFolder_HasItsFiles)
     mFolder.Write("Data/b.out", "12345");
     mFolder.Write("Data/a.out", "");
     const auto folder = mUtils->GetDataFolder();
-    EXPECT_EQ(folder.path, mFolder.Path("Data"));
-    ASSERT_EQ(folder.files.size(), 2);
-    EXPECT_EQ(folder.files[0].name, "a.out");
-    EXPECT_EQ(folder.files[1].size, 5);
+    ASSERT_TRUE(folder);
+    EXPECT_EQ(folder->path, mFolder.Path("Data"));
+    ASSERT_EQ(folder->files.size(), 2);
+    EXPECT_EQ(folder->files[0].name, "a.out");
+    EXPECT_EQ(folder->files[1].size, 5);
 }
 
-TEST_F(TempodialCommonUtilsTest, GetDataFolder_CannotBeHad_IsEmptyWithoutALine)
+TEST_F(TempodialCommonUtilsTest, GetDataFolder_CannotBeHad_IsNothingWithoutALine)
 {
     mFolder.Write("Data", "a file stands where the folder should");
-    EXPECT_EQ(mUtils->GetDataFolder().path, "");
+    EXPECT_FALSE(mUtils->GetDataFolder());
     EXPECT_THAT(Traced(), IsEmpty());
 }
 

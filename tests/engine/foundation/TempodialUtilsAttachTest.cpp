@@ -130,13 +130,14 @@ TEST_F(TempodialUtilsAttachTest, AttachDiagsFiles_NoMail_CostsALineForEachFile)
             "TDUtils Attachdiagsfiles error Object variable or With block variable not set Buildpath"));
 }
 
-TEST_F(TempodialUtilsAttachTest, AttachDiagsFiles_NoDataFolder_AttachesNothing)
+TEST_F(TempodialUtilsAttachTest, AttachDiagsFiles_NoDataFolder_AttachesNothingAndCostsALine)
 {
     mFiles->fails = true;
     mFiles->names = { "trace1" };
     Attach(mMail, true);
     EXPECT_THAT(Attached(), IsEmpty());
-    EXPECT_THAT(mAddIn.Trace(), IsEmpty());
+    EXPECT_THAT(mAddIn.Trace(),
+        ElementsAre("TDUtils Attachdiagsfiles error Object variable or With block variable not set get files"));
 }
 
 }

@@ -23,7 +23,15 @@ public:
     std::vector<File> files;
     std::vector<std::string> deleted;
 
-    Folder GetFolder(const std::string& path) override { return { path, files }; }
+    bool fails = false;
+
+    Folder GetFolder(const std::string& path) override
+    {
+        if (fails) {
+            throw Failure(Error::PermissionDenied);
+        }
+        return { path, files };
+    }
     void DeleteFile(const std::string& path, bool force) override
     {
         EXPECT_FALSE(force);
@@ -325,6 +333,17 @@ TEST_F(TempodialUtilsTest, CleanUpOldFiles_DeletesTrackerFilesFromBeforeTheCutOf
     EXPECT_THAT(mAddIn.Trace(),
         ElementsAre("TDUtils old enough to delete", "TDUtils old enough to delete",
             "TDUtils Attachdiagsfiles error Permission denied Iterate", "TDUtils old enough to delete"));
+}
+
+TEST_F(TempodialUtilsTest, CleanUpOldFiles_FolderCanNotBeListed_CostsALine)
+{
+    const auto files = MakeRef<AgedFiles>(mFolder.Path());
+    files->fails = true;
+    mAddIn.platform->fileSystem = files;
+    mAddIn.main->mCommonUtils->Initialize(mAddIn.main->mTempodialDebugLog, "Tempodial", "16.0");
+    Utils().CleanUpOldFiles();
+    EXPECT_THAT(mAddIn.Trace(),
+        ElementsAre("TDUtils Attachdiagsfiles error Object variable or With block variable not set Iterate"));
 }
 
 TEST_F(TempodialUtilsTest, Terminate_TracesOnceAndLetsGo)

@@ -58,6 +58,16 @@ TEST_F(TracedObjectTest, Attempt_StatementFails_TracesTheLineOfTheShape)
     }
 }
 
+TEST_F(TracedObjectTest, Attempt_FinishedShape_TellsOfTheEndOfAFileBehindItsLine)
+{
+    const auto attempt = mWorker.Failing("words ", LineShape::TextBlankStepFinished);
+    attempt([] { throw Failure(Error::InputPastEnd); });
+    attempt([] { Fail(); });
+    EXPECT_THAT(Traced(),
+        ElementsAre(
+            "Worker words Input past end of file step", "Worker Finished file", "Worker words File not found step"));
+}
+
 TEST_F(TracedObjectTest, Attempt_SilentStatementFails_TracesNothing)
 {
     EXPECT_FALSE(mWorker.Failing("words ", LineShape::Silent)([] { Fail(); }));
@@ -110,6 +120,21 @@ TEST_F(TracedObjectTest, Attempt_WithHandler_HandsItTheFailureInPlaceOfTheLine)
     EXPECT_THAT(Traced(), IsEmpty());
 }
 
+TEST_F(TracedObjectTest, Say_TextOrExpression_TracesIt)
+{
+    const auto attempt = mWorker.Failing("words ", LineShape::TextOnly);
+    attempt.Say("word");
+    attempt.Say(std::string("text"));
+    attempt.Say([] { return std::string("expression"); });
+    EXPECT_THAT(Traced(), ElementsAre("Worker word", "Worker text", "Worker expression"));
+}
+
+TEST_F(TracedObjectTest, Say_ExpressionFails_TracesTheFailureAndGoesOn)
+{
+    mWorker.Failing("words ", LineShape::TextOnly).Say([]() -> std::string { Fail(); });
+    EXPECT_THAT(Traced(), ElementsAre("Worker words File not found"));
+}
+
 TEST_F(TracedObjectTest, Get_ExpressionSucceeds_IsItsValue)
 {
     EXPECT_EQ(mWorker.Failing("words ", LineShape::TextOnly).Get([] { return std::string("value"); }), "value");
@@ -135,9 +160,13 @@ TEST_F(TracedObjectTest, Attempt_LogIsGone_FailureLeavesTheRoutine)
     EXPECT_EQ(FailureNumber([&] { attempt([] { Fail(); }); }), 91);
     EXPECT_EQ(FailureNumber([&] { attempt.Get([]() -> int { Fail(); }); }), 91);
     EXPECT_EQ(FailureNumber([&] { mWorker.Trace("text"); }), 91);
+    EXPECT_EQ(FailureNumber([&] { attempt.Say("text"); }), 91);
+    EXPECT_EQ(FailureNumber([&] { attempt.Say([] { return "text"; }); }), 91);
     // Nothing has to be traced here.
     EXPECT_TRUE(attempt([] {}));
-    EXPECT_FALSE(mWorker.Failing("", LineShape::Silent)([] { Fail(); }));
+    const auto silently = mWorker.Failing("", LineShape::Silent);
+    EXPECT_FALSE(silently([] { Fail(); }));
+    EXPECT_EQ(FailureNumber([&] { silently.Say("text"); }), 0);
 }
 
 }

@@ -207,6 +207,20 @@ TEST_F(TempodialDataHandlerTest, SyncData_EmptyHistoryAndNothingNew_StaysEmpty)
     EXPECT_EQ(*(failed + 2), "history: ");
 }
 
+TEST_F(TempodialDataHandlerTest, SyncData_AnyReadPastTheEnd_TracesThatTheFileIsFinished)
+{
+    mAddIn.journal->hook = [](const std::string& call) {
+        if (call == "Begin") {
+            throw Failure(Error::InputPastEnd);
+        }
+    };
+    Sync();
+    const auto lines = mAddIn.TraceTexts();
+    const auto failed = std::find(lines.begin(), lines.end(), "SyncData error Input past end of file history");
+    ASSERT_NE(failed, lines.end());
+    EXPECT_EQ(*(failed + 1), "Finished file");
+}
+
 TEST_F(TempodialDataHandlerTest, SyncData_NothingNewToday_KeepsTheEntryAlone)
 {
     mAddIn.WriteHistory("|20061001_00100|20061010_04000");

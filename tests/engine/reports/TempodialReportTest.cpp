@@ -78,6 +78,13 @@ TEST_F(TempodialReportTest, Initialize_Types_AreNumbered)
     EXPECT_EQ(mReport->mTraceInfo, "TDReport");
 }
 
+TEST_F(TempodialReportTest, Initialize_TracesItsRevision)
+{
+    mAddIn.Trace();
+    mReport->Initialize(mAddIn.main, mAddIn.application, mAddIn.main->mTempodialDebugLog);
+    EXPECT_THAT(mAddIn.Trace(), ElementsAre("TDReport revision 1 TempodialReport"));
+}
+
 TEST_F(TempodialReportTest, CreateReport_NoActivities_HasATailAlone)
 {
     const std::string report = "\r\n***Total time at PC: 0 hours 00 minutes ***\r\n";

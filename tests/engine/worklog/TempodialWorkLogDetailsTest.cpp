@@ -264,6 +264,18 @@ TEST_F(TempodialWorkLogDetailsTest, ApplyProjectToItem_ProjectCantBeWritten_IsFa
     EXPECT_THAT(Traced(), Contains("TDWorklog applyproject error Automation error set properties"));
 }
 
+TEST_F(TempodialWorkLogDetailsTest, ApplyProjectToItem_PropertyCantBeRead_IsFalseAndTheItemUntouched)
+{
+    AddProject("Beta", "plan;notepad;none");
+    for (const auto* name : { "People", "Type", "Description" }) {
+        const auto item = Activity("A");
+        const auto observed = MakeRef<ObservedItem>(item, FailingAt({ std::string("Value of ") + name }));
+        EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", observed)) << name;
+        EXPECT_FALSE(item.As<StoreItem>()->HasChanges()) << name;
+        EXPECT_THAT(Traced(), Contains("TDWorklog applyproject error Automation error set properties").Times(1));
+    }
+}
+
 TEST_F(TempodialWorkLogDetailsTest, ApplyProjectToItem_NoItemOrUnknownProject_IsFalse)
 {
     AddProject("Beta", "plan");

@@ -330,6 +330,13 @@ TEST_F(TempodialWorkLogFolderTest, GetFolder_UnknownPart_GivesNothingWithOneFail
     EXPECT_THAT(Traced(), IsEmpty());
 }
 
+TEST_F(TempodialWorkLogFolderTest, GetFolder_StoresUnreadable_TellsWhatIsSearchedFirst)
+{
+    Restart(FailingAt("NameSpace.Folders"));
+    EXPECT_FALSE(mWorkLog->GetFolder("\\\\Mailbox\\Calendar"));
+    EXPECT_THAT(Traced(), ElementsAre("TDWorklog search under Mailbox", "TDWorklog GetFOlder error Automation error "));
+}
+
 TEST_F(TempodialWorkLogFolderTest, FindFolderByID_FolderGiven_IsLookedAtWithAllBelow)
 {
     const auto folder = MakeFolder();
