@@ -2,9 +2,9 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "base/Utf8.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/ReplacementFile.h"
-#include "host/files/TextEncoding.h"
 #include "host/system/RegistryText.h"
 
 #include <toml++/toml.h>
