@@ -1,9 +1,9 @@
 #include "session/ProgramRegistry.h"
 
 #include "base/Text.h"
+#include "host/files/ProgramFolder.h"
 
-#include <filesystem>
-#include <system_error>
+#include <utility>
 
 namespace tempodial {
 
@@ -30,9 +30,7 @@ void ProgramRegistry::Write(Hive hive, const std::string& key, const std::string
 
 std::string ProgramRegistry::FolderOfThisProgram()
 {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return (program.parent_path().parent_path() / "share/tempodial").string();
+    return InProgramFolder("share/tempodial");
 }
 
 }
