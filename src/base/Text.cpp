@@ -2,9 +2,9 @@
 
 #include "base/CaseFold.h"
 #include "base/Failure.h"
+#include "base/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace tempodial {
@@ -13,106 +13,13 @@ namespace {
 
 constexpr auto NotFound = std::string_view::npos;
 
-/// Eight bytes, the unit in which ASCII is worked on.
-using Word = std::uint64_t;
-
-constexpr Word EachByte(unsigned char byte)
-{
-    return byte * Word(0x0101010101010101);
-}
-
-Word WordAt(const char* bytes)
-{
-    Word word = 0;
-    std::memcpy(&word, bytes, sizeof(word));
-    return word;
-}
-
-constexpr bool IsAscii(Word word)
-{
-    return (word & EachByte(0x80)) == 0;
-}
-
-/// Length of the run of ASCII bytes from an offset on.
-std::size_t AsciiRun(std::string_view text, std::size_t from)
-{
-    auto offset = from;
-    while (offset + sizeof(Word) <= text.size() && IsAscii(WordAt(text.data() + offset))) {
-        offset += sizeof(Word);
-    }
-    while (offset < text.size() && static_cast<unsigned char>(text[offset]) < 0x80) {
-        ++offset;
-    }
-    return offset - from;
-}
-
-bool IsAscii(std::string_view text)
-{
-    return AsciiRun(text, 0) == text.size();
-}
-
-struct Character
-{
-    char32_t code;
-    std::size_t size;
-    bool isValid;
-};
-
-/// The character at an offset; a byte that belongs to no valid character has its own value as code.
-Character Decode(std::string_view text, std::size_t offset)
-{
-    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(text[offset + index]); };
-    const auto lead = byte(0);
-    if (lead < 0x80) {
-        return { lead, 1, true };
-    }
-    const Character broken = { lead, 1, false };
-    const std::size_t size = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : 2;
-    if (lead < 0xc2 || lead > 0xf4 || text.size() - offset < size) {
-        return broken;
-    }
-    char32_t code = lead & (0xffU >> (size + 1));
-    for (std::size_t index = 1; index < size; ++index) {
-        if ((byte(index) & 0xc0U) != 0x80U) {
-            return broken;
-        }
-        code = (code << 6U) | (byte(index) & 0x3fU);
-    }
-    constexpr std::array<char32_t, 5> Smallest = { 0, 0, 0x80, 0x800, 0x10000 };
-    const bool isSurrogate = code >= 0xd800 && code <= 0xdfff;
-    if (code < Smallest[size] || isSurrogate || code > 0x10ffff) {
-        return broken;
-    }
-    return { code, size, true };
-}
-
-void Encode(std::string& out, char32_t code)
-{
-    const auto tail = [&](unsigned shift) { out += static_cast<char>(0x80U | ((code >> shift) & 0x3fU)); };
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xc0U | (code >> 6U));
-        tail(0);
-    } else if (code < 0x10000) {
-        out += static_cast<char>(0xe0U | (code >> 12U));
-        tail(6);
-        tail(0);
-    } else {
-        out += static_cast<char>(0xf0U | (code >> 18U));
-        tail(12);
-        tail(6);
-        tail(0);
-    }
-}
-
 /// Number of characters in the bytes up to an offset, which must be the start of a character.
 std::size_t CharactersBefore(std::string_view text, std::size_t end)
 {
     std::size_t offset = AsciiRun(text.substr(0, end), 0);
     auto count = offset;
     while (offset < end) {
-        offset += Decode(text, offset).size;
+        offset += DecodeUtf8(text, offset).size;
         ++count;
     }
     return count;
@@ -124,35 +31,22 @@ std::size_t Skip(std::string_view text, std::size_t offset, std::size_t characte
     const auto run = AsciiRun(text.substr(0, offset + std::min(characters, text.size() - offset)), offset);
     offset += run;
     for (auto left = characters - run; left > 0 && offset < text.size(); --left) {
-        offset += Decode(text, offset).size;
+        offset += DecodeUtf8(text, offset).size;
     }
     return offset;
-}
-
-bool IsWellFormed(std::string_view text)
-{
-    auto offset = AsciiRun(text, 0);
-    while (offset < text.size()) {
-        const auto character = Decode(text, offset);
-        if (!character.isValid) {
-            return false;
-        }
-        offset += character.size;
-    }
-    return true;
 }
 
 /// Offset of the first place, from the start of a character on, where a text that isn't well-formed occurs as whole
 /// characters.
 std::size_t FindBroken(std::string_view text, std::string_view find, std::size_t offset)
 {
-    for (; offset < text.size(); offset += Decode(text, offset).size) {
+    for (; offset < text.size(); offset += DecodeUtf8(text, offset).size) {
         if (!text.substr(offset).starts_with(find)) {
             continue;
         }
         auto end = offset;
         while (end < offset + find.size()) {
-            end += Decode(text, end).size;
+            end += DecodeUtf8(text, end).size;
         }
         if (end == offset + find.size()) {
             return offset;
@@ -167,7 +61,7 @@ class Needle
 public:
     explicit Needle(std::string_view find)
         : mFind(find)
-        , mIsWellFormed(IsWellFormed(find))
+        , mIsWellFormed(IsUtf8(find))
     {
     }
 
@@ -210,7 +104,7 @@ constexpr char FoldAscii(char character)
 }
 
 /// Eight ASCII bytes with their case folded: the high bit of a byte tells whether it reaches 'A', and then 'Z'.
-constexpr Word FoldAscii(Word word)
+constexpr AsciiWord FoldAscii(AsciiWord word)
 {
     const auto isUpper = (word + EachByte(0x80 - 'A')) & ~(word + EachByte(0x80 - 'Z' - 1)) & EachByte(0x80);
     return word | (isUpper >> 2U);
@@ -220,7 +114,7 @@ constexpr Word FoldAscii(Word word)
 std::size_t FoldAsciiRun(std::string& text)
 {
     std::size_t offset = 0;
-    for (; offset + sizeof(Word) <= text.size(); offset += sizeof(Word)) {
+    for (; offset + sizeof(AsciiWord) <= text.size(); offset += sizeof(AsciiWord)) {
         const auto word = WordAt(text.data() + offset);
         if (!IsAscii(word)) {
             break;
@@ -228,7 +122,7 @@ std::size_t FoldAsciiRun(std::string& text)
         const auto folded = FoldAscii(word);
         std::memcpy(text.data() + offset, &folded, sizeof(folded));
     }
-    for (; offset < text.size() && static_cast<unsigned char>(text[offset]) < 0x80; ++offset) {
+    for (; offset < text.size() && IsAscii(text[offset]); ++offset) {
         text[offset] = FoldAscii(text[offset]);
     }
     return offset;
@@ -263,7 +157,7 @@ std::int32_t InStrRev(std::string_view text, std::string_view find)
     const Needle needle(find);
     auto last = NotFound;
     for (auto offset = needle.FindIn(text, 0); offset != NotFound;
-         offset = needle.FindIn(text, offset + Decode(text, offset).size)) {
+         offset = needle.FindIn(text, offset + DecodeUtf8(text, offset).size)) {
         last = offset;
     }
     return Position(text, last);
@@ -358,9 +252,9 @@ std::string Fold(std::string_view text)
     }
     out.resize(ascii);
     for (auto offset = ascii; offset < text.size();) {
-        const auto character = Decode(text, offset);
+        const auto character = DecodeUtf8(text, offset);
         if (character.isValid) {
-            Encode(out, FoldCharacter(character.code));
+            AppendUtf8(out, FoldCharacter(character.code));
         } else {
             out += text[offset];
         }

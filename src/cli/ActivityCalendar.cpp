@@ -2,6 +2,7 @@
 
 #include "base/Number.h"
 #include "base/Text.h"
+#include "base/Utf8.h"
 #include "session/ProductFacts.h"
 
 #include <cstddef>
@@ -51,7 +52,7 @@ public:
         std::size_t room = LongestLine;
         while (line.size() - begin > room) {
             auto end = begin + room;
-            while (end > begin + 1 && (static_cast<unsigned char>(line[end]) & 0xc0U) == 0x80U) {
+            while (end > begin + 1 && IsUtf8Tail(line[end])) {
                 --end;
             }
             mText += std::string_view(line).substr(begin, end - begin);

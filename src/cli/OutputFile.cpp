@@ -2,14 +2,12 @@
 
 #include "base/Failure.h"
 #include "cli/CommandError.h"
-#include "host/files/FileDescriptor.h"
-#include "host/system/FileReplacer.h"
+#include "host/files/ReplacementFile.h"
 #include "host/system/GMimeDraftWriter.h"
 #include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
 
-#include <fcntl.h>
 #include <string_view>
 
 namespace tempodial {
@@ -23,7 +21,7 @@ bool IsDatabase(const std::string& path)
     std::string head(mark.size(), '\0');
     try {
         // Doesn't wait at a pipe, as a stream would.
-        const FileDescriptor file(NativePath(path), O_RDONLY);
+        const FileDescriptor file(NativePath(path), Opening::Reading);
         return file.Read(head.data(), head.size()) == head.size() && head == mark;
     } catch (const Failure&) {
         return false;
@@ -66,9 +64,9 @@ bool OutputFile::IsNamed() const
 void OutputFile::Write(const std::string& text) const
 {
     WriteOrTell(Path(), [&] {
-        FileReplacer file(NativePath(Path()), true);
+        ReplacementFile file { NativePath(Path()) };
         file.Write(text);
-        file.Close();
+        file.Commit();
     });
 }
 

@@ -1,22 +1,14 @@
 #include "session/ProfileFolder.h"
 
+#include "host/files/PathOperations.h"
 #include "session/ProductFacts.h"
 #include "session/ProfileError.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdlib>
-#include <fcntl.h>
-#include <filesystem>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <system_error>
-#include <unistd.h>
 
 namespace tempodial {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -26,73 +18,80 @@ std::string Environment(const char* name)
     return value ? value : "";
 }
 
-std::string SystemText(int error)
-{
-    return std::system_category().message(error);
-}
-
 /// True for a folder in which nothing but our own files can be.
-bool IsOurs(const fs::path& folder)
+bool IsOurs(const std::string& path, const FolderDescriptor& folder)
 {
-    constexpr std::array<const char*, 3> names { MailboxFileName, RegistryFileName, DataFolderName };
-    std::error_code ignored;
-    return fs::is_empty(folder, ignored)
-        || std::any_of(names.begin(), names.end(), [&](auto name) { return fs::exists(folder / name, ignored); });
+    const std::array<std::string, 3> names { MailboxFileName, RegistryFileName, DataFolderName };
+    return folder.IsEmpty() || std::any_of(names.begin(), names.end(), [&](const auto& name) {
+        return StatusAt(NativePath::Exactly(path + "/" + name), Links::Followed).has_value();
+    });
+}
+
+std::string UsablePath(const std::string& path)
+{
+    try {
+        if (!path.empty()) {
+            return AbsolutePath(path).Text();
+        }
+    } catch (const SystemFailure&) {
+        // Told below.
+    }
+    throw ProfileError("the profile has no usable path: name a folder with --profile");
+}
+
+/// Makes the folder when it is absent.
+void Make(const NativePath& folder)
+{
+    MakeFoldersAbove(folder);
+    try {
+        MakeFolder(folder);
+    } catch (const SystemFailure& failure) {
+        if (!failure.Is(Error::FileExists)) {
+            throw ProfileError("can't make the profile folder " + folder.Text() + ": " + failure.Reason()
+                + ": name another with --profile, or see to its parent folder");
+        }
+    }
+}
+
+FolderDescriptor Opened(const NativePath& folder)
+{
+    Make(folder);
+    try {
+        return FolderDescriptor(folder);
+    } catch (const SystemFailure& failure) {
+        throw ProfileError("can't open the profile folder " + folder.Text() + ": " + failure.Reason()
+            + ": name another with --profile, or see to its permissions");
+    }
 }
 
 }
 
-ProfileFolder::ProfileFolder(std::string path)
+ProfileFolder::ProfileFolder(const std::string& path)
+    : mPath(UsablePath(path))
+    , mFolder(Opened(NativePath::Exactly(mPath)))
 {
-    std::error_code error;
-    const auto absolute = fs::absolute(path, error).lexically_normal();
-    mPath = absolute.has_filename() ? absolute.string() : absolute.parent_path().string();
-    if (path.empty() || error) {
-        throw ProfileError("the profile has no usable path: name a folder with --profile");
-    }
-    const fs::path folder(mPath);
-    fs::create_directories(folder.parent_path(), error);
-    if (::mkdir(mPath.c_str(), 0700) != 0 && errno != EEXIST) {
-        throw ProfileError("can't make the profile folder " + mPath + ": " + SystemText(errno)
-            + ": name another with --profile, or see to its parent folder");
-    }
     Lock();
     CloseToOthers();
 }
 
-ProfileFolder::~ProfileFolder()
+void ProfileFolder::Lock() const
 {
-    ::close(mDescriptor);
-}
-
-void ProfileFolder::Lock()
-{
-    mDescriptor = ::open(mPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (mDescriptor < 0) {
-        throw ProfileError("can't open the profile folder " + mPath + ": " + SystemText(errno)
-            + ": name another with --profile, or see to its permissions");
-    }
-    if (::flock(mDescriptor, LOCK_EX | LOCK_NB) != 0) {
-        const auto reason = errno;
-        ::close(mDescriptor);
-        if (reason == EWOULDBLOCK) {
+    try {
+        if (!mFolder.TryLock()) {
             throw ProfileInUse("the profile " + mPath
                 + " is in use by another process: wait until that has ended, or name another with --profile");
         }
-        throw ProfileError("can't lock the profile folder " + mPath + ": " + SystemText(reason)
+    } catch (const SystemFailure& failure) {
+        throw ProfileError("can't lock the profile folder " + mPath + ": " + failure.Reason()
             + ": put it on a file system that knows locks");
     }
 }
 
 void ProfileFolder::CloseToOthers() const
 {
-    struct stat status
-    {
-    };
     // A folder that holds other things too, such as one named by mistake, keeps its mode; our files are closed anyway.
-    if (::fstat(mDescriptor, &status) == 0 && (status.st_mode & 077) != 0 && status.st_uid == ::geteuid()
-        && IsOurs(mPath)) {
-        (void)::fchmod(mDescriptor, 0700);
+    if (mFolder.IsOpenToOthers() && IsOurs(mPath, mFolder)) {
+        mFolder.CloseToOthers();
     }
 }
 

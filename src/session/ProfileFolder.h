@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/files/FolderDescriptor.h"
+
 #include <string>
 
 namespace tempodial {
@@ -10,10 +12,7 @@ class ProfileFolder
 public:
     /// Makes the folder when it is absent, with access for its user alone, and locks it. Fails with `ProfileInUse` when
     /// another process holds it, with `ProfileError` when it can't be made or opened.
-    explicit ProfileFolder(std::string path);
-    ~ProfileFolder();
-    ProfileFolder(const ProfileFolder&) = delete;
-    ProfileFolder& operator=(const ProfileFolder&) = delete;
+    explicit ProfileFolder(const std::string& path);
 
     /// The absolute path.
     const std::string& Path() const { return mPath; }
@@ -23,11 +22,11 @@ public:
     static std::string Default();
 
 private:
-    void Lock();
+    void Lock() const;
     void CloseToOthers() const;
 
     std::string mPath;
-    int mDescriptor = -1;
+    FolderDescriptor mFolder;
 };
 
 }

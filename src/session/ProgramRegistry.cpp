@@ -1,10 +1,10 @@
 #include "session/ProgramRegistry.h"
 
 #include "base/Text.h"
+#include "host/files/ProgramFolder.h"
 #include "session/ProductFacts.h"
 
-#include <filesystem>
-#include <system_error>
+#include <utility>
 
 namespace tempodial {
 
@@ -31,9 +31,7 @@ void ProgramRegistry::Write(Hive hive, const std::string& key, const std::string
 
 std::string ProgramRegistry::FolderOfThisProgram()
 {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return (program.parent_path().parent_path() / "share/tempodial").string();
+    return InProgramFolder("share/tempodial");
 }
 
 }

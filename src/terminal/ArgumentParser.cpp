@@ -1,6 +1,6 @@
 #include "terminal/ArgumentParser.h"
 
-#include "host/files/TextEncoding.h"
+#include "base/Utf8.h"
 #include "session/ProductFacts.h"
 #include "terminal/UsageError.h"
 

@@ -1,15 +1,14 @@
 #include "terminal/TerminalText.h"
 
+#include "base/Utf8.h"
+
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <span>
 
 namespace tempodial {
 
 namespace {
-
-constexpr char32_t Replacement = 0xFFFD;
 
 struct Range
 {
@@ -36,66 +35,12 @@ bool IsIn(std::span<const Range> ranges, char32_t character)
         [character](const auto& range) { return character >= range.first && character <= range.last; });
 }
 
-/// A character and the bytes that it took.
-struct Decoded
-{
-    char32_t character;
-    std::size_t length;
-    bool valid;
-};
-
-/// The first character of a text that isn't empty; a byte that belongs to none counts as one.
-Decoded Decode(std::string_view text)
-{
-    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const auto lead = byte(0);
-    std::size_t length = 1;
-    char32_t character = lead;
-    char32_t least = 0;
-    if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4;
-        character = lead & 0x07U;
-        least = 0x10000;
-    } else if (lead >= 0xE0 && lead < 0xF0) {
-        length = 3;
-        character = lead & 0x0FU;
-        least = 0x800;
-    } else if (lead >= 0xC2 && lead < 0xE0) {
-        length = 2;
-        character = lead & 0x1FU;
-        least = 0x80;
-    } else if (lead >= 0x80) {
-        return { Replacement, 1, false };
-    }
-    if (length > text.size()) {
-        return { Replacement, 1, false };
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80U) {
-            return { Replacement, 1, false };
-        }
-        character = character << 6U | (byte(i) & 0x3FU);
-    }
-    if (character < least || character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) {
-        return { Replacement, 1, false };
-    }
-    return { character, length, true };
-}
-
-void Append(std::string& text, char32_t character)
-{
-    // Only signs of three bytes are put in the place of others.
-    text += static_cast<char>(0xE0U | character >> 12U);
-    text += static_cast<char>(0x80U | (character >> 6U & 0x3FU));
-    text += static_cast<char>(0x80U | (character & 0x3FU));
-}
-
 template <class Sink> void ForEach(std::string_view text, Sink&& sink)
 {
     while (!text.empty()) {
-        const auto decoded = Decode(text);
-        sink(decoded, text.substr(0, decoded.length));
-        text.remove_prefix(decoded.length);
+        const auto character = DecodeUtf8(text, 0);
+        sink(character, text.substr(0, character.size));
+        text.remove_prefix(character.size);
     }
 }
 
@@ -108,14 +53,14 @@ std::string Harmless(std::string_view text)
     constexpr char32_t PictureOfDelete = 0x2421;
     std::string harmless;
     harmless.reserve(text.size());
-    ForEach(text, [&harmless](const Decoded& decoded, std::string_view bytes) {
-        if (decoded.character < U' ' && decoded.character != U'\n') {
-            Append(harmless, ControlPictures + decoded.character);
-        } else if (decoded.character == Delete) {
-            Append(harmless, PictureOfDelete);
-        } else if (!decoded.valid || (decoded.character > Delete && decoded.character < 0xA0)) {
-            Append(harmless, Replacement);
-        } else if (!IsIn(Directions, decoded.character)) {
+    ForEach(text, [&harmless](const Utf8Character& character, std::string_view bytes) {
+        if (character.code < U' ' && character.code != U'\n') {
+            AppendUtf8(harmless, ControlPictures + character.code);
+        } else if (character.code == Delete) {
+            AppendUtf8(harmless, PictureOfDelete);
+        } else if (!character.isValid || (character.code > Delete && character.code < 0xA0)) {
+            AppendUtf8(harmless, ReplacementCharacter);
+        } else if (!IsIn(Directions, character.code)) {
             harmless += bytes;
         }
     });
@@ -137,10 +82,11 @@ std::string HarmlessLine(std::string_view text)
 int DisplayWidth(std::string_view text)
 {
     int width = 0;
-    ForEach(text, [&width](const Decoded& decoded, std::string_view) {
-        if (IsIn(Wide, decoded.character)) {
+    ForEach(text, [&width](const Utf8Character& character, std::string_view) {
+        const auto code = character.isValid ? character.code : ReplacementCharacter;
+        if (IsIn(Wide, code)) {
             width += 2;
-        } else if (!IsIn(Narrow, decoded.character)) {
+        } else if (!IsIn(Narrow, code)) {
             ++width;
         }
     });

@@ -143,6 +143,35 @@ class LibraryTest(unittest.TestCase):
         self.Allows("host/system/A.h", "unistd.h")
 
 
+class FileUseTest(unittest.TestCase):
+    def Calls(self, path, line):
+        return lint.Check(path, "#pragma once\n" + line + "\n", HEADERS.__contains__)
+
+    def test_FileHeaders_StayInTheFilesFolder(self):
+        for header in ("fcntl.h", "sys/stat.h", "sys/file.h", "dirent.h", "fstream", "filesystem"):
+            self.assertEqual(Findings("host/files/A.h", f"<{header}>"), [])
+            for path in ("host/store/A.h", "session/A.h", "cli/A.h"):
+                found = Findings(path, f"<{header}>")
+                self.assertEqual(len(found), 1, found)
+                self.assertIn("files stay in host/files", found[0])
+
+    def test_FileCalls_StayInTheFilesFolder(self):
+        for call in ("::open(path)", "if (::unlink(path))", "std::rename(a, b)", "std::fopen(a, b)", "::fsync(number)"):
+            self.assertEqual(self.Calls("host/files/A.h", call), [])
+            found = self.Calls("host/store/A.h", call)
+            self.assertEqual(len(found), 1, found)
+            self.assertIn("src/host/store/A.h:2: host/store may not call ::", found[0])
+
+    def test_OperationsOfTheSameNames_AreFree(self):
+        for call in ("Mailbox::open(path)", "file.open(path)", "Profile::access(x)", "std::remove(a, b, c)"):
+            self.assertEqual(self.Calls("host/store/A.h", call), [])
+
+    def test_Exceptions_AreSingleFiles(self):
+        self.assertEqual(Findings("terminal/ProgramRun.cpp", "<fcntl.h>"), [])
+        self.assertEqual(self.Calls("terminal/ProgramRun.cpp", '::open("/dev/null", O_RDONLY)'), [])
+        self.assertEqual(len(Findings("terminal/Other.cpp", "<fcntl.h>")), 1)
+
+
 class OwnHeaderTest(unittest.TestCase):
     def test_OwnHeader_ComesFirst(self):
         self.assertEqual(Findings("engine/worklog/TempodialWorkLog.cpp", '"engine/worklog/TempodialWorkLog.h"'), [])

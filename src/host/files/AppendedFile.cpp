@@ -1,17 +1,12 @@
 #include "host/files/AppendedFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/sysmacros.h>
 #include <utility>
 
 namespace tempodial {
 
-void AppendedFile::Seen(const std::string& path, const struct statx& status)
+void AppendedFile::Seen(const std::string& path, const FileStatus& status)
 {
-    mIsSeen = mFile && path == mPath && status.stx_ino == mFile->Status().st_ino
-        && makedev(status.stx_dev_major, status.stx_dev_minor) == mFile->Status().st_dev
-        && (status.stx_mode & S_IWUSR) != 0;
+    mIsSeen = mFile && path == mPath && status.IsSameFile(mFile->Status()) && status.isWritable;
 }
 
 std::shared_ptr<const FileDescriptor> AppendedFile::Open(const std::string& path, const NativePath& native, bool create)
@@ -20,7 +15,7 @@ std::shared_ptr<const FileDescriptor> AppendedFile::Open(const std::string& path
         return mFile;
     }
     mFile = nullptr;
-    auto file = std::make_shared<FileDescriptor>(native, O_WRONLY | O_APPEND | O_NOFOLLOW | (create ? O_CREAT : 0));
+    auto file = std::make_shared<FileDescriptor>(native, create ? Opening::AppendingOrNew : Opening::Appending);
     file->RequireWritable();
     mPath = path;
     mFile = std::move(file);

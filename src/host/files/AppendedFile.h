@@ -5,8 +5,6 @@
 #include <memory>
 #include <string>
 
-struct statx;
-
 namespace tempodial {
 
 /// The file that was appended to last, kept open: the trace looks at its file and opens it for each of its lines, and
@@ -15,7 +13,7 @@ class AppendedFile
 {
 public:
     /// A look at a path found a file of that state.
-    void Seen(const std::string& path, const struct statx& status);
+    void Seen(const std::string& path, const FileStatus& status);
     /// Something else happened since the last look.
     void Forget() { mIsSeen = false; }
     /// The open file of a path, the one kept when it was just seen there.

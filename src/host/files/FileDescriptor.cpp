@@ -1,11 +1,12 @@
 #include "host/files/FileDescriptor.h"
 
 #include "host/files/SystemFailure.h"
+#include "host/files/Uninterrupted.h"
 
 #include <array>
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -13,29 +14,46 @@ namespace tempodial {
 
 namespace {
 
-/// Repeats a system call for as long as a signal comes in between.
-template <class Call> auto Uninterrupted(Call&& call)
+int FlagsFor(Opening opening)
 {
-    auto result = call();
-    while (result < 0 && errno == EINTR) {
-        result = call();
+    switch (opening) {
+    case Opening::Reading:
+        return O_RDONLY;
+    case Opening::ReadingOrNew:
+        return O_RDONLY | O_CREAT | O_NOFOLLOW;
+    case Opening::Writing:
+        return O_WRONLY | O_NOFOLLOW;
+    case Opening::New:
+        return O_WRONLY | O_CREAT | O_EXCL;
+    case Opening::Appending:
+        return O_WRONLY | O_APPEND | O_NOFOLLOW;
+    case Opening::AppendingOrNew:
+        return O_WRONLY | O_APPEND | O_NOFOLLOW | O_CREAT;
     }
-    return result;
+    throw Failure(Error::InvalidCall);
 }
 
-}
-
-FileDescriptor::FileDescriptor(const NativePath& path, int flags)
-    : mNumber(Uninterrupted(
-        [&] { return ::open(path.CText(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, S_IRUSR | S_IWUSR); }))
+int Open(const NativePath& path, Opening opening)
 {
-    if (mNumber < 0) {
+    const auto flags = FlagsFor(opening) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const auto number = Uninterrupted([&] { return ::open(path.CText(), flags, S_IRUSR | S_IWUSR); });
+    if (number < 0) {
         throw path.FailureOf(errno);
     }
-    if (::fstat(mNumber, &mStatus) != 0 || !S_ISREG(mStatus.st_mode)) {
+    return number;
+}
+
+}
+
+FileDescriptor::FileDescriptor(const NativePath& path, Opening opening)
+    : mNumber(Open(path, opening))
+{
+    const auto status = FileStatus::Look(mNumber, "", AT_EMPTY_PATH);
+    if (!status || status->kind != FileStatus::Kind::File) {
         Close();
         throw Failure(Error::PermissionDenied);
     }
+    mStatus = *status;
 }
 
 FileDescriptor::FileDescriptor(FileDescriptor&& other) noexcept
@@ -53,7 +71,7 @@ FileDescriptor::~FileDescriptor()
 
 void FileDescriptor::RequireWritable() const
 {
-    if ((mStatus.st_mode & S_IWUSR) == 0) {
+    if (!mStatus.isWritable) {
         throw Failure(Error::PermissionDenied);
     }
 }
@@ -86,7 +104,11 @@ std::size_t FileDescriptor::Read(char* buffer, std::size_t length) const
 
 std::string FileDescriptor::ReadAll(std::size_t limit) const
 {
+    if (mStatus.size > limit) {
+        throw Failure(Error::OutOfMemory);
+    }
     std::string content;
+    content.reserve(static_cast<std::size_t>(mStatus.size));
     std::array<char, 65536> buffer {};
     while (const auto count = Read(buffer.data(), buffer.size())) {
         if (content.size() + count > limit) {
@@ -115,6 +137,17 @@ void FileDescriptor::Sync() const
     }
 }
 
+timespec FileDescriptor::ModificationTime() const
+{
+    struct stat status
+    {
+    };
+    if (::fstat(mNumber, &status) != 0) {
+        throw SystemFailure(errno);
+    }
+    return status.st_mtim;
+}
+
 void FileDescriptor::SetModificationTime(const timespec& moment) const
 {
     const timespec times[] = { { 0, UTIME_OMIT }, moment };
@@ -127,20 +160,6 @@ void FileDescriptor::Close()
 {
     if (IsOpen() && ::close(std::exchange(mNumber, -1)) != 0 && errno != EINTR) {
         throw SystemFailure(errno);
-    }
-}
-
-void SyncFolder(const std::string& folder)
-{
-    const auto number = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (number < 0) {
-        throw SystemFailure(errno);
-    }
-    const auto error = ::fsync(number) == 0 ? 0 : errno;
-    ::close(number);
-    // Some file systems keep names safe by themselves and know no such call.
-    if (error != 0 && error != EINVAL) {
-        throw SystemFailure(error);
     }
 }
 

@@ -1,21 +1,36 @@
 #pragma once
 
+#include "host/files/FileStatus.h"
 #include "host/files/NativePath.h"
 
 #include <cstddef>
+#include <ctime>
+#include <limits>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
 
 namespace tempodial {
+
+/// What a file is opened for. Links are followed for reading only.
+enum class Opening {
+    Reading,
+    /// A new file is made when there is none; then no link is followed.
+    ReadingOrNew,
+    /// A file that is there, without changing anything yet.
+    Writing,
+    /// A file that isn't there yet, for writing.
+    New,
+    Appending,
+    AppendingOrNew,
+};
 
 /// An open regular file.
 class FileDescriptor
 {
 public:
-    /// Opens a file with the system's flags and never waits. New files are the user's alone. An absent file fails (53),
-    /// an absent folder (76), a folder, a pipe, a device or a forbidden file (70).
-    FileDescriptor(const NativePath& path, int flags);
+    /// Opens a file and never waits. New files are the user's alone. An absent file fails (53), an absent folder (76),
+    /// a folder, a pipe, a device or a forbidden file (70).
+    FileDescriptor(const NativePath& path, Opening opening);
     FileDescriptor(FileDescriptor&& other) noexcept;
     FileDescriptor& operator=(FileDescriptor&&) = delete;
     FileDescriptor(const FileDescriptor&) = delete;
@@ -27,7 +42,7 @@ public:
     /// The system's number of it, negative when it is closed.
     int Number() const { return mNumber; }
     /// The file as it was when it was opened.
-    const struct stat& Status() const { return mStatus; }
+    const FileStatus& Status() const { return mStatus; }
     /// Fails (70) when the owner may not write it.
     void RequireWritable() const;
     /// Fails (70) when another program holds a lock that keeps readers out.
@@ -35,11 +50,13 @@ public:
     /// Reads up to that many bytes, 0 at the end of the file.
     std::size_t Read(char* buffer, std::size_t length) const;
     /// Reads the rest; more than that many bytes fail (7).
-    std::string ReadAll(std::size_t limit) const;
+    std::string ReadAll(std::size_t limit = std::numeric_limits<std::size_t>::max()) const;
     /// Writes all of it; fails when the disk refuses (61, 57).
     void Write(std::string_view bytes) const;
     /// Makes what was written safe on disk.
     void Sync() const;
+    /// The time of the file's last change.
+    timespec ModificationTime() const;
     /// Gives the file another time of last change.
     void SetModificationTime(const timespec& moment) const;
     /// Closes the file; harmless when it is closed.
@@ -47,12 +64,7 @@ public:
 
 private:
     int mNumber;
-    struct stat mStatus
-    {
-    };
+    FileStatus mStatus;
 };
-
-/// Makes the names in a folder safe on disk.
-void SyncFolder(const std::string& folder);
 
 }

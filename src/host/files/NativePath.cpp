@@ -1,7 +1,5 @@
 #include "host/files/NativePath.h"
 
-#include "host/files/SystemFailure.h"
-
 #include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
@@ -9,19 +7,50 @@
 
 namespace tempodial {
 
+namespace {
+
+bool Exists(const std::string& path)
+{
+    struct stat status
+    {
+    };
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
+bool IsFolder(const std::string& path)
+{
+    struct stat status
+    {
+    };
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Length of the longest beginning of a path that is a folder as it stands.
+std::size_t LengthOfKnownFolder(const std::string& path)
+{
+    auto end = path.find_last_of("/\\");
+    while (end != std::string::npos && end > 0 && !IsFolder(path.substr(0, end))) {
+        end = path.find_last_of("/\\", end - 1);
+    }
+    return end == std::string::npos ? 0 : end;
+}
+
+}
+
 NativePath::NativePath(std::string path)
+    : NativePath(AsItIs(), std::move(path))
+{
+    if (mText.find('\\') != std::string::npos && !Exists(mText)) {
+        const auto known = static_cast<std::string::difference_type>(LengthOfKnownFolder(mText));
+        std::replace(mText.begin() + known, mText.end(), '\\', '/');
+    }
+}
+
+NativePath::NativePath(AsItIs, std::string path)
     : mText(std::move(path))
 {
     if (mText.find('\0') != std::string::npos) {
         throw Failure(Error::BadFileName);
-    }
-    if (mText.find('\\') != std::string::npos) {
-        struct stat status
-        {
-        };
-        if (::lstat(mText.c_str(), &status) != 0) {
-            std::replace(mText.begin(), mText.end(), '\\', '/');
-        }
     }
 }
 
@@ -40,15 +69,28 @@ std::string NativePath::Name() const
     return last == std::string::npos ? mText : mText.substr(last + 1);
 }
 
-Failure NativePath::FailureOf(int error) const
+NativePath NativePath::Beside(const std::string& name) const
+{
+    return Exactly(Folder() + "/" + name);
+}
+
+SystemFailure NativePath::FailureOf(int error) const
 {
     struct stat status
     {
     };
-    if (error == ENOENT && ::stat(Folder().c_str(), &status) != 0) {
-        return Failure(Error::PathNotFound);
-    }
-    return SystemFailure(error);
+    const bool isFolderAbsent = error == ENOENT && ::stat(Folder().c_str(), &status) != 0;
+    return isFolderAbsent ? FolderFailure(error) : SystemFailure(error);
+}
+
+NativePath NativePath::Exactly(std::string path)
+{
+    return { AsItIs(), std::move(path) };
+}
+
+SystemFailure NativePath::FolderFailure(int error)
+{
+    return error == ENOENT ? SystemFailure(error, Error::PathNotFound) : SystemFailure(error);
 }
 
 }

@@ -1,16 +1,14 @@
 #include "host/files/ProgramModule.h"
 
+#include "host/files/ProgramFolder.h"
+
 #include <dlfcn.h>
-#include <filesystem>
-#include <system_error>
 
 namespace tempodial {
 
 std::string ProgramModule::PathOf(const std::string& name)
 {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    return (program.parent_path().parent_path() / "lib/tempodial" / (name + ".so")).string();
+    return InProgramFolder("lib/tempodial/" + name + ".so");
 }
 
 void* ProgramModule::Symbol(const char* name) const

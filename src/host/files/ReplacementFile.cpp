@@ -1,35 +1,47 @@
 #include "host/files/ReplacementFile.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <fcntl.h>
-#include <unistd.h>
+#include "host/files/FolderDescriptor.h"
+#include "host/files/PathOperations.h"
 
 namespace tempodial {
 
 namespace {
 
+NativePath Replaceable(const NativePath& path, ReplacementFile::Old old)
+{
+    try {
+        const FileDescriptor file(path, Opening::Writing);
+        file.RequireWritable();
+        file.RequireUnlocked();
+    } catch (const Failure& failure) {
+        if (old == ReplacementFile::Old::MustExist || !failure.Is(Error::FileNotFound)) {
+            throw;
+        }
+    }
+    return path;
+}
+
 /// The place of the new content: a hidden name, which nothing takes for a file of its own.
 NativePath NewPath(const NativePath& path)
 {
-    NativePath newPath(path.Folder() + "/." + path.Name() + ".new");
-    ::unlink(newPath.CText()); // left over from a run that was killed
+    auto newPath = path.Beside("." + path.Name() + ".new");
+    Discard(newPath); // left over from a run that was killed
     return newPath;
 }
 
 }
 
-ReplacementFile::ReplacementFile(const NativePath& path)
-    : mPath(path)
+ReplacementFile::ReplacementFile(const NativePath& path, Old old)
+    : mPath(Replaceable(path, old))
     , mNewPath(NewPath(path))
-    , mFile(mNewPath, O_WRONLY | O_CREAT | O_EXCL)
+    , mFile(mNewPath, Opening::New)
 {
 }
 
 ReplacementFile::~ReplacementFile()
 {
     if (!mHasTakenPlace) {
-        ::unlink(mNewPath.CText());
+        Discard(mNewPath);
     }
 }
 
@@ -50,11 +62,9 @@ void ReplacementFile::Commit()
     }
     mFile.Sync();
     mFile.Close();
-    if (::rename(mNewPath.CText(), mPath.CText()) != 0) {
-        throw mPath.FailureOf(errno);
-    }
+    Rename(mNewPath, mPath);
     mHasTakenPlace = true;
-    SyncFolder(mPath.Folder());
+    FolderDescriptor(NativePath::Exactly(mPath.Folder())).Sync();
 }
 
 }

@@ -12,8 +12,12 @@ namespace tempodial {
 class ReplacementFile
 {
 public:
-    /// Begins with no content; fails as opening a new file does.
-    explicit ReplacementFile(const NativePath& path);
+    /// What the file is that is to be replaced.
+    enum class Old { MayBeAbsent, MustExist };
+
+    /// Begins with no content. Fails as opening a new file does, and when the old file may not be replaced: an absent
+    /// one (53) if it must exist, a folder, a link, a pipe, a read-only or locked file (70).
+    explicit ReplacementFile(const NativePath& path, Old old = Old::MayBeAbsent);
     ~ReplacementFile();
     ReplacementFile(const ReplacementFile&) = delete;
     ReplacementFile& operator=(const ReplacementFile&) = delete;

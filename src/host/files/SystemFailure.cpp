@@ -1,6 +1,7 @@
 #include "host/files/SystemFailure.h"
 
 #include <cerrno>
+#include <system_error>
 
 namespace tempodial {
 
@@ -47,9 +48,25 @@ Error ErrorOf(int error)
 
 }
 
-Failure SystemFailure(int error)
+SystemFailure::SystemFailure(int error)
+    : SystemFailure(error, ErrorOf(error))
 {
-    return Failure(ErrorOf(error));
+}
+
+SystemFailure::SystemFailure(int error, Error meaning)
+    : Failure(meaning)
+    , mError(error)
+{
+}
+
+bool SystemFailure::IsAbsence() const noexcept
+{
+    return mError == ENOENT;
+}
+
+std::string SystemFailure::Reason() const
+{
+    return std::system_category().message(mError);
 }
 
 }

@@ -1,32 +1,11 @@
 #include "host/store/ByteReader.h"
 
 #include "base/Failure.h"
+#include "base/Utf8.h"
 
 namespace tempodial {
 
 namespace {
-
-constexpr char32_t Replacement = 0xfffd;
-
-void AppendUtf8(std::string& text, char32_t character)
-{
-    const auto append = [&](char32_t byte) { text += static_cast<char>(byte); };
-    if (character < 0x80) {
-        append(character);
-    } else if (character < 0x800) {
-        append(0xc0 | character >> 6);
-        append(0x80 | (character & 0x3f));
-    } else if (character < 0x10000) {
-        append(0xe0 | character >> 12);
-        append(0x80 | (character >> 6 & 0x3f));
-        append(0x80 | (character & 0x3f));
-    } else {
-        append(0xf0 | character >> 18);
-        append(0x80 | (character >> 12 & 0x3f));
-        append(0x80 | (character >> 6 & 0x3f));
-        append(0x80 | (character & 0x3f));
-    }
-}
 
 bool IsHighSurrogate(char32_t unit)
 {
@@ -72,7 +51,7 @@ std::string ByteReader::Utf16(std::size_t units)
     while (!wide.AtEnd()) {
         const char32_t unit = wide.Number16();
         if (!IsHighSurrogate(unit)) {
-            AppendUtf8(text, IsLowSurrogate(unit) ? Replacement : unit);
+            AppendUtf8(text, IsLowSurrogate(unit) ? ReplacementCharacter : unit);
             continue;
         }
         const auto before = wide.mRest;
@@ -80,7 +59,7 @@ std::string ByteReader::Utf16(std::size_t units)
         if (IsLowSurrogate(next)) {
             AppendUtf8(text, 0x10000 + ((unit - 0xd800) << 10) + (next - 0xdc00));
         } else {
-            AppendUtf8(text, Replacement);
+            AppendUtf8(text, ReplacementCharacter);
             wide.mRest = before;
         }
     }

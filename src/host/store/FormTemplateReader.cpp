@@ -1,17 +1,15 @@
 #include "host/store/FormTemplateReader.h"
 
 #include "base/Failure.h"
+#include "host/files/FileDescriptor.h"
 #include "host/store/ByteReader.h"
 #include "host/store/CompoundFile.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <optional>
-#include <sstream>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -178,33 +176,11 @@ std::vector<ItemProperty> Fields(const std::string& definitions)
     return fields;
 }
 
-std::string ReadFile(std::string path)
-{
-    std::error_code problem;
-    // Paths are joined by "\\" as well as by "/" before they come here.
-    if (path.find('\\') != std::string::npos && !std::filesystem::exists(path, problem)) {
-        std::replace(path.begin(), path.end(), '\\', '/');
-    }
-    const auto kind = std::filesystem::status(path, problem).type();
-    if (kind == std::filesystem::file_type::not_found) {
-        const auto folder = std::filesystem::path(path).parent_path();
-        const bool known = folder.empty() || std::filesystem::is_directory(folder, problem);
-        throw Failure(known ? Error::FileNotFound : Error::PathNotFound);
-    }
-    std::ifstream file(path, std::ios::binary);
-    if (kind != std::filesystem::file_type::regular || !file) {
-        throw Failure(Error::PermissionDenied);
-    }
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return std::move(bytes).str();
-}
-
 }
 
 FormTemplate FormTemplateReader::Read(const std::string& path)
 {
-    const auto bytes = ReadFile(path);
+    const auto bytes = FileDescriptor(NativePath(path), Opening::Reading).ReadAll();
     try {
         const CompoundFile file(bytes);
         const Message message(file);

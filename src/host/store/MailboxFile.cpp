@@ -1,16 +1,11 @@
 #include "host/store/MailboxFile.h"
 
+#include "host/files/FolderDescriptor.h"
+#include "host/files/PathOperations.h"
 #include "host/store/MailboxError.h"
 
 #include <array>
-#include <cerrno>
-#include <cstdio>
 #include <cstring>
-#include <fcntl.h>
-#include <filesystem>
-#include <sys/stat.h>
-#include <unistd.h>
-#include <utility>
 
 namespace tempodial {
 
@@ -21,81 +16,51 @@ constexpr std::size_t HeaderSize = 100;
 constexpr std::uint64_t SmallSize = std::uint64_t { 2 } << 20;
 const std::string Restore = "move it away and put a good copy of the mailbox in its place, or start with a new mailbox";
 
-/// An open file descriptor that closes itself.
-class Descriptor
-{
-public:
-    explicit Descriptor(int number)
-        : mNumber(number)
-    {
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor()
-    {
-        if (mNumber >= 0) {
-            ::close(mNumber);
-        }
-    }
-
-    int Number() const { return mNumber; }
-
-private:
-    int mNumber;
-};
-
 std::uint32_t BigEndian(const unsigned char* bytes)
 {
     return std::uint32_t { bytes[0] } << 24 | std::uint32_t { bytes[1] } << 16 | std::uint32_t { bytes[2] } << 8
         | std::uint32_t { bytes[3] };
 }
 
-std::uint64_t SizeOf(const std::string& path)
+std::uint64_t SizeOf(const NativePath& path)
 {
-    struct stat info
-    {
-    };
-    return ::stat(path.c_str(), &info) == 0 ? static_cast<std::uint64_t>(info.st_size) : 0;
+    const auto status = StatusAt(path, Links::Followed);
+    return status ? status->size : 0;
 }
 
 }
 
-MailboxFile::MailboxFile(std::string path)
-    : mPath(std::move(path))
+MailboxFile::MailboxFile(const std::string& path)
+    : mPath(NativePath::Exactly(path))
+    , mJournal(NativePath::Exactly(BehindLinks(mPath).Text() + "-wal"))
+    , mDraft(NativePath::Exactly(path + ".new"))
 {
 }
 
 MailboxFile::State MailboxFile::Examine(int newestVersion) const
 {
-    struct stat info
-    {
-    };
-    if (::stat(mPath.c_str(), &info) != 0) {
-        if (errno != ENOENT) {
-            Refuse(std::string("can't be looked at (") + std::strerror(errno) + ")", "check the folder it lies in");
-        }
+    const auto status = Look();
+    if (!status) {
         if (HasJournal()) {
-            Refuse("is missing, while its journal " + mPath + "-wal is still there",
+            Refuse("is missing, while its journal " + mJournal.Text() + " is still there",
                 "put the mailbox back beside its journal, or move the journal away to start with a new mailbox");
         }
         return State::Absent;
     }
-    if (!S_ISREG(info.st_mode)) {
+    if (status->kind != FileStatus::Kind::File) {
         Refuse("is no file", "move it away, or name another profile");
     }
-    const Descriptor file(::open(mPath.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.Number() < 0 || ::access(mPath.c_str(), W_OK) != 0) {
-        Refuse("can't be read and written", "check who owns it and its permissions");
-    }
-    if (info.st_size == 0) {
+    const auto file = Open();
+    if (status->size == 0) {
         Refuse("is empty, so it is no mailbox", Restore);
     }
-    std::array<unsigned char, HeaderSize> header {};
-    const auto taken = ::pread(file.Number(), header.data(), header.size(), 0);
-    if (taken < 0) {
-        Refuse(std::string("can't be read (") + std::strerror(errno) + ")", "check the disk");
+    std::array<char, HeaderSize> header {};
+    try {
+        file.Read(header.data(), header.size());
+    } catch (const SystemFailure& failure) {
+        Refuse("can't be read (" + failure.Reason() + ")", "check the disk");
     }
-    CheckHeader(header.data(), static_cast<std::uint64_t>(info.st_size), newestVersion);
+    CheckHeader(reinterpret_cast<const unsigned char*>(header.data()), status->size, newestVersion);
     return HasJournal() ? State::Unclean : State::Clean;
 }
 
@@ -107,36 +72,58 @@ bool MailboxFile::IsSmall() const
 std::string MailboxFile::NewDraft() const
 {
     RemoveDraft();
-    auto draft = DraftPath();
-    const Descriptor file(::open(draft.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    if (file.Number() < 0) {
-        Refuse(std::string("can't be made (") + std::strerror(errno) + ")", "check the folder and its permissions");
+    try {
+        const FileDescriptor file(mDraft, Opening::New);
+    } catch (const SystemFailure& failure) {
+        RefuseToMake(failure);
     }
-    return draft;
+    return mDraft.Text();
 }
 
 void MailboxFile::TakeDraft() const
 {
-    if (std::rename(DraftPath().c_str(), mPath.c_str()) != 0) {
-        Refuse(std::string("can't be made (") + std::strerror(errno) + ")", "check the folder and its permissions");
-    }
-    const auto folder = std::filesystem::path(mPath).parent_path();
-    const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.Number() >= 0) {
-        ::fsync(directory.Number());
+    try {
+        Rename(mDraft, mPath);
+        FolderDescriptor(NativePath::Exactly(mPath.Folder())).Sync();
+    } catch (const SystemFailure& failure) {
+        RefuseToMake(failure);
     }
 }
 
 void MailboxFile::RemoveDraft() const
 {
     for (const auto* suffix : { "", "-journal", "-wal", "-shm" }) {
-        ::unlink((DraftPath() + suffix).c_str());
+        Discard(NativePath::Exactly(mDraft.Text() + suffix));
     }
+}
+
+std::optional<FileStatus> MailboxFile::Look() const
+{
+    try {
+        return StatusOf(mPath, Links::Followed);
+    } catch (const SystemFailure& failure) {
+        if (!failure.IsAbsence()) {
+            Refuse("can't be looked at (" + failure.Reason() + ")", "check the folder it lies in");
+        }
+        return std::nullopt;
+    }
+}
+
+FileDescriptor MailboxFile::Open() const
+{
+    try {
+        if (MayWrite(mPath)) {
+            return { mPath, Opening::Reading };
+        }
+    } catch (const Failure&) {
+        // Told below.
+    }
+    Refuse("can't be read and written", "check who owns it and its permissions");
 }
 
 bool MailboxFile::HasJournal() const
 {
-    return SizeOf(mPath + "-wal") > 0;
+    return SizeOf(mJournal) > 0;
 }
 
 void MailboxFile::CheckHeader(const unsigned char* header, std::uint64_t size, int newestVersion) const
@@ -161,9 +148,14 @@ void MailboxFile::CheckHeader(const unsigned char* header, std::uint64_t size, i
     }
 }
 
+void MailboxFile::RefuseToMake(const SystemFailure& failure) const
+{
+    Refuse("can't be made (" + failure.Reason() + ")", "check the folder and its permissions");
+}
+
 void MailboxFile::Refuse(const std::string& what, const std::string& remedy) const
 {
-    throw MailboxError("the mailbox " + mPath + " " + what + ": " + remedy);
+    throw MailboxError("the mailbox " + mPath.Text() + " " + what + ": " + remedy);
 }
 
 }

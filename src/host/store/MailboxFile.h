@@ -1,6 +1,11 @@
 #pragma once
 
+#include "host/files/FileDescriptor.h"
+#include "host/files/FileStatus.h"
+#include "host/files/NativePath.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tempodial {
@@ -21,7 +26,7 @@ public:
     /// The number by which a mailbox is told from other SQLite files.
     static constexpr std::uint32_t ApplicationId = 0x54444d42;
 
-    explicit MailboxFile(std::string path);
+    explicit MailboxFile(const std::string& path);
 
     /// What lies under the name; throws `MailboxError` for anything but nothing or a mailbox of at most that version.
     State Examine(int newestVersion) const;
@@ -30,18 +35,24 @@ public:
     /// The name of a new, empty file beside the mailbox, private to the user, in which a new mailbox is made; throws
     /// `MailboxError` when there can be none.
     std::string NewDraft() const;
-    /// Puts the finished draft in the mailbox's place, safe on disk.
+    /// Puts the finished draft in the mailbox's place, safe on disk; throws `MailboxError` when the disk refuses.
     void TakeDraft() const;
     /// Removes what is left of a draft.
     void RemoveDraft() const;
 
 private:
-    std::string DraftPath() const { return mPath + ".new"; }
+    /// What stands under the name, nothing when nothing does.
+    std::optional<FileStatus> Look() const;
+    FileDescriptor Open() const;
     bool HasJournal() const;
     void CheckHeader(const unsigned char* header, std::uint64_t size, int newestVersion) const;
+    [[noreturn]] void RefuseToMake(const SystemFailure& failure) const;
     [[noreturn]] void Refuse(const std::string& what, const std::string& remedy) const;
 
-    std::string mPath;
+    NativePath mPath;
+    /// SQLite follows links, and so keeps the journal beside the file that they lead to.
+    NativePath mJournal;
+    NativePath mDraft;
 };
 
 }

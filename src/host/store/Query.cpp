@@ -7,6 +7,8 @@
 #include <SQLiteCpp/Statement.h>
 #include <sqlite3.h>
 
+#include <limits>
+
 namespace tempodial {
 
 Query::Query(MailboxDatabase& database, const std::string& sql)
@@ -23,8 +25,13 @@ Query::~Query()
     --mDatabase.mRunning;
 }
 
-template <class Binding> void Query::Checked(Binding&& binding)
+/// Binds a value of that many bytes.
+template <class Binding> void Query::Checked(std::size_t size, Binding&& binding)
 {
+    // SQLiteCpp counts bytes in an int.
+    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        throw mDatabase.Failed(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
+    }
     try {
         binding();
     } catch (const SQLite::Exception& problem) {
@@ -34,25 +41,25 @@ template <class Binding> void Query::Checked(Binding&& binding)
 
 Query& Query::Bind(std::int64_t value)
 {
-    Checked([&] { mStatement.bind(++mBound, value); });
+    Checked(sizeof(value), [&] { mStatement.bind(++mBound, value); });
     return *this;
 }
 
 Query& Query::Bind(const std::string& text)
 {
-    Checked([&] { mStatement.bindNoCopy(++mBound, text); });
+    Checked(text.size(), [&] { mStatement.bindNoCopy(++mBound, text); });
     return *this;
 }
 
 Query& Query::Bind(std::string&& text)
 {
-    Checked([&] { mStatement.bind(++mBound, text); });
+    Checked(text.size(), [&] { mStatement.bind(++mBound, text); });
     return *this;
 }
 
-Query& Query::BindBytes(const std::string& bytes)
+Query& Query::BindBytes(std::string_view bytes)
 {
-    Checked([&] { mStatement.bindNoCopy(++mBound, bytes.data(), static_cast<int>(bytes.size())); });
+    Checked(bytes.size(), [&] { mStatement.bindNoCopy(++mBound, bytes.data(), static_cast<int>(bytes.size())); });
     return *this;
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace SQLite { // NOLINT(readability-identifier-naming): the library names it so
 class Statement;
@@ -27,7 +29,7 @@ public:
     Query& Bind(const std::string& text);
     Query& Bind(std::string&& text);
     /// Binds bytes that outlive the run.
-    Query& BindBytes(const std::string& bytes);
+    Query& BindBytes(std::string_view bytes);
     /// Goes to the next row; false when there is none.
     bool Step();
     /// Runs a statement that gives no rows.
@@ -39,7 +41,7 @@ public:
     bool IsNull(int column) const;
 
 private:
-    template <class Binding> void Checked(Binding&& binding);
+    template <class Binding> void Checked(std::size_t size, Binding&& binding);
 
     MailboxDatabase& mDatabase;
     SQLite::Statement& mStatement;

@@ -6,7 +6,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <fcntl.h>
 #include <string_view>
 #include <utility>
 
@@ -71,7 +70,7 @@ std::pair<std::int32_t, std::int32_t> SizeOf(std::string_view bytes)
 std::string ContentOf(const std::string& path)
 {
     try {
-        return FileDescriptor(NativePath(path), O_RDONLY).ReadAll(LargestFile);
+        return FileDescriptor(NativePath(path), Opening::Reading).ReadAll(LargestFile);
     } catch (const Failure& failure) {
         if (failure.Is(Error::PathNotFound)) {
             throw Failure(Error::FileNotFound);

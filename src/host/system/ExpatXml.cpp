@@ -1,7 +1,7 @@
 #include "host/system/ExpatXml.h"
 
 #include "base/Failure.h"
-#include "host/files/TextEncoding.h"
+#include "base/Utf8.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,7 +3,6 @@
 #include "host/files/TextEncoding.h"
 
 #include <cstring>
-#include <fcntl.h>
 #include <utility>
 
 namespace tempodial {
@@ -17,7 +16,7 @@ constexpr std::size_t LongestText = std::size_t { 64 } << 20;
 }
 
 FileReader::FileReader(const NativePath& path, bool create)
-    : mFile(path, O_RDONLY | (create ? O_CREAT | O_NOFOLLOW : 0))
+    : mFile(path, create ? Opening::ReadingOrNew : Opening::Reading)
     , mBuffer(new char[BufferSize])
 {
     mFile.RequireUnlocked();

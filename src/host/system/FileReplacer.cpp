@@ -1,7 +1,7 @@
 #include "host/system/FileReplacer.h"
 
 #include <cstddef>
-#include <fcntl.h>
+#include <exception>
 #include <utility>
 
 namespace tempodial {
@@ -12,27 +12,17 @@ constexpr std::size_t BufferSize = 65536;
 
 }
 
-void RequireReplaceable(const NativePath& path, bool mayBeAbsent)
-{
-    try {
-        const FileDescriptor file(path, O_WRONLY | O_NOFOLLOW);
-        file.RequireWritable();
-        file.RequireUnlocked();
-    } catch (const Failure& failure) {
-        if (!mayBeAbsent || !failure.Is(Error::FileNotFound)) {
-            throw;
-        }
-    }
-}
-
 FileReplacer::FileReplacer(const NativePath& path, bool create)
+    : mReplacement(std::in_place, path, create ? ReplacementFile::Old::MayBeAbsent : ReplacementFile::Old::MustExist)
+    , mExceptions(std::uncaught_exceptions())
 {
-    RequireReplaceable(path, create);
-    mReplacement.emplace(path);
 }
 
 FileReplacer::~FileReplacer()
 {
+    if (std::uncaught_exceptions() > mExceptions) {
+        return;
+    }
     try {
         FileReplacer::Close();
     } catch (...) {

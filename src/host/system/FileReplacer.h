@@ -8,7 +8,8 @@
 
 namespace tempodial {
 
-/// A text file opened for writing: what is written takes the place of the old file when it is closed.
+/// A text file opened for writing: what is written takes the place of the old file when it is closed, or let go of.
+/// Where an exception takes it away before it is closed, the old file stays.
 class FileReplacer : public WritingStream
 {
 public:
@@ -26,10 +27,8 @@ private:
 
     std::optional<ReplacementFile> mReplacement;
     std::string mBuffer;
+    /// The exceptions under way when it was opened.
+    int mExceptions;
 };
-
-/// Fails when a file may not be replaced: an absent one (53) if it must be there, a folder, a link, a pipe, a
-/// read-only or locked file (70).
-void RequireReplaceable(const NativePath& path, bool mayBeAbsent);
 
 }

@@ -2,7 +2,6 @@
 
 #include "host/files/ReplacementFile.h"
 #include "host/files/SystemFailure.h"
-#include "host/system/FileReplacer.h"
 
 #include <utility>
 
@@ -16,9 +15,7 @@ GMimeDraftWriter::GMimeDraftWriter(std::string modulePath)
 void GMimeDraftWriter::Write(const MailDraft& draft, const std::string& path)
 {
     const auto writeMessage = mModule.Get<MimeMessageWriter>(MimeMessageWriterName);
-    const NativePath native(path);
-    RequireReplaceable(native, true);
-    ReplacementFile file(native);
+    ReplacementFile file { NativePath(path) };
     if (const auto error = writeMessage(draft, file.Descriptor()); error != 0) {
         throw SystemFailure(error);
     }

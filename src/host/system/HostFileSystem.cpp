@@ -1,25 +1,19 @@
 #include "host/system/HostFileSystem.h"
 
+#include "host/files/FolderDescriptor.h"
+#include "host/files/PathOperations.h"
+#include "host/files/ReplacementFile.h"
 #include "host/system/FileAppender.h"
 #include "host/system/FileReader.h"
 #include "host/system/FileReplacer.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
-#include <dirent.h>
-#include <fcntl.h>
-#include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace tempodial {
 
 namespace {
-
-constexpr unsigned int FileFields = STATX_TYPE | STATX_MODE | STATX_INO | STATX_SIZE | STATX_BTIME;
 
 bool IsSeparator(char character)
 {
@@ -27,54 +21,13 @@ bool IsSeparator(char character)
 }
 
 /// What stands at a path itself, not behind a link; fails as a file operation does when nothing does or a folder.
-struct stat StatusOfFile(const NativePath& path)
+FileStatus StatusOfFile(const NativePath& path)
 {
-    struct stat status
-    {
-    };
-    if (::lstat(path.CText(), &status) != 0) {
-        throw path.FailureOf(errno);
-    }
-    if (S_ISDIR(status.st_mode)) {
+    const auto status = StatusOf(path, Links::Taken);
+    if (status.kind == FileStatus::Kind::Folder) {
         throw Failure(Error::PermissionDenied);
     }
     return status;
-}
-
-/// Looks at a file; false with errno when it can't be looked at. The time of its last change is only asked for where
-/// the file system knows no creation: a file whose time was seen makes Linux note a new one at the next write, which
-/// costs a trace line half as much again.
-bool Look(int folder, const char* name, int flags, struct statx& status)
-{
-    if (::statx(folder, name, flags, FileFields, &status) != 0) {
-        return false;
-    }
-    return (status.stx_mask & STATX_BTIME) != 0 || ::statx(folder, name, flags, FileFields | STATX_MTIME, &status) == 0;
-}
-
-bool Exists(const NativePath& path)
-{
-    struct stat status
-    {
-    };
-    return ::lstat(path.CText(), &status) == 0;
-}
-
-void RenameToAbsent(const NativePath& source, const NativePath& target)
-{
-    if (::renameat2(AT_FDCWD, source.CText(), AT_FDCWD, target.CText(), RENAME_NOREPLACE) == 0) {
-        return;
-    }
-    if (errno != EINVAL && errno != ENOSYS) {
-        throw target.FailureOf(errno);
-    }
-    // A file system without that call.
-    if (Exists(target)) {
-        throw Failure(Error::FileExists);
-    }
-    if (::rename(source.CText(), target.CText()) != 0) {
-        throw target.FailureOf(errno);
-    }
 }
 
 }
@@ -105,38 +58,21 @@ std::string HostFileSystem::BuildPath(const std::string& path, const std::string
 
 bool HostFileSystem::FolderExists(const std::string& path)
 {
-    struct stat status
-    {
-    };
-    return ::stat(NativePath(path).CText(), &status) == 0 && S_ISDIR(status.st_mode);
+    const auto status = StatusAt(NativePath(path), Links::Followed);
+    return status && status->kind == FileStatus::Kind::Folder;
 }
 
 void HostFileSystem::CreateFolder(const std::string& path)
 {
-    const NativePath native(path);
-    if (::mkdir(native.CText(), S_IRWXU) != 0) {
-        throw errno == ENOENT ? Failure(Error::PathNotFound) : native.FailureOf(errno);
-    }
+    MakeFolder(NativePath(path));
 }
 
 Folder HostFileSystem::GetFolder(const std::string& path)
 {
-    const NativePath native(path);
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(native.CText()), &::closedir);
-    if (!listing) {
-        throw errno == ENOENT ? Failure(Error::PathNotFound) : native.FailureOf(errno);
-    }
     Folder folder { path, {} };
-    while (const auto* entry = ::readdir(listing.get())) {
-        struct statx status
-        {
-        };
-        const bool mayBeFile = entry->d_type == DT_REG || entry->d_type == DT_UNKNOWN;
-        if (mayBeFile && Look(::dirfd(listing.get()), entry->d_name, AT_SYMLINK_NOFOLLOW, status)
-            && S_ISREG(status.stx_mode)) {
-            folder.files.push_back({ entry->d_name, BuildPath(path, entry->d_name),
-                static_cast<std::int64_t>(status.stx_size), CreationDate(status) });
-        }
+    for (const auto& entry : FolderDescriptor(NativePath(path)).Files()) {
+        folder.files.push_back({ entry.name, BuildPath(path, entry.name), static_cast<std::int64_t>(entry.status.size),
+            mLocalTime.At(entry.status.created) });
     }
     std::sort(folder.files.begin(), folder.files.end(), [](const File& a, const File& b) { return a.name < b.name; });
     return folder;
@@ -144,27 +80,20 @@ Folder HostFileSystem::GetFolder(const std::string& path)
 
 bool HostFileSystem::FileExists(const std::string& path)
 {
-    struct stat status
-    {
-    };
-    return ::stat(NativePath(path).CText(), &status) == 0 && !S_ISDIR(status.st_mode);
+    const auto status = StatusAt(NativePath(path), Links::Followed);
+    return status && status->kind != FileStatus::Kind::Folder;
 }
 
 File HostFileSystem::GetFile(const std::string& path)
 {
     mAppended.Forget();
     const NativePath native(path);
-    struct statx status
-    {
-    };
-    if (!Look(AT_FDCWD, native.CText(), 0, status)) {
-        throw native.FailureOf(errno);
-    }
-    if (!S_ISREG(status.stx_mode)) {
+    const auto status = StatusOf(native, Links::Followed);
+    if (status.kind != FileStatus::Kind::File) {
         throw Failure(Error::PermissionDenied);
     }
     mAppended.Seen(path, status);
-    return { native.Name(), path, static_cast<std::int64_t>(status.stx_size), CreationDate(status) };
+    return { native.Name(), path, static_cast<std::int64_t>(status.size), mLocalTime.At(status.created) };
 }
 
 void HostFileSystem::MoveFile(const std::string& source, const std::string& target)
@@ -178,19 +107,19 @@ void HostFileSystem::MoveFile(const std::string& source, const std::string& targ
 void HostFileSystem::CopyFile(const std::string& source, const std::string& target, bool overwrite)
 {
     mAppended.Forget();
-    const FileDescriptor from(NativePath(source), O_RDONLY);
+    const FileDescriptor from(NativePath(source), Opening::Reading);
     from.RequireUnlocked();
+    const auto changed = from.ModificationTime();
     const NativePath to(target);
-    if (!overwrite && Exists(to)) {
+    if (!overwrite && StatusAt(to, Links::Taken)) {
         throw Failure(Error::FileExists);
     }
-    RequireReplaceable(to, true);
     ReplacementFile copy(to);
     std::array<char, 65536> buffer {};
     while (const auto count = from.Read(buffer.data(), buffer.size())) {
         copy.Write({ buffer.data(), count });
     }
-    copy.SetModificationTime(from.Status().st_mtim);
+    copy.SetModificationTime(changed);
     copy.Commit();
 }
 
@@ -199,12 +128,10 @@ void HostFileSystem::DeleteFile(const std::string& path, bool force)
     mAppended.Forget();
     const NativePath native(path);
     const auto status = StatusOfFile(native);
-    if (!force && S_ISREG(status.st_mode) && (status.st_mode & S_IWUSR) == 0) {
+    if (!force && status.kind == FileStatus::Kind::File && !status.isWritable) {
         throw Failure(Error::PermissionDenied);
     }
-    if (::unlink(native.CText()) != 0) {
-        throw native.FailureOf(errno);
-    }
+    Remove(native);
 }
 
 Ref<TextStream> HostFileSystem::OpenTextFile(const std::string& path, OpenMode mode, bool create)
@@ -220,12 +147,6 @@ Ref<TextStream> HostFileSystem::OpenTextFile(const std::string& path, OpenMode m
         return MakeRef<FileAppender>(mAppended.Open(path, native, create));
     }
     throw Failure(Error::InvalidCall);
-}
-
-Date HostFileSystem::CreationDate(const struct statx& status)
-{
-    const auto& created = (status.stx_mask & STATX_BTIME) != 0 ? status.stx_btime : status.stx_mtime;
-    return mLocalTime.At(created.tv_sec);
 }
 
 }

@@ -6,8 +6,6 @@
 
 #include <string>
 
-struct statx;
-
 namespace tempodial {
 
 /// The files and folders of the system. Paths may be joined by "\" as well as by "/". Pipes, devices and folders are
@@ -32,8 +30,6 @@ public:
     Ref<TextStream> OpenTextFile(const std::string& path, OpenMode mode, bool create) override;
 
 private:
-    Date CreationDate(const struct statx& status);
-
     std::string mTemporaryFolder;
     LocalTime mLocalTime;
     AppendedFile mAppended;

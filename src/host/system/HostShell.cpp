@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/wait.h>
@@ -25,9 +26,13 @@ std::string ArgumentFor(const std::string& document)
     return path.starts_with('-') ? "./" + path : path;
 }
 
-/// Turns this process, just forked, into the program, without anything of ours. Calls nothing but what is safe there.
+/// Turns this process, just forked, into the program, without anything of ours. Calls nothing but what is safe there,
+/// so it opens files by itself.
 [[noreturn]] void Become(char* const* arguments)
 {
+    // What is ignored here would stay so in the program.
+    (void)std::signal(SIGPIPE, SIG_DFL);
+    (void)std::signal(SIGXFSZ, SIG_DFL);
     const auto nothing = ::open("/dev/null", O_RDWR);
     ::dup2(nothing, STDIN_FILENO);
     ::dup2(nothing, STDOUT_FILENO);

@@ -1,5 +1,7 @@
 #include "host/system/MimeMessage.h"
 
+#include "base/Utf8.h"
+
 #include <gmime/gmime.h>
 
 #include <algorithm>
@@ -44,8 +46,7 @@ std::vector<std::string> EncodedCharacters(std::string_view text)
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::vector<std::string> characters;
     for (const unsigned char byte : text) {
-        const bool goesOn = (byte & 0xc0U) == 0x80U;
-        if (!goesOn || characters.empty()) {
+        if (!IsUtf8Tail(static_cast<char>(byte)) || characters.empty()) {
             characters.emplace_back();
         }
         if (g_ascii_isalnum(static_cast<char>(byte)) || std::string_view("-._").find(static_cast<char>(byte)) < 3) {

@@ -2,15 +2,14 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "base/Utf8.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/ReplacementFile.h"
-#include "host/files/TextEncoding.h"
 #include "host/system/RegistryText.h"
 
 #include <toml++/toml.h>
 
 #include <cstddef>
-#include <fcntl.h>
 #include <iterator>
 #include <limits>
 #include <string_view>
@@ -64,7 +63,7 @@ toml::table* MadeIn(toml::table& table, std::string_view name)
 std::string ContentOf(const std::string& path)
 {
     try {
-        return FileDescriptor(NativePath(path), O_RDONLY).ReadAll(LargestFile);
+        return FileDescriptor(NativePath::Exactly(path), Opening::Reading).ReadAll(LargestFile);
     } catch (const Failure& failure) {
         if (failure.Is(Error::FileNotFound) || failure.Is(Error::PathNotFound)) {
             return {};
@@ -195,7 +194,7 @@ void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& val
 
 void TomlRegistry::Save(const Tables& tables) const
 {
-    ReplacementFile file { NativePath(mPath) };
+    ReplacementFile file(NativePath::Exactly(mPath));
     file.Write(tables.ToText());
     file.Commit();
 }

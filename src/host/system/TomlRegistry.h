@@ -29,8 +29,8 @@ public:
 
     /// A key that is made by reading reaches the file with the next change.
     Variant Read(Hive hive, const std::string& key, const std::string& value, RegistryAccess access) override;
-    /// Fails for texts that aren't UTF-8 (5), where the file has something else of the key's name (75), and when the
-    /// disk refuses (61, 57); then nothing has changed.
+    /// Fails for texts that aren't UTF-8 (5), where the file has something else of the key's name (75), when the
+    /// file is a link, read-only or locked (70), and when the disk refuses (61, 57); then nothing has changed.
     void Write(Hive hive, const std::string& key, const std::string& value, const std::string& text) override;
     /// A text or a number, nothing when there is none; makes no key.
     Variant Get(Hive hive, const std::string& key, const std::string& value) const;

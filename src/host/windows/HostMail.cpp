@@ -1,15 +1,22 @@
 #include "host/windows/HostMail.h"
 
 #include "base/Failure.h"
+#include "host/files/FileDescriptor.h"
+#include "host/files/PathOperations.h"
 
-#include <array>
 #include <cstddef>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
+#include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace tempodial {
+
+namespace {
+
+/// More than this the mailbox holds in no case.
+constexpr std::size_t LargestAttachment = std::numeric_limits<std::int32_t>::max();
+
+}
 
 /// The attachments of a mail, which it keeps alive.
 class HostMail::AttachmentList final : public tempodial::Attachments
@@ -33,22 +40,20 @@ public:
 private:
     static std::string Read(const std::string& path)
     {
-        std::ifstream file(path, std::ios::binary);
-        if (!file) {
-            throw Failure(Error::FileNotFound);
-        }
-        std::string content;
-        std::error_code unknownSize;
-        const auto size = std::filesystem::file_size(path, unknownSize);
-        content.reserve(unknownSize ? 0 : size);
-        std::array<char, 65536> piece {};
-        while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
-            content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
-        }
-        if (file.bad()) {
+        const NativePath native(path);
+        const auto status = StatusAt(native, Links::Followed);
+        if (status && status->kind != FileStatus::Kind::File) {
             throw Failure(Error::DeviceError);
         }
-        return content;
+        return Opened(native).ReadAll(LargestAttachment);
+    }
+    static FileDescriptor Opened(const NativePath& path)
+    {
+        try {
+            return { path, Opening::Reading };
+        } catch (const Failure&) {
+            throw Failure(Error::FileNotFound);
+        }
     }
 
     std::shared_ptr<HostMail> mMail;

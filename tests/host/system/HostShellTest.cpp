@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -72,6 +73,19 @@ TEST_F(HostShellTest, Open_NameLikeAnOption_IsNone)
 {
     HostShell().Open("--help");
     EXPECT_EQ(Told(), "1\n./--help\n/dev/null\n/dev/null\n");
+}
+
+TEST_F(HostShellTest, Open_SignalsIgnoredHere_AreNotIgnoredThere)
+{
+    mFolder.Write("xdg-open", "#!/bin/sh\nawk '/^SigIgn/ { print $2 }' /proc/$$/status >\"$TOLD\"\n");
+    auto* const formerPipe = std::signal(SIGPIPE, SIG_IGN);
+    auto* const formerSize = std::signal(SIGXFSZ, SIG_IGN);
+    HostShell().Open("x");
+    const auto ignored = std::stoull(Told(), nullptr, 16);
+    std::signal(SIGPIPE, formerPipe);
+    std::signal(SIGXFSZ, formerSize);
+    EXPECT_EQ(ignored >> (SIGPIPE - 1) & 1, 0U);
+    EXPECT_EQ(ignored >> (SIGXFSZ - 1) & 1, 0U);
 }
 
 TEST_F(HostShellTest, Open_NoDesktop_DoesNothing)

@@ -387,6 +387,35 @@ TEST_F(HostTextStreamTest, Writing_NotClosed_ClosesItself)
     EXPECT_EQ(mFolder.Read("file"), std::string(100000, 'x') + "y");
 }
 
+TEST_F(HostTextStreamTest, Writing_TakenAwayByAnException_LeavesTheOldFile)
+{
+    mFolder.Write("file", "old");
+    EXPECT_EQ(FailureNumber([&] {
+        const auto stream = mFiles.OpenTextFile(mFolder.Path("file"), OpenMode::Writing, true);
+        stream->Write(std::string(100000, 'x'));
+        throw Failure(Error::OutOfMemory);
+    }),
+        7);
+    EXPECT_EQ(mFolder.Read("file"), "old");
+    EXPECT_FALSE(mFolder.Has(".file.new"));
+}
+
+TEST_F(HostTextStreamTest, Writing_LetGoWhileAnExceptionIsUnderWay_ClosesItself)
+{
+    struct Writer
+    {
+        ~Writer() { files.OpenTextFile(path, OpenMode::Writing, true)->Write("new"); }
+        HostFileSystem& files;
+        std::string path;
+    };
+    EXPECT_EQ(FailureNumber([&] {
+        const Writer writer { mFiles, mFolder.Path("file") };
+        throw Failure(Error::OutOfMemory);
+    }),
+        7);
+    EXPECT_EQ(mFolder.Read("file"), "new");
+}
+
 TEST_F(HostTextStreamTest, Writing_Nothing_LeavesAnEmptyFile)
 {
     mFolder.Write("file", "old");

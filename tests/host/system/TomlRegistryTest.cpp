@@ -1,5 +1,6 @@
 #include "host/system/TomlRegistry.h"
 
+#include "base/Utf8.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
 
@@ -45,17 +46,9 @@ protected:
 /// A character as UTF-8.
 std::string Utf8(char32_t character)
 {
-    const auto tail = [character](int shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80) {
-        return { static_cast<char>(character) };
-    }
-    if (character < 0x800) {
-        return { static_cast<char>(0xC0 | (character >> 6)), tail(0) };
-    }
-    if (character < 0x10000) {
-        return { static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0) };
-    }
-    return { static_cast<char>(0xF0 | (character >> 18)), tail(12), tail(6), tail(0) };
+    std::string text;
+    AppendUtf8(text, character);
+    return text;
 }
 
 TEST_F(TomlRegistryTest, Open_NoFile_IsEmptyAndMakesNone)
@@ -234,6 +227,26 @@ TEST_F(TomlRegistryTest, Write_FolderIsGone_FailsAndChangesNothing)
     fs::create_directory(mFolder.Path("profile"));
     registry.Write(User, Key, "a", "new");
     EXPECT_EQ(registry.Get(User, Key, "a"), Variant("new"));
+}
+
+TEST_F(TomlRegistryTest, Write_LinkOrReadOnlyFile_FailsAndChangesNothing)
+{
+    Open().Write(User, Key, "a", "old");
+    const auto content = Content();
+    const auto path = mFolder.Path("registry.toml");
+    fs::permissions(path, fs::perms::owner_read);
+    auto protectedOne = Open();
+    EXPECT_EQ(FailureNumber([&] { protectedOne.Write(User, Key, "a", "new"); }), 70);
+    EXPECT_EQ(FailureNumber([&] { protectedOne.Delete(User, Key, "a"); }), 70);
+    EXPECT_EQ(protectedOne.Get(User, Key, "a"), Variant("old"));
+    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+    fs::rename(path, mFolder.Path("kept.toml"));
+    fs::create_symlink("kept.toml", path);
+    auto linked = Open();
+    EXPECT_EQ(linked.Get(User, Key, "a"), Variant("old"));
+    EXPECT_EQ(FailureNumber([&] { linked.Write(User, Key, "a", "new"); }), 70);
+    EXPECT_TRUE(fs::is_symlink(path));
+    EXPECT_EQ(mFolder.Read("kept.toml"), content);
 }
 
 TEST_F(TomlRegistryTest, Read_EditedByHand_TakesTextsAndNumbersOnly)

@@ -9,6 +9,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <filesystem>
+#include <sys/stat.h>
+
 namespace tempodial {
 
 using testing::ElementsAre;
@@ -85,6 +89,23 @@ TEST_F(HostMailTest, Attachments_FileThatCanNotBeRead_FailsAndAddsNothing)
     EXPECT_EQ(FailureNumber([&] { mMail->Attachments()->Add(mFolder.Path("absent.out")); }), 53);
     EXPECT_EQ(FailureNumber([&] { mMail->Attachments()->Add(mFolder.Path()); }), 57) << "a folder";
     EXPECT_THAT(mMail->NotAttached(), ElementsAre(mFolder.Path("absent.out"), mFolder.Path()));
+    EXPECT_THAT(mMail->Draft().attachments, IsEmpty());
+}
+
+TEST_F(HostMailTest, Attachments_Pipe_FailsWithoutWaiting)
+{
+    ASSERT_EQ(::mkfifo(mFolder.Path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(FailureNumber([&] { mMail->Attachments()->Add(mFolder.Path("pipe")); }), 57);
+    EXPECT_THAT(mMail->NotAttached(), ElementsAre(mFolder.Path("pipe")));
+    EXPECT_THAT(mMail->Draft().attachments, IsEmpty());
+}
+
+TEST_F(HostMailTest, Attachments_FileLargerThanTheMailboxHolds_Fails)
+{
+    const auto path = mFolder.Write("large.csv", "");
+    std::filesystem::resize_file(path, std::uintmax_t { 1 } << 31);
+    EXPECT_EQ(FailureNumber([&] { mMail->Attachments()->Add(path); }), 7);
+    EXPECT_THAT(mMail->NotAttached(), ElementsAre(path));
     EXPECT_THAT(mMail->Draft().attachments, IsEmpty());
 }
 

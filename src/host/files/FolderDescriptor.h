@@ -1,0 +1,46 @@
+#pragma once
+
+#include "host/files/FileStatus.h"
+#include "host/files/NativePath.h"
+
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// An open folder.
+class FolderDescriptor
+{
+public:
+    /// A regular file in a folder.
+    struct Entry
+    {
+        std::string name;
+        FileStatus status;
+    };
+
+    /// Opens a folder; an absent one and what is none fail (76), a forbidden one (70).
+    explicit FolderDescriptor(const NativePath& path);
+    FolderDescriptor(const FolderDescriptor&) = delete;
+    FolderDescriptor& operator=(const FolderDescriptor&) = delete;
+    ~FolderDescriptor();
+
+    /// The regular files in it, in no order.
+    std::vector<Entry> Files() const;
+    /// True when nothing stands in it.
+    bool IsEmpty() const;
+    /// Makes the names in it safe on disk; fails when the disk refuses (57).
+    void Sync() const;
+    /// Locks it against other processes until it is closed; false when another holds it, and fails where there are no
+    /// locks.
+    bool TryLock() const;
+    /// True when it is this user's and others have access too.
+    bool IsOpenToOthers() const;
+    /// Takes the others' access, if the system lets it.
+    void CloseToOthers() const;
+
+private:
+    int mNumber;
+};
+
+}

@@ -1,0 +1,68 @@
+#include "host/files/FolderDescriptor.h"
+
+#include "support/FailureNumber.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace tempodial {
+
+namespace fs = std::filesystem;
+
+class FolderDescriptorTest : public testing::Test
+{
+protected:
+    TempFolder mTemp;
+    FolderDescriptor mFolder { NativePath(mTemp.Path()) };
+};
+
+TEST_F(FolderDescriptorTest, Open_NoFolder_Fails)
+{
+    const auto failure = [&](const std::string& name) {
+        return FailureNumber([&] { const FolderDescriptor folder(NativePath(mTemp.Path(name))); });
+    };
+    mTemp.Write("file", "");
+    EXPECT_EQ(failure("absent"), 76);
+    EXPECT_EQ(failure("absent/below"), 76);
+    EXPECT_EQ(failure("file"), 76);
+}
+
+TEST_F(FolderDescriptorTest, Files_AreTheRegularOnesEachTime)
+{
+    EXPECT_TRUE(mFolder.Files().empty());
+    EXPECT_TRUE(mFolder.IsEmpty());
+    fs::create_directory(mTemp.Path("folder"));
+    EXPECT_FALSE(mFolder.IsEmpty());
+    fs::create_symlink(mTemp.Write("file", "abc"), mTemp.Path("link"));
+    ASSERT_EQ(::mkfifo(mTemp.Path("pipe").c_str(), 0600), 0);
+    for (int time = 0; time < 2; ++time) {
+        const auto files = mFolder.Files();
+        ASSERT_EQ(files.size(), 1U);
+        EXPECT_EQ(files[0].name, "file");
+        EXPECT_EQ(files[0].status.size, 3U);
+    }
+}
+
+TEST_F(FolderDescriptorTest, TryLock_HeldByAnother_IsFalseUntilThatIsClosed)
+{
+    {
+        const FolderDescriptor other { NativePath(mTemp.Path()) };
+        EXPECT_TRUE(other.TryLock());
+        EXPECT_FALSE(mFolder.TryLock());
+    }
+    EXPECT_TRUE(mFolder.TryLock());
+}
+
+TEST_F(FolderDescriptorTest, CloseToOthers_TakesTheirAccess)
+{
+    fs::permissions(mTemp.Path(), fs::perms(0755));
+    EXPECT_TRUE(mFolder.IsOpenToOthers());
+    mFolder.CloseToOthers();
+    EXPECT_FALSE(mFolder.IsOpenToOthers());
+    EXPECT_EQ(fs::status(mTemp.Path()).permissions(), fs::perms(0700));
+}
+
+}

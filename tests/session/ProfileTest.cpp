@@ -1,0 +1,50 @@
+#include "session/Profile.h"
+
+#include "base/Variant.h"
+#include "support/TempFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+namespace fs = std::filesystem;
+
+using testing::UnorderedElementsAre;
+
+/// The names in a folder.
+std::vector<std::string> NamesIn(const std::string& folder)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        names.push_back(entry.path().filename().string());
+    }
+    return names;
+}
+
+TEST(ProfileTest, PathThatHoldsABackslash_KeepsAllInOneFolder)
+{
+    const TempFolder folder;
+    const auto path = folder.Path(R"(a\b)");
+    {
+        const Profile profile(path, "en_US", std::nullopt);
+        profile.Registry()->Write(Hive::CurrentUser, "Software", "a", "b");
+        auto& files = *profile.Surroundings().fileSystem;
+        const auto data = files.BuildPath(files.GetSpecialFolder(SpecialFolder::Temporary), "Tempodial");
+        files.CreateFolder(data);
+        files.OpenTextFile(files.BuildPath(data, "new.out"), OpenMode::Writing, true)->Write("x");
+        files.OpenTextFile(files.BuildPath(data, "added.out"), OpenMode::Appending, true)->Write("x");
+        EXPECT_TRUE(files.FileExists(profile.DataFolder() + "/new.out"));
+    }
+    EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre(R"(a\b)"));
+    EXPECT_THAT(NamesIn(path), UnorderedElementsAre("mailbox.db", "registry.toml", "Tempodial"));
+    EXPECT_THAT(NamesIn(path + "/Tempodial"), UnorderedElementsAre("new.out", "added.out"));
+    const Profile again(path, "en_US", std::nullopt);
+    EXPECT_EQ(again.Registry()->Get(Hive::CurrentUser, "Software", "a"), Variant("b"));
+}
+
+}
