@@ -7,8 +7,6 @@
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <limits>
 #include <string>
@@ -33,10 +31,10 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("--days", mDays, "How many days, the last being today: 1 to 22; default 21")->option_text("N");
-        app.add_option("--seed", mSeed, "Another number gives another life; default 1")->option_text("N");
+        arguments.Optional("--days N", mDays, "How many days, the last being today: 1 to 22; default 21");
+        arguments.Optional("--seed N", mSeed, "Another number gives another life; default 1");
     }
 
     Reply Run(const Options& options) override

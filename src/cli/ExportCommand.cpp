@@ -9,8 +9,6 @@
 #include "terminal/ItemJson.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <iterator>
 
@@ -48,11 +46,11 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        mDays.Declare(app);
-        app.add_option("--format", mFormat, "ics, csv or json")->option_text("FORMAT")->required();
-        mOut.Declare(app, "The file to write, instead of standard output", false);
+        mDays.Declare(arguments);
+        arguments.Required("--format FORMAT", mFormat, "ics, csv or json");
+        mOut.Declare(arguments, "The file to write, instead of standard output", false);
     }
 
     Reply Run(const Options& options) override

@@ -5,8 +5,6 @@
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <optional>
 
@@ -29,12 +27,11 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        mDays.Declare(app);
-        app.add_option(
-               "--project", mProject, "Only activities of the project of exactly this name, such as \"No Project\"")
-            ->option_text("NAME");
+        mDays.Declare(arguments);
+        arguments.Optional(
+            "--project NAME", mProject, "Only activities of the project of exactly this name, such as \"No Project\"");
     }
 
     Reply Run(const Options& options) override

@@ -3,8 +3,6 @@
 #include "cli/KnownProject.h"
 #include "cli/TextTable.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -34,7 +32,7 @@ public:
     {
     }
 
-    void Declare(CLI::App&) override { }
+    void Declare(ArgumentList&) override { }
 
     Reply Run(const Options& options) override
     {

@@ -6,8 +6,6 @@
 #include "host/system/HostClock.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -36,17 +34,16 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        mDays.Declare(app);
-        app.add_option(
-               "--by", mBy, "What to sum up by: project, application, description or\ndate; default application")
-            ->option_text("WHAT");
-        app.add_flag("--text", mIsText, "Plain text instead of HTML");
-        app.add_flag("--no-details", mHasNoDetails, "No list of the activities");
-        app.add_flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
-        app.add_flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
-        mOut.Declare(app, "The e-mail to write (.eml), instead of standard output", false);
+        mDays.Declare(arguments);
+        arguments.Optional(
+            "--by WHAT", mBy, "What to sum up by: project, application, description or\ndate; default application");
+        arguments.Flag("--text", mIsText, "Plain text instead of HTML");
+        arguments.Flag("--no-details", mHasNoDetails, "No list of the activities");
+        arguments.Flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
+        arguments.Flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
+        mOut.Declare(arguments, "The e-mail to write (.eml), instead of standard output", false);
     }
 
     Reply Run(const Options& options) override
