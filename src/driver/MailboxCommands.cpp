@@ -9,6 +9,8 @@
 #include "session/WorkLogFolder.h"
 #include "terminal/ItemJson.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <functional>
 
