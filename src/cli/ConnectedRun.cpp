@@ -59,7 +59,7 @@ MailDraft ConnectedRun::TakeShownMail() const
         return {};
     }
     for (const auto& path : mails.back()->NotAttached()) {
-        mProblems->Note(path + " couldn't be attached: see to the file and run the command again");
+        mProblems->NoteFile(path, "couldn't be attached: see to the file and run the command again");
     }
     return mails.back()->TakeDraft();
 }

@@ -53,15 +53,14 @@ public:
         const bool isFile = mOut.IsNamed();
         const Interruption interruption;
         ConnectedRun run(options);
-        if (!Interruption::IsRequested()) {
-            run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
-        }
+        const bool hasText = !Interruption::IsRequested()
+            && run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
         auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
             return reply;
         }
-        if (!IsWhole(mail, reply, run)) {
+        if (!hasText || mail.body.empty() || !HasTable(mail, run)) {
             reply.status = ExitStatus::NotDone;
             reply.complaints.emplace_back(
                 "the report isn't whole and isn't given: see the trace with \"tempodial trace\"");
@@ -92,18 +91,11 @@ private:
         return static_cast<std::int32_t>(found - TypeNames.begin()) + 1;
     }
 
-    /// True when a report has its text and, if one is wanted, all of its table. Without its templates the text is but
-    /// what closes the document.
-    bool IsWhole(const MailDraft& mail, const Reply& reply, const ConnectedRun& run) const
+    /// True when the mail of a report has all of the table, if one is wanted.
+    bool HasTable(const MailDraft& mail, const ConnectedRun& run) const
     {
-        const bool hasText = !mail.body.empty() && mail.body != "</body></html>";
-        if (!hasText || mHasNoCsv) {
-            return hasText;
-        }
-        return !mail.attachments.empty()
-            && std::none_of(reply.complaints.begin(), reply.complaints.end(),
-                [path = run.DataPath(mail.attachments.front().name)](
-                    const auto& complaint) { return complaint.starts_with(path + " "); });
+        return mHasNoCsv
+            || (!mail.attachments.empty() && !run.HasProblemWith(run.DataPath(mail.attachments.front().name)));
     }
 
     static nlohmann::ordered_json Document(const MailDraft& mail)

@@ -69,6 +69,7 @@ std::string TempodialReport::CreateReport(Date startDate, Date endDate, std::int
     }
 
     std::string report;
+    mHasText = false;
     if (data) {
         report = textReport ? BuildPlainReport(*data, detailed, attempt)
                             : BuildHTMLReport(*data, detailed, label, attempt);
@@ -180,6 +181,7 @@ std::string TempodialReport::BuildPlainReport(ReportData& data, bool detailed, c
         attempt([&] { report += texts.BuildDetail(data, false, groupTemplate); });
     }
     attempt([&] { Trace("Report: " + report); });
+    mHasText = !report.empty();
     return report;
 }
 
@@ -224,6 +226,7 @@ std::string TempodialReport::BuildHTMLReport(
         attempt([&] { report.reserve(report.size() + details.size() + Ending.size()); });
         attempt([&] { report += details; });
     }
+    mHasText = !report.empty();
     return report += Ending;
 }
 
