@@ -109,9 +109,8 @@ ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
 {
     if (!options.json) {
         PrintText(reply, options.quiet);
-    } else if (!reply.document.is_null()) {
-        constexpr int Indentation = 2;
-        mOut << reply.document.dump(Indentation, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << "\n";
+    } else if (!reply.document.IsNull()) {
+        mOut << reply.document.Text() << "\n";
     }
     mOut.flush();
     for (const auto& complaint : reply.complaints) {

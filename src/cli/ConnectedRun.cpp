@@ -84,7 +84,7 @@ Reply ConnectedRun::ConcludedWithChanges()
 {
     const auto changed = Saves().created + Saves().extended + Saves().detailed;
     Reply reply;
-    reply.document["changed"] = changed;
+    reply.document.Set("changed", changed);
     reply.summary = std::to_string(changed) + (changed == 1 ? " activity changed\n" : " activities changed\n");
     return Concluded(std::move(reply));
 }

@@ -47,8 +47,8 @@ public:
         RequireNoTrackerFiles(*profile.Surroundings().fileSystem, profile.DataFolder());
         const auto lines = WriteAll(profile, files);
         Reply reply;
-        reply.document["files"] = files.size();
-        reply.document["lines"] = lines;
+        reply.document.Set("files", files.size());
+        reply.document.Set("lines", lines);
         reply.summary = std::to_string(files.size()) + " tracker files with " + std::to_string(lines) + " slots in "
             + profile.DataFolder() + "\n\"tempodial sync\" makes activities of them.\n";
         return reply;

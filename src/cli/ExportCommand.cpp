@@ -71,7 +71,7 @@ public:
             mOut.Write(document);
             reply.summary = mOut.Summary();
         } else {
-            reply.document["text"] = document;
+            reply.document.Set("text", document);
             reply.content = std::move(document);
         }
         return reply;
@@ -85,10 +85,12 @@ private:
         }
     }
 
-    static nlohmann::ordered_json Items(const Activities& activities)
+    static JsonValue Items(const Activities& activities)
     {
-        auto items = nlohmann::ordered_json::array();
-        std::transform(activities.begin(), activities.end(), std::back_inserter(items), ItemJson);
+        auto items = JsonValue::Array();
+        for (const auto& activity : activities) {
+            items.Append(ItemJson(activity));
+        }
         return items;
     }
 
@@ -100,8 +102,7 @@ private:
         if (mFormat == "csv") {
             return ActivityCsv(Records(activities));
         }
-        constexpr int Indentation = 2;
-        return Items(activities).dump(Indentation, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+        return Items(activities).Text() + "\n";
     }
 
     DayRangeArguments mDays;

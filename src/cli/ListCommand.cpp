@@ -5,7 +5,6 @@
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace tempodial {
@@ -39,9 +38,11 @@ public:
         const auto days = mDays.Days(HostClock(options.now).Now());
         const auto profile = OpenProfile(options);
         const auto activities = ActivitiesOf(profile, days, mProject);
-        Reply reply { .document = nlohmann::ordered_json::array() };
+        Reply reply { .document = JsonValue::Array() };
         if (options.json) {
-            std::transform(activities.begin(), activities.end(), std::back_inserter(reply.document), ItemJson);
+            for (const auto& activity : activities) {
+                reply.document.Append(ItemJson(activity));
+            }
         } else {
             reply.text = ActivityTable(activities, profile.Surroundings().formats, days);
             reply.summary = ActivityTotal(activities);

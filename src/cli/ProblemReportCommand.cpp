@@ -50,11 +50,11 @@ public:
         const auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         mOut.Write(mail);
-        reply.document = { { "subject", mail.subject }, { "body", mail.body },
-            { "attachments", nlohmann::ordered_json::array() } };
+        auto names = JsonValue::Array();
         for (const auto& attachment : mail.attachments) {
-            reply.document["attachments"].push_back(attachment.name);
+            names.Append(attachment.name);
         }
+        reply.document = { { "subject", mail.subject }, { "body", mail.body }, { "attachments", std::move(names) } };
         reply.summary = mOut.Summary();
         return reply;
     }

@@ -28,7 +28,7 @@ public:
         ConnectedRun run(options);
         const auto project = run.AddIn().WhatProject(mSubject, mPeople);
         Reply reply;
-        reply.document["project"] = project;
+        reply.document.Set("project", project);
         reply.text = project + "\n";
         return run.Concluded(std::move(reply));
     }

@@ -25,7 +25,7 @@ public:
         const auto name = KnownProject::NameOf(run.AddIn(), mName);
         run.AddIn().DeleteProject(name);
         Reply reply;
-        reply.document["removed"] = name;
+        reply.document.Set("removed", name);
         reply.summary = "The project " + name + " is removed.\n";
         return run.Concluded(std::move(reply));
     }

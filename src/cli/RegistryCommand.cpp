@@ -69,9 +69,9 @@ private:
     {
         Reply reply;
         if (const auto* number = value.If<std::int32_t>()) {
-            reply.document["number"] = *number;
+            reply.document.Set("number", *number);
         } else {
-            reply.document["text"] = value.ToText();
+            reply.document.Set("text", value.ToText());
         }
         auto text = (value.If<std::int32_t>() ? std::to_string(value.ToInt32()) : value.ToText()) + "\n";
         (isAnswer ? reply.text : reply.summary) = std::move(text);

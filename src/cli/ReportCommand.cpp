@@ -98,12 +98,12 @@ private:
             || (!mail.attachments.empty() && !run.HasProblemWith(run.DataPath(mail.attachments.front().name)));
     }
 
-    static nlohmann::ordered_json Document(const MailDraft& mail)
+    static JsonValue Document(const MailDraft& mail)
     {
-        nlohmann::ordered_json document { { "subject", mail.subject }, { "body", mail.body }, { "html", mail.isHtml },
+        JsonValue document { { "subject", mail.subject }, { "body", mail.body }, { "html", mail.isHtml },
             { "csv", nullptr } };
         if (!mail.attachments.empty()) {
-            document["csv"] = mail.attachments.front().content;
+            document.Set("csv", mail.attachments.front().content);
         }
         return document;
     }

@@ -38,7 +38,7 @@ public:
         }
         Reply reply;
         const auto lines = tail.Lines();
-        reply.document["lines"] = lines;
+        reply.document.Set("lines", lines);
         for (const auto& line : lines) {
             reply.text += line + "\n";
         }
