@@ -5,8 +5,6 @@
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -25,10 +23,10 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("NAME", mName, "The project")->required();
-        app.add_option("--days", mDays, "How many days, today being the last; default 7")->option_text("N");
+        arguments.Required("NAME", mName, "The project");
+        arguments.Optional("--days N", mDays, "How many days, today being the last; default 7");
     }
 
     Reply Run(const Options& options) override

@@ -7,8 +7,6 @@
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -29,12 +27,12 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("NAME", mName, "The project")->required();
-        app.add_option("--from", mFrom, "The first moment")->option_text("YYYY-MM-DDTHH:MM")->required();
-        app.add_option("--to", mTo, "The moment behind the last")->option_text("YYYY-MM-DDTHH:MM")->required();
-        app.add_flag("--overwrite", mOverwrite, "Also change activities that have a project");
+        arguments.Required("NAME", mName, "The project");
+        arguments.Required("--from YYYY-MM-DDTHH:MM", mFrom, "The first moment");
+        arguments.Required("--to YYYY-MM-DDTHH:MM", mTo, "The moment behind the last");
+        arguments.Flag("--overwrite", mOverwrite, "Also change activities that have a project");
     }
 
     Reply Run(const Options& options) override

@@ -2,13 +2,10 @@
 
 #include "cli/Options.h"
 #include "cli/Reply.h"
+#include "terminal/ArgumentList.h"
 
 #include <string>
 #include <utility>
-
-namespace CLI { // NOLINT(readability-identifier-naming): the parser's own name
-class App;
-}
 
 namespace tempodial {
 
@@ -38,7 +35,7 @@ public:
     /// What the help says of it.
     const Description& About() const { return mDescription; }
     /// Adds its own arguments, which are then kept here as they are parsed.
-    virtual void Declare(CLI::App& app) = 0;
+    virtual void Declare(ArgumentList& arguments) = 0;
     /// Does the work with the arguments parsed. Fails with `UsageError`, `CommandError`, `ProfileError` or `Failure`.
     virtual Reply Run(const Options& options) = 0;
 

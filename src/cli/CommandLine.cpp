@@ -1,15 +1,17 @@
 #include "cli/CommandLine.h"
 
 #include "base/Text.h"
-#include "session/ProductFacts.h"
-#include "terminal/ArgumentParser.h"
 #include "terminal/ProgramRun.h"
 #include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
+#include <algorithm>
+
 namespace tempodial {
 
 namespace {
+
+constexpr auto Name = "tempodial";
 
 constexpr auto ProgramDescription
     = "Turns what you do at your PC into a calendar of activities, each with the\n"
@@ -46,53 +48,32 @@ CommandLine::CommandLine(
     , mOut(out)
     , mIsTerminal(isTerminal)
     , mError(error)
-    , mApp(ProgramDescription, "tempodial")
+    , mParser({ Name, ProgramDescription, ProgramFooter })
 {
-    mApp.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    mApp.get_formatter()->label("Positionals", "Arguments");
-    mApp.get_formatter()->label("TEXT", "");
-    mApp.get_formatter()->label("REQUIRED", "");
-    mApp.footer(ProgramFooter);
-    mApp.require_subcommand(0, 1);
     DeclareOptions();
     for (const auto& command : mCommands) {
-        DeclareCommand(*command);
+        const auto& about = command->About();
+        auto arguments = mParser.AddCommand({ about.name, about.summary, about.details + "\n\n" + CommandFooter });
+        command->Declare(arguments);
     }
 }
 
 void CommandLine::DeclareOptions()
 {
-    mApp.set_help_flag("-h,--help", "Show this help, or that of a command");
-    mApp.set_version_flag("--version", ProductVersion, "Show the version");
-    mProfile.Declare(mApp);
-    mApp.add_flag("--json", mJson, "Answer with one JSON document");
-    mApp.add_flag("--quiet", mQuiet, "No progress and no summary");
-}
-
-void CommandLine::DeclareCommand(Command& command)
-{
-    auto* app = &mApp;
-    for (const auto& word : Split(command.About().name, " ")) {
-        const auto below = app->get_subcommands([&word](const CLI::App* sub) { return sub->get_name() == word; });
-        app = below.empty() ? app->add_subcommand(word) : below.front();
-    }
-    app->description(command.About().summary);
-    app->footer(command.About().details + "\n\n" + CommandFooter);
-    app->group("Commands");
-    app->fallthrough();
-    app->get_parent()->require_subcommand(0, 1);
-    command.Declare(*app);
-    mCommandOfApp[app] = &command;
+    auto arguments = mParser.Arguments();
+    mProfile.Declare(arguments);
+    arguments.Flag("--json", mJson, "Answer with one JSON document");
+    arguments.Flag("--quiet", mQuiet, "No progress and no summary");
 }
 
 ExitStatus CommandLine::Run(const std::vector<std::string>& arguments) noexcept
 {
-    return RunProgram(mApp.get_name(), mError, [&] { return Execute(arguments); });
+    return RunProgram(Name, mError, [&] { return Execute(arguments); });
 }
 
 ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 {
-    if (!ParseArguments(mApp, arguments, mOut)) {
+    if (!mParser.Parse(arguments, mOut)) {
         return Print({}, {});
     }
     const auto options = ReadOptions();
@@ -106,11 +87,12 @@ Options CommandLine::ReadOptions() const
 
 Command& CommandLine::Chosen() const
 {
-    const auto found = mCommandOfApp.find(&ChosenApp(mApp));
-    if (found == mCommandOfApp.end()) {
+    const auto found = std::find_if(mCommands.begin(), mCommands.end(),
+        [name = mParser.ChosenCommand()](const auto& command) { return command->About().name == name; });
+    if (found == mCommands.end()) {
         throw UsageError("no command is given: see \"tempodial --help\" for the commands");
     }
-    return *found->second;
+    return **found;
 }
 
 void CommandLine::PrintText(const Reply& reply, bool isQuiet)
@@ -127,17 +109,15 @@ ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
 {
     if (!options.json) {
         PrintText(reply, options.quiet);
-    } else if (!reply.document.is_null()) {
-        constexpr int Indentation = 2;
-        mOut << reply.document.dump(Indentation, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << "\n";
+    } else if (!reply.document.IsNull()) {
+        mOut << reply.document.Text() << "\n";
     }
     mOut.flush();
     for (const auto& complaint : reply.complaints) {
-        Complain(mError, mApp.get_name(), complaint);
+        Complain(mError, Name, complaint);
     }
     if (!mOut) {
-        Complain(
-            mError, mApp.get_name(), "the answer couldn't be written: see to the disk or the program that reads it");
+        Complain(mError, Name, "the answer couldn't be written: see to the disk or the program that reads it");
         return ExitStatus::NotDone;
     }
     return reply.status;

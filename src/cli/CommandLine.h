@@ -1,12 +1,10 @@
 #pragma once
 
 #include "cli/Command.h"
+#include "terminal/ArgumentParser.h"
 #include "terminal/ExitStatus.h"
 #include "terminal/ProfileArguments.h"
 
-#include <CLI/CLI.hpp>
-
-#include <map>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -27,7 +25,6 @@ public:
 
 private:
     void DeclareOptions();
-    void DeclareCommand(Command& command);
     ExitStatus Execute(const std::vector<std::string>& arguments);
     Options ReadOptions() const;
     Command& Chosen() const;
@@ -38,8 +35,7 @@ private:
     std::ostream& mOut;
     bool mIsTerminal;
     std::ostream& mError;
-    CLI::App mApp;
-    std::map<const CLI::App*, Command*> mCommandOfApp;
+    ArgumentParser mParser;
     ProfileArguments mProfile;
     bool mJson = false;
     bool mQuiet = false;

@@ -56,7 +56,7 @@ MailDraft ConnectedRun::TakeShownMail() const
         return {};
     }
     for (const auto& path : mail->NotAttached()) {
-        mProblems->Note(path + " couldn't be attached: see to the file and run the command again");
+        mProblems->NoteFile(path, "couldn't be attached: see to the file and run the command again");
     }
     return mail->TakeDraft();
 }
@@ -81,7 +81,7 @@ Reply ConnectedRun::ConcludedWithChanges()
 {
     const auto changed = Saves().created + Saves().extended + Saves().detailed;
     Reply reply;
-    reply.document["changed"] = changed;
+    reply.document.Set("changed", changed);
     reply.summary = std::to_string(changed) + (changed == 1 ? " activity changed\n" : " activities changed\n");
     return Concluded(std::move(reply));
 }

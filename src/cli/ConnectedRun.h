@@ -40,6 +40,8 @@ public:
     bool WasAddInRefusing() const { return mMessageBox->HasShown(); }
     /// Notes something that went wrong, with what to do about it.
     void Complain(const std::string& message) { mProblems->Note(message); }
+    /// True when something went wrong with the file of that path.
+    bool HasProblemWith(const std::string& path) const { return mProblems->HasOneWith(path); }
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.
     Reply Concluded(Reply reply);
     /// The same for a reply that tells how many items were saved.

@@ -3,16 +3,14 @@
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 
 namespace tempodial {
 
-void DayRangeArguments::Declare(CLI::App& app)
+void DayRangeArguments::Declare(ArgumentList& arguments)
 {
-    app.add_option("--from", mFrom, "First day: YYYY-MM-DD, today or yesterday")->option_text("DAY");
-    app.add_option("--to", mTo, "Last day")->option_text("DAY");
+    arguments.Optional("--from DAY", mFrom, "First day: YYYY-MM-DD, today or yesterday");
+    arguments.Optional("--to DAY", mTo, "Last day");
 }
 
 DayRange DayRangeArguments::Days(Date now) const

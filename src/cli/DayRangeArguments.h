@@ -1,13 +1,10 @@
 #pragma once
 
 #include "cli/DayRange.h"
+#include "terminal/ArgumentList.h"
 
 #include <optional>
 #include <string>
-
-namespace CLI { // NOLINT(readability-identifier-naming): the parser's own name
-class App;
-}
 
 namespace tempodial {
 
@@ -20,7 +17,7 @@ public:
                                  "the same day when that comes out of order.\n";
 
     /// Adds them to a command; they are kept here as they are parsed.
-    void Declare(CLI::App& app);
+    void Declare(ArgumentList& arguments);
     /// The range that they name. Fails with a `UsageError`.
     DayRange Days(Date now) const;
 

@@ -7,8 +7,6 @@
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <limits>
 #include <string>
@@ -33,10 +31,10 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("--days", mDays, "How many days, the last being today: 1 to 22; default 21")->option_text("N");
-        app.add_option("--seed", mSeed, "Another number gives another life; default 1")->option_text("N");
+        arguments.Optional("--days N", mDays, "How many days, the last being today: 1 to 22; default 21");
+        arguments.Optional("--seed N", mSeed, "Another number gives another life; default 1");
     }
 
     Reply Run(const Options& options) override
@@ -49,8 +47,8 @@ public:
         RequireNoTrackerFiles(*profile.Surroundings().fileSystem, profile.DataFolder());
         const auto lines = WriteAll(profile, files);
         Reply reply;
-        reply.document["files"] = files.size();
-        reply.document["lines"] = lines;
+        reply.document.Set("files", files.size());
+        reply.document.Set("lines", lines);
         reply.summary = std::to_string(files.size()) + " tracker files with " + std::to_string(lines) + " slots in "
             + profile.DataFolder() + "\n\"tempodial sync\" makes activities of them.\n";
         return reply;

@@ -9,8 +9,6 @@
 #include "terminal/ItemJson.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <iterator>
 
@@ -48,11 +46,11 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        mDays.Declare(app);
-        app.add_option("--format", mFormat, "ics, csv or json")->option_text("FORMAT")->required();
-        mOut.Declare(app, "The file to write, instead of standard output", false);
+        mDays.Declare(arguments);
+        arguments.Required("--format FORMAT", mFormat, "ics, csv or json");
+        mOut.Declare(arguments, "The file to write, instead of standard output", false);
     }
 
     Reply Run(const Options& options) override
@@ -73,7 +71,7 @@ public:
             mOut.Write(document);
             reply.summary = mOut.Summary();
         } else {
-            reply.document["text"] = document;
+            reply.document.Set("text", document);
             reply.content = std::move(document);
         }
         return reply;
@@ -87,10 +85,12 @@ private:
         }
     }
 
-    static nlohmann::ordered_json Items(const Activities& activities)
+    static JsonValue Items(const Activities& activities)
     {
-        auto items = nlohmann::ordered_json::array();
-        std::transform(activities.begin(), activities.end(), std::back_inserter(items), ItemJson);
+        auto items = JsonValue::Array();
+        for (const auto& activity : activities) {
+            items.Append(ItemJson(activity));
+        }
         return items;
     }
 
@@ -102,8 +102,7 @@ private:
         if (mFormat == "csv") {
             return ActivityCsv(Records(activities));
         }
-        constexpr int Indentation = 2;
-        return Items(activities).dump(Indentation, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+        return Items(activities).Text() + "\n";
     }
 
     DayRangeArguments mDays;

@@ -88,7 +88,7 @@ void KnownProject::RequireReadableRule(const std::string& rule)
     RequireReadable(rule, "a rule");
 }
 
-nlohmann::ordered_json KnownProject::ToJson() const
+JsonValue KnownProject::ToJson() const
 {
     return { { "name", name }, { "precedence", precedence }, { "subject", subject }, { "notSubject", notSubject },
         { "people", people } };

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "engine/core/TempodialMain.h"
-
-#include <nlohmann/json.hpp>
+#include "terminal/JsonValue.h"
 
 #include <string>
 #include <vector>
@@ -32,7 +31,7 @@ struct KnownProject
     /// Fails with a `CommandError` for a rule with which the list of projects couldn't be read back.
     static void RequireReadableRule(const std::string& rule);
 
-    nlohmann::ordered_json ToJson() const;
+    JsonValue ToJson() const;
 };
 
 }

@@ -5,9 +5,6 @@
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
 
-#include <CLI/CLI.hpp>
-
-#include <algorithm>
 #include <optional>
 
 namespace tempodial {
@@ -29,12 +26,11 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        mDays.Declare(app);
-        app.add_option(
-               "--project", mProject, "Only activities of the project of exactly this name, such as \"No Project\"")
-            ->option_text("NAME");
+        mDays.Declare(arguments);
+        arguments.Optional(
+            "--project NAME", mProject, "Only activities of the project of exactly this name, such as \"No Project\"");
     }
 
     Reply Run(const Options& options) override
@@ -42,9 +38,11 @@ public:
         const auto days = mDays.Days(HostClock(options.now).Now());
         const auto profile = OpenProfile(options);
         const auto activities = ActivitiesOf(profile, days, mProject);
-        Reply reply { .document = nlohmann::ordered_json::array() };
+        Reply reply { .document = JsonValue::Array() };
         if (options.json) {
-            std::transform(activities.begin(), activities.end(), std::back_inserter(reply.document), ItemJson);
+            for (const auto& activity : activities) {
+                reply.document.Append(ItemJson(activity));
+            }
         } else {
             reply.text = ActivityTable(activities, profile.Surroundings().formats, days);
             reply.summary = ActivityTotal(activities);

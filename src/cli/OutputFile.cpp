@@ -6,8 +6,6 @@
 #include "host/system/GMimeDraftWriter.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <string_view>
 
 namespace tempodial {
@@ -48,9 +46,14 @@ template <class Writing> void WriteOrTell(const std::string& path, Writing&& wri
 
 }
 
-void OutputFile::Declare(CLI::App& app, const std::string& help, bool isRequired)
+void OutputFile::Declare(ArgumentList& arguments, const std::string& help, bool isRequired)
 {
-    app.add_option("--out", mPath, help)->option_text("FILE")->required(isRequired);
+    const auto* form = "--out FILE";
+    if (isRequired) {
+        arguments.Required(form, mPath, help);
+    } else {
+        arguments.Optional(form, mPath, help);
+    }
 }
 
 bool OutputFile::IsNamed() const

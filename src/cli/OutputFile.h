@@ -1,13 +1,10 @@
 #pragma once
 
 #include "platform/system/MailDraftWriter.h"
+#include "terminal/ArgumentList.h"
 
 #include <optional>
 #include <string>
-
-namespace CLI { // NOLINT(readability-identifier-naming): the parser's own name
-class App;
-}
 
 namespace tempodial {
 
@@ -16,7 +13,7 @@ class OutputFile
 {
 public:
     /// Adds the argument to a command; it is kept here as it is parsed.
-    void Declare(CLI::App& app, const std::string& help, bool isRequired);
+    void Declare(ArgumentList& arguments, const std::string& help, bool isRequired);
     /// True when a file is named. Fails with a `UsageError` when the argument is empty.
     bool IsNamed() const;
     const std::string& Path() const { return *mPath; }

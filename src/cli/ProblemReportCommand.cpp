@@ -7,8 +7,6 @@
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -33,13 +31,12 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("--expected", mExpected, "What you expected to happen")->option_text("TEXT")->required();
-        app.add_option("--actual", mActual, "What happened instead")->option_text("TEXT")->required();
-        app.add_option("--day", mDay, "When it was: YYYY-MM-DD, today or yesterday; default\ntoday")
-            ->option_text("DAY");
-        mOut.Declare(app, "The e-mail to write (.eml)", true);
+        arguments.Required("--expected TEXT", mExpected, "What you expected to happen");
+        arguments.Required("--actual TEXT", mActual, "What happened instead");
+        arguments.Optional("--day DAY", mDay, "When it was: YYYY-MM-DD, today or yesterday; default\ntoday");
+        mOut.Declare(arguments, "The e-mail to write (.eml)", true);
     }
 
     Reply Run(const Options& options) override
@@ -53,11 +50,11 @@ public:
         const auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         mOut.Write(mail);
-        reply.document = { { "subject", mail.subject }, { "body", mail.body },
-            { "attachments", nlohmann::ordered_json::array() } };
+        auto names = JsonValue::Array();
         for (const auto& attachment : mail.attachments) {
-            reply.document["attachments"].push_back(attachment.name);
+            names.Append(attachment.name);
         }
+        reply.document = { { "subject", mail.subject }, { "body", mail.body }, { "attachments", std::move(names) } };
         reply.summary = mOut.Summary();
         return reply;
     }

@@ -3,8 +3,6 @@
 #include "cli/KnownProject.h"
 #include "cli/TextTable.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -34,20 +32,20 @@ public:
     {
     }
 
-    void Declare(CLI::App&) override { }
+    void Declare(ArgumentList&) override { }
 
     Reply Run(const Options& options) override
     {
         using enum TextTable::Side;
         ConnectedRun run(options);
         const auto projects = KnownProject::ReadAll(run.AddIn());
-        Reply reply { .document = nlohmann::ordered_json::array() };
+        Reply reply { .document = JsonValue::Array() };
         TextTable table({ Left, Left, Left, Left, Left });
         if (!projects.empty()) {
             table.Add({ "PROJECT", "PRECEDENCE", "SUBJECT", "NOT SUBJECT", "PEOPLE" });
         }
         for (const auto& project : projects) {
-            reply.document.push_back(project.ToJson());
+            reply.document.Append(project.ToJson());
             table.Add({ project.name, PrecedenceName(project.precedence), project.subject, project.notSubject,
                 project.people });
         }

@@ -1,8 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -19,10 +17,10 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("SUBJECT", mSubject, "The subject of an activity, without a project in front")->required();
-        app.add_option("--people", mPeople, "The people of the activity, semicolons between")->option_text("PEOPLE");
+        arguments.Required("SUBJECT", mSubject, "The subject of an activity, without a project in front");
+        arguments.Optional("--people PEOPLE", mPeople, "The people of the activity, semicolons between");
     }
 
     Reply Run(const Options& options) override
@@ -30,7 +28,7 @@ public:
         ConnectedRun run(options);
         const auto project = run.AddIn().WhatProject(mSubject, mPeople);
         Reply reply;
-        reply.document["project"] = project;
+        reply.document.Set("project", project);
         reply.text = project + "\n";
         return run.Concluded(std::move(reply));
     }

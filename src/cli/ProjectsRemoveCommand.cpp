@@ -2,8 +2,6 @@
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -19,7 +17,7 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override { app.add_option("NAME", mName, "The project")->required(); }
+    void Declare(ArgumentList& arguments) override { arguments.Required("NAME", mName, "The project"); }
 
     Reply Run(const Options& options) override
     {
@@ -27,7 +25,7 @@ public:
         const auto name = KnownProject::NameOf(run.AddIn(), mName);
         run.AddIn().DeleteProject(name);
         Reply reply;
-        reply.document["removed"] = name;
+        reply.document.Set("removed", name);
         reply.summary = "The project " + name + " is removed.\n";
         return run.Concluded(std::move(reply));
     }

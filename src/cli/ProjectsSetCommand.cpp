@@ -4,8 +4,6 @@
 #include "cli/KnownProject.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <optional>
 
 namespace tempodial {
@@ -40,15 +38,14 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("NAME", mName, "The project")->required();
-        app.add_option("--subject", mSubject, "Words and phrases of a subject that belong to the project")
-            ->option_text("RULE");
-        app.add_option("--not-subject", mNotSubject, "Words and phrases of a subject that don't")->option_text("RULE");
-        app.add_option("--people", mPeople, "People with whom the work is for the project")->option_text("RULE");
-        app.add_option("--precedence", mPrecedence, "Which projects are tried first: high, medium or low")
-            ->option_text("PRECEDENCE");
+        arguments.Required("NAME", mName, "The project");
+        arguments.Optional("--subject RULE", mSubject, "Words and phrases of a subject that belong to the project");
+        arguments.Optional("--not-subject RULE", mNotSubject, "Words and phrases of a subject that don't");
+        arguments.Optional("--people RULE", mPeople, "People with whom the work is for the project");
+        arguments.Optional(
+            "--precedence PRECEDENCE", mPrecedence, "Which projects are tried first: high, medium or low");
     }
 
     Reply Run(const Options& options) override

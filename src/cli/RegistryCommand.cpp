@@ -5,8 +5,6 @@
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <optional>
 
 namespace tempodial {
@@ -29,13 +27,13 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("ACTION", mAction, "get, set or delete")->required();
-        app.add_option("HIVE", mHive, "HKCU or HKLM")->required();
-        app.add_option("KEY", mKey, R"(The key, names with \ between; "" for the product's own)")->required();
-        app.add_option("VALUE", mValue, "The name of the value")->required();
-        app.add_option("TEXT", mText, "The text to set");
+        arguments.Required("ACTION", mAction, "get, set or delete");
+        arguments.Required("HIVE", mHive, "HKCU or HKLM");
+        arguments.Required("KEY", mKey, R"(The key, names with \ between; "" for the product's own)");
+        arguments.Required("VALUE", mValue, "The name of the value");
+        arguments.Optional("TEXT", mText, "The text to set");
     }
 
     Reply Run(const Options& options) override
@@ -71,9 +69,9 @@ private:
     {
         Reply reply;
         if (const auto* number = value.If<std::int32_t>()) {
-            reply.document["number"] = *number;
+            reply.document.Set("number", *number);
         } else {
-            reply.document["text"] = value.ToText();
+            reply.document.Set("text", value.ToText());
         }
         auto text = (value.If<std::int32_t>() ? std::to_string(value.ToInt32()) : value.ToText()) + "\n";
         (isAnswer ? reply.text : reply.summary) = std::move(text);

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "terminal/ExitStatus.h"
-
-#include <nlohmann/json.hpp>
+#include "terminal/JsonValue.h"
 
 #include <string>
 #include <vector>
@@ -13,7 +12,7 @@ namespace tempodial {
 struct Reply
 {
     /// The machine-readable answer; null when there is none, and then nothing is printed.
-    nlohmann::ordered_json document;
+    JsonValue document;
     /// An answer for other programs as well, printed byte for byte before the text. On a terminal it is made harmless.
     std::string content;
     /// The answer for people: lines that each end in a line feed.

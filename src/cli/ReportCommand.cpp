@@ -6,8 +6,6 @@
 #include "host/system/HostClock.h"
 #include "terminal/UsageError.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -36,17 +34,16 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        mDays.Declare(app);
-        app.add_option(
-               "--by", mBy, "What to sum up by: project, application, description or\ndate; default application")
-            ->option_text("WHAT");
-        app.add_flag("--text", mIsText, "Plain text instead of HTML");
-        app.add_flag("--no-details", mHasNoDetails, "No list of the activities");
-        app.add_flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
-        app.add_flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
-        mOut.Declare(app, "The e-mail to write (.eml), instead of standard output", false);
+        mDays.Declare(arguments);
+        arguments.Optional(
+            "--by WHAT", mBy, "What to sum up by: project, application, description or\ndate; default application");
+        arguments.Flag("--text", mIsText, "Plain text instead of HTML");
+        arguments.Flag("--no-details", mHasNoDetails, "No list of the activities");
+        arguments.Flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
+        arguments.Flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
+        mOut.Declare(arguments, "The e-mail to write (.eml), instead of standard output", false);
     }
 
     Reply Run(const Options& options) override
@@ -56,15 +53,14 @@ public:
         const bool isFile = mOut.IsNamed();
         const Interruption interruption;
         ConnectedRun run(options);
-        if (!Interruption::IsRequested()) {
-            run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
-        }
+        const bool hasText = !Interruption::IsRequested()
+            && run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
         auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
             return reply;
         }
-        if (!IsWhole(mail, reply, run)) {
+        if (!hasText || mail.body.empty() || !HasTable(mail, run)) {
             reply.status = ExitStatus::NotDone;
             reply.complaints.emplace_back(
                 "the report isn't whole and isn't given: see the trace with \"tempodial trace\"");
@@ -95,26 +91,19 @@ private:
         return static_cast<std::int32_t>(found - TypeNames.begin()) + 1;
     }
 
-    /// True when a report has its text and, if one is wanted, all of its table. Without its templates the text is but
-    /// what closes the document.
-    bool IsWhole(const MailDraft& mail, const Reply& reply, const ConnectedRun& run) const
+    /// True when the mail of a report has all of the table, if one is wanted.
+    bool HasTable(const MailDraft& mail, const ConnectedRun& run) const
     {
-        const bool hasText = !mail.body.empty() && mail.body != "</body></html>";
-        if (!hasText || mHasNoCsv) {
-            return hasText;
-        }
-        return !mail.attachments.empty()
-            && std::none_of(reply.complaints.begin(), reply.complaints.end(),
-                [path = run.DataPath(mail.attachments.front().name)](
-                    const auto& complaint) { return complaint.starts_with(path + " "); });
+        return mHasNoCsv
+            || (!mail.attachments.empty() && !run.HasProblemWith(run.DataPath(mail.attachments.front().name)));
     }
 
-    static nlohmann::ordered_json Document(const MailDraft& mail)
+    static JsonValue Document(const MailDraft& mail)
     {
-        nlohmann::ordered_json document { { "subject", mail.subject }, { "body", mail.body }, { "html", mail.isHtml },
+        JsonValue document { { "subject", mail.subject }, { "body", mail.body }, { "html", mail.isHtml },
             { "csv", nullptr } };
         if (!mail.attachments.empty()) {
-            document["csv"] = mail.attachments.front().content;
+            document.Set("csv", mail.attachments.front().content);
         }
         return document;
     }

@@ -3,8 +3,6 @@
 #include "cli/Interruption.h"
 #include "session/ProductFacts.h"
 
-#include <CLI/CLI.hpp>
-
 namespace tempodial {
 
 namespace {
@@ -25,7 +23,7 @@ public:
     {
     }
 
-    void Declare(CLI::App&) override { }
+    void Declare(ArgumentList&) override { }
 
     Reply Run(const Options& options) override
     {

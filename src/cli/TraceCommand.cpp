@@ -3,8 +3,6 @@
 #include "session/TraceTail.h"
 #include "terminal/Arguments.h"
 
-#include <CLI/CLI.hpp>
-
 #include <limits>
 
 namespace tempodial {
@@ -25,9 +23,9 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
-        app.add_option("--lines", mLines, "How many lines; default 20")->option_text("N");
+        arguments.Optional("--lines N", mLines, "How many lines; default 20");
     }
 
     Reply Run(const Options& options) override
@@ -38,7 +36,7 @@ public:
         tail.Read(profile);
         Reply reply;
         const auto lines = tail.Lines();
-        reply.document["lines"] = lines;
+        reply.document.Set("lines", lines);
         for (const auto& line : lines) {
             reply.text += line + "\n";
         }

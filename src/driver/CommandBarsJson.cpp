@@ -4,6 +4,8 @@
 #include "host/windows/HostCommandBarButton.h"
 #include "host/windows/HostCommandBarPopup.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <cstdint>
 

@@ -3,6 +3,8 @@
 #include "base/Failure.h"
 #include "driver/RequestError.h"
 
+#include <nlohmann/json.hpp>
+
 #include <exception>
 #include <utility>
 
@@ -56,6 +58,8 @@ Driver::Driver(const ProfileOptions& options)
     mFormCommands.AddTo(mCommands);
     mCommands["onPump"] = [this](const Request& request) { return PutOff(request); };
 }
+
+Driver::~Driver() = default;
 
 std::string Driver::Answer(const std::string& line)
 {

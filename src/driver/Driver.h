@@ -19,6 +19,7 @@ class Driver
 public:
     /// Opens the profile; fails with `ProfileInUse` or `ProfileError`.
     explicit Driver(const ProfileOptions& options);
+    ~Driver();
     Driver(const Driver&) = delete;
     Driver& operator=(const Driver&) = delete;
 

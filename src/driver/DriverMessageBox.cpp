@@ -2,9 +2,12 @@
 
 #include "driver/RequestError.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace tempodial {
 
@@ -44,6 +47,13 @@ const char* Word(MessageIcon icon)
 
 }
 
+DriverMessageBox::DriverMessageBox(Ref<Mailbox> mailbox)
+    : mMailbox(std::move(mailbox))
+{
+}
+
+DriverMessageBox::~DriverMessageBox() = default;
+
 Answer DriverMessageBox::Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon)
 {
     mMailbox->DeliverEvents();
@@ -69,6 +79,11 @@ void DriverMessageBox::Prepare(const std::vector<std::string>& answers)
         prepared.push_back(ToAnswer(word));
     }
     mAnswers = std::move(prepared);
+}
+
+std::size_t DriverMessageBox::Count() const
+{
+    return mShown.size();
 }
 
 Json DriverMessageBox::ShownFrom(std::size_t first) const

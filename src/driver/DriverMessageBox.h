@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <deque>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -18,10 +17,10 @@ class DriverMessageBox final : public MessageBox
 {
 public:
     /// A box lets in what that mailbox has to tell.
-    explicit DriverMessageBox(Ref<Mailbox> mailbox)
-        : mMailbox(std::move(mailbox))
-    {
-    }
+    explicit DriverMessageBox(Ref<Mailbox> mailbox);
+    ~DriverMessageBox() override;
+    DriverMessageBox(const DriverMessageBox&) = delete;
+    DriverMessageBox& operator=(const DriverMessageBox&) = delete;
 
     /// The next answer that was prepared; its default button when there is none, or none that fits the box.
     Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override;
@@ -29,7 +28,7 @@ public:
     /// Prepares the answers to the next boxes, in the place of those left over.
     void Prepare(const std::vector<std::string>& answers);
     /// How many boxes were shown since they were last taken.
-    std::size_t Count() const { return mShown.size(); }
+    std::size_t Count() const;
     /// The boxes shown since then, without the first ones.
     Json ShownFrom(std::size_t first) const;
     /// The boxes shown since then, and an end of it.

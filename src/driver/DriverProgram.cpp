@@ -2,12 +2,9 @@
 
 #include "driver/Driver.h"
 #include "driver/LineReader.h"
-#include "session/ProductFacts.h"
 #include "terminal/ArgumentParser.h"
 #include "terminal/ProfileArguments.h"
 #include "terminal/ProgramRun.h"
-
-#include <CLI/CLI.hpp>
 
 #include <cstddef>
 
@@ -38,13 +35,11 @@ ExitStatus DriverProgram::Run(const std::vector<std::string>& arguments) noexcep
 
 ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
 {
-    CLI::App app(Description, Name);
-    app.footer(Footer);
-    app.set_help_flag("-h,--help", "Show this help");
-    app.set_version_flag("--version", ProductVersion, "Show the version");
+    const ArgumentParser parser({ Name, Description, Footer });
     ProfileArguments profile;
-    profile.Declare(app);
-    if (!ParseArguments(app, arguments, mOut)) {
+    auto list = parser.Arguments();
+    profile.Declare(list);
+    if (!parser.Parse(arguments, mOut)) {
         return ExitStatus::Done;
     }
     Driver driver(profile.Options());

@@ -8,6 +8,8 @@
 #include "forms/OptionButtonModel.h"
 #include "forms/TextBoxModel.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 
 namespace tempodial {

@@ -8,6 +8,8 @@
 #include "platform/controls/ProgressBar.h"
 #include "platform/controls/TextBox.h"
 
+#include <nlohmann/json.hpp>
+
 namespace tempodial {
 
 namespace {

@@ -6,6 +6,8 @@
 #include "session/TraceTail.h"
 #include "terminal/Arguments.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <cstddef>
 #include <limits>

@@ -9,6 +9,8 @@
 #include "session/WorkLogFolder.h"
 #include "terminal/ItemJson.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <functional>
 
@@ -242,7 +244,7 @@ Json MailboxCommands::StoredJson(const Ref<StoreItem>& item) const
 {
     const auto& mailbox = mHost.Mailbox();
     auto stored = mailbox->Table().Load(item->Row());
-    auto json = ItemJson(mailbox->NewItem(item->Parent(), std::move(stored.value().data)));
+    auto json = ItemJson(mailbox->NewItem(item->Parent(), std::move(stored.value().data))).Value();
     json["entryId"] = item->EntryID();
     return json;
 }

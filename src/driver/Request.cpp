@@ -4,6 +4,8 @@
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
 
+#include <nlohmann/json.hpp>
+
 #include <limits>
 
 namespace tempodial {

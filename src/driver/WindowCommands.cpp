@@ -4,6 +4,8 @@
 #include "driver/RequestError.h"
 #include "terminal/Arguments.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 
 namespace tempodial {

@@ -11,4 +11,10 @@ void Problems::Note(const std::string& message)
     }
 }
 
+void Problems::NoteFile(const std::string& path, const std::string& message)
+{
+    Note(path + " " + message);
+    mFiles.insert(path);
+}
+
 }

@@ -21,8 +21,9 @@ auto Noting(Problems& problems, const char* what, const std::string& path, Opera
         return operation();
     } catch (const Failure& failure) {
         if (!IsOrdinary(failure)) {
-            problems.Note(path + " couldn't be " + what + ": " + failure.Description()
-                + ": see to the file and run the command again");
+            problems.NoteFile(path,
+                std::string("couldn't be ") + what + ": " + failure.Description()
+                    + ": see to the file and run the command again");
         }
         throw;
     }

@@ -1,8 +1,11 @@
 #include "terminal/ArgumentParser.h"
 
+#include "base/Text.h"
 #include "base/Utf8.h"
 #include "session/ProductFacts.h"
 #include "terminal/UsageError.h"
+
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 
@@ -27,6 +30,16 @@ std::vector<std::string> Prepared(const std::vector<std::string>& arguments)
         }
     }
     return prepared;
+}
+
+/// The command that the arguments read chose, the program itself when they chose none.
+const CLI::App& ChosenApp(const CLI::App& app)
+{
+    const auto* chosen = &app;
+    while (!chosen->get_subcommands().empty()) {
+        chosen = chosen->get_subcommands().front();
+    }
+    return *chosen;
 }
 
 /// The words that choose a command, the program's name first.
@@ -54,35 +67,67 @@ std::string UnexpectedArgument(const CLI::App& app)
 
 }
 
-bool ParseArguments(CLI::App& app, const std::vector<std::string>& arguments, std::ostream& out)
+ArgumentParser::ArgumentParser(const Help& program)
+    : mApp(std::make_unique<CLI::App>(program.description, program.name))
+{
+    mApp->get_formatter()->label("SUBCOMMAND", "COMMAND");
+    mApp->get_formatter()->label("Positionals", "Arguments");
+    mApp->get_formatter()->label("TEXT", "");
+    mApp->get_formatter()->label("REQUIRED", "");
+    mApp->footer(program.footer);
+    mApp->require_subcommand(0, 1);
+    mApp->set_help_flag("-h,--help", "Show this help");
+    mApp->set_version_flag("--version", ProductVersion, "Show the version");
+}
+
+ArgumentParser::~ArgumentParser() = default;
+
+ArgumentList ArgumentParser::Arguments() const
+{
+    return ArgumentList(*mApp);
+}
+
+ArgumentList ArgumentParser::AddCommand(const Help& command) const
+{
+    mApp->get_help_ptr()->description("Show this help, or that of a command");
+    auto* app = mApp.get();
+    for (const auto& word : Split(command.name, " ")) {
+        const auto below = app->get_subcommands([&word](const CLI::App* sub) { return sub->get_name() == word; });
+        app = below.empty() ? app->add_subcommand(word) : below.front();
+    }
+    app->description(command.description);
+    app->footer(command.footer);
+    app->group("Commands");
+    app->fallthrough();
+    return ArgumentList(*app);
+}
+
+bool ArgumentParser::Parse(const std::vector<std::string>& arguments, std::ostream& out) const
 {
     auto words = Prepared(arguments);
     std::reverse(words.begin(), words.end());
     try {
-        app.parse(std::move(words));
+        mApp->parse(std::move(words));
         return true;
     } catch (const CLI::CallForVersion&) {
-        out << app.get_name() << " " << ProductVersion << "\n";
+        out << mApp->get_name() << " " << ProductVersion << "\n";
     } catch (const CLI::Success&) {
-        out << app.help();
+        out << mApp->help();
     } catch (const CLI::ExtrasError&) {
-        throw UsageError(UnexpectedArgument(app));
+        throw UsageError(UnexpectedArgument(*mApp));
     } catch (const CLI::ArgumentMismatch& error) {
         const std::string text = error.what();
-        throw UsageError(text.substr(0, text.find(':')) + " needs exactly one value" + SeeHelp(app));
+        throw UsageError(text.substr(0, text.find(':')) + " needs exactly one value" + SeeHelp(*mApp));
     } catch (const CLI::ParseError& error) {
-        throw UsageError(error.what() + SeeHelp(app));
+        throw UsageError(error.what() + SeeHelp(*mApp));
     }
     return false;
 }
 
-const CLI::App& ChosenApp(const CLI::App& app)
+std::string ArgumentParser::ChosenCommand() const
 {
-    const auto* chosen = &app;
-    while (!chosen->get_subcommands().empty()) {
-        chosen = chosen->get_subcommands().front();
-    }
-    return *chosen;
+    const auto& chosen = ChosenApp(*mApp);
+    return &chosen == mApp.get() ? "" : Words(chosen).substr(mApp->get_name().size() + 1);
 }
 
 }

@@ -3,6 +3,7 @@
 #include "terminal/Arguments.h"
 
 #include <array>
+#include <utility>
 
 namespace tempodial {
 
@@ -11,7 +12,7 @@ namespace {
 constexpr std::array<const char*, 8> PropertyNames { "Type", "Day", "StartTime", "Project", "Description", "People",
     "Keyword", "ApplyPast" };
 
-nlohmann::ordered_json ValueJson(const Variant& value)
+JsonValue ValueJson(const Variant& value)
 {
     if (const auto* date = value.If<Date>()) {
         return IsoMoment(*date);
@@ -27,28 +28,21 @@ nlohmann::ordered_json ValueJson(const Variant& value)
 
 }
 
-nlohmann::ordered_json ItemJson(const Ref<AppointmentItem>& item)
+JsonValue ItemJson(const Ref<AppointmentItem>& item)
 {
-    nlohmann::ordered_json json;
-    json["entryId"] = item->EntryID();
-    json["messageClass"] = item->MessageClass();
-    json["subject"] = item->Subject();
-    json["start"] = IsoMoment(item->Start());
-    json["end"] = IsoMoment(item->End());
-    json["duration"] = item->Duration();
-    json["body"] = item->Body();
-    json["mileage"] = item->Mileage();
-    json["billingInformation"] = item->BillingInformation();
-    auto& properties = json["properties"] = nlohmann::ordered_json::object();
+    auto properties = JsonValue::Object();
     const auto userProperties = item->UserProperties();
     for (const auto* name : PropertyNames) {
         const auto property = userProperties->Item(name);
         const auto value = property ? property->Value() : Variant();
         if (!value.IsEmpty()) {
-            properties[name] = ValueJson(value);
+            properties.Set(name, ValueJson(value));
         }
     }
-    return json;
+    return { { "entryId", item->EntryID() }, { "messageClass", item->MessageClass() }, { "subject", item->Subject() },
+        { "start", IsoMoment(item->Start()) }, { "end", IsoMoment(item->End()) }, { "duration", item->Duration() },
+        { "body", item->Body() }, { "mileage", item->Mileage() }, { "billingInformation", item->BillingInformation() },
+        { "properties", std::move(properties) } };
 }
 
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "platform/objectmodel/AppointmentItem.h"
-
-#include <nlohmann/json.hpp>
+#include "terminal/JsonValue.h"
 
 namespace tempodial {
 
 /// An item as JSON: its fields, and those of an activity's user properties that it has. Fails as the item does.
-nlohmann::ordered_json ItemJson(const Ref<AppointmentItem>& item);
+JsonValue ItemJson(const Ref<AppointmentItem>& item);
 
 }

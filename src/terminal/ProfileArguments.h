@@ -1,13 +1,10 @@
 #pragma once
 
 #include "session/ProfileOptions.h"
+#include "terminal/ArgumentList.h"
 
 #include <optional>
 #include <string>
-
-namespace CLI { // NOLINT(readability-identifier-naming): the parser's own name
-class App;
-}
 
 namespace tempodial {
 
@@ -16,7 +13,7 @@ class ProfileArguments
 {
 public:
     /// Adds them to a program's.
-    void Declare(CLI::App& app);
+    void Declare(ArgumentList& arguments);
     /// What was parsed; fails with `UsageError`.
     ProfileOptions Options() const;
 

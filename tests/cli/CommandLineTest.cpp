@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <new>
 #include <sstream>
 
@@ -28,12 +29,12 @@ public:
     {
     }
 
-    void Declare(CLI::App& app) override
+    void Declare(ArgumentList& arguments) override
     {
         if (About().name != "projects") {
-            app.add_option("NAME", mName, "A name");
+            arguments.Optional("NAME", mName, "A name");
         }
-        app.add_option("--rule", mRule, "A rule")->option_text("RULE");
+        arguments.Optional("--rule RULE", mRule, "A rule");
     }
     Reply Run(const Options& options) override
     {

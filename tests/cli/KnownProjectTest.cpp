@@ -56,7 +56,7 @@ TEST_F(KnownProjectTest, ReadAll_NoProject_IsEmptyWithoutAFailureInTheTrace)
 TEST_F(KnownProjectTest, ToJson_Project_HasItsRulesInTheirFields)
 {
     mAddIn.main->UpdateorAddProject("Plan", "subject", "not", "people", "3", false);
-    EXPECT_EQ(KnownProject::Read(*mAddIn.main, "Plan").ToJson().dump(),
+    EXPECT_EQ(KnownProject::Read(*mAddIn.main, "Plan").ToJson().Value().dump(),
         R"({"name":"Plan","precedence":"3","subject":"subject","notSubject":"not","people":"people"})");
 }
 

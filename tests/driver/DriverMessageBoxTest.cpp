@@ -4,6 +4,7 @@
 #include "support/TestMailbox.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace tempodial {
 

@@ -84,6 +84,7 @@ TEST_F(RecordingFileSystemTest, Write_DiskRefuses_IsNamed)
     EXPECT_EQ(mProblems->Messages(),
         Messages {
             mFolder.Path("a") + " couldn't be written: Permission denied: see to the file and run the command again" });
+    EXPECT_TRUE(mProblems->HasOneWith(mFolder.Path("a")));
 }
 
 TEST(RecordingImportJournalTest, Commit_Fails_IsToldAndFails)

@@ -3,6 +3,8 @@
 #include "driver/Driver.h"
 #include "support/TempFolder.h"
 
+#include <nlohmann/json.hpp>
+
 #include <memory>
 #include <string>
 #include <vector>

@@ -3,6 +3,7 @@
 #include "support/TestMailbox.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace tempodial {
 
@@ -40,13 +41,13 @@ TEST_F(ItemJsonTest, ItemJson_Activity_HasAllFieldsInTheirForms)
         { "properties",
             { { "Type", "Microsoft Word" }, { "Day", "2006-10-10T00:00:00" }, { "Project", "Plan" }, { "People", "" },
                 { "ApplyPast", false } } } };
-    EXPECT_EQ(ItemJson(item).dump(), expected.dump());
+    EXPECT_EQ(ItemJson(item).Value().dump(), expected.dump());
 }
 
 TEST_F(ItemJsonTest, ItemJson_PlainAppointment_HasNoProperties)
 {
     const auto item = Saved({ .messageClass = "IPM.Appointment", .start = At(9, 0, 0), .end = At(9, 5, 0) });
-    EXPECT_EQ(ItemJson(item)["properties"].dump(), "{}");
+    EXPECT_EQ(ItemJson(item).Value()["properties"].dump(), "{}");
 }
 
 }

@@ -136,7 +136,7 @@ class LibraryTest(unittest.TestCase):
         self.Refuses("cli/A.h", "QtCore/QObject")
         self.Allows("host/system/A.h", "expat.h")
         self.Refuses("host/store/A.h", "unicode/locid.h")
-        self.Allows("cli/A.h", "nlohmann/json.hpp")
+        self.Allows("driver/A.h", "nlohmann/json.hpp")
         self.Refuses("host/system/A.h", "nlohmann/json.hpp")
         self.Allows("addin/com/A.h", "windows.h")
         self.Refuses("host/system/A.h", "windows.h")

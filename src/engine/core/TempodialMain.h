@@ -148,8 +148,9 @@ public:
     void SwitchingToTasklog();
     /// Puts an e-mail with the diagnostic files of a day on the screen, for the user to send; nothing when cancelled.
     void ReportProblem(const std::string& body, Date day, bool all, bool cancelled);
-    /// Puts an e-mail with a report over the days from start to end, both included, on the screen.
-    void CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed, bool createCSVFile,
+    /// Puts an e-mail with a report over the days from start to end, both included, on the screen. True when the report
+    /// has a text.
+    bool CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed, bool createCSVFile,
         bool htmlFormat, bool workDayOnly);
     /// Sets a project on the selected items, on the items of a range, or both.
     void SetProjectForItems(

@@ -53,7 +53,7 @@ void TempodialMain::AddressProblemReport(const Ref<MailItem>& item, std::string&
     }
 }
 
-void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed,
+bool TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed,
     bool createCSVFile, bool htmlFormat, bool workDayOnly)
 {
     // The report lets messages be processed, and the host may disconnect then.
@@ -74,7 +74,7 @@ void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t repo
             startDate, endDate, reportType, detailed, createCSVFile, csvFilePath, !htmlFormat, workDayOnly);
     });
     if (!mLog) {
-        return; // The add-in was ended in the midst of it.
+        return false; // The add-in was ended in the midst of it.
     }
     if (htmlFormat) {
         attempt([&] { item->SetHTMLBody(text); });
@@ -89,6 +89,7 @@ void TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t repo
     }
     mStage = "display";
     attempt([&] { item->Display(); });
+    return report && report->HasText();
 }
 
 }

@@ -70,6 +70,7 @@ std::string TempodialReport::CreateReport(Date startDate, Date endDate, std::int
     }
 
     std::string report;
+    mHasText = false;
     if (data) {
         report = textReport ? BuildPlainReport(*data, detailed, attempt)
                             : BuildHTMLReport(*data, detailed, label, attempt);
@@ -179,6 +180,7 @@ std::string TempodialReport::BuildPlainReport(ReportData& data, bool detailed, c
         attempt([&] { report += texts.BuildDetail(data, false, groupTemplate); });
     }
     attempt.Say([&] { return "Report: " + report; });
+    mHasText = !report.empty();
     return report;
 }
 
@@ -223,6 +225,7 @@ std::string TempodialReport::BuildHTMLReport(
         attempt([&] { report.reserve(report.size() + details.size() + Ending.size()); });
         attempt([&] { report += details; });
     }
+    mHasText = !report.empty();
     return report += Ending;
 }
 

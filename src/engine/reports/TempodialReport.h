@@ -35,6 +35,9 @@ public:
     /// file, its path is put into the argument; the file stays, also after a cancel.
     std::string CreateReport(Date startDate, Date endDate, std::int32_t reportType, bool detailed, bool createCSVFile,
         std::string& csvFilePath, bool textReport, bool workDayOnly);
+    /// True when the report that was created last has a text; one that was cancelled has none, nor has an HTML one
+    /// without its templates.
+    bool HasText() const { return mHasText; }
     /// The line that says what a report is about.
     std::string BuildHeader(Date startDate, Date endDate, std::int32_t reportType);
 
@@ -60,6 +63,7 @@ private:
         const std::string& fileName, std::string_view readWords, const Attempt& attempt) const;
 
     Ref<TempodialMain> mMain;
+    bool mHasText = false;
 };
 
 }

@@ -79,9 +79,9 @@ protected:
         Traced();
     }
 
-    void CreateReport(bool csv, bool html)
+    bool CreateReport(bool csv, bool html)
     {
-        Main().CreateReport(Day, Day, Main().mTempodialReport->mApplication, true, csv, html, false);
+        return Main().CreateReport(Day, Day, Main().mTempodialReport->mApplication, true, csv, html, false);
     }
     std::vector<Ref<HostMail>> Mails() const { return mApplication->host->Mails(); }
     const MailDraft& Shown() const { return Mails().at(0)->Draft(); }
@@ -172,7 +172,7 @@ TEST_F(TempodialMainMailsTest, ReportProblem_NoMail_TracesAndGoesOn)
 TEST_F(TempodialMainMailsTest, CreateReport_Plain_IsTheBodyWithTheHeaderAsSubject)
 {
     Main().CreateCalendarItem("", "x", "Notepad", "", 5, Day.AddMinutes(540), Day.AddMinutes(545), "", false);
-    CreateReport(false, false);
+    EXPECT_TRUE(CreateReport(false, false));
     EXPECT_EQ(Shown().subject, "Tempodial Report (By Application) Tuesday, October 10, 2006");
     EXPECT_TRUE(Shown().body.starts_with("Notepad - 0 hours 05 minutes (100%)\r\n\r\n***Total time at PC: "));
     EXPECT_THAT(Shown().attachments, IsEmpty());
@@ -180,7 +180,7 @@ TEST_F(TempodialMainMailsTest, CreateReport_Plain_IsTheBodyWithTheHeaderAsSubjec
 
 TEST_F(TempodialMainMailsTest, CreateReport_Html_IsHtml)
 {
-    CreateReport(false, true);
+    EXPECT_TRUE(CreateReport(false, true));
     EXPECT_TRUE(Shown().isHtml);
     EXPECT_TRUE(Shown().body.ends_with("</body></html>"));
 }

@@ -175,6 +175,7 @@ TEST_F(TempodialReportTest, CreateReport_NoTemplates_UsesThePlainLineAlone)
     UseInstallFolder(mFolder.Path());
     Add(Moment(10, 9, 0), 5, "A", "Notepad", "x");
     EXPECT_EQ(Html(10, 1, true), "</body></html>");
+    EXPECT_FALSE(mReport->HasText());
     const auto trace = ReportTrace();
     EXPECT_THAT(trace, Contains("default to plain per-line contents"));
     EXPECT_THAT(trace, Not(Contains("read line contents")));
@@ -191,6 +192,7 @@ TEST_F(TempodialReportTest, CreateReport_EmptyTemplates_GiveNothing)
     mFolder.Write("ReportLineTemplate.html", "");
     Add(Moment(10, 9, 0), 5, "A", "Notepad", "x");
     EXPECT_EQ(Html(10, 1, false), "[Project|\r\n|3|0 hours 05 minutes]</body></html>");
+    EXPECT_TRUE(mReport->HasText());
     EXPECT_THAT(ReportTrace(), Contains("CreateReport :Input past end of file").Times(2));
 }
 
@@ -251,6 +253,7 @@ TEST_F(TempodialReportTest, CreateReport_CancelOnTheFirstDay_IsEmptyAndKeepsTheC
     mAddIn.eventPump->hook = [&] { mAddIn.ClickCancel(); };
     const auto report = mReport->CreateReport(Day(10), Day(11), 1, true, true, mCsvPath, false, false);
     EXPECT_EQ(report, "");
+    EXPECT_FALSE(mReport->HasText());
     EXPECT_EQ(CsvLines().size(), 2U);
     EXPECT_THAT(ReportTrace(), Not(Contains(HasSubstr("read header"))));
 }
