@@ -8,6 +8,8 @@
 
 namespace tempodial {
 
+/// What a text may begin with to say that it is UTF-8; it is no part of it.
+inline constexpr std::string_view Utf8ByteOrderMark = "\uFEFF";
 /// What is shown for bytes that are no character.
 inline constexpr char32_t ReplacementCharacter = 0xfffd;
 

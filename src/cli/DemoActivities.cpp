@@ -4,7 +4,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::array<DemoActivity, 44> Activities { {
+constexpr std::array<DemoActivity, 44> InventedActivities { {
     { 0, { { { "AppName", "Calculator" }, { "WindowText", "Calculator" } } } },
     { 0, { { { "AppName", "Sketchpad" }, { "WindowText", "floor plan.skp - Sketchpad" } } } },
     { 0, { { { "AppName", "Ledger" }, { "WindowText", "" }, { "OwnedWindowText", "Invoices October - Ledger" } } } },
@@ -77,7 +77,7 @@ constexpr std::array<DemoActivity, 44> Activities { {
 
 std::span<const DemoActivity> DemoActivities()
 {
-    return Activities;
+    return InventedActivities;
 }
 
 }

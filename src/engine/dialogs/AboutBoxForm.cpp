@@ -9,7 +9,7 @@ namespace tempodial {
 
 namespace {
 
-FormDefinition Definition()
+FormDefinition AboutBoxDefinition()
 {
     using enum ControlKind;
     return { .className = "AboutBoxForm",
@@ -30,7 +30,7 @@ AboutBoxForm::AboutBoxForm(Ref<const Platform> platform)
     : TracedObject(std::move(platform))
 {
     const auto attempt = Failing("", LineShape::Silent);
-    attempt([&] { mForm = mPlatform->forms->Create(Definition()); });
+    attempt([&] { mForm = mPlatform->forms->Create(AboutBoxDefinition()); });
     attempt([&] {
         mOKEvents = mForm->Control("OK").As<Button>()->Subscribe({ .Click = [form = mForm] { form->Hide(); } });
     });

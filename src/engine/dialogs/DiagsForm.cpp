@@ -13,7 +13,7 @@ namespace tempodial {
 
 namespace {
 
-FormDefinition Definition()
+FormDefinition DiagsDefinition()
 {
     using enum ControlKind;
     return { .className = "DiagsForm",
@@ -43,7 +43,7 @@ FormDefinition Definition()
 
 DiagsForm::DiagsForm(Ref<const Platform> platform)
     : TracedObject(std::move(platform))
-    , mForm(mPlatform->forms->Create(Definition()))
+    , mForm(mPlatform->forms->Create(DiagsDefinition()))
     , mExpectedText(mForm->Control("ExpectedText").As<TextBox>())
     , mActualText(mForm->Control("ActualText").As<TextBox>())
     , mYearComboFrom(mForm->Control("YearComboFrom").As<ComboBox>())

@@ -7,7 +7,7 @@ namespace tempodial {
 
 namespace {
 
-FormDefinition Definition()
+FormDefinition ProgressBarDefinition()
 {
     return { .className = "ProgressBarForm",
         .title = "Loading activities",
@@ -22,7 +22,7 @@ FormDefinition Definition()
 
 ProgressBarForm::ProgressBarForm(Ref<const Platform> platform)
     : mPlatform(std::move(platform))
-    , mForm(mPlatform->forms->Create(Definition()))
+    , mForm(mPlatform->forms->Create(ProgressBarDefinition()))
     , mLabel1(mForm->Control("Label1").As<Label>())
     , mLabel2(mForm->Control("Label2").As<Label>())
     , mProgressBar1(mForm->Control("ProgressBar1").As<ProgressBar>())

@@ -7,7 +7,7 @@ namespace {
 constexpr auto PrecedenceTip
     = "If an activity matches several projects, the one with the highest precedence will be used.";
 
-FormDefinition Definition()
+FormDefinition ProjectSettingsDefinition()
 {
     using enum ControlKind;
     const auto tipped = [](const char* name, ControlKind kind, const char* text, const char* tip) -> ControlDefinition {
@@ -51,7 +51,7 @@ FormDefinition Definition()
 }
 
 ProjectSettingsControls::ProjectSettingsControls(FormFactory& forms)
-    : mForm(forms.Create(Definition()))
+    : mForm(forms.Create(ProjectSettingsDefinition()))
     , mPrecedenceCombo(mForm->Control("PrecedenceCombo").As<ComboBox>())
     , mDaysText(mForm->Control("DaysText").As<TextBox>())
     , mApplyPastCheck(mForm->Control("ApplyPastCheck").As<CheckBox>())

@@ -20,7 +20,7 @@ constexpr auto InHtmlValue = "Report In HTML";
 constexpr auto DetailsValue = "Report Details";
 constexpr auto CsvFileValue = "Report CSV File";
 
-FormDefinition Definition()
+FormDefinition ReportDefinition()
 {
     using enum ControlKind;
     return { .className = "ReportForm",
@@ -74,7 +74,7 @@ void ReportForm::Initialise(const Ref<TempodialMain>& main, const Ref<TempodialD
 
 void ReportForm::MakeForm()
 {
-    mForm = mPlatform->forms->Create(Definition());
+    mForm = mPlatform->forms->Create(ReportDefinition());
     mFrom = Selector("From");
     mTo = Selector("To");
     mApplicationOption = mForm->Control("ApplicationOption").As<OptionButton>();

@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t TimeStep = 30; ///< Minutes between two entries of a list of times.
 constexpr std::int32_t TimeCount = 48;
 
-FormDefinition Definition()
+FormDefinition SetProjectDefinition()
 {
     using enum ControlKind;
     return { .className = "SetProjectForm",
@@ -73,7 +73,7 @@ void SetProjectForm::Initialise(const Ref<TempodialMain>& main, const Ref<Tempod
 
 void SetProjectForm::MakeForm()
 {
-    mForm = mPlatform->forms->Create(Definition());
+    mForm = mPlatform->forms->Create(SetProjectDefinition());
     mProjectComboBox = mForm->Control("ProjectComboBox").As<ComboBox>();
     mSelectedCheck = mForm->Control("SelectedCheck").As<OptionButton>();
     mSpecifiedCheck = mForm->Control("SpecifiedCheck").As<OptionButton>();

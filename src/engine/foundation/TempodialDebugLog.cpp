@@ -1,6 +1,7 @@
 #include "engine/foundation/TempodialDebugLog.h"
 
 #include "base/Text.h"
+#include "engine/foundation/Quietly.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialWin32APICalls.h"
 
@@ -12,17 +13,6 @@ constexpr auto Revision = "revision 1 TempodialDebugLog ";
 constexpr std::int32_t BufferedLength = 2500;
 /// A file is rolled over when it has more bytes.
 constexpr std::int64_t FullSize = 300000;
-
-/// Runs one statement; the trace has nowhere to report a failure to. False when it failed.
-template <class Statement> bool Quietly(Statement&& statement) noexcept
-{
-    try {
-        statement();
-        return true;
-    } catch (...) {
-        return false;
-    }
-}
 
 }
 

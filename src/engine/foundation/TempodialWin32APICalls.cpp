@@ -1,21 +1,9 @@
 #include "engine/foundation/TempodialWin32APICalls.h"
 
 #include "base/Text.h"
+#include "engine/foundation/Quietly.h"
 
 namespace tempodial {
-
-namespace {
-
-/// Runs a call, whatever comes of it.
-template <class Call> void Quietly(Call&& call) noexcept
-{
-    try {
-        call();
-    } catch (...) { // NOLINT(bugprone-empty-catch)
-    }
-}
-
-}
 
 Variant TempodialWin32APICalls::ReadRegistryValue(const Platform& platform, Hive hive, const std::string& key,
     const std::string& value, RegistryAccess access) noexcept

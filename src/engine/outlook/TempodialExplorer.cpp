@@ -14,7 +14,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Revision = "revision 1 TempodialExplorer";
+constexpr auto ExplorerRevision = "revision 1 TempodialExplorer";
 /// Seconds that two forced folder switches stand apart.
 constexpr std::int64_t ForcedSwitchSeconds = 2;
 
@@ -38,7 +38,7 @@ void TempodialExplorer::Initialize(const Ref<TempodialDebugLog>& applog, const R
     mStage = "init exp";
     mToolbars = MakeRef<TempodialToolbars>(mPlatform);
     mLog = applog;
-    attempt([&] { Trace(std::string("Init explorer ") + Revision); });
+    attempt([&] { Trace(std::string("Init explorer ") + ExplorerRevision); });
     mMain = main;
     attempt([&] {
         const auto self = shared_from_this();

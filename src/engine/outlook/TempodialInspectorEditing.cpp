@@ -11,7 +11,7 @@ namespace {
 /// Longest entry that the keyword list takes from the page, in characters.
 constexpr std::int32_t KeywordLength = 60;
 /// The days of the past to which a project chosen on the page is applied.
-constexpr std::int32_t ApplyBackDays = 7;
+constexpr std::int32_t DaysAppliedOnSave = 7;
 
 /// The value of a control as text.
 std::string TextOf(const Ref<PageControl>& control)
@@ -175,7 +175,7 @@ bool TempodialInspector::WriteAll()
     }
     // kept: a refused project is applied as well
     if (attempt.Get([&] { return mApplyControl->Value().ToBoolean(); })) {
-        attempt([&, main = mMain] { main->ApplyProject(TextOf(mProjectControl), ApplyBackDays); });
+        attempt([&, main = mMain] { main->ApplyProject(TextOf(mProjectControl), DaysAppliedOnSave); });
     }
     mStage = "exit writeAll";
     return accepted;

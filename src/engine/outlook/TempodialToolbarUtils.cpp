@@ -11,7 +11,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Revision = "revision 1 TempodialToolbarUtils";
+constexpr auto ToolbarUtilsRevision = "revision 1 TempodialToolbarUtils";
 
 }
 
@@ -26,7 +26,7 @@ void TempodialToolbarUtils::Initialize(const Ref<TempodialDebugLog>& applog, con
     mTraceInfo = "TDToolbarUt";
     mLog = applog;
     mMain = main;
-    attempt.Say(std::string("Init toolbar utils ") + Revision);
+    attempt.Say(std::string("Init toolbar utils ") + ToolbarUtilsRevision);
 }
 
 void TempodialToolbarUtils::Terminate()

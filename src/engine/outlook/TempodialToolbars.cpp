@@ -14,7 +14,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Revision = "revision 1 TempodialToolbars";
+constexpr auto ToolbarsRevision = "revision 1 TempodialToolbars";
 /// The web site that tells whether there is a newer version.
 constexpr auto WebSite = "https://www.tempodial.example/";
 
@@ -84,7 +84,7 @@ void TempodialToolbars::Initialize(
     mMain = main;
     mLog = logObj;
     mID = id;
-    Trace(std::string("Initialize ") + Revision);
+    Trace(std::string("Initialize ") + ToolbarsRevision);
 }
 
 void TempodialToolbars::Terminate()

@@ -63,10 +63,10 @@ void AppendText(std::string& json, std::string_view text)
 }
 
 /// Reads the JSON of user properties from left to right.
-class Reader
+class PropertyReader
 {
 public:
-    explicit Reader(std::string_view json)
+    explicit PropertyReader(std::string_view json)
         : mRest(json)
     {
     }
@@ -256,7 +256,7 @@ std::string PropertyCodec::Encode(const std::vector<ItemProperty>& properties)
 
 std::vector<ItemProperty> PropertyCodec::Decode(std::string_view json)
 {
-    return Reader(json).Properties();
+    return PropertyReader(json).Properties();
 }
 
 }

@@ -13,7 +13,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t LargestFile = std::size_t { 16 } << 20;
+constexpr std::size_t LargestPicture = std::size_t { 16 } << 20;
 constexpr std::int64_t LongestSide = 16384;
 /// Bytes of the file's header and of the shortest picture header behind it.
 constexpr std::size_t FileHeader = 14;
@@ -67,10 +67,10 @@ std::pair<std::int32_t, std::int32_t> SizeOf(std::string_view bytes)
     return { static_cast<std::int32_t>(width), static_cast<std::int32_t>(height) };
 }
 
-std::string ContentOf(const std::string& path)
+std::string PictureBytes(const std::string& path)
 {
     try {
-        return FileDescriptor(NativePath(path), Opening::Reading).ReadAll(LargestFile);
+        return FileDescriptor(NativePath(path), Opening::Reading).ReadAll(LargestPicture);
     } catch (const Failure& failure) {
         if (failure.Is(Error::PathNotFound)) {
             throw Failure(Error::FileNotFound);
@@ -83,7 +83,7 @@ std::string ContentOf(const std::string& path)
 
 Ref<Picture> BitmapLoader::Load(const std::string& path)
 {
-    auto bytes = ContentOf(path);
+    auto bytes = PictureBytes(path);
     const auto [width, height] = SizeOf(bytes);
     return MakeRef<BitmapPicture>(path, std::move(bytes), width, height);
 }

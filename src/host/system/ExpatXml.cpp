@@ -10,8 +10,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\uFEFF";
-
 /// True when XML can hold each character of a text.
 bool IsXmlText(std::string_view text)
 {
@@ -114,7 +112,7 @@ bool ExpatXmlDocument::LoadXML(const std::string& text)
     if (!mParser->Parse(text, mContent->tree)) {
         return false;
     }
-    mContent->source = text.starts_with(ByteOrderMark) ? text.substr(ByteOrderMark.size()) : text;
+    mContent->source = text.starts_with(Utf8ByteOrderMark) ? text.substr(Utf8ByteOrderMark.size()) : text;
     return true;
 }
 

@@ -8,7 +8,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t BufferSize = 65536;
+constexpr std::size_t KeptBytes = 65536;
 
 }
 
@@ -36,7 +36,7 @@ void FileReplacer::Write(const std::string& text)
         throw Failure(Error::BadFileName);
     }
     mBuffer += text;
-    if (mBuffer.size() >= BufferSize) {
+    if (mBuffer.size() >= KeptBytes) {
         Flush();
     }
 }

@@ -21,7 +21,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr int HoursOfHalf = 12;
+constexpr int HoursOfHalfDay = 12;
 /// Understood in every locale.
 const std::array<std::string, 2> PlainDayHalves = { "AM", "PM" };
 
@@ -139,10 +139,10 @@ std::optional<std::int64_t> SecondsOf(const DateFields& fields)
     }
     auto hour = fields.hour;
     // An hour that can only be one of 24 doesn't heed the half of the day.
-    if (fields.dayHalf == 0 && hour == HoursOfHalf) {
+    if (fields.dayHalf == 0 && hour == HoursOfHalfDay) {
         hour = 0;
-    } else if (fields.dayHalf == 1 && hour < HoursOfHalf) {
-        hour += HoursOfHalf;
+    } else if (fields.dayHalf == 1 && hour < HoursOfHalfDay) {
+        hour += HoursOfHalfDay;
     }
     return hour * 3600 + fields.minute * 60 + std::max(fields.second, 0);
 }

@@ -1,6 +1,7 @@
 #include "host/system/XmlParser.h"
 
 #include "base/Failure.h"
+#include "base/Utf8.h"
 
 #include <cstddef>
 #include <random>
@@ -11,7 +12,6 @@ namespace {
 
 constexpr int DeepestElement = 64;
 constexpr std::size_t LongestDocument = std::size_t { 16 } << 20;
-constexpr std::string_view ByteOrderMark = "\uFEFF";
 
 /// True when a text begins as a document does. By other beginnings expat would know UTF-16, or a second byte-order
 /// mark.
@@ -35,8 +35,8 @@ XmlParser::XmlParser()
 bool XmlParser::Parse(std::string_view text, XmlTree& tree)
 {
     tree.Clear();
-    if (text.starts_with(ByteOrderMark)) {
-        text.remove_prefix(ByteOrderMark.size());
+    if (text.starts_with(Utf8ByteOrderMark)) {
+        text.remove_prefix(Utf8ByteOrderMark.size());
     }
     if (text.size() > LongestDocument || !BeginsInUtf8(text)) {
         return false;
