@@ -132,6 +132,11 @@ std::int64_t MailboxDatabase::Number(const std::string& sql)
     return query.Step() ? query.Int(0) : 0;
 }
 
+int MailboxDatabase::RowsChanged() const
+{
+    return sqlite3_changes(mConnection->getHandle());
+}
+
 void MailboxDatabase::Hold()
 {
     CheckWhole();
