@@ -3,7 +3,7 @@
 from . import figures
 
 # Microseconds that a subject may cost, by the number of rules.
-BOUNDS = {50: 2, 500: 12}
+BOUNDS = {50: 0.7, 500: 4.5}
 
 
 def Measure(programs, rounds):

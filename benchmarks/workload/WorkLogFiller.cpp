@@ -1,6 +1,7 @@
 #include "workload/WorkLogFiller.h"
 
 #include "host/store/MailboxDatabase.h"
+#include "host/store/MailboxStore.h"
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 
@@ -22,19 +23,19 @@ WorkLogFiller::WorkLogFiller(const std::string& profile)
 
 void WorkLogFiller::Fill(Date last, std::int64_t days)
 {
-    auto& mailbox = *mProfile.Mailbox();
+    auto& store = *mProfile.Mailbox()->Store();
     const auto workLog = WorkLogOf(mProfile);
     if (!workLog) {
         throw std::runtime_error("the profile has no work log yet");
     }
-    const auto folder = mailbox.RowOf(workLog);
+    const auto folder = store.RowOf(workLog);
     for (auto back = days; back > 0; back -= DaysOfCommit) {
-        mailbox.Database().Atomically([&] {
+        store.Database().Atomically([&] {
             for (auto day = back; day > 0 && day > back - DaysOfCommit; --day) {
                 const auto midnight = last.AddDays(1 - day);
                 Activities activities(static_cast<std::uint32_t>(DaysBetween(Date(), midnight)));
                 for (std::int64_t item = 0; item < ItemsOfDay; ++item) {
-                    mailbox.Table().Insert(folder, Item(activities, midnight.AddMinutes(item * ItemMinutes)));
+                    store.Table().Insert(folder, Item(activities, midnight.AddMinutes(item * ItemMinutes)));
                 }
             }
         });

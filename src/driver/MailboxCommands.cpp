@@ -243,8 +243,7 @@ Ref<StoreItem> MailboxCommands::Item(const Request& request) const
 Json MailboxCommands::StoredJson(const Ref<StoreItem>& item) const
 {
     const auto& mailbox = mHost.Mailbox();
-    auto stored = mailbox->Table().Load(item->Row());
-    auto json = ItemJson(mailbox->NewItem(item->Parent(), std::move(stored.value().data))).Value();
+    auto json = ItemJson(mailbox->NewItem(item->Parent(), mailbox->Stored(item))).Value();
     json["entryId"] = item->EntryID();
     return json;
 }

@@ -57,12 +57,25 @@ std::string LongDay()
     return TrackerText(lines);
 }
 
+/// The first lines of today's mixed day.
+std::string FirstLines(int count)
+{
+    const auto text = MixedDay("t");
+    std::size_t end = 0;
+    for (; count > 0; --count) {
+        end = text.find('\n', end) + 1;
+    }
+    return text.substr(0, end);
+}
+
 struct DataSet
 {
     std::string name;
     /// Day key and content of each tracker file.
     std::vector<std::pair<std::string, std::string>> days;
     std::string history;
+    /// What an earlier sync has taken of today's file; without it the profile is new.
+    std::string earlier = {};
     /// By how much a sync is longer than usual; the short form has so many fewer points then.
     int length = 1;
 };
@@ -77,24 +90,40 @@ std::vector<DataSet> DataSets()
     return {
         { "todayAndTwoPastDays",
             { { "20061010", MixedDay("t") }, { "20061009", MixedDay("y") }, { "20061007", MixedDay("s") } }, "" },
+        { "profileInUse", { { "20061010", MixedDay("t") }, { "20061009", MixedDay("y") } }, "", FirstLines(20) },
         { "pastDaysAlone", { { "20061009", MixedDay("y") }, { "20061008", MixedDay("s") } },
             "|20061008_32700|20061009_33000" },
         { "goingOnToday", { { "20061010", MixedDay("t") } }, "20061010_34200" },
         { "mostlyKnown",
             { { "20061010", MixedDay("t") }, { "20061009", MixedDay("y") }, { "20061008", MixedDay("s") } },
             "|20061010_86399|20061009_86399" },
-        { "manyLines", { { "20061010", LongDay() }, { "20061009", MixedDay("y") } }, "", 4 },
+        { "manyLines", { { "20061010", LongDay() }, { "20061009", MixedDay("y") } }, "", "", 4 },
     };
+}
+
+std::vector<std::string> Sync(const fs::path& profile)
+{
+    return { "--profile", profile.string(), "--locale", "en_US", "--now", Now, "--quiet", "sync" };
+}
+
+void WriteFile(const fs::path& path, const std::string& content)
+{
+    std::ofstream(path, std::ios::binary) << content;
 }
 
 void MakeProfile(const fs::path& profile, const DataSet& data)
 {
-    fs::create_directories(profile / "Tempodial");
+    const auto folder = profile / "Tempodial";
+    fs::create_directories(folder);
+    if (!data.earlier.empty()) {
+        WriteFile(folder / "tracker_granules20061010.out", data.earlier);
+        EXPECT_EQ(RunTempodial(Sync(profile)).status, 0);
+    }
     for (const auto& [day, content] : data.days) {
-        std::ofstream(profile / "Tempodial" / ("tracker_granules" + day + ".out"), std::ios::binary) << content;
+        WriteFile(folder / ("tracker_granules" + day + ".out"), content);
     }
     if (!data.history.empty()) {
-        std::ofstream(profile / "Tempodial" / "TempodialHistory.out", std::ios::binary) << data.history;
+        WriteFile(folder / "TempodialHistory.out", data.history);
     }
 }
 
@@ -113,11 +142,6 @@ std::string Difference(const std::vector<std::string>& expected, const std::vect
         text += "+ " + item + "\n";
     }
     return text;
-}
-
-std::vector<std::string> Sync(const fs::path& profile)
-{
-    return { "--profile", profile.string(), "--locale", "en_US", "--now", Now, "--quiet", "sync" };
 }
 
 }

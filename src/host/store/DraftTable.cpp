@@ -85,7 +85,7 @@ std::vector<std::int64_t> DraftTable::All()
 bool DraftTable::Remove(std::int64_t row)
 {
     Query(mDatabase, "DELETE FROM draft WHERE id = ?").Bind(row).Run();
-    return mDatabase.Number("SELECT changes()") > 0;
+    return mDatabase.RowsChanged() > 0;
 }
 
 void DraftTable::Insert(std::int64_t row, const MailDraft& draft)

@@ -105,9 +105,10 @@ std::int64_t FolderTree::Add(std::int64_t parent, const std::string& name, Defau
     const auto viewType = itemKind == DefaultFolder::Calendar ? ViewType::Calendar : ViewType::Table;
     std::int64_t folder = 0;
     mDatabase.Atomically([&] {
-        Query(mDatabase, "INSERT INTO folder (parent, name, kind) VALUES (?, ?, ?)")
+        Query(mDatabase, "INSERT INTO folder (parent, name, folded_name, kind) VALUES (?, ?, ?, ?)")
             .Bind(parent)
             .Bind(name)
+            .Bind(Fold(name))
             .Bind(static_cast<std::int64_t>(itemKind))
             .Run();
         folder = mDatabase.Number("SELECT last_insert_rowid()");
@@ -128,7 +129,11 @@ void FolderTree::Rename(std::int64_t folder, const std::string& name)
     CheckNotStore(folder);
     CheckName(Get(folder).parent, name, folder);
     mDatabase.CheckWhole();
-    Query(mDatabase, "UPDATE folder SET name = ? WHERE id = ?").Bind(name).Bind(folder).Run();
+    Query(mDatabase, "UPDATE folder SET name = ?, folded_name = ? WHERE id = ?")
+        .Bind(name)
+        .Bind(Fold(name))
+        .Bind(folder)
+        .Run();
     Change(folder).name = name;
 }
 
@@ -148,12 +153,14 @@ void FolderTree::Move(std::int64_t folder, std::int64_t parent)
     Change(folder).parent = parent;
 }
 
-void FolderTree::Delete(std::int64_t folder)
+void FolderTree::Delete(std::int64_t folder, const std::function<void()>& preparation)
 {
     CheckNotStore(folder);
     const auto subtree = Subtree(folder);
-    mDatabase.CheckWhole();
-    Query(mDatabase, "DELETE FROM folder WHERE id = ?").Bind(folder).Run();
+    mDatabase.Atomically([&] {
+        preparation();
+        Query(mDatabase, "DELETE FROM folder WHERE id = ?").Bind(folder).Run();
+    });
     std::erase(Change(Get(folder).parent).children, folder);
     for (const auto gone : subtree) {
         mNodes.erase(gone);

@@ -4,6 +4,7 @@
 #include "platform/objectmodel/MAPIFolder.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -51,8 +52,9 @@ public:
     void Rename(std::int64_t folder, const std::string& name);
     /// Fails as `Rename` does, and (5) for a move below itself.
     void Move(std::int64_t folder, std::int64_t parent);
-    /// Deletes a folder with all below it, for good; fails (5) for the store itself.
-    void Delete(std::int64_t folder);
+    /// Deletes a folder with all below it, for good, together with what a preparation writes; fails (5) for the store
+    /// itself.
+    void Delete(std::int64_t folder, const std::function<void()>& preparation);
     /// Lets a folder know a user property; one of that name, case ignored, stays as it is.
     void AddField(std::int64_t folder, const std::string& name, PropertyType type);
 

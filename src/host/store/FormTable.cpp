@@ -32,6 +32,20 @@ const FormTemplate* FormTable::Find(std::string_view messageClass) const
     return known == mForms.end() ? nullptr : &known->second;
 }
 
+const FormTemplate* FormTable::Nearest(std::string_view messageClass) const
+{
+    while (true) {
+        if (const auto* form = Find(messageClass)) {
+            return form;
+        }
+        const auto dot = messageClass.rfind('.');
+        if (dot == std::string_view::npos) {
+            return nullptr;
+        }
+        messageClass = messageClass.substr(0, dot);
+    }
+}
+
 void FormTable::Publish(const FormTemplate& form)
 {
     const auto* known = Find(form.messageClass);

@@ -20,6 +20,8 @@ public:
     void Load();
     /// The form published under a message class, case ignored; null when there is none.
     const FormTemplate* Find(std::string_view messageClass) const;
+    /// The form published under a message class, or under the nearest that it derives from; null when there is none.
+    const FormTemplate* Nearest(std::string_view messageClass) const;
     /// Makes a form known, replacing one of the same message class; one that is known already isn't written again.
     void Publish(const FormTemplate& form);
 

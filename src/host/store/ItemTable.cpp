@@ -1,5 +1,6 @@
 #include "host/store/ItemTable.h"
 
+#include "base/Failure.h"
 #include "host/store/EntryIds.h"
 #include "host/store/ItemSpan.h"
 #include "host/store/MailboxDatabase.h"
@@ -140,14 +141,14 @@ void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData&
         .Bind(data.body)
         .Bind(row)
         .Run();
-    ++mChanges;
+    NoteChangedRow();
 }
 
 void ItemTable::Move(std::int64_t row, std::int64_t folder)
 {
     mDatabase.CheckWhole();
     Query(mDatabase, "UPDATE item SET folder = ? WHERE id = ?").Bind(folder).Bind(row).Run();
-    ++mChanges;
+    NoteChangedRow();
 }
 
 void ItemTable::Delete(std::int64_t row)
@@ -213,6 +214,14 @@ std::vector<std::int64_t> ItemTable::Sorted(std::span<const std::int64_t> rows, 
     query.Bind(JsonList(rows));
     BindOrder(query, order);
     return RowsOf(query);
+}
+
+void ItemTable::NoteChangedRow()
+{
+    if (mDatabase.RowsChanged() == 0) {
+        throw Failure(Error::ObjectNotFound);
+    }
+    ++mChanges;
 }
 
 std::vector<std::int64_t> ItemTable::Rows(

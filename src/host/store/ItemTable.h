@@ -29,7 +29,7 @@ public:
 
     /// Stores a new item and answers its row, which no other item ever had.
     std::int64_t Insert(std::int64_t folder, const ItemData& data);
-    /// Stores what has changed since an item was stored.
+    /// Stores what has changed since an item was stored; fails, as the next does, (-2147221233) when it is gone.
     void Update(std::int64_t row, const ItemData& before, const ItemData& data);
     void Move(std::int64_t row, std::int64_t folder);
     void Delete(std::int64_t row);
@@ -55,6 +55,8 @@ public:
     std::vector<std::int64_t> Sorted(std::span<const std::int64_t> rows, const ItemOrder& order);
 
 private:
+    /// Counts the change of a row; fails when there was none to change.
+    void NoteChangedRow();
     std::vector<std::int64_t> Rows(std::int64_t folder, const FilterCondition& condition, const std::string& ending);
 
     MailboxDatabase& mDatabase;

@@ -1,6 +1,7 @@
 #include "host/store/MailboxDatabase.h"
 
 #include "base/Text.h"
+#include "host/store/JournalVfs.h"
 #include "host/store/PropertyCodec.h"
 #include "host/store/Query.h"
 
@@ -78,8 +79,8 @@ MailboxDatabase::MailboxDatabase(const std::string& path)
     : mPath(path)
 {
     try {
-        mConnection
-            = std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, BusyMilliseconds);
+        mConnection = std::make_unique<SQLite::Database>(
+            path.c_str(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, BusyMilliseconds, JournalVfs::Name());
     } catch (const SQLite::Exception& problem) {
         throw Failed(problem.getErrorCode(), problem.what());
     }
@@ -130,6 +131,11 @@ std::int64_t MailboxDatabase::Number(const std::string& sql)
 {
     Query query(*this, sql);
     return query.Step() ? query.Int(0) : 0;
+}
+
+int MailboxDatabase::RowsChanged() const
+{
+    return sqlite3_changes(mConnection->getHandle());
 }
 
 void MailboxDatabase::Hold()

@@ -41,6 +41,8 @@ public:
     void Execute(const std::string& sql);
     /// The whole number that a query without values gives.
     std::int64_t Number(const std::string& sql);
+    /// How many rows the last statement that wrote has met.
+    int RowsChanged() const;
 
     /// Runs work whose writes are kept together or not at all.
     template <class Work> void Atomically(Work&& work)

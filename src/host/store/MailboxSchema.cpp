@@ -106,11 +106,26 @@ std::string Contents()
         + DefaultFolderSql("Drafts", DefaultFolder::Drafts, DefaultFolder::Inbox);
 }
 
+/// Folders of one parent have different names. Of those that don't yet the younger ones get their row behind the name;
+/// one that meets another even so keeps its name with a key of its own, which no name has.
+std::string UniqueNames()
+{
+    const std::string hasNamesake = " WHERE EXISTS (SELECT 1 FROM folder AS older WHERE older.parent = folder.parent "
+                                    "AND older.id < folder.id AND older.folded_name = folder.folded_name);\n";
+    return "ALTER TABLE folder ADD COLUMN folded_name TEXT NOT NULL DEFAULT '';\n"
+           "UPDATE folder SET folded_name = fold_text(name);\n"
+           "UPDATE folder SET name = name || ' (' || id || ')'"
+        + hasNamesake + "UPDATE folder SET folded_name = fold_text(name);\n"
+        + "UPDATE folder SET folded_name = folded_name || '/' || id" + hasNamesake
+        + "CREATE UNIQUE INDEX folder_name ON folder (parent, folded_name);\n"
+          "DROP INDEX folder_parent;\n";
+}
+
 }
 
 const std::vector<std::string>& MailboxSchema::Steps()
 {
-    static const std::vector<std::string> steps = { Tables() + Contents() };
+    static const std::vector<std::string> steps = { Tables() + Contents(), UniqueNames() };
     return steps;
 }
 

@@ -1,7 +1,7 @@
 #include "host/store/StoreBuiltInProperty.h"
 
-#include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
+#include "platform/system/LocaleFormats.h"
 
 #include <utility>
 
@@ -31,7 +31,7 @@ void StoreBuiltInProperty::SetValue(const Variant& value)
     if (mName == DurationName) {
         mItem->SetDuration(value.ToInt32());
     } else if (const auto* text = value.If<std::string>()) {
-        mItem->SetStart(mItem->Owner()->Formats().Parse(*text));
+        mItem->SetStart(mItem->Formats().Parse(*text));
     } else {
         mItem->SetStart(value.ToDate());
     }

@@ -1,6 +1,6 @@
 #include "host/store/StoreFolder.h"
 
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 #include "host/store/StoreFolders.h"
 #include "host/store/StoreItems.h"
 #include "host/store/StoreViews.h"
@@ -9,49 +9,49 @@
 
 namespace tempodial {
 
-StoreFolder::StoreFolder(Ref<Mailbox> mailbox, std::int64_t row)
-    : mMailbox(std::move(mailbox))
+StoreFolder::StoreFolder(Ref<MailboxStore> store, std::int64_t row)
+    : mStore(std::move(store))
     , mRow(row)
 {
 }
 
 std::string StoreFolder::EntryID() const
 {
-    mMailbox->Tree().Get(mRow);
-    return mMailbox->Ids().OfFolder(mRow);
+    mStore->Tree().Get(mRow);
+    return mStore->Ids().OfFolder(mRow);
 }
 
 std::string StoreFolder::Name() const
 {
-    return mMailbox->Tree().Get(mRow).name;
+    return mStore->Tree().Get(mRow).name;
 }
 
 std::string StoreFolder::FullFolderPath() const
 {
-    return mMailbox->Tree().FullPath(mRow);
+    return mStore->Tree().FullPath(mRow);
 }
 
 Ref<Folders> StoreFolder::Folders()
 {
-    mMailbox->Tree().Get(mRow);
-    return MakeRef<StoreFolders>(mMailbox, mRow);
+    mStore->Tree().Get(mRow);
+    return MakeRef<StoreFolders>(mStore, mRow);
 }
 
 Ref<Items> StoreFolder::Items()
 {
-    mMailbox->Tree().Get(mRow);
-    return MakeRef<StoreItems>(mMailbox, mRow);
+    mStore->Tree().Get(mRow);
+    return MakeRef<StoreItems>(mStore, mRow);
 }
 
 Ref<Views> StoreFolder::Views()
 {
-    mMailbox->Tree().Get(mRow);
-    return MakeRef<StoreViews>(mMailbox, mRow);
+    mStore->Tree().Get(mRow);
+    return MakeRef<StoreViews>(mStore, mRow);
 }
 
 DefaultFolder StoreFolder::Kind() const
 {
-    return mMailbox->Tree().Get(mRow).kind;
+    return mStore->Tree().Get(mRow).kind;
 }
 
 }

@@ -11,13 +11,13 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 
 /// A folder of the mailbox.
 class StoreFolder final : public MAPIFolder
 {
 public:
-    StoreFolder(Ref<Mailbox> mailbox, std::int64_t row);
+    StoreFolder(Ref<MailboxStore> store, std::int64_t row);
 
     std::string EntryID() const override;
     std::string Name() const override;
@@ -30,7 +30,7 @@ public:
     DefaultFolder Kind() const;
 
 private:
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::int64_t mRow;
 };
 

@@ -9,14 +9,14 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 
 /// The folders below a folder of the mailbox in the order in which they were made, or its one store.
 class StoreFolders final : public Folders
 {
 public:
     /// The folders below that row; 0 for the stores.
-    StoreFolders(Ref<Mailbox> mailbox, std::int64_t parent);
+    StoreFolders(Ref<MailboxStore> store, std::int64_t parent);
 
     std::int32_t Count() override;
     Ref<MAPIFolder> Item(std::int32_t index) override;
@@ -25,7 +25,7 @@ public:
     Ref<MAPIFolder> Add(const std::string& name, DefaultFolder type) override;
 
 private:
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::int64_t mParent;
 };
 

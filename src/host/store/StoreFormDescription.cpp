@@ -1,14 +1,14 @@
 #include "host/store/StoreFormDescription.h"
 
 #include "base/Text.h"
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 
 #include <utility>
 
 namespace tempodial {
 
-StoreFormDescription::StoreFormDescription(Ref<Mailbox> mailbox, FormTemplate form)
-    : mMailbox(std::move(mailbox))
+StoreFormDescription::StoreFormDescription(Ref<MailboxStore> store, FormTemplate form)
+    : mStore(std::move(store))
     , mForm(std::move(form))
 {
 }
@@ -34,7 +34,7 @@ std::string StoreFormDescription::MessageClass() const
 
 void StoreFormDescription::PublishForm(FormRegistry)
 {
-    mMailbox->Forms().Publish(mForm);
+    mStore->Forms().Publish(mForm);
 }
 
 }

@@ -8,13 +8,13 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 
 /// The form of an item made from a template.
 class StoreFormDescription final : public FormDescription
 {
 public:
-    StoreFormDescription(Ref<Mailbox> mailbox, FormTemplate form);
+    StoreFormDescription(Ref<MailboxStore> store, FormTemplate form);
 
     ObjectClass Class() const override;
     void SetDisplayName(const std::string& name) override;
@@ -22,7 +22,7 @@ public:
     void PublishForm(FormRegistry registry) override;
 
 private:
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     FormTemplate mForm;
 };
 

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "host/store/Mailbox.h"
 #include "host/store/MailboxDatabase.h"
+#include "host/store/MailboxStore.h"
 #include "host/store/Query.h"
 
 #include <utility>
@@ -16,21 +17,21 @@ constexpr std::chrono::seconds LongestHold { 2 };
 
 }
 
-StoreImportJournal::StoreImportJournal(Ref<Mailbox> mailbox)
-    : mMailbox(std::move(mailbox))
+StoreImportJournal::StoreImportJournal(const Ref<Mailbox>& mailbox)
+    : mStore(mailbox->Store())
 {
 }
 
 StoreImportJournal::~StoreImportJournal()
 {
-    mMailbox->SetCommit({});
+    mStore->SetCommit({});
 }
 
 void StoreImportJournal::Begin()
 {
-    mMailbox->Database().Recover();
-    mMailbox->SetCommit([this] { Commit(); });
-    if (mMailbox->Database().IsHolding()) {
+    mStore->Database().Recover();
+    mStore->SetCommit([this] { Commit(); });
+    if (mStore->Database().IsHolding()) {
         Commit();
     } else {
         Hold();
@@ -39,8 +40,8 @@ void StoreImportJournal::Begin()
 
 void StoreImportJournal::Loaded(const std::string& dayKey, const Position& position)
 {
-    mMailbox->Database().CheckWhole();
-    if (!mMailbox->Database().IsHolding()) {
+    mStore->Database().CheckWhole();
+    if (!mStore->Database().IsHolding()) {
         throw Failure(Error::InvalidCall, "No import was begun");
     }
     mPositions[dayKey] = position;
@@ -58,7 +59,7 @@ void StoreImportJournal::Commit()
 
 std::optional<ImportJournal::Position> StoreImportJournal::Committed(const std::string& dayKey)
 {
-    Query query(mMailbox->Database(), "SELECT count, lines FROM import_position WHERE day = ?");
+    Query query(mStore->Database(), "SELECT count, lines FROM import_position WHERE day = ?");
     query.Bind(dayKey);
     if (!query.Step()) {
         return std::nullopt;
@@ -69,8 +70,8 @@ std::optional<ImportJournal::Position> StoreImportJournal::Committed(const std::
 void StoreImportJournal::HistorySaved()
 {
     mPositions.clear();
-    Query(mMailbox->Database(), "DELETE FROM import_position").Run();
-    if (mMailbox->Database().IsHolding()) {
+    Query(mStore->Database(), "DELETE FROM import_position").Run();
+    if (mStore->Database().IsHolding()) {
         Commit();
     }
 }
@@ -80,26 +81,26 @@ void StoreImportJournal::End()
     try {
         Keep();
     } catch (...) {
-        mMailbox->Database().Recover();
+        mStore->Database().Recover();
         throw;
     }
 }
 
 bool StoreImportJournal::Keep()
 {
-    mMailbox->Database().CheckWhole();
-    if (!mMailbox->Database().IsHolding()) {
+    mStore->Database().CheckWhole();
+    if (!mStore->Database().IsHolding()) {
         return false;
     }
     for (const auto& [day, position] : mPositions) {
-        Query(mMailbox->Database(), "INSERT OR REPLACE INTO import_position (day, count, lines) VALUES (?, ?, ?)")
+        Query(mStore->Database(), "INSERT OR REPLACE INTO import_position (day, count, lines) VALUES (?, ?, ?)")
             .Bind(day)
             .Bind(std::int64_t { position.count })
             .Bind(position.lines)
             .Run();
     }
-    mMailbox->Database().CommitHeld();
-    mMailbox->Committed();
+    mStore->Database().CommitHeld();
+    mStore->Committed();
     return true;
 }
 
@@ -108,7 +109,7 @@ void StoreImportJournal::Hold()
     mPositions.clear();
     mLines = 0;
     mLastCommit = std::chrono::steady_clock::now();
-    mMailbox->Database().Hold();
+    mStore->Database().Hold();
 }
 
 }

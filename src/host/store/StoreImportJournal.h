@@ -11,13 +11,14 @@
 namespace tempodial {
 
 class Mailbox;
+class MailboxStore;
 
 /// The import journal of a mailbox: while it is begun, writes are committed every two seconds or 2,000 lines, and when
 /// asked. A failure undoes what was written since the last commit, and from then on every write fails until `End`.
 class StoreImportJournal final : public ImportJournal
 {
 public:
-    explicit StoreImportJournal(Ref<Mailbox> mailbox);
+    explicit StoreImportJournal(const Ref<Mailbox>& mailbox);
     ~StoreImportJournal() override;
     StoreImportJournal(const StoreImportJournal&) = delete;
     StoreImportJournal& operator=(const StoreImportJournal&) = delete;
@@ -35,7 +36,7 @@ private:
     bool Keep();
     void Hold();
 
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::map<std::string, Position> mPositions;
     std::int32_t mLines = 0;
     std::chrono::steady_clock::time_point mLastCommit;

@@ -1,7 +1,7 @@
 #include "host/store/StoreItem.h"
 
 #include "base/Failure.h"
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 #include "host/store/StoreFolder.h"
 #include "host/store/StoreFormDescription.h"
 #include "host/store/StoreUserProperties.h"
@@ -10,8 +10,8 @@
 
 namespace tempodial {
 
-StoreItem::StoreItem(Ref<Mailbox> mailbox, StoredItem item)
-    : mMailbox(std::move(mailbox))
+StoreItem::StoreItem(Ref<MailboxStore> store, StoredItem item)
+    : mStore(std::move(store))
     , mRow(item.row)
     , mFolder(item.folder)
     , mData(std::move(item.data))
@@ -21,7 +21,7 @@ StoreItem::StoreItem(Ref<Mailbox> mailbox, StoredItem item)
 StoreItem::~StoreItem()
 {
     if (mRow != 0) {
-        mMailbox->Forget(mRow);
+        mStore->Forget(mRow);
     }
 }
 
@@ -38,7 +38,7 @@ std::string StoreItem::MessageClass() const
 std::string StoreItem::EntryID() const
 {
     CheckAlive();
-    return mRow == 0 ? std::string() : mMailbox->Ids().OfItem(mRow);
+    return mRow == 0 ? std::string() : mStore->Ids().OfItem(mRow);
 }
 
 std::string StoreItem::Subject() const
@@ -129,7 +129,7 @@ bool StoreItem::IsRecurring() const
 Ref<MAPIFolder> StoreItem::Parent()
 {
     CheckAlive();
-    return mMailbox->Folder(mFolder);
+    return mStore->Folder(mFolder);
 }
 
 Ref<UserProperties> StoreItem::UserProperties()
@@ -148,7 +148,7 @@ void StoreItem::Save()
 {
     const auto self = shared_from_this();
     const bool refused = !RaiseWrite();
-    mMailbox->Save(*this, refused);
+    mStore->Save(*this, refused);
 }
 
 void StoreItem::Close(CloseMode mode)
@@ -172,7 +172,7 @@ void StoreItem::Close(CloseMode mode)
 void StoreItem::Display()
 {
     CheckAlive();
-    mMailbox->Display(shared_from_this());
+    mStore->Display(shared_from_this());
 }
 
 void StoreItem::Delete()
@@ -180,20 +180,20 @@ void StoreItem::Delete()
     // A window that closes may have been the last to hold it.
     const auto self = shared_from_this();
     CheckAlive();
-    mMailbox->Delete(*this);
+    mStore->Delete(*this);
 }
 
 Ref<AppointmentItem> StoreItem::Copy()
 {
-    return MakeRef<StoreItem>(mMailbox, StoredItem { 0, mFolder, Data() });
+    return MakeRef<StoreItem>(mStore, StoredItem { 0, mFolder, Data() });
 }
 
 Ref<AppointmentItem> StoreItem::Move(const Ref<MAPIFolder>& folder)
 {
     CheckAlive();
-    const auto target = mMailbox->RowOf(folder);
+    const auto target = mStore->RowOf(folder);
     if (mRow != 0) {
-        mMailbox->Move(*this, target);
+        mStore->Move(*this, target);
     } else {
         const auto before = std::exchange(mFolder, target);
         try {
@@ -236,8 +236,8 @@ bool StoreItem::SaveAsPerson()
     if (!RaiseWrite()) {
         return false;
     }
-    mMailbox->Save(*this, false);
-    mMailbox->CommitHeld();
+    mStore->Save(*this, false);
+    mStore->CommitHeld();
     return true;
 }
 
@@ -266,6 +266,11 @@ bool StoreItem::HasChanges() const
     return mRow == 0 || (mBefore && *mBefore != mData);
 }
 
+LocaleFormats& StoreItem::Formats() const
+{
+    return mStore->Formats();
+}
+
 const ItemData& StoreItem::Data() const
 {
     CheckAlive();
@@ -283,7 +288,7 @@ ItemData& StoreItem::Change()
 
 void StoreItem::Describe(const FormTemplate& form)
 {
-    mFormDescription = MakeRef<StoreFormDescription>(mMailbox, form);
+    mFormDescription = MakeRef<StoreFormDescription>(mStore, form);
 }
 
 void StoreItem::MarkStored(std::int64_t row)
@@ -295,7 +300,7 @@ void StoreItem::MarkStored(std::int64_t row)
 void StoreItem::MarkDeleted()
 {
     if (mRow != 0) {
-        mMailbox->Forget(mRow);
+        mStore->Forget(mRow);
     }
     mRow = 0;
     mDeleted = true;
@@ -304,7 +309,7 @@ void StoreItem::MarkDeleted()
 void StoreItem::MarkUndone(std::optional<StoredItem> stored)
 {
     if (!stored) {
-        mMailbox->Forget(mRow);
+        mStore->Forget(mRow);
         mRow = 0;
         mBefore.reset();
         return;

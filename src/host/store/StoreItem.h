@@ -12,7 +12,8 @@
 
 namespace tempodial {
 
-class Mailbox;
+class LocaleFormats;
+class MailboxStore;
 
 /// An appointment of the mailbox; there is one object for an item as long as anybody holds it. Once the item is
 /// deleted every member fails (-2147221233). What a failed commit undid is undone here too: an item that was first
@@ -21,7 +22,7 @@ class Mailbox;
 class StoreItem final : public AppointmentItem, public std::enable_shared_from_this<StoreItem>
 {
 public:
-    StoreItem(Ref<Mailbox> mailbox, StoredItem item);
+    StoreItem(Ref<MailboxStore> store, StoredItem item);
     StoreItem(const StoreItem&) = delete;
     StoreItem& operator=(const StoreItem&) = delete;
     ~StoreItem() override;
@@ -70,9 +71,11 @@ public:
     void RaiseLetGo();
     /// True when something was changed since the last save, or nothing was ever saved.
     bool HasChanges() const;
+    /// How texts, dates and numbers are read and written where the mailbox is.
+    LocaleFormats& Formats() const;
 
     // What the mailbox and the item's own objects share.
-    const Ref<Mailbox>& Owner() const { return mMailbox; }
+    const Ref<MailboxStore>& Owner() const { return mStore; }
     /// The row, 0 while the item isn't stored.
     std::int64_t Row() const { return mRow; }
     /// The row of the folder.
@@ -103,7 +106,7 @@ private:
     /// Raises `Write`; false when a handler refused it.
     bool RaiseWrite();
 
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::int64_t mRow;
     std::int64_t mFolder;
     ItemData mData;

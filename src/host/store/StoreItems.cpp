@@ -2,7 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 #include "host/store/StoreFolder.h"
 #include "host/store/StoreItem.h"
 
@@ -29,15 +29,15 @@ bool IsAppointmentClass(const std::string& messageClass)
 
 }
 
-StoreItems::StoreItems(Ref<Mailbox> mailbox, std::int64_t folder)
-    : mMailbox(std::move(mailbox))
+StoreItems::StoreItems(Ref<MailboxStore> store, std::int64_t folder)
+    : mStore(std::move(store))
     , mFolder(folder)
     , mFixed(false)
 {
 }
 
-StoreItems::StoreItems(Ref<Mailbox> mailbox, std::int64_t folder, std::vector<std::int64_t> rows)
-    : mMailbox(std::move(mailbox))
+StoreItems::StoreItems(Ref<MailboxStore> store, std::int64_t folder, std::vector<std::int64_t> rows)
+    : mStore(std::move(store))
     , mFolder(folder)
     , mFixed(true)
     , mRows(std::move(rows))
@@ -46,8 +46,8 @@ StoreItems::StoreItems(Ref<Mailbox> mailbox, std::int64_t folder, std::vector<st
 
 std::int32_t StoreItems::Count()
 {
-    mMailbox->Tree().Get(mFolder);
-    if (!mFixed && mTakenAt != mMailbox->Table().Changes()) {
+    mStore->Tree().Get(mFolder);
+    if (!mFixed && mTakenAt != mStore->Table().Changes()) {
         mRows.reset();
     }
     Take();
@@ -56,7 +56,7 @@ std::int32_t StoreItems::Count()
 
 Ref<OutlookItem> StoreItems::Item(std::int32_t index)
 {
-    mMailbox->Tree().Get(mFolder);
+    mStore->Tree().Get(mFolder);
     Take();
     if (index < 1 || static_cast<std::size_t>(index) > mRows->size()) {
         throw Failure(Error::SubscriptOutOfRange);
@@ -71,20 +71,21 @@ Ref<AppointmentItem> StoreItems::Add(const std::string& messageClass)
     }
     ItemData data;
     data.messageClass = BaseClass;
-    if (const auto* form = mMailbox->FormOf(messageClass)) {
+    if (const auto* form = mStore->Forms().Nearest(messageClass)) {
         data.messageClass = form->messageClass;
         data.properties = form->fields;
         // The folder must know them as if they had been added one by one, since filters name them.
         for (const auto& field : form->fields) {
-            mMailbox->Tree().AddField(mFolder, field.name, field.type);
+            mStore->Tree().AddField(mFolder, field.name, field.type);
         }
     }
-    return mMailbox->NewItem(mMailbox->Folder(mFolder), std::move(data));
+    mStore->Tree().Get(mFolder);
+    return MakeRef<StoreItem>(mStore, StoredItem { 0, mFolder, std::move(data) });
 }
 
 Ref<Items> StoreItems::Restrict(const std::string& filter)
 {
-    return MakeRef<StoreItems>(mMailbox, mFolder, Select(filter));
+    return MakeRef<StoreItems>(mStore, mFolder, Select(filter));
 }
 
 Ref<OutlookItem> StoreItems::Find(const std::string& filter)
@@ -94,24 +95,24 @@ Ref<OutlookItem> StoreItems::Find(const std::string& filter)
         const auto rows = Select(filter);
         row = rows.empty() ? 0 : rows.front();
     } else {
-        row = mMailbox->Table().First(mFolder, mMailbox->Condition(mFolder, filter));
+        row = mStore->Table().First(mFolder, mStore->Condition(mFolder, filter));
     }
-    return row == 0 ? nullptr : mMailbox->Item(row);
+    return row == 0 ? nullptr : mStore->Item(row);
 }
 
 void StoreItems::Sort(const std::string& property, bool descending)
 {
-    const FilterFields fields(mMailbox->Tree().Get(mFolder).fields);
+    const FilterFields fields(mStore->Tree().Get(mFolder).fields);
     ItemOrder order { fields.Field(FilterParser::PropertyName(property)), descending };
-    mRows = mFixed ? mMailbox->Table().Sorted(*mRows, order) : mMailbox->Table().All(mFolder, order);
-    mTakenAt = mMailbox->Table().Changes();
+    mRows = mFixed ? mStore->Table().Sorted(*mRows, order) : mStore->Table().All(mFolder, order);
+    mTakenAt = mStore->Table().Changes();
     mOrder = std::move(order);
     mPage.clear();
 }
 
 Subscription StoreItems::Subscribe(ItemsEvents events)
 {
-    mMailbox->Listen(shared_from_this());
+    mStore->Listen(shared_from_this());
     return mEvents.Subscribe(std::move(events));
 }
 
@@ -138,17 +139,17 @@ bool StoreItems::DeliverArrivals()
 void StoreItems::Take()
 {
     if (!mRows) {
-        mRows = mMailbox->Table().All(mFolder, mOrder);
-        mTakenAt = mMailbox->Table().Changes();
+        mRows = mStore->Table().All(mFolder, mOrder);
+        mTakenAt = mStore->Table().Changes();
         mPage.clear();
     }
 }
 
 std::vector<std::int64_t> StoreItems::Select(const std::string& filter)
 {
-    auto rows = mMailbox->Table().Select(mFolder, mMailbox->Condition(mFolder, filter));
+    auto rows = mStore->Table().Select(mFolder, mStore->Condition(mFolder, filter));
     if (!mFixed) {
-        return mOrder.field ? mMailbox->Table().Sorted(rows, mOrder) : rows;
+        return mOrder.field ? mStore->Table().Sorted(rows, mOrder) : rows;
     }
     const std::unordered_set<std::int64_t> selected(rows.begin(), rows.end());
     std::vector<std::int64_t> kept;
@@ -160,13 +161,13 @@ std::vector<std::int64_t> StoreItems::Select(const std::string& filter)
 Ref<StoreItem> StoreItems::Paged(std::size_t index)
 {
     const auto row = (*mRows)[index];
-    if (auto live = mMailbox->Live(row)) {
+    if (auto live = mStore->Live(row)) {
         return live;
     }
     const bool within = index >= mPageStart && index < mPageStart + mPage.size();
-    if (within && mPage[index - mPageStart] && mPageReadAt != mMailbox->Table().Changes()) {
+    if (within && mPage[index - mPageStart] && mPageReadAt != mStore->Table().Changes()) {
         // The page may be out of date, as in a walk that saves what it visits: this row alone is read again.
-        return mMailbox->Item(row);
+        return mStore->Item(row);
     }
     if (!within || !mPage[index - mPageStart]) {
         ReadPage(index);
@@ -177,7 +178,7 @@ Ref<StoreItem> StoreItems::Paged(std::size_t index)
     }
     auto item = std::move(*slot);
     slot.reset();
-    return mMailbox->Share(std::move(item));
+    return mStore->Share(std::move(item));
 }
 
 void StoreItems::ReadPage(std::size_t index)
@@ -190,10 +191,10 @@ void StoreItems::ReadPage(std::size_t index)
     length = std::min(length, mRows->size() - start);
 
     const std::span<const std::int64_t> wanted(mRows->data() + start, length);
-    auto read = mMailbox->Table().Load(wanted);
+    auto read = mStore->Table().Load(wanted);
     mPage.assign(length, std::nullopt);
     mPageStart = start;
-    mPageReadAt = mMailbox->Table().Changes();
+    mPageReadAt = mStore->Table().Changes();
     std::size_t position = 0;
     for (auto& item : read) {
         while (wanted[position] != item.row) {

@@ -11,7 +11,7 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 class StoreItem;
 
 /// Items of a folder of the mailbox: all of them, or a fixed list. The list of all is taken anew by `Count` when
@@ -21,9 +21,9 @@ class StoreItems final : public Items, public std::enable_shared_from_this<Store
 {
 public:
     /// All items of a folder.
-    StoreItems(Ref<Mailbox> mailbox, std::int64_t folder);
+    StoreItems(Ref<MailboxStore> store, std::int64_t folder);
     /// A fixed list of rows.
-    StoreItems(Ref<Mailbox> mailbox, std::int64_t folder, std::vector<std::int64_t> rows);
+    StoreItems(Ref<MailboxStore> store, std::int64_t folder, std::vector<std::int64_t> rows);
 
     std::int32_t Count() override;
     Ref<OutlookItem> Item(std::int32_t index) override;
@@ -48,7 +48,7 @@ private:
     /// Reads items ahead, that of the index among them.
     void ReadPage(std::size_t index);
 
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::int64_t mFolder;
     bool mFixed;
     ItemOrder mOrder;

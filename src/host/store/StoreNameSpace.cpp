@@ -1,7 +1,7 @@
 #include "host/store/StoreNameSpace.h"
 
 #include "base/Failure.h"
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 #include "host/store/StoreFolder.h"
 #include "host/store/StoreFolders.h"
 
@@ -9,23 +9,23 @@
 
 namespace tempodial {
 
-StoreNameSpace::StoreNameSpace(Ref<Mailbox> mailbox)
-    : mMailbox(std::move(mailbox))
+StoreNameSpace::StoreNameSpace(Ref<MailboxStore> store)
+    : mStore(std::move(store))
 {
 }
 
 Ref<MAPIFolder> StoreNameSpace::GetDefaultFolder(DefaultFolder type)
 {
-    const auto folder = mMailbox->Tree().Default(type);
+    const auto folder = mStore->Tree().Default(type);
     if (folder == 0) {
         throw Failure(Error::ObjectNotFound);
     }
-    return mMailbox->Folder(folder);
+    return mStore->Folder(folder);
 }
 
 Ref<Folders> StoreNameSpace::Folders()
 {
-    return MakeRef<StoreFolders>(mMailbox, 0);
+    return MakeRef<StoreFolders>(mStore, 0);
 }
 
 }

@@ -5,20 +5,20 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 
 /// The session that shows one mailbox.
 class StoreNameSpace final : public NameSpace
 {
 public:
-    explicit StoreNameSpace(Ref<Mailbox> mailbox);
+    explicit StoreNameSpace(Ref<MailboxStore> store);
 
     /// A default folder that was deleted fails (-2147221233).
     Ref<MAPIFolder> GetDefaultFolder(DefaultFolder type) override;
     Ref<tempodial::Folders> Folders() override;
 
 private:
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
 };
 
 }

@@ -2,7 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 #include "host/store/StoreBuiltInProperty.h"
 #include "host/store/StoreItem.h"
 #include "host/store/StoreUserProperty.h"

@@ -1,8 +1,8 @@
 #include "host/store/StoreUserProperty.h"
 
 #include "base/Failure.h"
-#include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
+#include "platform/system/LocaleFormats.h"
 
 #include <utility>
 
@@ -52,7 +52,7 @@ Variant StoreUserProperty::Value() const
 
 void StoreUserProperty::SetValue(const Variant& value)
 {
-    auto converted = Converted(value, Get(*mItem, mName).type, mItem->Owner()->Formats());
+    auto converted = Converted(value, Get(*mItem, mName).type, mItem->Formats());
     mItem->Change();
     const_cast<ItemProperty&>(Get(*mItem, mName)).value = std::move(converted);
 }

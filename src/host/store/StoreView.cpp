@@ -1,7 +1,7 @@
 #include "host/store/StoreView.h"
 
 #include "base/Failure.h"
-#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
 
 #include <utility>
 
@@ -9,10 +9,10 @@ namespace tempodial {
 
 namespace {
 
-const ViewTable::Entry& Get(Mailbox& mailbox, std::int64_t folder, const std::string& name)
+const ViewTable::Entry& Get(MailboxStore& store, std::int64_t folder, const std::string& name)
 {
-    mailbox.Tree().Get(folder);
-    const auto* view = mailbox.Views().Find(folder, name);
+    store.Tree().Get(folder);
+    const auto* view = store.Views().Find(folder, name);
     if (view == nullptr) {
         throw Failure(Error::ObjectNotFound);
     }
@@ -21,8 +21,8 @@ const ViewTable::Entry& Get(Mailbox& mailbox, std::int64_t folder, const std::st
 
 }
 
-StoreView::StoreView(Ref<Mailbox> mailbox, std::int64_t folder, std::string name)
-    : mMailbox(std::move(mailbox))
+StoreView::StoreView(Ref<MailboxStore> store, std::int64_t folder, std::string name)
+    : mStore(std::move(store))
     , mFolder(folder)
     , mName(std::move(name))
 {
@@ -30,31 +30,31 @@ StoreView::StoreView(Ref<Mailbox> mailbox, std::int64_t folder, std::string name
 
 std::string StoreView::Name() const
 {
-    return Get(*mMailbox, mFolder, mName).name;
+    return Get(*mStore, mFolder, mName).name;
 }
 
 ViewType StoreView::ViewType() const
 {
-    return Get(*mMailbox, mFolder, mName).type;
+    return Get(*mStore, mFolder, mName).type;
 }
 
 std::string StoreView::XML() const
 {
-    const auto& view = Get(*mMailbox, mFolder, mName);
+    const auto& view = Get(*mStore, mFolder, mName);
     return mUnsavedXml.value_or(view.xml);
 }
 
 void StoreView::SetXML(const std::string& xml)
 {
-    Get(*mMailbox, mFolder, mName);
-    mMailbox->CheckView(xml);
+    Get(*mStore, mFolder, mName);
+    mStore->CheckView(xml);
     mUnsavedXml = xml;
 }
 
 void StoreView::Save()
 {
-    mMailbox->Tree().Get(mFolder);
-    mMailbox->Views().Save(mFolder, mName, XML());
+    mStore->Tree().Get(mFolder);
+    mStore->Views().Save(mFolder, mName, XML());
     mUnsavedXml.reset();
 }
 

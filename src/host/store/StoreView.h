@@ -9,14 +9,14 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 
 /// A view of a folder of the mailbox; it fails (-2147221233) once it is deleted. A definition that was set stands in
 /// this object alone until it is saved.
 class StoreView final : public View
 {
 public:
-    StoreView(Ref<Mailbox> mailbox, std::int64_t folder, std::string name);
+    StoreView(Ref<MailboxStore> store, std::int64_t folder, std::string name);
 
     std::string Name() const override;
     tempodial::ViewType ViewType() const override;
@@ -25,7 +25,7 @@ public:
     void Save() override;
 
 private:
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::int64_t mFolder;
     std::string mName;
     std::optional<std::string> mUnsavedXml;

@@ -8,13 +8,13 @@
 
 namespace tempodial {
 
-class Mailbox;
+class MailboxStore;
 
 /// The views of a folder of the mailbox in the order in which they were made.
 class StoreViews final : public Views
 {
 public:
-    StoreViews(Ref<Mailbox> mailbox, std::int64_t folder);
+    StoreViews(Ref<MailboxStore> store, std::int64_t folder);
 
     std::int32_t Count() override;
     Ref<View> Item(std::int32_t index) override;
@@ -23,7 +23,7 @@ public:
     Ref<View> Add(const std::string& name, ViewType type, ViewSaveOption option) override;
 
 private:
-    Ref<Mailbox> mMailbox;
+    Ref<MailboxStore> mStore;
     std::int64_t mFolder;
 };
 

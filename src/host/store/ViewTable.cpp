@@ -10,6 +10,17 @@
 
 namespace tempodial {
 
+namespace {
+
+void CheckName(const std::string& name)
+{
+    if (Trim(name).empty()) {
+        throw Failure(Error::InvalidCall, "A view needs a name");
+    }
+}
+
+}
+
 ViewTable::ViewTable(MailboxDatabase& database)
     : mDatabase(database)
 {
@@ -30,14 +41,24 @@ const ViewTable::Entry* ViewTable::Find(std::int64_t folder, const std::string& 
 
 void ViewTable::Add(std::int64_t folder, const std::string& name, ViewType type)
 {
-    if (Trim(name).empty()) {
-        throw Failure(Error::InvalidCall, "A view needs a name");
-    }
+    CheckName(name);
     if (Find(folder, name) != nullptr) {
         throw Failure(Error::KeyExists, "There is a view named \"" + name + "\" already");
     }
     const auto kind = type == ViewType::Calendar ? DefaultFolder::Calendar : DefaultFolder::Inbox;
     Load(folder).push_back({ name, type, MailboxSchema::ViewDefinition(kind, name), false });
+}
+
+void ViewTable::Set(std::int64_t folder, const std::string& name, ViewType type, const std::string& xml)
+{
+    if (Find(folder, name) != nullptr) {
+        Save(folder, name, xml);
+        return;
+    }
+    CheckName(name);
+    const Entry view { name, type, xml, true };
+    Write(folder, view);
+    Load(folder).push_back(view);
 }
 
 void ViewTable::Save(std::int64_t folder, const std::string& name, const std::string& xml)
@@ -46,17 +67,9 @@ void ViewTable::Save(std::int64_t folder, const std::string& name, const std::st
     if (view.saved && view.xml == xml) {
         return;
     }
-    mDatabase.CheckWhole();
-    Query(mDatabase,
-        "INSERT INTO view (folder, name, type, xml) VALUES (?, ?, ?, ?) "
-        "ON CONFLICT (folder, name) DO UPDATE SET xml = excluded.xml")
-        .Bind(folder)
-        .Bind(view.name)
-        .Bind(static_cast<std::int64_t>(view.type))
-        .Bind(xml)
-        .Run();
-    view.xml = xml;
-    view.saved = true;
+    const Entry changed { view.name, view.type, xml, true };
+    Write(folder, changed);
+    view = changed;
 }
 
 void ViewTable::Delete(std::int64_t folder, const std::string& name)
@@ -88,6 +101,19 @@ ViewTable::Entry& ViewTable::Get(std::int64_t folder, const std::string& name)
         throw Failure(Error::ObjectNotFound);
     }
     return const_cast<Entry&>(*view);
+}
+
+void ViewTable::Write(std::int64_t folder, const Entry& view)
+{
+    mDatabase.CheckWhole();
+    Query(mDatabase,
+        "INSERT INTO view (folder, name, type, xml) VALUES (?, ?, ?, ?) "
+        "ON CONFLICT (folder, name) DO UPDATE SET xml = excluded.xml")
+        .Bind(folder)
+        .Bind(view.name)
+        .Bind(static_cast<std::int64_t>(view.type))
+        .Bind(view.xml)
+        .Run();
 }
 
 }

@@ -32,6 +32,8 @@ public:
     const Entry* Find(std::int64_t folder, const std::string& name);
     /// Adds a view without saving it; fails (457) for a name in use, (5) for an empty one.
     void Add(std::int64_t folder, const std::string& name, ViewType type);
+    /// Saves a view with a definition, making an absent one; fails as `Add` does but for a name in use.
+    void Set(std::int64_t folder, const std::string& name, ViewType type, const std::string& xml);
     /// Saves a view with a definition; fails (-2147221233) when it is gone.
     void Save(std::int64_t folder, const std::string& name, const std::string& xml);
     /// Deletes a view; fails (-2147221233) when there is none of that name.
@@ -42,6 +44,7 @@ public:
 private:
     std::vector<Entry>& Load(std::int64_t folder);
     Entry& Get(std::int64_t folder, const std::string& name);
+    void Write(std::int64_t folder, const Entry& view);
 
     MailboxDatabase& mDatabase;
     std::map<std::int64_t, std::vector<Entry>> mViews;

@@ -140,7 +140,7 @@ void HostExplorer::CheckOpen() const
 
 Ref<MAPIFolder> HostExplorer::OwnFolder(const Ref<MAPIFolder>& folder) const
 {
-    return mMailbox->Folder(mMailbox->RowOf(folder));
+    return mMailbox->Own(folder);
 }
 
 void HostExplorer::Show(const Ref<MAPIFolder>& folder)

@@ -26,7 +26,7 @@ public:
 
     ObjectClass Class() const override { return ObjectClass::Mail; }
     std::string MessageClass() const override { return "IPM.Note"; }
-    std::string EntryID() const override { return mRow == 0 ? "" : mMailbox->Ids().OfDraft(mRow); }
+    std::string EntryID() const override { return mRow == 0 ? "" : mMailbox->DraftId(mRow); }
     std::string Subject() const override { return mDraft.subject; }
     void SetSubject(const std::string& subject) override { mDraft.subject = subject; }
     std::string Body() const override { return mDraft.isHtml ? "" : mDraft.body; }

@@ -2,7 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Number.h"
-#include "host/store/Mailbox.h"
+#include "platform/system/LocaleFormats.h"
 
 #include <utility>
 
@@ -37,7 +37,7 @@ Variant HostPageControl::Value() const
         return value.ToBoolean();
     }
     if (const auto* date = value.If<Date>()) {
-        return item.Owner()->Formats().General(*date);
+        return item.Formats().General(*date);
     }
     return value.ToText();
 }
@@ -66,7 +66,7 @@ std::string HostPageControl::Text() const
 {
     const auto value = Value();
     if (const auto* date = value.If<Date>()) {
-        return mItem->Owner()->Formats().General(*date);
+        return mItem->Formats().General(*date);
     }
     return value.ToText();
 }
@@ -107,7 +107,7 @@ void HostPageControl::CheckCombo() const
 Date HostPageControl::ToMoment(const Variant& value) const
 {
     if (const auto* text = value.If<std::string>()) {
-        return mItem->Owner()->Formats().Parse(*text);
+        return mItem->Formats().Parse(*text);
     }
     if (const auto* date = value.If<Date>()) {
         return *date;

@@ -1,10 +1,9 @@
 #include "host/store/DraftTable.h"
 
-#include "host/store/MailboxDatabase.h"
 #include "host/store/StoreImportJournal.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
-#include "support/TestMailbox.h"
+#include "support/TestDatabase.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -59,16 +58,8 @@ protected:
     DraftTable& Drafts() const { return mMailbox->Drafts(); }
     std::int64_t Count(const std::string& table) const
     {
-        return mMailbox->Database().Number("SELECT count(*) FROM " + table);
+        return TestDatabase(mMailbox).Number("SELECT count(*) FROM " + table);
     }
-    /// Lets the mailbox grow no further, or as it likes.
-    void Fill(bool full) const
-    {
-        auto& database = mMailbox->Database();
-        database.Execute("PRAGMA max_page_count = "
-            + (full ? std::to_string(database.Number("PRAGMA page_count")) : std::string("100000")));
-    }
-
     Ref<Mailbox> mMailbox = OpenTestMailbox();
 };
 
@@ -87,7 +78,7 @@ TEST_F(DraftTableTest, Save_MailboxOpenedAgain_FindsIt)
     const auto row = OpenTestMailbox(path)->Drafts().Save(FullDraft());
     const auto mailbox = OpenTestMailbox(path);
     ExpectEqual(mailbox->Drafts().Get(row), FullDraft());
-    EXPECT_TRUE(mailbox->Database().IsSound());
+    EXPECT_TRUE(TestDatabase(mailbox).IsSound());
 }
 
 TEST_F(DraftTableTest, Update_ReplacesAllOfIt)
@@ -130,10 +121,10 @@ TEST_F(DraftTableTest, Save_FullDisk_FailsAndKeepsNothing)
 {
     auto draft = FullDraft();
     draft.attachments[0].content = std::string(100'000, 'x');
-    Fill(true);
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { Drafts().Save(draft); }), 61);
     EXPECT_EQ(Count("draft"), 0);
-    Fill(false);
+    FreeDisk(mMailbox);
     ExpectEqual(Drafts().Get(Drafts().Save(draft)), draft);
 }
 
@@ -142,7 +133,7 @@ TEST_F(DraftTableTest, Update_FullDisk_FailsAndKeepsWhatWasThere)
     const auto row = Drafts().Save(FullDraft());
     auto draft = PlainDraft();
     draft.body = std::string(100'000, 'x');
-    Fill(true);
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { Drafts().Update(row, draft); }), 61);
     ExpectEqual(Drafts().Get(row), FullDraft());
 }
@@ -154,10 +145,10 @@ TEST_F(DraftTableTest, Save_UndoneWithAnImport_DoesNotGiveItsRowToAnother)
     const auto undone = Drafts().Save(PlainDraft());
     auto draft = FullDraft();
     draft.body = std::string(100'000, 'x');
-    Fill(true);
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { Drafts().Save(draft); }), 61);
     EXPECT_EQ(FailureNumber([&] { Drafts().Delete(undone); }), 61) << "until the import has ended";
-    Fill(false);
+    FreeDisk(mMailbox);
     EXPECT_NE(FailureNumber([&] { journal.End(); }), 0);
     EXPECT_FALSE(Drafts().Update(undone, PlainDraft()));
     EXPECT_GT(Drafts().Save(PlainDraft()), undone);
@@ -166,7 +157,7 @@ TEST_F(DraftTableTest, Save_UndoneWithAnImport_DoesNotGiveItsRowToAnother)
 TEST_F(DraftTableTest, Get_RecipientsThatCanNotBeRead_Fails)
 {
     const auto row = Drafts().Save(PlainDraft());
-    mMailbox->Database().Execute("UPDATE draft SET recipients = '[\"a'");
+    TestDatabase(mMailbox).Execute("UPDATE draft SET recipients = '[\"a'");
     EXPECT_EQ(FailureNumber([&] { Drafts().Get(row); }), 440);
 }
 

@@ -3,7 +3,7 @@
 #include "platform/objectmodel/Views.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
-#include "support/TestMailbox.h"
+#include "support/TestDatabase.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -141,12 +141,11 @@ TEST_F(MailboxTest, Save_FullDisk_FailsAndTheItemStaysUnsaved)
 {
     const auto item = NewTestItem(mMailbox, "a");
     item->SetBody(std::string(100'000, 'x'));
-    auto& database = mMailbox->Database();
-    database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { item->Save(); }), 61);
     EXPECT_EQ(item->EntryID(), "");
     EXPECT_EQ(TestItems(mMailbox)->Count(), 0);
-    database.Execute("PRAGMA max_page_count = 100000");
+    FreeDisk(mMailbox);
     item->Save();
     EXPECT_EQ(TestItems(mMailbox)->Count(), 1);
 }
@@ -155,8 +154,7 @@ TEST_F(MailboxTest, Save_FullDiskOnAChange_KeepsTheChangeUnsaved)
 {
     const auto item = NewTestItem(mMailbox, "a");
     item->Save();
-    auto& database = mMailbox->Database();
-    database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    FillDisk(mMailbox);
     item->SetBody(std::string(100'000, 'x'));
     EXPECT_EQ(FailureNumber([&] { item->Save(); }), 61);
     EXPECT_TRUE(item->HasChanges());
@@ -169,7 +167,7 @@ TEST_F(MailboxTest, Save_LockedByAnother_Fails)
     const TempFolder folder;
     const auto mailbox = OpenTestMailbox(folder.Path("mailbox.db"));
     MailboxDatabase other(folder.Path("mailbox.db"));
-    mailbox->Database().Execute("PRAGMA busy_timeout = 0");
+    TestDatabase(mailbox).Execute("PRAGMA busy_timeout = 0");
     other.Execute("BEGIN IMMEDIATE");
     const auto item = NewTestItem(mailbox, "a");
     EXPECT_EQ(FailureNumber([&] { item->Save(); }), 70);
@@ -178,15 +176,39 @@ TEST_F(MailboxTest, Save_LockedByAnother_Fails)
     EXPECT_NE(item->EntryID(), "");
 }
 
+TEST_F(MailboxTest, Save_TheRowIsGone_FailsAndTheChangeStaysUnsaved)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    mMailbox->MarkStatistics();
+    TestDatabase(mMailbox).Execute("DELETE FROM item");
+    item->SetSubject("b");
+    EXPECT_EQ(FailureNumber([&] { item->Save(); }), NotFound);
+    item->SetStart(item->Start().AddMinutes(5));
+    EXPECT_EQ(FailureNumber([&] { item->Save(); }), NotFound);
+    EXPECT_EQ(FailureNumber([&] { item->Move(mMailbox->FolderByPath("Inbox")); }), NotFound);
+    EXPECT_EQ(FailureNumber([&] { mMailbox->Stored(item); }), NotFound);
+    EXPECT_TRUE(item->HasChanges());
+    EXPECT_EQ(mMailbox->PathOf(item->Parent()), "Calendar");
+    EXPECT_EQ(mMailbox->Statistics().failed.size(), 2U);
+    EXPECT_EQ(mMailbox->Statistics().extended + mMailbox->Statistics().detailed, 0);
+}
+
+TEST_F(MailboxTest, Own_FolderOfAnotherMailbox_Fails)
+{
+    EXPECT_EQ(mMailbox->Own(mMailbox->FolderByPath("Inbox"))->Name(), "Inbox");
+    EXPECT_EQ(FailureNumber([&] { mMailbox->Own(OpenTestMailbox()->FolderByPath("Inbox")); }), NotFound);
+}
+
 TEST_F(MailboxTest, Item_PropertiesThatCanNotBeRead_Fails)
 {
     NewTestItem(mMailbox, "a")->Save();
     for (const std::string json : { "", "x", "{", "{\"a\"}", "{\"a\":[9]}", "{\"a\":[1,5]}", "{\"a\":[6,1]}",
              "{\"a\":[1,\"\\q\"]}", "{\"a\":[1,\"x\"]", "{\"a\":[1,\"x\"]}}", "{\"a\":[5,\"x\"]}", "{\"a\":[1,\"x" }) {
-        mMailbox->Database().Execute("UPDATE item SET properties = '" + json + "'");
+        TestDatabase(mMailbox).Execute("UPDATE item SET properties = '" + json + "'");
         EXPECT_EQ(FailureNumber([&] { TestItems(mMailbox)->Item(1); }), 440) << json;
     }
-    mMailbox->Database().Execute("UPDATE item SET properties = ' { \"a\" : [ 1 , \"x\" ] } '");
+    TestDatabase(mMailbox).Execute("UPDATE item SET properties = ' { \"a\" : [ 1 , \"x\" ] } '");
     EXPECT_EQ(TestItems(mMailbox)->Item(1).As<AppointmentItem>()->UserProperties()->Item("A")->Value(), Variant("x"));
 }
 
@@ -216,23 +238,23 @@ TEST_F(MailboxTest, DeleteView_ItsObjectsFail)
 TEST_F(MailboxTest, Publish_UnchangedForm_WritesNothing)
 {
     const FormTemplate form { "IPM.Appointment.Form", "Form", {}, "page" };
-    mMailbox->Forms().Publish(form);
-    const auto written = mMailbox->Database().Number("SELECT total_changes()");
-    mMailbox->Forms().Publish(form);
-    EXPECT_EQ(mMailbox->Database().Number("SELECT total_changes()"), written);
-    mMailbox->Forms().Publish({ "IPM.Appointment.FORM", "Other", {}, "page" });
+    mMailbox->Store()->Forms().Publish(form);
+    const auto written = TestDatabase(mMailbox).Number("SELECT total_changes()");
+    mMailbox->Store()->Forms().Publish(form);
+    EXPECT_EQ(TestDatabase(mMailbox).Number("SELECT total_changes()"), written);
+    mMailbox->Store()->Forms().Publish({ "IPM.Appointment.FORM", "Other", {}, "page" });
     EXPECT_EQ(mMailbox->FormOf("ipm.appointment.form")->displayName, "Other");
-    EXPECT_EQ(mMailbox->Database().Number("SELECT count(*) FROM form"), 1);
+    EXPECT_EQ(TestDatabase(mMailbox).Number("SELECT count(*) FROM form"), 1);
 }
 
 TEST_F(MailboxTest, Save_NothingChanged_WritesNothing)
 {
     const auto item = NewTestItem(mMailbox, "a");
     item->Save();
-    const auto written = mMailbox->Database().Number("SELECT total_changes()");
+    const auto written = TestDatabase(mMailbox).Number("SELECT total_changes()");
     item->SetSubject("a");
     item->Save();
-    EXPECT_EQ(mMailbox->Database().Number("SELECT total_changes()"), written);
+    EXPECT_EQ(TestDatabase(mMailbox).Number("SELECT total_changes()"), written);
 }
 
 }

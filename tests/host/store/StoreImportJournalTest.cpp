@@ -1,10 +1,9 @@
 #include "host/store/StoreImportJournal.h"
 
-#include "host/store/MailboxDatabase.h"
 #include "support/FailureNumber.h"
 #include "support/KilledProcess.h"
 #include "support/TempFolder.h"
-#include "support/TestMailbox.h"
+#include "support/TestDatabase.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,13 +13,6 @@ namespace tempodial {
 class StoreImportJournalTest : public testing::Test
 {
 protected:
-    /// Lets the mailbox grow no more.
-    void FillDisk()
-    {
-        auto& database = mMailbox->Database();
-        database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
-    }
-    void FreeDisk() { mMailbox->Database().Execute("PRAGMA max_page_count = 1000000"); }
     /// An item too large for a full disk.
     Ref<StoreItem> LargeItem(const std::string& subject)
     {
@@ -64,7 +56,7 @@ TEST_F(StoreImportJournalTest, End_CommitsTheRest)
     mJournal->End();
     EXPECT_EQ(mJournal->Committed("20061010")->count, 36000);
     EXPECT_EQ(Stored(), 1);
-    EXPECT_FALSE(mMailbox->Database().IsHolding());
+    EXPECT_FALSE(TestDatabase(mMailbox).IsHolding());
 }
 
 TEST_F(StoreImportJournalTest, HistorySaved_ForgetsThePositions)
@@ -132,7 +124,7 @@ TEST_F(StoreImportJournalTest, FullDisk_UndoesWhatWasNotCommitted)
     kept->SetSubject("changed");
     kept->Save();
     mJournal->Loaded("20061010", { 200, 2 });
-    FillDisk();
+    FillDisk(mMailbox);
     const auto large = LargeItem("large");
     EXPECT_EQ(FailureNumber([&] { large->Save(); }), 61);
 
@@ -147,7 +139,7 @@ TEST_F(StoreImportJournalTest, FullDisk_UndoesWhatWasNotCommitted)
     EXPECT_EQ(mMailbox->Statistics().failed.size(), 1U);
 
     // Nothing is written until the import has ended, lest its lines come in a second time.
-    FreeDisk();
+    FreeDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { lost->Save(); }), 61);
     EXPECT_EQ(FailureNumber([&] { mJournal->Loaded("20061010", { 300, 3 }); }), 61);
     EXPECT_EQ(FailureNumber([&] { mJournal->Commit(); }), 61);
@@ -171,7 +163,7 @@ TEST_F(StoreImportJournalTest, FullDisk_UndoesFoldersFieldsAndMoves)
     item->UserProperties()->Add("Project", PropertyType::Text, true);
     item->Move(mMailbox->FolderByPath("Inbox"));
     mMailbox->RenameFolder(mMailbox->FolderByPath("Drafts"), "Entwürfe");
-    FillDisk();
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { LargeItem("large")->Save(); }), 61);
     EXPECT_EQ(FailureNumber([&] { folder->Name(); }), static_cast<std::int32_t>(Error::ObjectNotFound));
     EXPECT_EQ(calendar->Folders()->Count(), 0);
@@ -191,7 +183,7 @@ TEST_F(StoreImportJournalTest, FullDisk_LostItemsDoNotArrive)
     const auto subscription = items->Subscribe(events);
     mJournal->Begin();
     NewTestItem(mMailbox, "lost")->Save();
-    FillDisk();
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { LargeItem("large")->Save(); }), 61);
     mMailbox->DeliverEvents();
     EXPECT_EQ(arrived, 0);
@@ -207,8 +199,8 @@ TEST_F(StoreImportJournalTest, FailedCommit_UndoesWhatWasNotCommitted)
     item->Save();
     mJournal->Loaded("20061010", { 100, 1 });
     // A row of a folder that isn't there is noticed by the commit only.
-    mMailbox->Database().Execute("PRAGMA defer_foreign_keys = ON");
-    mMailbox->Database().Execute("UPDATE item SET folder = 999");
+    TestDatabase(mMailbox).Execute("PRAGMA defer_foreign_keys = ON");
+    TestDatabase(mMailbox).Execute("UPDATE item SET folder = 999");
     EXPECT_NE(FailureNumber([&] { mJournal->Commit(); }), 0);
     EXPECT_EQ(item->EntryID(), "");
     EXPECT_FALSE(mJournal->Committed("20061010"));
@@ -221,9 +213,9 @@ TEST_F(StoreImportJournalTest, FailedCommit_UndoesWhatWasNotCommitted)
 TEST_F(StoreImportJournalTest, Begin_AfterAFailure_StartsAnew)
 {
     mJournal->Begin();
-    FillDisk();
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { LargeItem("large")->Save(); }), 61);
-    FreeDisk();
+    FreeDisk(mMailbox);
     mJournal->Begin();
     LargeItem("large")->Save();
     mJournal->Loaded("20061010", { 100, 1 });
@@ -240,11 +232,11 @@ TEST_F(StoreImportJournalTest, CommitHeld_CommitsTheImportInItsMidst)
     mJournal->Loaded("20061010", { 100, 1 });
     mMailbox->CommitHeld();
     EXPECT_EQ(mJournal->Committed("20061010")->count, 100);
-    EXPECT_TRUE(mMailbox->Database().IsHolding());
+    EXPECT_TRUE(TestDatabase(mMailbox).IsHolding());
     mMailbox->CommitHeld();
     mJournal->End();
     mMailbox->CommitHeld();
-    EXPECT_FALSE(mMailbox->Database().IsHolding());
+    EXPECT_FALSE(TestDatabase(mMailbox).IsHolding());
     mJournal = nullptr;
     mMailbox->CommitHeld();
     EXPECT_EQ(Stored(), 1);
@@ -272,11 +264,11 @@ TEST_F(StoreImportJournalTest, SaveAsPerson_CommitFails_UndoesWhatWasHeld)
     mJournal->Begin();
     NewTestItem(mMailbox, "imported")->Save();
     const auto item = LargeItem("of a person");
-    FillDisk();
+    FillDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { item->SaveAsPerson(); }), 61);
     EXPECT_TRUE(item->HasChanges());
     EXPECT_EQ(Stored(), 0);
-    FreeDisk();
+    FreeDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { item->SaveAsPerson(); }), 61);
     mJournal->Begin();
     EXPECT_TRUE(item->SaveAsPerson());

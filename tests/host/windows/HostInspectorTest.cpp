@@ -1,9 +1,9 @@
 #include "host/windows/HostInspector.h"
 
-#include "host/store/MailboxDatabase.h"
 #include "host/windows/HostCommandBarButton.h"
 #include "host/windows/InspectorFixture.h"
 #include "platform/objectmodel/Folders.h"
+#include "support/TestDatabase.h"
 
 namespace tempodial {
 
@@ -173,8 +173,7 @@ TEST_F(HostInspectorTest, Save_StoreRefuses_Fails)
 {
     const auto item = NewActivity();
     const auto inspector = mApplication->OpenInspector(item);
-    auto& database = mMailbox->Database();
-    database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    FillDisk(mMailbox);
     inspector->Edit("SubjectBox", std::string(100'000, 'x'));
     EXPECT_EQ(FailureNumber([&] { inspector->Save(); }), 61);
     EXPECT_EQ(FailureNumber([&] { Click(inspector, 1975); }), 61);

@@ -1,10 +1,9 @@
 #include "host/windows/HostMail.h"
 
-#include "host/store/MailboxDatabase.h"
 #include "host/windows/HostApplication.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
-#include "support/TestMailbox.h"
+#include "support/TestDatabase.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -182,12 +181,11 @@ TEST_F(HostMailTest, Save_DraftDeletedMeanwhile_KeepsTheMailAnew)
 
 TEST_F(HostMailTest, Save_FullDisk_FailsAndTheMailStaysUnsaved)
 {
-    auto& database = mMailbox->Database();
-    database.Execute("PRAGMA max_page_count = " + std::to_string(database.Number("PRAGMA page_count")));
+    FillDisk(mMailbox);
     mMail->SetBody(std::string(100'000, 'x'));
     EXPECT_EQ(FailureNumber([&] { mMail->Save(); }), 61);
     EXPECT_EQ(mMail->EntryID(), "");
-    database.Execute("PRAGMA max_page_count = 100000");
+    FreeDisk(mMailbox);
     mMail->Save();
     EXPECT_NE(mMail->EntryID(), "");
 }

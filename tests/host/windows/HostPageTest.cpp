@@ -43,7 +43,7 @@ TEST_F(HostPageTest, Page_AppointmentOrUnreadableLayout_IsNone)
 
     auto form = *mMailbox->FormOf(ActivityClass);
     form.page = "{ \"page\": ";
-    mMailbox->Forms().Publish(form);
+    mMailbox->NewItem(mMailbox->FolderByPath("Calendar"), form)->FormDescription()->PublishForm(FormRegistry::Personal);
     const auto pageless = mApplication->OpenInspector(NewActivity());
     EXPECT_FALSE(pageless->ShownPage());
     EXPECT_EQ(pageless->Caption(), "a - Activity");

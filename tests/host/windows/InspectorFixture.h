@@ -50,7 +50,7 @@ protected:
     }
     static Date At(int hour) { return Date::FromParts({ 2006, 10, 10, hour, 0, 0 }); }
     /// What the mailbox holds of an item, whatever its objects hold.
-    ItemData Stored(const Ref<StoreItem>& item) const { return mMailbox->Table().Load(item->Row())->data; }
+    ItemData Stored(const Ref<StoreItem>& item) const { return mMailbox->Stored(item); }
 
     /// Notes what an item tells; `action` may refuse it.
     Subscription Note(

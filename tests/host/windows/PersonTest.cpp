@@ -1,10 +1,10 @@
 #include "host/windows/Person.h"
 
-#include "host/store/MailboxDatabase.h"
 #include "host/store/StoreImportJournal.h"
 #include "host/windows/HostCommandBarButton.h"
 #include "host/windows/InspectorFixture.h"
 #include "support/TempFolder.h"
+#include "support/TestDatabase.h"
 
 namespace tempodial {
 
@@ -93,7 +93,7 @@ protected:
             NewTestItem(mailbox, "imported too")->Save();
             journal.Loaded("20061010", { 100, 2 });
             deed(*application, item);
-            EXPECT_TRUE(mailbox->Database().IsHolding());
+            EXPECT_TRUE(TestDatabase(mailbox).IsHolding());
         }
         const auto mailbox = OpenTestMailbox(path);
         const auto left = TestItems(mailbox)->Count();

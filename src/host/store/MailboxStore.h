@@ -1,0 +1,110 @@
+#pragma once
+
+#include "base/Ref.h"
+#include "host/store/DraftTable.h"
+#include "host/store/EntryIds.h"
+#include "host/store/FolderTree.h"
+#include "host/store/FormTable.h"
+#include "host/store/ItemTable.h"
+#include "host/store/SaveStatistics.h"
+#include "host/store/ViewTable.h"
+#include "platform/system/LocaleFormats.h"
+#include "platform/system/XmlDocument.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace tempodial {
+
+class MailboxDatabase;
+class StoreFolder;
+class StoreItem;
+class StoreItems;
+
+/// What the objects of one mailbox share: its tables, its live items, and what is done with them.
+class MailboxStore final : public std::enable_shared_from_this<MailboxStore>
+{
+public:
+    MailboxStore(std::unique_ptr<MailboxDatabase> database, Ref<LocaleFormats> formats, Ref<XmlFactory> xml);
+    MailboxStore(const MailboxStore&) = delete;
+    MailboxStore& operator=(const MailboxStore&) = delete;
+    ~MailboxStore();
+
+    MailboxDatabase& Database() { return *mDatabase; }
+    FolderTree& Tree() { return *mTree; }
+    ItemTable& Table() { return *mTable; }
+    ViewTable& Views() { return *mViews; }
+    FormTable& Forms() { return *mForms; }
+    DraftTable& Drafts() { return *mDrafts; }
+    const EntryIds& Ids() const { return *mIds; }
+    LocaleFormats& Formats() { return *mFormats; }
+
+    /// The condition of a filter on a folder; fails as `Items.Restrict` does.
+    FilterCondition Condition(std::int64_t folder, const std::string& filter);
+    Ref<StoreFolder> Folder(std::int64_t folder);
+    /// The row of a folder of this mailbox; fails (-2147221233) for one that is gone.
+    std::int64_t RowOf(const Ref<MAPIFolder>& folder) const;
+    /// Deletes a folder with all that is in it, for good.
+    void DeleteFolder(std::int64_t folder);
+    /// Fails (5) for a text that is no view definition.
+    void CheckView(const std::string& xml);
+
+    /// The one live object of a stored item; a row that is gone fails (-2147221233).
+    Ref<StoreItem> Item(std::int64_t row);
+    /// The one live object of an item just read.
+    Ref<StoreItem> Share(StoredItem item);
+    /// The live object of a row, nothing when there is none.
+    Ref<StoreItem> Live(std::int64_t row) const;
+    /// An item object of a row is going away.
+    void Forget(std::int64_t row);
+    /// Writes an item, counting and announcing it; `refused` is true when a handler was against it, which fails.
+    void Save(StoreItem& item, bool refused);
+    void Move(StoreItem& item, std::int64_t folder);
+    void Delete(StoreItem& item);
+    void Display(const Ref<StoreItem>& item);
+    void SetDisplay(std::function<void(const Ref<StoreItem>& item)> display) { mDisplay = std::move(display); }
+
+    /// Items of a folder want to hear of those that arrive.
+    void Listen(const Ref<StoreItems>& items);
+    /// Tells of the items that arrived, and of those that arrive meanwhile; does nothing within itself.
+    void DeliverEvents();
+
+    /// Asks whoever holds writes to commit them; does nothing when none are held.
+    void CommitHeld();
+    /// Called to commit what is held.
+    void SetCommit(std::function<void()> commit) { mCommit = std::move(commit); }
+    /// What is held was committed.
+    void Committed();
+    const SaveStatistics& Statistics() const { return mStatistics; }
+    void MarkStatistics();
+
+private:
+    void Write(StoreItem& item);
+    void Announce(const Ref<StoreItem>& item);
+    void Touch(StoreItem& item);
+    void Undone();
+
+    std::unique_ptr<MailboxDatabase> mDatabase;
+    Ref<LocaleFormats> mFormats;
+    Ref<XmlFactory> mXml;
+    std::unique_ptr<EntryIds> mIds;
+    std::unique_ptr<FolderTree> mTree;
+    std::unique_ptr<ItemTable> mTable;
+    std::unique_ptr<ViewTable> mViews;
+    std::unique_ptr<FormTable> mForms;
+    std::unique_ptr<DraftTable> mDrafts;
+    std::unordered_map<std::int64_t, std::weak_ptr<StoreItem>> mLive;
+    std::vector<std::weak_ptr<StoreItems>> mListening;
+    std::vector<std::weak_ptr<StoreItem>> mTouched;
+    std::function<void(const Ref<StoreItem>& item)> mDisplay;
+    std::function<void()> mCommit;
+    SaveStatistics mStatistics;
+    SaveStatistics mCommittedStatistics;
+    bool mDelivering = false;
+};
+
+}
