@@ -7,6 +7,7 @@
 #include "platform/objectmodel/Application.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -73,7 +74,8 @@ public:
     void RemoveExplorer(Ref<TempodialExplorer>& explorer);
     /// Takes the wrappers of windows that are gone out of the register.
     void RemoveDeadExplorers();
-    /// Takes all wrappers of an item's windows out of the register. The caller's reference is cleared.
+    /// Takes all wrappers of an item's windows out of the register, unless the one given has left it before: its
+    /// window's place may have been taken since. The caller's reference is cleared.
     void RemoveInspector(Ref<TempodialInspector>& inspector);
     void RemoveInspectorByEntryID(const std::string& entryID);
     /// Keeps a wrapper that has left the register, since its window has still to close.
@@ -162,6 +164,9 @@ private:
     void ReadOutlookVersion();
     void AddExplorer(const Ref<Explorer>& explorer);
     void AddInspector(const Ref<Inspector>& inspector);
+    bool IsRegistered(const Ref<TempodialInspector>& inspector) const;
+    /// Takes the wrappers for which the test holds out of the register.
+    void RemoveInspectors(const std::function<bool(const TempodialInspector&)>& test);
     void LoadIcons();
     /// Addresses the problem report's mail, or has its text ask the user to. Where the security guard refuses the
     /// recipient, e-mail objects are left alone from then on.

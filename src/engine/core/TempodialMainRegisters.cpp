@@ -104,20 +104,41 @@ void TempodialMain::RemoveInspector(Ref<TempodialInspector>& inspector)
 {
     const auto attempt = Failing("RemInspector error ", LineShape::TextColonStep);
     attempt.Say("RemoveInspector called");
-    attempt([&] { RemoveInspectorByEntryID(inspector->GetItem()->EntryID()); });
+    attempt([&] {
+        const bool isRegistered = IsRegistered(inspector);
+        RemoveInspectors([isRegistered, entryID = inspector->GetItem()->EntryID()](
+                             const auto& other) { return other.GetItem()->EntryID() == entryID && isRegistered; });
+    });
     inspector = nullptr;
 }
 
+bool TempodialMain::IsRegistered(const Ref<TempodialInspector>& inspector) const
+{
+    for (std::int32_t position = 1; position <= mInspectorList.Count(); ++position) {
+        if (mInspectorList.Item(position) == inspector) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void TempodialMain::RemoveInspectorByEntryID(const std::string& entryID)
+{
+    RemoveInspectors([&](const auto& inspector) { return inspector.GetItem()->EntryID() == entryID; });
+}
+
+void TempodialMain::RemoveInspectors(const std::function<bool(const TempodialInspector&)>& test)
 {
     const auto attempt = Failing("RemInspectorbyID error ", LineShape::TextColonStep);
     attempt.Say("RemoveInspectorByID called");
     std::int32_t position = 1;
     while (position <= mInspectorList.Count()) {
         // An entry that can't be asked stays, for the clean-up to end it.
-        if (attempt.Get([&] { return mInspectorList.Item(position)->GetItem()->EntryID() == entryID; })) {
+        const auto inspector = mInspectorList.Item(position);
+        if (attempt.Get([&] { return test(*inspector); })) {
             attempt.Say("Removed: " + std::to_string(position));
             mInspectorList.Remove(position);
+            inspector->StopHearingItem();
             position = 1;
         } else {
             ++position;

@@ -35,10 +35,12 @@ void TempodialInspector::Initialize(const Ref<TempodialDebugLog>& applog, const 
     });
     mStage = "set currentitem ";
     attempt([&] {
-        mCurrentItem.Set(inspector->CurrentItem().As<AppointmentItem>(),
-            { .Open = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Open),
+        const auto item = inspector->CurrentItem().As<AppointmentItem>();
+        mItemEvents
+            = item->Subscribe({ .Open = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Open),
                 .Write = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Write),
                 .Close = GuardedHandler(shared_from_this(), &TempodialInspector::mCurrentItem_Close) });
+        mCurrentItem = item;
     });
     attempt.Say([&] { return "caption: " + mInspector->Caption(); });
     if (IsOurItem()) {
@@ -59,7 +61,8 @@ void TempodialInspector::Terminate()
     mMain = nullptr;
     mStage.clear();
     mLog = nullptr;
-    mCurrentItem.Clear();
+    StopHearingItem();
+    mCurrentItem = nullptr;
     // kept: the other controls go with this object
     mProjectControl = nullptr;
     mDescControl = nullptr;
@@ -71,15 +74,20 @@ void TempodialInspector::Terminate()
     mHelpCommandBarButton.Clear();
 }
 
+void TempodialInspector::StopHearingItem()
+{
+    mItemEvents.End();
+}
+
 Ref<AppointmentItem> TempodialInspector::GetItem() const
 {
-    return mCurrentItem.Get();
+    return mCurrentItem;
 }
 
 bool TempodialInspector::IsOurItem()
 {
     return Failing("Isouritem error ", LineShape::TextOnly).Get([&] {
-        return mCurrentItem && mMain->IsOurItem(mCurrentItem.Get());
+        return mCurrentItem && mMain->IsOurItem(mCurrentItem);
     });
 }
 
@@ -104,7 +112,7 @@ void TempodialInspector::mCurrentItem_Open(bool& cancel)
             ResetAll();
         } else if (inLog) {
             Trace("display duplicate entry");
-            attempt([&, main = mMain, item = mCurrentItem.Get()] { main->CreateCalendarDuplicate(item, true); });
+            attempt([&, main = mMain, item = mCurrentItem] { main->CreateCalendarDuplicate(item, true); });
             cancel = true;
         } else {
             LeaveRegister(attempt);
@@ -165,6 +173,7 @@ void TempodialInspector::mCurrentItem_Close(bool& cancel)
     if (cancel) {
         return;
     }
+    StopHearingItem();
     RestoreToolbars(attempt);
     mStage = "remove from inspector list";
     const auto silently = Failing("", LineShape::Silent);
@@ -200,7 +209,7 @@ bool TempodialInspector::SettleChanges(const Attempt& attempt)
         }
     }
     ClearFormProperties();
-    attempt([item = mCurrentItem.Get()] { item->Save(); });
+    attempt([item = mCurrentItem] { item->Save(); });
     return true;
 }
 
@@ -208,6 +217,7 @@ void TempodialInspector::mInspector_close()
 {
     const auto attempt = Failing("", LineShape::Silent);
     attempt.Say("Inspector-close " + std::to_string(mID));
+    StopHearingItem();
     RestoreToolbars(attempt);
     LeaveRegister(attempt);
     attempt([&] { mMain->LetGoOfClosed(shared_from_this()); });
@@ -229,7 +239,7 @@ void TempodialInspector::mSaveCloseCommandBarButton_Click(const Ref<CommandBarBu
     }
     Trace("Save our written changes");
     ClearFormProperties();
-    const auto item = mCurrentItem.Get();
+    const auto item = mCurrentItem;
     mStage = "call save";
     attempt([&] { item->Save(); });
     mStage = "call close";

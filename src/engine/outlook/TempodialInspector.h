@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Subscription.h"
 #include "base/Watched.h"
 #include "engine/core/TempodialMain.h"
 #include "engine/foundation/TracedObject.h"
@@ -32,6 +33,8 @@ public:
         const Ref<Inspector>& inspector, std::int32_t id);
     /// Lets everything go; a second call is harmless.
     void Terminate();
+    /// Hears nothing of the item any more: its window closes, or another window's companion has taken its place.
+    void StopHearingItem();
     /// The item shown, nothing when there is none.
     Ref<AppointmentItem> GetItem() const;
     /// Fills the page's list of projects anew.
@@ -89,7 +92,9 @@ private:
     std::int32_t mID = 0;
     /// True when the item is an activity.
     bool mIsOurs = false;
-    Watched<AppointmentItem> mCurrentItem;
+    Ref<AppointmentItem> mCurrentItem;
+    /// Ends before the item is let go: the companion of a window that closes asks the item, but hears nothing of it.
+    Subscription mItemEvents;
     Watched<CommandBarButton> mSaveCloseCommandBarButton;
     Watched<CommandBarButton> mViewProjectCommandBarButton;
     Ref<CommandBarButton> mDeleteCommandBarButton;

@@ -195,9 +195,7 @@ void TempodialInspector::Writebound()
     const auto attempt = Failing("writebound error ", LineShape::TextOnly);
     Trace("Writebound");
     mStage = "refreshcalitem";
-    attempt([&] {
-        mMain->RefreshCalendarItem(mCurrentItem.Get(), TextOf(mProjectControl), mSubjectControl->Text(), false);
-    });
+    attempt([&] { mMain->RefreshCalendarItem(mCurrentItem, TextOf(mProjectControl), mSubjectControl->Text(), false); });
     SaveRules();
     if (!attempt.Get([&] { return mStartControl->Value().ToDate() == mOldStart; })) {
         Date day;

@@ -14,6 +14,8 @@ namespace tempodial {
 namespace {
 
 constexpr std::int32_t LongestName = 35;
+/// After so many days in a row without an activity events are let in, so that a cancel is heard among them too.
+constexpr std::int32_t LongestSilence = 100;
 
 std::int32_t Sum(std::int32_t a, std::int32_t b)
 {
@@ -56,13 +58,23 @@ bool ReportGathering::GetReportInfo(
     const auto count = attempt.Get([&] { return items->Count(); });
     for (std::int32_t index = 1; index <= count; ++index) {
         GatherItem(attempt.Get([&] { return items->Item(index).As<AppointmentItem>(); }), attempt);
-        attempt([&] { mProgress->Update(index); });
-        const bool hasAddInEnded = !mMain->mTempodialDebugLog;
-        if (hasAddInEnded || attempt.Get([&] { return mProgress->IsCancelled(); })) {
+        if (IsStopped(index, attempt)) {
             return true;
         }
     }
-    return false;
+    mSilentDays = count > 0 ? 0 : mSilentDays + 1;
+    if (mSilentDays < LongestSilence) {
+        return false;
+    }
+    mSilentDays = 0;
+    return IsStopped(0, attempt);
+}
+
+bool ReportGathering::IsStopped(std::int32_t done, const Attempt& attempt)
+{
+    attempt([&] { mProgress->Update(done); });
+    const bool hasAddInEnded = !mMain->mTempodialDebugLog;
+    return hasAddInEnded || attempt.Get([&] { return mProgress->IsCancelled(); });
 }
 
 Ref<Items> ReportGathering::GetDayItems(Date day, std::int32_t startTime, std::int32_t endTime, const Attempt& attempt)

@@ -43,6 +43,9 @@ public:
         Date day, std::int32_t startTime, std::int32_t endTime, const std::string& heading, const std::string& text);
 
 private:
+    /// Shows how many activities of the day are done and lets events in; true when the user cancelled or ended the
+    /// add-in.
+    bool IsStopped(std::int32_t done, const Attempt& attempt);
     Ref<Items> GetDayItems(Date day, std::int32_t startTime, std::int32_t endTime, const Attempt& attempt);
     void GatherItem(const Ref<AppointmentItem>& item, const Attempt& attempt);
     std::string GetGroupName(const Ref<AppointmentItem>& item, const Attempt& attempt);
@@ -60,6 +63,7 @@ private:
     Ref<ProgressBarForm> mProgress;
     Request mRequest;
     HtmlText mHtml;
+    std::int32_t mSilentDays = 0;
     std::unordered_map<std::string, std::size_t> mIndexOfName;
 };
 

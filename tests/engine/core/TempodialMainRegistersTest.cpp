@@ -285,6 +285,19 @@ TEST_F(TempodialMainRegistersTest, RemoveInspector_WithoutItem_ClearsTheReferenc
             "RemInspector error Object variable or With block variable not set:add insp handler"));
 }
 
+TEST_F(TempodialMainRegistersTest, RemoveInspector_LeftBefore_TakesNoOther)
+{
+    const auto item = Saved();
+    const auto window = Host().OpenInspector(item);
+    auto wrapper = MakeRef<TempodialInspector>(mPlatform);
+    wrapper->Initialize(Main().mTempodialDebugLog, mConnect.Main(), window, 90);
+    Traced();
+    Main().RemoveInspector(wrapper);
+    EXPECT_FALSE(wrapper);
+    EXPECT_THAT(Traced(), ElementsAre("RemoveInspector called", "RemoveInspectorByID called", "list: 1"));
+    EXPECT_TRUE(Main().IsInspector(item));
+}
+
 TEST_F(TempodialMainRegistersTest, RegularCleanUp_EndsEachWrapperWithoutItem)
 {
     const auto live = Saved();

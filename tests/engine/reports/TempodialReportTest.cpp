@@ -258,6 +258,15 @@ TEST_F(TempodialReportTest, CreateReport_CancelOnTheFirstDay_IsEmptyAndKeepsTheC
     EXPECT_THAT(ReportTrace(), Not(Contains(HasSubstr("read header"))));
 }
 
+TEST_F(TempodialReportTest, CreateReport_CancelAmongDaysWithoutActivities_IsHeard)
+{
+    mAddIn.eventPump->hook = [&] { mAddIn.ClickCancel(); };
+    mAddIn.Trace();
+    const auto report = mReport->CreateReport(Day(10), Day(10).AddDays(1000), 1, true, false, mCsvPath, true, false);
+    EXPECT_EQ(report, "");
+    EXPECT_EQ(ReportTrace().size(), 1 + 2 * 100U) << "a line for the report, two for each day until it was heard";
+}
+
 TEST_F(TempodialReportTest, CreateReport_AddInEndsMeanwhile_IsEmptyAndKeepsTheCsvFile)
 {
     Add(Moment(10, 9, 0), 5, "A", "Notepad", "x");
