@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "host/files/PathOperations.h"
 #include "host/store/MailboxDatabase.h"
 #include "host/store/MailboxError.h"
 #include "host/store/MailboxFile.h"
@@ -11,7 +12,6 @@
 #include "host/store/StoreItem.h"
 #include "host/store/StoreNameSpace.h"
 
-#include <filesystem>
 #include <memory>
 #include <utility>
 
@@ -40,7 +40,7 @@ void Create(const std::string& path)
 Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, Ref<XmlFactory> xml)
 {
     const bool inMemory = path == ":memory:";
-    const auto fullPath = inMemory ? path : std::filesystem::absolute(path).string();
+    const auto fullPath = inMemory ? path : AbsolutePath(path).Text();
     try {
         bool isDoubtful = false;
         if (!inMemory) {
