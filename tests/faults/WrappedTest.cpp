@@ -2,6 +2,7 @@
 
 #include "host/store/FormTemplate.h"
 #include "host/system/BitmapLoader.h"
+#include "host/system/ExpatXml.h"
 #include "host/system/HostClock.h"
 #include "host/system/HostFileSystem.h"
 #include "host/system/HostShell.h"
