@@ -3,9 +3,8 @@
 #include "cli/CommandLineEventPump.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
-#include "faults/RecordingFileSystem.h"
-#include "faults/RecordingImportJournal.h"
-#include "faults/RecordingRegistry.h"
+#include "faults/ProblemRecorder.h"
+#include "faults/Wrapped.h"
 #include "forms/FormModelFactory.h"
 
 #include <memory>
@@ -42,9 +41,10 @@ Ref<const Platform> ConnectedRun::Surroundings(const Options& options) const
 {
     const auto platform = MakeRef<Platform>(mProfile.Surroundings());
     const auto forms = MakeRef<FormModelFactory>();
-    platform->fileSystem = MakeRef<RecordingFileSystem>(platform->fileSystem, mProblems);
-    platform->registry = MakeRef<RecordingRegistry>(platform->registry, mProblems);
-    platform->importJournal = MakeRef<RecordingImportJournal>(platform->importJournal, mProblems);
+    const auto recorder = MakeRef<ProblemRecorder>(mProblems);
+    platform->fileSystem = Wrapped(platform->fileSystem, recorder);
+    platform->registry = Wrapped(platform->registry, recorder);
+    platform->importJournal = Wrapped(platform->importJournal, recorder);
     platform->forms = forms;
     platform->messageBox = mMessageBox;
     platform->eventPump

@@ -1,5 +1,6 @@
 #include "faults/Wrapped.h"
 
+#include "faults/FaultPlan.h"
 #include "host/store/FormTemplate.h"
 #include "host/system/BitmapLoader.h"
 #include "host/system/ExpatXml.h"
