@@ -9,29 +9,28 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
 set(tests "${PROJECT_SOURCE_DIR}/tests")
 
-tempodial_folder(test_support tests/support LINK slots platform base GTest::gmock GTest::gtest GTest::gmock_main)
-get_target_property(type test_support TYPE)
-if(type STREQUAL "INTERFACE_LIBRARY")
-    set(scope INTERFACE)
-else()
-    set(scope PUBLIC)
-endif()
-target_include_directories(test_support ${scope} "${tests}" "${tests}/support")
-target_compile_definitions(test_support ${scope}
+# How the tests are compiled.
+add_library(test_options INTERFACE)
+target_link_libraries(test_options INTERFACE tempodial_options GTest::gmock GTest::gtest GTest::gmock_main)
+target_include_directories(test_options INTERFACE "${tests}" "${tests}/support")
+target_compile_definitions(test_options INTERFACE
     TEMPODIAL_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     TEMPODIAL_EXECUTABLE="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/tempodial"
     TEMPODIAL_SHARE_DIR="${CMAKE_BINARY_DIR}/share/tempodial"
     TEST_DATA_DIR="${tests}/data")
 if(TEMPODIAL_SANITIZERS)
     # What the tests do themselves needs no speed, and compiles in half the time without.
-    target_compile_options(test_support ${scope} -O0)
+    target_compile_options(test_options INTERFACE -O0)
 endif()
 
 # The tests' precompiled header, made once.
 file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/TestHeaders.cpp" CONTENT "")
 add_library(test_headers OBJECT "${CMAKE_BINARY_DIR}/TestHeaders.cpp")
-target_link_libraries(test_headers PRIVATE test_support)
+target_link_libraries(test_headers PRIVATE test_options)
 target_precompile_headers(test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <functional> <memory> <string> <vector>)
+
+tempodial_folder(test_support tests/support LINK test_options slots platform base)
+target_precompile_headers(test_support REUSE_FROM test_headers)
 
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${tests}/*.cpp")
 list(FILTER sources EXCLUDE REGEX "^${tests}/(support/|(.*/)?data/)")

@@ -3,9 +3,8 @@
 #include "cli/CommandLineEventPump.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
-#include "faults/RecordingFileSystem.h"
-#include "faults/RecordingImportJournal.h"
-#include "faults/RecordingRegistry.h"
+#include "faults/ProblemRecorder.h"
+#include "faults/Wrapped.h"
 
 #include <memory>
 #include <sys/ioctl.h>
@@ -39,10 +38,11 @@ ConnectedRun::ConnectedRun(const Options& options)
 
 Platform ConnectedRun::Surroundings(const Options& options) const
 {
+    const auto recorder = MakeRef<ProblemRecorder>(mProblems);
     auto surroundings = mSession.Surroundings();
-    surroundings.fileSystem = MakeRef<RecordingFileSystem>(surroundings.fileSystem, mProblems);
-    surroundings.registry = MakeRef<RecordingRegistry>(surroundings.registry, mProblems);
-    surroundings.importJournal = MakeRef<RecordingImportJournal>(surroundings.importJournal, mProblems);
+    surroundings.fileSystem = Wrapped(surroundings.fileSystem, recorder);
+    surroundings.registry = Wrapped(surroundings.registry, recorder);
+    surroundings.importJournal = Wrapped(surroundings.importJournal, recorder);
     surroundings.messageBox = mMessageBox;
     surroundings.eventPump = MakeRef<CommandLineEventPump>(
         surroundings.eventPump, mSession.Forms(), options.quiet ? nullptr : TerminalLine());

@@ -15,12 +15,12 @@ void FaultPlan::Add(Fault fault)
     }
 }
 
-void FaultPlan::Call(std::span<const std::string_view> classes, std::string_view member, std::string_view key)
+void FaultPlan::Before(const InterposedCall& call)
 {
     ++mCalls;
     std::optional<Failure> failure;
     for (auto& fault : mFaults) {
-        if (!Fits(fault.call, classes, member, key)) {
+        if (!Fits(fault.call, call)) {
             continue;
         }
         if (fault.skip > 0) {
@@ -34,7 +34,7 @@ void FaultPlan::Call(std::span<const std::string_view> classes, std::string_view
     }
     std::erase_if(mFaults, [](const Fault& fault) { return fault.times == 0; });
     if (mCalls == mFailingCall) {
-        mFailedCall = std::string(classes.front()) + "." + std::string(member) + ":" + std::string(key);
+        mFailedCall = std::string(call.classes.front()) + "." + std::string(call.member) + ":" + std::string(call.key);
         throw Failure(Error::Automation);
     }
     if (failure) {
@@ -42,13 +42,12 @@ void FaultPlan::Call(std::span<const std::string_view> classes, std::string_view
     }
 }
 
-bool FaultPlan::Fits(
-    const std::string& call, std::span<const std::string_view> classes, std::string_view member, std::string_view key)
+bool FaultPlan::Fits(const std::string& planned, const InterposedCall& call)
 {
-    return std::any_of(classes.begin(), classes.end(), [&](std::string_view name) {
-        const auto operation = std::string(name) + "." + std::string(member);
-        return EqualIgnoringCase(call, operation)
-            || (!key.empty() && EqualIgnoringCase(call, operation + ":" + std::string(key)));
+    return std::any_of(call.classes.begin(), call.classes.end(), [&](std::string_view name) {
+        const auto operation = std::string(name) + "." + std::string(call.member);
+        return EqualIgnoringCase(planned, operation)
+            || (!call.key.empty() && EqualIgnoringCase(planned, operation + ":" + std::string(call.key)));
     });
 }
 

@@ -1,17 +1,16 @@
 #pragma once
 
 #include "base/Failure.h"
+#include "faults/Interposer.h"
 
 #include <cstdint>
-#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tempodial {
 
 /// Which of the add-in's calls to its surroundings are to fail. It counts all of them.
-class FaultPlan
+class FaultPlan final : public Interposer
 {
 public:
     /// Calls of one operation that are to fail.
@@ -35,12 +34,11 @@ public:
     /// The calls made so far.
     std::int64_t CallCount() const { return mCalls; }
 
-    /// Takes note of a call of a member of a class, which may be known by several names. A planned failure is thrown.
-    void Call(std::span<const std::string_view> classes, std::string_view member, std::string_view key);
+    /// Counts a call. A planned failure is thrown.
+    void Before(const InterposedCall& call) override;
 
 private:
-    static bool Fits(const std::string& call, std::span<const std::string_view> classes, std::string_view member,
-        std::string_view key);
+    static bool Fits(const std::string& planned, const InterposedCall& call);
 
     std::vector<Fault> mFaults;
     std::int64_t mCalls = 0;

@@ -1,5 +1,5 @@
-#include "cli/ProgramFixture.h"
 #include "cli/ReadBack.h"
+#include "support/ProgramFixture.h"
 
 #include <sys/stat.h>
 

@@ -1,7 +1,7 @@
 #include "base/Text.h"
-#include "cli/ProgramFixture.h"
 #include "cli/ReadBack.h"
 #include "cli/StartedProgram.h"
+#include "support/ProgramFixture.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "base/Text.h"
-#include "cli/ProgramFixture.h"
 #include "cli/ReadBack.h"
+#include "support/ProgramFixture.h"
 
 #include <unistd.h>
 

@@ -1,5 +1,5 @@
-#include "cli/ProgramFixture.h"
 #include "session/ProfileFolder.h"
+#include "support/ProgramFixture.h"
 
 #include <cstdlib>
 #include <sys/stat.h>

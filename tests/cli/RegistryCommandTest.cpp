@@ -1,4 +1,6 @@
-#include "cli/ProgramFixture.h"
+#include "support/ProgramFixture.h"
+
+#include <fstream>
 
 namespace tempodial {
 

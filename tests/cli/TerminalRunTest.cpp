@@ -1,6 +1,6 @@
 #include "cli/Interruption.h"
-#include "cli/ProgramFixture.h"
 #include "cli/StartedProgram.h"
+#include "support/ProgramFixture.h"
 
 #include <csignal>
 

@@ -15,29 +15,15 @@ namespace tempodial {
 class MailboxContractStore final : public ContractStore
 {
 public:
-    MailboxContractStore(const std::string& locale, bool inMemory)
-        : mFormats(MakeRef<IcuLocaleFormats>(locale))
-        , mMailbox(
-              Mailbox::Open(inMemory ? ":memory:" : mFolder.Path("mailbox.db"), mFormats, MakeRef<ExpatXmlFactory>()))
-    {
-    }
+    MailboxContractStore(const std::string& locale, bool inMemory);
 
-    Ref<NameSpace> Session() override { return mMailbox->NameSpace(); }
-    Ref<LocaleFormats> Formats() override { return mFormats; }
-    void DeliverEvents() override { mMailbox->DeliverEvents(); }
-    void RenameFolder(const Ref<MAPIFolder>& folder, const std::string& name) override
-    {
-        mMailbox->RenameFolder(folder, name);
-    }
-    void MoveFolder(const Ref<MAPIFolder>& folder, const Ref<MAPIFolder>& parent) override
-    {
-        mMailbox->MoveFolder(folder, parent);
-    }
-    void DeleteFolder(const Ref<MAPIFolder>& folder) override { mMailbox->DeleteFolder(folder); }
-    Ref<AppointmentItem> NewItem(const Ref<MAPIFolder>& folder, const FormTemplate& form) override
-    {
-        return mMailbox->NewItem(folder, form);
-    }
+    Ref<NameSpace> Session() override;
+    Ref<LocaleFormats> Formats() override;
+    void DeliverEvents() override;
+    void RenameFolder(const Ref<MAPIFolder>& folder, const std::string& name) override;
+    void MoveFolder(const Ref<MAPIFolder>& folder, const Ref<MAPIFolder>& parent) override;
+    void DeleteFolder(const Ref<MAPIFolder>& folder) override;
+    Ref<AppointmentItem> NewItem(const Ref<MAPIFolder>& folder, const FormTemplate& form) override;
 
 private:
     TempFolder mFolder;

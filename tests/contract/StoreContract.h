@@ -24,36 +24,14 @@ protected:
     static constexpr auto NotFound = static_cast<std::int32_t>(Error::ObjectNotFound);
 
     /// A moment of October 10, 2006.
-    static Date At(int hour, int minute, int second = 0)
-    {
-        return Date::FromParts({ 2006, 10, 10, hour, minute, second });
-    }
+    static Date At(int hour, int minute, int second = 0);
 
-    Ref<AppointmentItem> NewItem(const std::string& subject, Date start, Date end)
-    {
-        auto item = mLog->Items()->Add("IPM.Appointment");
-        item->SetSubject(subject);
-        item->SetStart(start);
-        item->SetEnd(end);
-        return item;
-    }
-    Ref<AppointmentItem> SavedItem(const std::string& subject, Date start, Date end)
-    {
-        auto item = NewItem(subject, start, end);
-        item->Save();
-        return item;
-    }
+    Ref<AppointmentItem> NewItem(const std::string& subject, Date start, Date end);
+    Ref<AppointmentItem> SavedItem(const std::string& subject, Date start, Date end);
     /// A moment as a filter quotes it.
-    std::string Quoted(Date date) { return "\"" + mStore->Formats()->Moment(date) + "\""; }
-    static std::vector<std::string> Subjects(const Ref<Items>& items)
-    {
-        std::vector<std::string> subjects;
-        for (std::int32_t index = 1; index <= items->Count(); ++index) {
-            subjects.push_back(items->Item(index)->Subject());
-        }
-        return subjects;
-    }
-    std::vector<std::string> Filtered(const std::string& filter) { return Subjects(mLog->Items()->Restrict(filter)); }
+    std::string Quoted(Date date);
+    static std::vector<std::string> Subjects(const Ref<Items>& items);
+    std::vector<std::string> Filtered(const std::string& filter);
 
     std::unique_ptr<ContractStore> mStore = GetParam().make();
     Ref<MAPIFolder> mCalendar = mStore->Session()->GetDefaultFolder(DefaultFolder::Calendar);

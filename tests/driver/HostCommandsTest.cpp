@@ -1,6 +1,8 @@
 #include "support/DriverFixture.h"
 #include "support/TempFolder.h"
 
+#include <fstream>
+
 namespace tempodial {
 
 namespace {

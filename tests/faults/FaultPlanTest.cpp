@@ -23,7 +23,7 @@ protected:
         std::string outcome;
         for (int i = 0; i < count; ++i) {
             try {
-                mPlan.Call(Classes, member, key);
+                mPlan.Before({ Classes, member, key, {} });
                 outcome += '+';
             } catch (const Failure& failure) {
                 mLast = failure;
@@ -37,13 +37,13 @@ protected:
     Failure mLast { Error::Overflow };
 };
 
-TEST_F(FaultPlanTest, Call_NothingPlanned_PassesAndCounts)
+TEST_F(FaultPlanTest, Before_NothingPlanned_PassesAndCounts)
 {
     EXPECT_EQ(Calls(3), "+++");
     EXPECT_EQ(mPlan.CallCount(), 3);
 }
 
-TEST_F(FaultPlanTest, Call_Planned_FailsAfterTheSkippedAsOftenAsAsked)
+TEST_F(FaultPlanTest, Before_Planned_FailsAfterTheSkippedAsOftenAsAsked)
 {
     mPlan.Add({ .call = "CommandBarButton.Caption", .skip = 2, .times = 3, .failure = Failure(287, "No") });
     EXPECT_EQ(Calls(7), "++---++");
@@ -51,7 +51,7 @@ TEST_F(FaultPlanTest, Call_Planned_FailsAfterTheSkippedAsOftenAsAsked)
     EXPECT_EQ(mLast.Description(), "No");
 }
 
-TEST_F(FaultPlanTest, Call_OtherMembersAndClasses_DontCount)
+TEST_F(FaultPlanTest, Before_OtherMembersAndClasses_DontCount)
 {
     mPlan.Add({ .call = "CommandBarButton.Tag" });
     mPlan.Add({ .call = "CommandBarPopup.Caption" });
@@ -60,7 +60,7 @@ TEST_F(FaultPlanTest, Call_OtherMembersAndClasses_DontCount)
     EXPECT_EQ(Calls(2, "Tag"), "-+");
 }
 
-TEST_F(FaultPlanTest, Call_BaseClassOrAnyCase_IsTheSame)
+TEST_F(FaultPlanTest, Before_BaseClassOrAnyCase_IsTheSame)
 {
     mPlan.Add({ .call = "CommandBarControl.Caption" });
     EXPECT_EQ(Calls(2), "-+");
@@ -68,7 +68,7 @@ TEST_F(FaultPlanTest, Call_BaseClassOrAnyCase_IsTheSame)
     EXPECT_EQ(Calls(2), "-+");
 }
 
-TEST_F(FaultPlanTest, Call_Keys_AreToldApart)
+TEST_F(FaultPlanTest, Before_Keys_AreToldApart)
 {
     mPlan.Add({ .call = "CommandBarButton.Item:Menu Bar", .times = 2 });
     EXPECT_EQ(Calls(2, "Item", "Standard"), "++");

@@ -1,7 +1,9 @@
 #include "faults/Wrapped.h"
 
+#include "faults/FaultPlan.h"
 #include "host/store/FormTemplate.h"
 #include "host/system/BitmapLoader.h"
+#include "host/system/ExpatXml.h"
 #include "host/system/HostClock.h"
 #include "host/system/HostFileSystem.h"
 #include "host/system/HostShell.h"

@@ -1,6 +1,7 @@
 #include "base/Failure.h"
 #include "fuzz/FuzzTarget.h"
 #include "host/store/MailboxError.h"
+#include "host/system/IcuLocaleFormats.h"
 #include "platform/objectmodel/Views.h"
 #include "support/TempFolder.h"
 #include "support/TestMailbox.h"

@@ -1,4 +1,4 @@
-#include "cli/ProgramFixture.h"
+#include "support/ProgramFixture.h"
 
 #include <filesystem>
 #include <string>

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <fstream>
 #include <functional>
 #include <set>
 #include <sys/file.h>

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "cli/ProgramFixture.h"
 #include "scenarios/ProfileState.h"
+#include "support/ProgramFixture.h"
 
 #include <filesystem>
 #include <functional>
 #include <map>
-#include <sstream>
 #include <string>
 
 namespace tempodial {
@@ -17,74 +16,20 @@ class TroubleFixture : public ProgramFixture
 protected:
     static constexpr auto Live = "tracker_granules20061010.out";
 
-    TroubleFixture()
-    {
-        const auto profile = mProfile;
-        mProfile = mFolder.Path("undisturbed");
-        WriteDays();
-        const auto result = Sync();
-        EXPECT_EQ(result.status, 0) << result.error;
-        mExpected = StateOf(mProfile, mNow);
-        EXPECT_EQ(mExpected.items.size(), 31U);
-        mProfile = profile;
-    }
+    TroubleFixture();
 
-    static std::vector<std::string> SlotsOf(const std::string& day, int count)
-    {
-        std::vector<std::string> slots;
-        for (int i = 0; i < count; ++i) {
-            const int begin = 32400 + i * 600;
-            const auto document = day + " " + std::to_string(i) + ".doc";
-            slots.push_back(WordSlot(begin, begin + 300, document));
-            slots.push_back(WordLine(begin + 300, begin + 600, document).Continuation().Text());
-            slots.push_back(WordLine(begin + 400, begin + 600, "aside of " + document).Detail().Text());
-        }
-        return slots;
-    }
+    static std::vector<std::string> SlotsOf(const std::string& day, int count);
     /// Puts the tracker files of the three days into the profile.
-    void WriteDays() const
-    {
-        WriteTracker("20061010", SlotsOf("today", 12));
-        WriteTracker("20061009", SlotsOf("yesterday", 12));
-        WriteTracker("20061007", SlotsOf("saturday", 7));
-    }
-    ProgramResult Sync() const { return Run({ "sync", "--quiet" }); }
+    void WriteDays() const;
+    ProgramResult Sync() const;
     /// A run that ended in a way that is told: done, or each problem in a line that says what to do.
-    static void ExpectTold(const ProgramResult& result)
-    {
-        EXPECT_TRUE(result.status == 0 || result.status == 1) << result.status << ": " << result.error;
-        EXPECT_EQ(result.error.empty(), result.status == 0) << result.error;
-        std::istringstream lines(result.error);
-        for (std::string line; std::getline(lines, line);) {
-            EXPECT_THAT(line + "\n", testing::MatchesRegex(MessageForm));
-        }
-    }
+    static void ExpectTold(const ProgramResult& result);
     /// The next sync has nothing to complain of, and all is as if nothing had been wrong.
-    void ExpectNextSyncCompletes() const
-    {
-        ExpectNextSyncImportsAll();
-        EXPECT_EQ(FilesOf(StateOf(mProfile, mNow)), FilesOf(mExpected));
-    }
+    void ExpectNextSyncCompletes() const;
     /// The next sync has nothing to complain of, and the activities and the history are as if nothing had been wrong.
-    void ExpectNextSyncImportsAll() const
-    {
-        const auto result = Sync();
-        EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(result.error, "");
-        const auto state = StateOf(mProfile, mNow);
-        EXPECT_EQ(state.items, mExpected.items);
-        EXPECT_EQ(state.history, mExpected.history);
-    }
+    void ExpectNextSyncImportsAll() const;
     /// The files of a state, each with a mark of what it holds.
-    static std::map<std::string, std::string> FilesOf(const ProfileState& state)
-    {
-        std::map<std::string, std::string> files;
-        for (const auto& [name, content] : state.trackerFiles) {
-            files[name]
-                = std::to_string(content.size()) + " bytes, " + std::to_string(std::hash<std::string>()(content));
-        }
-        return files;
-    }
+    static std::map<std::string, std::string> FilesOf(const ProfileState& state);
 
     ProfileState mExpected;
 };

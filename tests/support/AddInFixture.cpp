@@ -145,4 +145,12 @@ std::string TestAddIn::DataPath(const std::string& name) const
     return mProfile + "/" + DataFolderName + "/" + name;
 }
 
+AddInFixture::AddInFixture()
+{
+    mAddIn.Connect();
+    mAddIn.Trace();
+}
+
+AddInFixture::~AddInFixture() = default;
+
 }

@@ -63,11 +63,8 @@ private:
 class AddInFixture : public testing::Test
 {
 protected:
-    AddInFixture()
-    {
-        mAddIn.Connect();
-        mAddIn.Trace();
-    }
+    AddInFixture();
+    ~AddInFixture() override;
 
     TempFolder mFolder { TempFolder::InMemory() };
     TestAddIn mAddIn { mFolder.Path() };

@@ -28,30 +28,10 @@ public:
     std::function<void()> onShow;
 
     /// Answers the next box that has no answer yet.
-    void NextAnswer(Answer answer) { mAnswers.push_back(answer); }
+    void NextAnswer(Answer answer);
     /// The texts since the last call.
-    std::vector<std::string> TakeTexts()
-    {
-        std::vector<std::string> texts;
-        for (const auto& box : shown) {
-            texts.push_back(box.text);
-        }
-        shown.clear();
-        return texts;
-    }
-    Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override
-    {
-        shown.push_back({ text, buttons, icon });
-        if (onShow) {
-            onShow();
-        }
-        if (mAnswers.empty()) {
-            return buttons.front();
-        }
-        const auto answer = mAnswers.front();
-        mAnswers.pop_front();
-        return answer;
-    }
+    std::vector<std::string> TakeTexts();
+    Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override;
 
 private:
     std::deque<Answer> mAnswers;

@@ -8,8 +8,6 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,42 +18,19 @@ namespace tempodial {
 class DriverFixture : public testing::Test
 {
 protected:
-    ~DriverFixture() override { mDriver->Exit(); }
+    ~DriverFixture() override;
 
     /// Does a command that must go well, and answers what it answered.
-    Json Do(const Json& command)
-    {
-        auto answer = mDriver->Do(command);
-        EXPECT_EQ(answer.at("ok"), true) << command << "\n" << answer;
-        return answer;
-    }
+    Json Do(const Json& command);
     /// Does a command that must be refused, and answers why.
-    std::string Refused(const Json& command)
-    {
-        const auto answer = mDriver->Do(command);
-        EXPECT_EQ(answer.at("ok"), false) << command << "\n" << answer;
-        return answer.value("error", "");
-    }
+    std::string Refused(const Json& command);
     /// Ends the driver and starts another one over the same profile.
-    void Restart()
-    {
-        mDriver->Exit();
-        mDriver.reset();
-        mDriver = std::make_unique<Driver>(mOptions);
-    }
-    std::string DataPath(const std::string& name) const { return mFolder.Path("Tempodial/" + name); }
+    void Restart();
+    std::string DataPath(const std::string& name) const;
     /// Writes a day's tracker file of slots.
-    void WriteTracker(const std::string& dayKey, const std::vector<std::string>& slots) const
-    {
-        std::filesystem::create_directories(mFolder.Path("Tempodial"));
-        std::ofstream(DataPath("tracker_granules" + dayKey + ".out"), std::ios::binary) << TrackerText(slots);
-    }
+    void WriteTracker(const std::string& dayKey, const std::vector<std::string>& slots) const;
     /// A slot of five minutes from a time of the day on, in which a document was open in the word processor.
-    static std::string Slot(int hour, int minute, const std::string& document)
-    {
-        const auto begin = (hour * 60 + minute) * 60;
-        return WordSlot(begin, begin + 300, document);
-    }
+    static std::string Slot(int hour, int minute, const std::string& document);
 
     TempFolder mFolder { TempFolder::InMemory() };
     ProfileOptions mOptions {

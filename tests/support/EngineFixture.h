@@ -4,7 +4,6 @@
 #include "engine/foundation/TempodialConfig.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/foundation/TempodialUtils.h"
-#include "host/store/FormTemplate.h"
 #include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
 #include "support/MapRegistry.h"
@@ -25,61 +24,22 @@ protected:
     static constexpr const char* ProductKey = "Software\\Lindenfold\\Tempodial";
     static constexpr const char* ActivityClass = "IPM.Appointment.TDActivity1";
 
-    EngineFixture()
-    {
-        mHost.clock->Set(mClock->Now());
-        mClock = mHost.clock;
-        mPlatform = mHost.platform;
-        mRegistry->values[{ Hive::LocalMachine, ProductKey, "Install Directory" }] = mFolder.Path("install");
-        mApplication->fromTemplate = [this](const std::string&, const Ref<MAPIFolder>& folder) {
-            return mMailbox->NewItem(folder, FormTemplate { mFormClass, "", {}, "" });
-        };
-        *mApplication->observer = [this](const std::string& member) { mWindowUses.push_back(member); };
-        mMain->Initialize("Tempodial.Connect", mApplication);
-        mLog = mMain->mTempodialDebugLog;
-        ForgetTrace();
-    }
-    ~EngineFixture() override { mMain->Terminate(); }
+    EngineFixture();
+    ~EngineFixture() override;
 
-    Ref<MAPIFolder> Calendar() { return mNamespace->GetDefaultFolder(DefaultFolder::Calendar); }
+    Ref<MAPIFolder> Calendar();
     /// What the product keeps in the user's registry, "" for an absent value.
-    std::string Registered(const std::string& value)
-    {
-        return mRegistry->Read(Hive::CurrentUser, ProductKey, value, RegistryAccess::Query).ToText();
-    }
-    void Register(const std::string& value, const std::string& text)
-    {
-        mRegistry->Write(Hive::CurrentUser, ProductKey, value, text);
-    }
+    std::string Registered(const std::string& value);
+    void Register(const std::string& value, const std::string& text);
     /// Makes the form of activities known to the mailbox.
-    void PublishForm()
-    {
-        mMailbox->NewItem(Calendar(), FormTemplate { ActivityClass, "Activity", {}, "" })
-            ->FormDescription()
-            ->PublishForm(FormRegistry::Personal);
-    }
+    void PublishForm();
     /// Puts a file into the install folder.
-    void Install(const std::string& name, const std::string& content)
-    {
-        std::filesystem::create_directories(mFolder.Path("install"));
-        mFolder.Write("install/" + name, content);
-    }
+    void Install(const std::string& name, const std::string& content);
     /// Shows an item in a window.
-    void Open(const Ref<AppointmentItem>& item)
-    {
-        item->Display();
-        ForgetTrace();
-    }
-    static std::string Property(const Ref<AppointmentItem>& item, const std::string& name)
-    {
-        const auto property = item->UserProperties()->Item(name);
-        return property ? property->Value().ToText() : "(absent)";
-    }
+    void Open(const Ref<AppointmentItem>& item);
+    static std::string Property(const Ref<AppointmentItem>& item, const std::string& name);
     /// A moment of October 10, 2006.
-    static Date At(int hour, int minute, int second = 0)
-    {
-        return Date::FromParts({ 2006, 10, 10, hour, minute, second });
-    }
+    static Date At(int hour, int minute, int second = 0);
 
     Ref<MapRegistry> mRegistry = MakeRef<MapRegistry>();
     TestHost mHost { mFolder.Path(), mRegistry };

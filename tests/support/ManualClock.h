@@ -10,14 +10,11 @@ namespace tempodial {
 class ManualClock : public Clock
 {
 public:
-    explicit ManualClock(Date now = {})
-        : mNow(now)
-    {
-    }
+    explicit ManualClock(Date now = {});
 
-    Date Now() override { return mNow; }
-    void Set(Date now) { mNow = now; }
-    void Advance(std::int64_t seconds) { mNow = mNow.AddSeconds(seconds); }
+    Date Now() override;
+    void Set(Date now);
+    void Advance(std::int64_t seconds);
 
 private:
     Date mNow;

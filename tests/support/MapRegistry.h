@@ -24,21 +24,8 @@ public:
     RegistryAccess lastAccess {};
     bool refusesWriting = false;
 
-    Variant Read(Hive hive, const std::string& key, const std::string& value, RegistryAccess access) override
-    {
-        keys.emplace(hive, key);
-        lastAccess = access;
-        const auto found = values.find({ hive, key, value });
-        return found == values.end() ? Variant() : found->second;
-    }
-    void Write(Hive hive, const std::string& key, const std::string& value, const std::string& text) override
-    {
-        if (refusesWriting) {
-            throw Failure(Error::PermissionDenied);
-        }
-        keys.emplace(hive, key);
-        values[{ hive, key, value }] = text;
-    }
+    Variant Read(Hive hive, const std::string& key, const std::string& value, RegistryAccess access) override;
+    void Write(Hive hive, const std::string& key, const std::string& value, const std::string& text) override;
 };
 
 }

@@ -71,52 +71,29 @@ private:
 class ObservedCommandBarButton : public ObservedControl<CommandBarButton>
 {
 public:
-    ObservedCommandBarButton(Ref<CommandBarButton> button, WindowObserver observer)
-        : ObservedControl(std::move(button), std::move(observer), "Button")
-    {
-    }
+    ObservedCommandBarButton(Ref<CommandBarButton> button, WindowObserver observer);
 
-    ButtonStyle Style() const override { return Told("Style")->Style(); }
-    void SetStyle(ButtonStyle style) override { Told("SetStyle")->SetStyle(style); }
-    void SetPicture(const Ref<Picture>& picture) override { Told("SetPicture")->SetPicture(picture); }
-    void SetMask(const Ref<Picture>& mask) override { Told("SetMask")->SetMask(mask); }
-    Subscription Subscribe(CommandBarButtonEvents events) override
-    {
-        return Told("Subscribe")->Subscribe(std::move(events));
-    }
+    ButtonStyle Style() const override;
+    void SetStyle(ButtonStyle style) override;
+    void SetPicture(const Ref<Picture>& picture) override;
+    void SetMask(const Ref<Picture>& mask) override;
+    Subscription Subscribe(CommandBarButtonEvents events) override;
 };
 
 /// Controls that tell an observer of their use.
 class ObservedCommandBarControls : public CommandBarControls
 {
 public:
-    ObservedCommandBarControls(Ref<CommandBarControls> controls, WindowObserver observer)
-        : mControls(std::move(controls))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedCommandBarControls(Ref<CommandBarControls> controls, WindowObserver observer);
 
-    std::int32_t Count() override { return Told("Count")->Count(); }
-    Ref<CommandBarControl> Item(std::int32_t index) override { return Observed(Told("Item")->Item(index)); }
-    Ref<CommandBarControl> ItemCaptioned(const std::string& caption) override
-    {
-        return Observed(Told("ItemCaptioned")->ItemCaptioned(caption));
-    }
-    Ref<CommandBarControl> Add(const CommandBarAddition& addition) override
-    {
-        return Observed(Told("Add " + addition.parameter)->Add(addition));
-    }
+    std::int32_t Count() override;
+    Ref<CommandBarControl> Item(std::int32_t index) override;
+    Ref<CommandBarControl> ItemCaptioned(const std::string& caption) override;
+    Ref<CommandBarControl> Add(const CommandBarAddition& addition) override;
 
 private:
-    Ref<CommandBarControl> Observed(const Ref<CommandBarControl>& control) const
-    {
-        return ObservedControlOf(control, mObserver);
-    }
-    const Ref<CommandBarControls>& Told(const std::string& member) const
-    {
-        mObserver("Controls." + member);
-        return mControls;
-    }
+    Ref<CommandBarControl> Observed(const Ref<CommandBarControl>& control) const;
+    const Ref<CommandBarControls>& Told(const std::string& member) const;
 
     Ref<CommandBarControls> mControls;
     WindowObserver mObserver;
@@ -126,54 +103,31 @@ private:
 class ObservedCommandBarPopup : public ObservedControl<CommandBarPopup>
 {
 public:
-    ObservedCommandBarPopup(Ref<CommandBarPopup> popup, WindowObserver observer)
-        : ObservedControl(std::move(popup), std::move(observer), "Popup")
-    {
-    }
+    ObservedCommandBarPopup(Ref<CommandBarPopup> popup, WindowObserver observer);
 
-    Ref<CommandBarControls> Controls() override
-    {
-        return MakeRef<ObservedCommandBarControls>(Told("Controls")->Controls(), Observer());
-    }
-    Ref<tempodial::CommandBar> CommandBar() override
-    {
-        return ObservedBarOf(Told("CommandBar")->CommandBar(), Observer());
-    }
+    Ref<CommandBarControls> Controls() override;
+    Ref<tempodial::CommandBar> CommandBar() override;
 };
 
 /// A bar that tells an observer of its use.
 class ObservedCommandBar : public CommandBar
 {
 public:
-    ObservedCommandBar(Ref<CommandBar> bar, WindowObserver observer)
-        : mBar(std::move(bar))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedCommandBar(Ref<CommandBar> bar, WindowObserver observer);
 
-    std::string Name() const override { return Told("Name")->Name(); }
-    BarPosition Position() const override { return Told("Position")->Position(); }
-    void SetPosition(BarPosition position) override { Told("SetPosition")->SetPosition(position); }
-    bool Visible() const override { return Told("Visible")->Visible(); }
-    void SetVisible(bool visible) override { Told("SetVisible")->SetVisible(visible); }
-    Ref<CommandBarControls> Controls() override
-    {
-        return MakeRef<ObservedCommandBarControls>(Told("Controls")->Controls(), mObserver);
-    }
-    Ref<CommandBarControl> FindControl(const ControlSearch& search) override
-    {
-        return ObservedControlOf(Told("FindControl")->FindControl(search), mObserver);
-    }
-    void Delete() override { Told("Delete")->Delete(); }
+    std::string Name() const override;
+    BarPosition Position() const override;
+    void SetPosition(BarPosition position) override;
+    bool Visible() const override;
+    void SetVisible(bool visible) override;
+    Ref<CommandBarControls> Controls() override;
+    Ref<CommandBarControl> FindControl(const ControlSearch& search) override;
+    void Delete() override;
 
-    const Ref<CommandBar>& Bare() const { return mBar; }
+    const Ref<CommandBar>& Bare() const;
 
 private:
-    const Ref<CommandBar>& Told(const std::string& member) const
-    {
-        mObserver("Bar." + member);
-        return mBar;
-    }
+    const Ref<CommandBar>& Told(const std::string& member) const;
 
     Ref<CommandBar> mBar;
     WindowObserver mObserver;
@@ -183,54 +137,18 @@ private:
 class ObservedCommandBars : public CommandBars
 {
 public:
-    ObservedCommandBars(Ref<CommandBars> bars, WindowObserver observer)
-        : mBars(std::move(bars))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedCommandBars(Ref<CommandBars> bars, WindowObserver observer);
 
-    std::int32_t Count() override { return Told("Count")->Count(); }
-    Ref<CommandBar> Item(std::int32_t index) override { return ObservedBarOf(Told("Item")->Item(index), mObserver); }
-    Ref<CommandBar> ItemNamed(const std::string& name) override
-    {
-        return ObservedBarOf(Told("ItemNamed " + name)->ItemNamed(name), mObserver);
-    }
-    Ref<CommandBar> Add(const std::string& name) override
-    {
-        return ObservedBarOf(Told("Add " + name)->Add(name), mObserver);
-    }
+    std::int32_t Count() override;
+    Ref<CommandBar> Item(std::int32_t index) override;
+    Ref<CommandBar> ItemNamed(const std::string& name) override;
+    Ref<CommandBar> Add(const std::string& name) override;
 
 private:
-    const Ref<CommandBars>& Told(const std::string& member) const
-    {
-        mObserver("CommandBars." + member);
-        return mBars;
-    }
+    const Ref<CommandBars>& Told(const std::string& member) const;
 
     Ref<CommandBars> mBars;
     WindowObserver mObserver;
 };
-
-inline Ref<CommandBarControl> ObservedControlOf(const Ref<CommandBarControl>& control, const WindowObserver& observer)
-{
-    if (const auto button = control.As<CommandBarButton>()) {
-        return MakeRef<ObservedCommandBarButton>(button, observer);
-    }
-    if (const auto popup = control.As<CommandBarPopup>()) {
-        return MakeRef<ObservedCommandBarPopup>(popup, observer);
-    }
-    return control;
-}
-
-inline Ref<CommandBar> ObservedBarOf(const Ref<CommandBar>& bar, const WindowObserver& observer)
-{
-    return bar ? MakeRef<ObservedCommandBar>(bar, observer) : nullptr;
-}
-
-inline Ref<CommandBar> BareBarOf(const Ref<CommandBar>& bar)
-{
-    const auto observed = bar.As<ObservedCommandBar>();
-    return observed ? observed->Bare() : bar;
-}
 
 }

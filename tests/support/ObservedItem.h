@@ -16,23 +16,11 @@ using ItemObserver = std::function<void(const std::string& member)>;
 class ObservedUserProperty : public UserProperty
 {
 public:
-    ObservedUserProperty(Ref<UserProperty> property, ItemObserver observer)
-        : mProperty(std::move(property))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedUserProperty(Ref<UserProperty> property, ItemObserver observer);
 
-    std::string Name() const override { return mProperty->Name(); }
-    Variant Value() const override
-    {
-        mObserver("Value of " + Name());
-        return mProperty->Value();
-    }
-    void SetValue(const Variant& value) override
-    {
-        mObserver("SetValue of " + Name());
-        mProperty->SetValue(value);
-    }
+    std::string Name() const override;
+    Variant Value() const override;
+    void SetValue(const Variant& value) override;
 
 private:
     Ref<UserProperty> mProperty;
@@ -43,28 +31,13 @@ private:
 class ObservedUserProperties : public UserProperties
 {
 public:
-    ObservedUserProperties(Ref<UserProperties> properties, ItemObserver observer)
-        : mProperties(std::move(properties))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedUserProperties(Ref<UserProperties> properties, ItemObserver observer);
 
-    Ref<UserProperty> Item(const std::string& name) override
-    {
-        mObserver("Item " + name);
-        return Observed(mProperties->Item(name));
-    }
-    Ref<UserProperty> Add(const std::string& name, PropertyType type, bool addToFolderFields) override
-    {
-        mObserver("Add " + name);
-        return Observed(mProperties->Add(name, type, addToFolderFields));
-    }
+    Ref<UserProperty> Item(const std::string& name) override;
+    Ref<UserProperty> Add(const std::string& name, PropertyType type, bool addToFolderFields) override;
 
 private:
-    Ref<UserProperty> Observed(const Ref<UserProperty>& property) const
-    {
-        return property ? MakeRef<ObservedUserProperty>(property, mObserver) : nullptr;
-    }
+    Ref<UserProperty> Observed(const Ref<UserProperty>& property) const;
 
     Ref<UserProperties> mProperties;
     ItemObserver mObserver;
@@ -74,53 +47,39 @@ private:
 class ObservedItem : public AppointmentItem
 {
 public:
-    ObservedItem(Ref<AppointmentItem> item, ItemObserver observer)
-        : mItem(std::move(item))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedItem(Ref<AppointmentItem> item, ItemObserver observer);
 
-    ObjectClass Class() const override { return Told("Class")->Class(); }
-    std::string MessageClass() const override { return Told("MessageClass")->MessageClass(); }
-    std::string EntryID() const override { return Told("EntryID")->EntryID(); }
-    std::string Subject() const override { return Told("Subject")->Subject(); }
-    void SetSubject(const std::string& subject) override { Told("SetSubject")->SetSubject(subject); }
-    std::string Body() const override { return Told("Body")->Body(); }
-    void SetBody(const std::string& body) override { Told("SetBody")->SetBody(body); }
-    Date Start() const override { return Told("Start")->Start(); }
-    void SetStart(Date start) override { Told("SetStart")->SetStart(start); }
-    Date End() const override { return Told("End")->End(); }
-    void SetEnd(Date end) override { Told("SetEnd")->SetEnd(end); }
-    std::int32_t Duration() const override { return Told("Duration")->Duration(); }
-    void SetDuration(std::int32_t minutes) override { Told("SetDuration")->SetDuration(minutes); }
-    std::string Mileage() const override { return Told("Mileage")->Mileage(); }
-    void SetMileage(const std::string& mileage) override { Told("SetMileage")->SetMileage(mileage); }
-    std::string BillingInformation() const override { return Told("BillingInformation")->BillingInformation(); }
-    void SetBillingInformation(const std::string& text) override
-    {
-        Told("SetBillingInformation")->SetBillingInformation(text);
-    }
-    bool IsRecurring() const override { return Told("IsRecurring")->IsRecurring(); }
-    Ref<MAPIFolder> Parent() override { return Told("Parent")->Parent(); }
-    Ref<tempodial::UserProperties> UserProperties() override
-    {
-        return MakeRef<ObservedUserProperties>(Told("UserProperties")->UserProperties(), mObserver);
-    }
-    Ref<tempodial::FormDescription> FormDescription() override { return Told("FormDescription")->FormDescription(); }
-    void Save() override { Told("Save")->Save(); }
-    void Close(CloseMode mode) override { Told("Close")->Close(mode); }
-    void Display() override { Told("Display")->Display(); }
-    void Delete() override { Told("Delete")->Delete(); }
-    Ref<AppointmentItem> Copy() override { return Told("Copy")->Copy(); }
-    Ref<AppointmentItem> Move(const Ref<MAPIFolder>& folder) override { return Told("Move")->Move(folder); }
-    Subscription Subscribe(AppointmentItemEvents events) override { return mItem->Subscribe(std::move(events)); }
+    ObjectClass Class() const override;
+    std::string MessageClass() const override;
+    std::string EntryID() const override;
+    std::string Subject() const override;
+    void SetSubject(const std::string& subject) override;
+    std::string Body() const override;
+    void SetBody(const std::string& body) override;
+    Date Start() const override;
+    void SetStart(Date start) override;
+    Date End() const override;
+    void SetEnd(Date end) override;
+    std::int32_t Duration() const override;
+    void SetDuration(std::int32_t minutes) override;
+    std::string Mileage() const override;
+    void SetMileage(const std::string& mileage) override;
+    std::string BillingInformation() const override;
+    void SetBillingInformation(const std::string& text) override;
+    bool IsRecurring() const override;
+    Ref<MAPIFolder> Parent() override;
+    Ref<tempodial::UserProperties> UserProperties() override;
+    Ref<tempodial::FormDescription> FormDescription() override;
+    void Save() override;
+    void Close(CloseMode mode) override;
+    void Display() override;
+    void Delete() override;
+    Ref<AppointmentItem> Copy() override;
+    Ref<AppointmentItem> Move(const Ref<MAPIFolder>& folder) override;
+    Subscription Subscribe(AppointmentItemEvents events) override;
 
 private:
-    const Ref<AppointmentItem>& Told(const char* member) const
-    {
-        mObserver(member);
-        return mItem;
-    }
+    const Ref<AppointmentItem>& Told(const char* member) const;
 
     Ref<AppointmentItem> mItem;
     ItemObserver mObserver;

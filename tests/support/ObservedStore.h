@@ -15,24 +15,16 @@ namespace tempodial {
 class ObservedView : public View
 {
 public:
-    ObservedView(Ref<View> view, ItemObserver observer)
-        : mView(std::move(view))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedView(Ref<View> view, ItemObserver observer);
 
-    std::string Name() const override { return Told("View.Name")->Name(); }
-    tempodial::ViewType ViewType() const override { return Told("View.ViewType")->ViewType(); }
-    std::string XML() const override { return Told("View.XML")->XML(); }
-    void SetXML(const std::string& xml) override { Told("View.SetXML")->SetXML(xml); }
-    void Save() override { Told("View.Save")->Save(); }
+    std::string Name() const override;
+    tempodial::ViewType ViewType() const override;
+    std::string XML() const override;
+    void SetXML(const std::string& xml) override;
+    void Save() override;
 
 private:
-    const Ref<View>& Told(const char* member) const
-    {
-        mObserver(member);
-        return mView;
-    }
+    const Ref<View>& Told(const char* member) const;
 
     Ref<View> mView;
     ItemObserver mObserver;
@@ -42,27 +34,16 @@ private:
 class ObservedViews : public Views
 {
 public:
-    ObservedViews(Ref<Views> views, ItemObserver observer)
-        : mViews(std::move(views))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedViews(Ref<Views> views, ItemObserver observer);
 
-    std::int32_t Count() override { return Told("Views.Count")->Count(); }
-    Ref<View> Item(std::int32_t index) override { return Observed(Told("Views.Item")->Item(index)); }
-    Ref<View> ItemNamed(const std::string& name) override { return Observed(Told("Views.ItemNamed")->ItemNamed(name)); }
-    Ref<View> Add(const std::string& name, ViewType type, ViewSaveOption option) override
-    {
-        return Observed(Told("Views.Add")->Add(name, type, option));
-    }
+    std::int32_t Count() override;
+    Ref<View> Item(std::int32_t index) override;
+    Ref<View> ItemNamed(const std::string& name) override;
+    Ref<View> Add(const std::string& name, ViewType type, ViewSaveOption option) override;
 
 private:
-    Ref<View> Observed(const Ref<View>& view) const { return view ? MakeRef<ObservedView>(view, mObserver) : nullptr; }
-    const Ref<Views>& Told(const char* member) const
-    {
-        mObserver(member);
-        return mViews;
-    }
+    Ref<View> Observed(const Ref<View>& view) const;
+    const Ref<Views>& Told(const char* member) const;
 
     Ref<Views> mViews;
     ItemObserver mObserver;
@@ -72,39 +53,19 @@ private:
 class ObservedItems : public Items
 {
 public:
-    ObservedItems(Ref<Items> items, ItemObserver observer)
-        : mItems(std::move(items))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedItems(Ref<Items> items, ItemObserver observer);
 
-    std::int32_t Count() override { return Told("Items.Count")->Count(); }
-    Ref<OutlookItem> Item(std::int32_t index) override { return Observed(Told("Items.Item")->Item(index)); }
-    Ref<AppointmentItem> Add(const std::string& messageClass) override
-    {
-        return Observed(Told("Items.Add")->Add(messageClass)).As<AppointmentItem>();
-    }
-    Ref<Items> Restrict(const std::string& filter) override
-    {
-        return MakeRef<ObservedItems>(Told("Items.Restrict")->Restrict(filter), mObserver);
-    }
-    Ref<OutlookItem> Find(const std::string& filter) override { return Observed(Told("Items.Find")->Find(filter)); }
-    void Sort(const std::string& property, bool descending) override { Told("Items.Sort")->Sort(property, descending); }
-    Subscription Subscribe(ItemsEvents events) override
-    {
-        return Told("Items.Subscribe")->Subscribe(std::move(events));
-    }
+    std::int32_t Count() override;
+    Ref<OutlookItem> Item(std::int32_t index) override;
+    Ref<AppointmentItem> Add(const std::string& messageClass) override;
+    Ref<Items> Restrict(const std::string& filter) override;
+    Ref<OutlookItem> Find(const std::string& filter) override;
+    void Sort(const std::string& property, bool descending) override;
+    Subscription Subscribe(ItemsEvents events) override;
 
 private:
-    Ref<OutlookItem> Observed(const Ref<OutlookItem>& item) const
-    {
-        return item ? MakeRef<ObservedItem>(item.As<AppointmentItem>(), mObserver) : nullptr;
-    }
-    const Ref<Items>& Told(const char* member) const
-    {
-        mObserver(member);
-        return mItems;
-    }
+    Ref<OutlookItem> Observed(const Ref<OutlookItem>& item) const;
+    const Ref<Items>& Told(const char* member) const;
 
     Ref<Items> mItems;
     ItemObserver mObserver;
@@ -116,23 +77,15 @@ class ObservedFolder;
 class ObservedFolders : public Folders
 {
 public:
-    ObservedFolders(Ref<Folders> folders, ItemObserver observer)
-        : mFolders(std::move(folders))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedFolders(Ref<Folders> folders, ItemObserver observer);
 
-    std::int32_t Count() override { return Told("Folders.Count")->Count(); }
+    std::int32_t Count() override;
     Ref<MAPIFolder> Item(std::int32_t index) override;
     Ref<MAPIFolder> ItemNamed(const std::string& name) override;
     Ref<MAPIFolder> Add(const std::string& name, DefaultFolder type) override;
 
 private:
-    const Ref<Folders>& Told(const char* member) const
-    {
-        mObserver(member);
-        return mFolders;
-    }
+    const Ref<Folders>& Told(const char* member) const;
 
     Ref<Folders> mFolders;
     ItemObserver mObserver;
@@ -142,78 +95,35 @@ private:
 class ObservedFolder : public MAPIFolder
 {
 public:
-    ObservedFolder(Ref<MAPIFolder> folder, ItemObserver observer)
-        : mFolder(std::move(folder))
-        , mObserver(std::move(observer))
-    {
-    }
-    static Ref<MAPIFolder> Of(const Ref<MAPIFolder>& folder, const ItemObserver& observer)
-    {
-        return folder ? MakeRef<ObservedFolder>(folder, observer) : nullptr;
-    }
+    ObservedFolder(Ref<MAPIFolder> folder, ItemObserver observer);
+    static Ref<MAPIFolder> Of(const Ref<MAPIFolder>& folder, const ItemObserver& observer);
 
-    std::string EntryID() const override { return Told("EntryID")->EntryID(); }
-    std::string Name() const override { return Told("Name")->Name(); }
-    std::string FullFolderPath() const override { return Told("FullFolderPath")->FullFolderPath(); }
-    Ref<tempodial::Folders> Folders() override
-    {
-        return MakeRef<ObservedFolders>(Told("Folders")->Folders(), mObserver);
-    }
-    Ref<tempodial::Items> Items() override { return MakeRef<ObservedItems>(Told("Items")->Items(), mObserver); }
-    Ref<tempodial::Views> Views() override { return MakeRef<ObservedViews>(Told("Views")->Views(), mObserver); }
+    std::string EntryID() const override;
+    std::string Name() const override;
+    std::string FullFolderPath() const override;
+    Ref<tempodial::Folders> Folders() override;
+    Ref<tempodial::Items> Items() override;
+    Ref<tempodial::Views> Views() override;
 
 private:
     /// The members are told with the folder's name, such as "Calendar.Items".
-    const Ref<MAPIFolder>& Told(const char* member) const
-    {
-        mObserver(mFolder->Name() + "." + member);
-        return mFolder;
-    }
+    const Ref<MAPIFolder>& Told(const char* member) const;
 
     Ref<MAPIFolder> mFolder;
     ItemObserver mObserver;
 };
 
-inline Ref<MAPIFolder> ObservedFolders::Item(std::int32_t index)
-{
-    return ObservedFolder::Of(Told("Folders.Item")->Item(index), mObserver);
-}
-
-inline Ref<MAPIFolder> ObservedFolders::ItemNamed(const std::string& name)
-{
-    return ObservedFolder::Of(Told("Folders.ItemNamed")->ItemNamed(name), mObserver);
-}
-
-inline Ref<MAPIFolder> ObservedFolders::Add(const std::string& name, DefaultFolder type)
-{
-    return ObservedFolder::Of(Told("Folders.Add")->Add(name, type), mObserver);
-}
-
 /// A session that tells an observer of its use, and of that of all that comes from it.
 class ObservedNameSpace : public NameSpace
 {
 public:
-    ObservedNameSpace(Ref<NameSpace> nameSpace, ItemObserver observer)
-        : mNameSpace(std::move(nameSpace))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedNameSpace(Ref<NameSpace> nameSpace, ItemObserver observer);
 
-    Ref<MAPIFolder> GetDefaultFolder(DefaultFolder type) override
-    {
-        return ObservedFolder::Of(Told("GetDefaultFolder")->GetDefaultFolder(type), mObserver);
-    }
-    Ref<tempodial::Folders> Folders() override
-    {
-        return MakeRef<ObservedFolders>(Told("NameSpace.Folders")->Folders(), mObserver);
-    }
+    Ref<MAPIFolder> GetDefaultFolder(DefaultFolder type) override;
+    Ref<tempodial::Folders> Folders() override;
 
 private:
-    const Ref<NameSpace>& Told(const char* member) const
-    {
-        mObserver(member);
-        return mNameSpace;
-    }
+    const Ref<NameSpace>& Told(const char* member) const;
 
     Ref<NameSpace> mNameSpace;
     ItemObserver mObserver;

@@ -13,37 +13,20 @@ namespace tempodial {
 class ObservedExplorer : public Explorer
 {
 public:
-    ObservedExplorer(Ref<Explorer> explorer, WindowObserver observer)
-        : mExplorer(std::move(explorer))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedExplorer(Ref<Explorer> explorer, WindowObserver observer);
 
-    std::string Caption() const override { return Told("Caption")->Caption(); }
-    Ref<MAPIFolder> CurrentFolder() override { return Told("CurrentFolder")->CurrentFolder(); }
-    void SetCurrentFolder(const Ref<MAPIFolder>& folder) override
-    {
-        Told("SetCurrentFolder")->SetCurrentFolder(folder);
-    }
-    std::string CurrentView() override { return Told("CurrentView")->CurrentView(); }
-    void SetCurrentView(const std::string& name) override { Told("SetCurrentView " + name)->SetCurrentView(name); }
-    Ref<tempodial::Selection> Selection() override { return Told("Selection")->Selection(); }
-    bool IsFolderSelected(const Ref<MAPIFolder>& folder) override
-    {
-        return Told("IsFolderSelected")->IsFolderSelected(folder);
-    }
-    Ref<tempodial::CommandBars> CommandBars() override
-    {
-        return MakeRef<ObservedCommandBars>(Told("CommandBars")->CommandBars(), mObserver);
-    }
-    Subscription Subscribe(ExplorerEvents events) override { return Told("Subscribe")->Subscribe(std::move(events)); }
+    std::string Caption() const override;
+    Ref<MAPIFolder> CurrentFolder() override;
+    void SetCurrentFolder(const Ref<MAPIFolder>& folder) override;
+    std::string CurrentView() override;
+    void SetCurrentView(const std::string& name) override;
+    Ref<tempodial::Selection> Selection() override;
+    bool IsFolderSelected(const Ref<MAPIFolder>& folder) override;
+    Ref<tempodial::CommandBars> CommandBars() override;
+    Subscription Subscribe(ExplorerEvents events) override;
 
 private:
-    const Ref<Explorer>& Told(const std::string& member) const
-    {
-        mObserver("Explorer." + member);
-        return mExplorer;
-    }
+    const Ref<Explorer>& Told(const std::string& member) const;
 
     Ref<Explorer> mExplorer;
     WindowObserver mObserver;
@@ -53,27 +36,16 @@ private:
 class ObservedInspector : public Inspector
 {
 public:
-    ObservedInspector(Ref<Inspector> inspector, WindowObserver observer)
-        : mInspector(std::move(inspector))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedInspector(Ref<Inspector> inspector, WindowObserver observer);
 
-    std::string Caption() const override { return Told("Caption")->Caption(); }
-    Ref<OutlookItem> CurrentItem() override { return Told("CurrentItem")->CurrentItem(); }
-    Ref<tempodial::CommandBars> CommandBars() override
-    {
-        return MakeRef<ObservedCommandBars>(Told("CommandBars")->CommandBars(), mObserver);
-    }
-    Ref<Pages> ModifiedFormPages() override { return Told("ModifiedFormPages")->ModifiedFormPages(); }
-    Subscription Subscribe(InspectorEvents events) override { return Told("Subscribe")->Subscribe(std::move(events)); }
+    std::string Caption() const override;
+    Ref<OutlookItem> CurrentItem() override;
+    Ref<tempodial::CommandBars> CommandBars() override;
+    Ref<Pages> ModifiedFormPages() override;
+    Subscription Subscribe(InspectorEvents events) override;
 
 private:
-    const Ref<Inspector>& Told(const std::string& member) const
-    {
-        mObserver("Inspector." + member);
-        return mInspector;
-    }
+    const Ref<Inspector>& Told(const std::string& member) const;
 
     Ref<Inspector> mInspector;
     WindowObserver mObserver;

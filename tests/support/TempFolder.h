@@ -1,10 +1,6 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -14,47 +10,22 @@ namespace tempodial {
 class TempFolder
 {
 public:
-    explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
-    {
-        auto pattern = (parent / "tempodial-test-XXXXXX").string();
-        if (::mkdtemp(pattern.data()) == nullptr) {
-            throw std::runtime_error("no folder for the test can be made");
-        }
-        mPath = pattern;
-    }
-    ~TempFolder()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(mPath, ignored);
-    }
+    explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path());
+    ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
     /// Where files live in memory, so that tests that need no disk don't wait for it; else the usual place.
-    static std::filesystem::path InMemory()
-    {
-        return std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path();
-    }
+    static std::filesystem::path InMemory();
 
-    const std::string& Path() const { return mPath; }
+    const std::string& Path() const;
     /// The path of a name in the folder.
-    std::string Path(std::string_view name) const { return mPath + "/" + std::string(name); }
+    std::string Path(std::string_view name) const;
     /// Writes a file and answers its path.
-    std::string Write(std::string_view name, std::string_view content) const
-    {
-        std::ofstream(Path(name), std::ios::binary) << content;
-        return Path(name);
-    }
+    std::string Write(std::string_view name, std::string_view content) const;
     /// The content of a file, "" when there is none.
-    std::string Read(std::string_view name) const
-    {
-        std::ifstream file(Path(name), std::ios::binary);
-        return { std::istreambuf_iterator<char>(file), {} };
-    }
-    bool Has(std::string_view name) const
-    {
-        return std::filesystem::exists(std::filesystem::symlink_status(Path(name)));
-    }
+    std::string Read(std::string_view name) const;
+    bool Has(std::string_view name) const;
 
 private:
     std::string mPath;

@@ -60,10 +60,7 @@ private:
 class TestApplication : public Application
 {
 public:
-    explicit TestApplication(Ref<HostApplication> application)
-        : host(std::move(application))
-    {
-    }
+    explicit TestApplication(Ref<HostApplication> application);
 
     /// The application itself, for what a person does.
     Ref<HostApplication> host;
@@ -79,53 +76,24 @@ public:
     std::function<Ref<AppointmentItem>(const std::string& path, const Ref<MAPIFolder>& folder)> fromTemplate;
     /// Makes a mail, when it is set.
     std::function<Ref<MailItem>()> newMail;
-    Ref<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>> explorers
-        = MakeRef<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>>(host->Explorers(), Telling());
-    Ref<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>> inspectors
-        = MakeRef<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>>(host->Inspectors(), Telling());
+    Ref<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>> explorers;
+    Ref<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>> inspectors;
 
-    void LogOn() const { host->RaiseMapiLogonComplete(); }
-    void Quit() const { host->RaiseQuit(); }
+    void LogOn() const;
+    void Quit() const;
 
-    std::string Version() const override
-    {
-        if (versionFails) {
-            throw Failure(Error::Automation);
-        }
-        return version;
-    }
-    Ref<tempodial::Explorers> Explorers() override { return explorers; }
-    Ref<tempodial::Inspectors> Inspectors() override { return inspectors; }
-    Ref<NameSpace> GetNamespace(const std::string& type) override
-    {
-        return toldNameSpace ? *toldNameSpace : host->GetNamespace(type);
-    }
-    Ref<Explorer> ActiveExplorer() override
-    {
-        const auto active = hasActiveExplorer ? host->ActiveExplorer() : nullptr;
-        return active ? Ref<Explorer>(MakeRef<ObservedExplorer>(active, Telling())) : nullptr;
-    }
-    Ref<Inspector> ActiveInspector() override
-    {
-        const auto active = host->ActiveInspector();
-        return active ? Ref<Inspector>(MakeRef<ObservedInspector>(active, Telling())) : nullptr;
-    }
-    Ref<MailItem> CreateItem() override { return newMail ? newMail() : host->CreateItem(); }
-    Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override
-    {
-        return fromTemplate ? fromTemplate(path, folder) : host->CreateItemFromTemplate(path, folder);
-    }
-    Subscription Subscribe(ApplicationEvents events) override { return host->Subscribe(std::move(events)); }
+    std::string Version() const override;
+    Ref<tempodial::Explorers> Explorers() override;
+    Ref<tempodial::Inspectors> Inspectors() override;
+    Ref<NameSpace> GetNamespace(const std::string& type) override;
+    Ref<Explorer> ActiveExplorer() override;
+    Ref<Inspector> ActiveInspector() override;
+    Ref<MailItem> CreateItem() override;
+    Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override;
+    Subscription Subscribe(ApplicationEvents events) override;
 
 private:
-    WindowObserver Telling() const
-    {
-        return [told = observer](const std::string& member) {
-            if (*told) {
-                (*told)(member);
-            }
-        };
-    }
+    WindowObserver Telling() const;
 };
 
 }

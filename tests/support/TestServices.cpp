@@ -126,4 +126,50 @@ void TestImportJournal::Tell(const std::string& call)
     }
 }
 
+void TestEventPump::ProcessPending()
+{
+    if (hook) {
+        hook();
+    }
+}
+
+void TestShell::Open(const std::string& document)
+{
+    opened.push_back(document);
+}
+
+std::int32_t TestShell::ThreadId()
+{
+    return 7;
+}
+
+Ref<Picture> TestPictures::Load(const std::string& path)
+{
+    if (!present) {
+        throw Failure(Error::FileNotFound);
+    }
+    loaded.push_back(path.substr(path.rfind('/') + 1));
+    return MakeRef<TestPicture>();
+}
+
+TestImportJournal::TestImportJournal(Ref<ImportJournal> journal)
+    : mJournal(std::move(journal))
+{
+}
+
+void NoImportJournal::Begin() { }
+
+void NoImportJournal::Loaded(const std::string&, const Position&) { }
+
+void NoImportJournal::Commit() { }
+
+std::optional<ImportJournal::Position> NoImportJournal::Committed(const std::string&)
+{
+    return std::nullopt;
+}
+
+void NoImportJournal::HistorySaved() { }
+
+void NoImportJournal::End() { }
+
 }

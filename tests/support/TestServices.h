@@ -23,12 +23,7 @@ public:
     /// Run each time, when it is set.
     std::function<void()> hook;
 
-    void ProcessPending() override
-    {
-        if (hook) {
-            hook();
-        }
-    }
+    void ProcessPending() override;
 };
 
 /// A shell that notes what it is to open.
@@ -37,8 +32,8 @@ class TestShell : public Shell
 public:
     std::vector<std::string> opened;
 
-    void Open(const std::string& document) override { opened.push_back(document); }
-    std::int32_t ThreadId() override { return 7; }
+    void Open(const std::string& document) override;
+    std::int32_t ThreadId() override;
 };
 
 /// A picture that is nothing but there.
@@ -54,14 +49,7 @@ public:
     /// The names of the files that were loaded.
     std::vector<std::string> loaded;
 
-    Ref<Picture> Load(const std::string& path) override
-    {
-        if (!present) {
-            throw Failure(Error::FileNotFound);
-        }
-        loaded.push_back(path.substr(path.rfind('/') + 1));
-        return MakeRef<TestPicture>();
-    }
+    Ref<Picture> Load(const std::string& path) override;
 };
 
 /// The files of the host, of which a test is told before each operation; what it throws, the operation fails with.
@@ -87,10 +75,7 @@ private:
 class TestImportJournal : public ImportJournal
 {
 public:
-    explicit TestImportJournal(Ref<ImportJournal> journal)
-        : mJournal(std::move(journal))
-    {
-    }
+    explicit TestImportJournal(Ref<ImportJournal> journal);
 
     std::function<void(const std::string& call)> hook;
     /// The calls so far, as "Loaded 20061010 4300 2".
@@ -113,12 +98,12 @@ private:
 class NoImportJournal : public ImportJournal
 {
 public:
-    void Begin() override { }
-    void Loaded(const std::string&, const Position&) override { }
-    void Commit() override { }
-    std::optional<Position> Committed(const std::string&) override { return std::nullopt; }
-    void HistorySaved() override { }
-    void End() override { }
+    void Begin() override;
+    void Loaded(const std::string&, const Position&) override;
+    void Commit() override;
+    std::optional<Position> Committed(const std::string&) override;
+    void HistorySaved() override;
+    void End() override;
 };
 
 }

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "base/Text.h"
-#include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialDebugLog.h"
-#include "host/system/HostFileSystem.h"
-#include "host/system/IcuLocaleFormats.h"
 #include "platform/Platform.h"
 #include "support/ManualClock.h"
 #include "support/TempFolder.h"
@@ -21,38 +17,14 @@ namespace tempodial {
 class TraceFixture : public testing::Test
 {
 protected:
-    TraceFixture()
-    {
-        mPlatform->fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
-        mPlatform->clock = mClock;
-        mPlatform->formats = MakeRef<IcuLocaleFormats>("en_US");
-        const auto utils = MakeRef<TempodialCommonUtils>(mPlatform);
-        utils->Initialize(nullptr, "Tempodial", "16.0");
-        mLog = MakeRef<TempodialDebugLog>(mPlatform);
-        mLog->Initialize(utils, "1.2.0", "WorkLogTrace1.out", "WorkLogTrace2.out", 0);
-    }
+    TraceFixture();
+    ~TraceFixture() override;
 
     /// The lines traced since the last call, without their heads.
-    std::vector<std::string> Traced()
-    {
-        std::vector<std::string> lines;
-        auto text = mFolder.Read("Tempodial/WorkLogTrace1.out");
-        for (const auto& line : Split(text.size() < mRead ? text : text.substr(mRead), CrLf)) {
-            const auto head = line.find(": ");
-            if (head != std::string::npos && !line.starts_with("Tempodial Version")) {
-                lines.push_back(line.substr(head + 2));
-            }
-        }
-        mRead = text.size();
-        return lines;
-    }
-    void ForgetTrace() { Traced(); }
+    std::vector<std::string> Traced();
+    void ForgetTrace();
     /// Empties the trace, for tests with more lines than the file holds.
-    void EmptyTrace()
-    {
-        mFolder.Write("Tempodial/WorkLogTrace1.out", "");
-        ForgetTrace();
-    }
+    void EmptyTrace();
 
     TempFolder mFolder;
     /// Ten past nine on Tuesday, October 10, 2006.

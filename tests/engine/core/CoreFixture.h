@@ -19,33 +19,15 @@ namespace tempodial {
 class CoreFixture : public testing::Test
 {
 protected:
-    ~CoreFixture() override { mConnect.OnDisconnection(); }
+    ~CoreFixture() override;
 
-    void ConnectAddIn() { mConnect.OnConnection(mApplication, "Tempodial.Connect"); }
-    TempodialMain& Main() const { return *mConnect.Main(); }
-    void Set(const std::string& value, const Variant& content)
-    {
-        mRegistry->values[{ Hive::CurrentUser, R"(Software\Lindenfold\Tempodial)", value }] = content;
-    }
-    Variant Get(const std::string& value)
-    {
-        return mRegistry->Read(Hive::CurrentUser, R"(Software\Lindenfold\Tempodial)", value, RegistryAccess::Query);
-    }
-    bool HasTraceFile() const { return mFolder.Has("Tempodial/WorkLogTrace1.out"); }
+    void ConnectAddIn();
+    TempodialMain& Main() const;
+    void Set(const std::string& value, const Variant& content);
+    Variant Get(const std::string& value);
+    bool HasTraceFile() const;
     /// The lines traced since the last call without thread, moment and context word.
-    std::vector<std::string> Traced()
-    {
-        std::vector<std::string> lines;
-        const auto text = mFolder.Read("Tempodial/WorkLogTrace1.out");
-        for (const auto& line : Split(text.substr(mRead), CrLf)) {
-            const auto context = line.find("M: ");
-            if (context != std::string::npos) {
-                lines.push_back(line.substr(line.find(' ', context + 3) + 1));
-            }
-        }
-        mRead = text.size();
-        return lines;
-    }
+    std::vector<std::string> Traced();
 
     TempFolder mFolder;
     Ref<MapRegistry> mRegistry = MakeRef<MapRegistry>();

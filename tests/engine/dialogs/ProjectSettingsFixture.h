@@ -21,75 +21,25 @@ protected:
     static constexpr const char* NewProject = "<New project..>";
     static constexpr const char* NotSet = "Object variable or With block variable not set";
 
-    ProjectSettingsFixture()
-    {
-        for (const auto* name : { "Critical", "Other", "Personal", "Supportive", "Wish" }) {
-            Main()->DeleteProject(name);
-        }
-        AddProject("Alpha", "alphaword", "notalpha", "1");
-        AddProject("Beta", "betaword", "notbeta", "2");
-        AddProject("Gamma", "gammaword", "", "2");
-        AddProject("Delta", "deltaword", "", "3");
-        mForm->Initialise(Main(), Main()->mTempodialDebugLog);
-        mAddIn.Trace();
-    }
+    ProjectSettingsFixture();
+    ~ProjectSettingsFixture() override;
 
-    const Ref<TempodialMain>& Main() const { return mAddIn.main; }
+    const Ref<TempodialMain>& Main() const;
     void AddProject(const std::string& name, const std::string& rule, const std::string& notRule,
-        const std::string& precedence) const
-    {
-        EXPECT_EQ(Main()->UpdateorAddProject(name, rule, notRule, "", precedence, false), "");
-    }
-    std::vector<std::string> Projects() const
-    {
-        std::vector<std::string> names;
-        Main()->GetProjects(names, false, false, false);
-        return names;
-    }
+        const std::string& precedence) const;
+    std::vector<std::string> Projects() const;
     /// Precedence, rule and not-rule of a project, "2||" for an unknown one.
-    std::string Project(const std::string& name) const
-    {
-        return Main()->GetProjectPrecedence(name) + "|" + Main()->GetProjectSubRule(name) + "|"
-            + Main()->GetProjectNotSubRule(name);
-    }
+    std::string Project(const std::string& name) const;
     /// The companion of an activity window, which traces each refresh of its list.
-    Ref<TempodialInspector> Owner()
-    {
-        auto owner = MakeRef<TempodialInspector>(mAddIn.platform);
-        owner->Initialize(Main()->mTempodialDebugLog, Main(), nullptr, 1);
-        mAddIn.Trace();
-        return owner;
-    }
+    Ref<TempodialInspector> Owner();
     /// How often a line was traced since the last look at the trace.
-    std::ptrdiff_t CountTraced(const std::string& line)
-    {
-        const auto lines = mAddIn.TraceTexts();
-        return std::ranges::count(lines, line);
-    }
+    std::ptrdiff_t CountTraced(const std::string& line);
     /// Shows the settings for a project, as an activity window does.
-    void ShowFor(const std::string& project)
-    {
-        mForm->ShowMe(project, mOwner);
-        mAddIn.Trace();
-    }
+    void ShowFor(const std::string& project);
     /// An activity that is that many days old, without a project.
-    Ref<AppointmentItem> Activity(const std::string& description, std::int32_t daysAgo) const
-    {
-        const auto start = mAddIn.clock->Now().AddDays(-daysAgo);
-        auto item = Main()->CreateCalendarItem(
-            "No Project", description, "Notepad", "", 5, start.AddMinutes(-10), start.AddMinutes(-5), "", false);
-        EXPECT_EQ(ProjectOf(item), "No Project");
-        return item;
-    }
-    std::string ProjectOf(const Ref<AppointmentItem>& item) const { return mAddIn.Property(item, "Project").ToText(); }
-    void ExpectClean(const std::string& project) const
-    {
-        EXPECT_EQ(mUser.Text("ProjectComboBox"), project);
-        EXPECT_FALSE(mUser.CanWork("SaveButton"));
-        EXPECT_FALSE(mUser.CanWork("DaysText"));
-        EXPECT_FALSE(mUser.IsOn("ApplyPastCheck"));
-        EXPECT_EQ(mUser.Text("DaysText"), "7");
-    }
+    Ref<AppointmentItem> Activity(const std::string& description, std::int32_t daysAgo) const;
+    std::string ProjectOf(const Ref<AppointmentItem>& item) const;
+    void ExpectClean(const std::string& project) const;
 
     Ref<CannedMessageBox> mMessages = mAddIn.messageBox;
     Ref<ProjectSettingsForm> mForm = MakeRef<ProjectSettingsForm>(mAddIn.platform);

@@ -14,27 +14,18 @@ namespace tempodial {
 class ObservedPageControl : public PageControl
 {
 public:
-    ObservedPageControl(Ref<PageControl> control, std::string name, ItemObserver observer)
-        : mControl(std::move(control))
-        , mName(std::move(name))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedPageControl(Ref<PageControl> control, std::string name, ItemObserver observer);
 
-    Variant Value() const override { return Told("Value")->Value(); }
-    void SetValue(const Variant& value) override { Told("SetValue")->SetValue(value); }
-    std::string Text() const override { return Told("Text")->Text(); }
-    void SetText(const std::string& text) override { Told("SetText")->SetText(text); }
-    void SetList(const std::vector<std::string>& list) override { Told("SetList")->SetList(list); }
-    void AddItem(const std::string& text) override { Told("AddItem")->AddItem(text); }
+    Variant Value() const override;
+    void SetValue(const Variant& value) override;
+    std::string Text() const override;
+    void SetText(const std::string& text) override;
+    void SetList(const std::vector<std::string>& list) override;
+    void AddItem(const std::string& text) override;
 
 private:
     /// The members are told with the control's name, such as "StartBox.Value".
-    const Ref<PageControl>& Told(const char* member) const
-    {
-        mObserver(mName + "." + member);
-        return mControl;
-    }
+    const Ref<PageControl>& Told(const char* member) const;
 
     Ref<PageControl> mControl;
     std::string mName;
@@ -45,17 +36,9 @@ private:
 class ObservedPages : public Pages
 {
 public:
-    ObservedPages(Ref<Pages> pages, ItemObserver observer)
-        : mPages(std::move(pages))
-        , mObserver(std::move(observer))
-    {
-    }
+    ObservedPages(Ref<Pages> pages, ItemObserver observer);
 
-    Ref<Page> Item(const std::string& name) override
-    {
-        mObserver("Pages.Item");
-        return MakeRef<ObservedPage>(mPages->Item(name), mObserver);
-    }
+    Ref<Page> Item(const std::string& name) override;
 
 private:
     class ObservedControls : public PageControls
@@ -105,23 +88,13 @@ private:
 class ObservedActivityWindow : public Inspector
 {
 public:
-    ObservedActivityWindow(const Ref<Inspector>& inspector, const ItemObserver& observer)
-        : mInspector(MakeRef<ObservedInspector>(inspector, observer))
-        , mObserver(observer)
-    {
-    }
+    ObservedActivityWindow(const Ref<Inspector>& inspector, const ItemObserver& observer);
 
-    std::string Caption() const override { return mInspector->Caption(); }
-    Ref<OutlookItem> CurrentItem() override
-    {
-        return MakeRef<ObservedItem>(mInspector->CurrentItem().As<AppointmentItem>(), mObserver);
-    }
-    Ref<tempodial::CommandBars> CommandBars() override { return mInspector->CommandBars(); }
-    Ref<Pages> ModifiedFormPages() override
-    {
-        return MakeRef<ObservedPages>(mInspector->ModifiedFormPages(), mObserver);
-    }
-    Subscription Subscribe(InspectorEvents events) override { return mInspector->Subscribe(std::move(events)); }
+    std::string Caption() const override;
+    Ref<OutlookItem> CurrentItem() override;
+    Ref<tempodial::CommandBars> CommandBars() override;
+    Ref<Pages> ModifiedFormPages() override;
+    Subscription Subscribe(InspectorEvents events) override;
 
 private:
     Ref<Inspector> mInspector;

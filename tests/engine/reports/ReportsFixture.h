@@ -9,7 +9,7 @@ namespace tempodial {
 class ReportsFixture : public TraceFixture
 {
 protected:
-    ReportsFixture() { mStrings->Initialize(); }
+    ReportsFixture();
 
     Ref<TempodialStrings> mStrings = MakeRef<TempodialStrings>();
 };

@@ -1,9 +1,9 @@
 #include "engine/reports/TempodialAnalyser.h"
 
 #include "engine/dialogs/ProgressBarForm.h"
-#include "engine/worklog/WorkLogFixture.h"
 #include "forms/ButtonModel.h"
 #include "forms/FormModel.h"
+#include "support/WorkLogFixture.h"
 
 using testing::Contains;
 using testing::ElementsAre;

@@ -1,6 +1,6 @@
 #include "engine/worklog/TempodialCalendar.h"
 
-#include "engine/worklog/WorkLogFixture.h"
+#include "support/WorkLogFixture.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;

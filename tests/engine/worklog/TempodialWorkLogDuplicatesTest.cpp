@@ -1,4 +1,4 @@
-#include "engine/worklog/WorkLogFixture.h"
+#include "support/WorkLogFixture.h"
 
 using testing::Contains;
 using testing::ElementsAre;

@@ -3,6 +3,8 @@
 #include "support/EngineFixture.h"
 #include "support/ObservedStore.h"
 
+#include <algorithm>
+
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;

@@ -1,0 +1,10 @@
+#include "engine/reports/ReportsFixture.h"
+
+namespace tempodial {
+
+ReportsFixture::ReportsFixture()
+{
+    mStrings->Initialize();
+}
+
+}

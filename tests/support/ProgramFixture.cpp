@@ -1,0 +1,75 @@
+#include "support/ProgramFixture.h"
+
+#include <filesystem>
+#include <fstream>
+
+namespace tempodial {
+
+ProgramFixture::~ProgramFixture() = default;
+
+ProgramFixture::Arguments ProgramFixture::Whole(const Arguments& arguments) const
+{
+    Arguments whole { "--profile", mProfile, "--locale", "en_US", "--now", mNow };
+    whole.insert(whole.end(), arguments.begin(), arguments.end());
+    return whole;
+}
+
+ProgramResult ProgramFixture::Run(const Arguments& arguments) const
+{
+    return RunTempodial(Whole(arguments));
+}
+
+nlohmann::json ProgramFixture::Json(Arguments arguments) const
+{
+    arguments.insert(arguments.begin(), "--json");
+    const auto result = Run(arguments);
+    EXPECT_EQ(result.status, 0) << result.error;
+    EXPECT_EQ(result.error, "");
+    return nlohmann::json::parse(result.out);
+}
+
+std::string ProgramFixture::Refusal(const Arguments& arguments, int status) const
+{
+    const auto result = Run(arguments);
+    EXPECT_EQ(result.status, status);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.error, testing::MatchesRegex(MessageForm));
+    return result.error;
+}
+
+std::string ProgramFixture::DataPath(const std::string& name) const
+{
+    return mProfile + "/Tempodial/" + name;
+}
+
+void ProgramFixture::WriteData(const std::string& name, const std::string& content) const
+{
+    std::filesystem::create_directories(mProfile + "/Tempodial");
+    std::ofstream(DataPath(name), std::ios::binary) << content;
+}
+
+void ProgramFixture::WriteTracker(const std::string& dayKey, const std::vector<std::string>& slots) const
+{
+    WriteData("tracker_granules" + dayKey + ".out", TrackerText(slots));
+}
+
+std::vector<std::string> ProgramFixture::Subjects(const nlohmann::json& items) const
+{
+    std::vector<std::string> subjects;
+    for (const auto& item : items) {
+        subjects.push_back(item.at("subject"));
+    }
+    return subjects;
+}
+
+std::vector<std::vector<std::string>> OneOfEachCommand()
+{
+    return { { "sync" }, { "list" }, { "projects" }, { "projects", "set", "A" }, { "projects", "remove", "Wish" },
+        { "projects", "match", "a" }, { "apply", "Wish" },
+        { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" }, { "report" },
+        { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" },
+        { "export", "--format", "csv" }, { "demo" }, { "trace" }, { "registry", "get", "HKCU", "", "CurrentVersion" },
+        { "registry", "set", "HKCU", "", "A", "b" }, { "registry", "delete", "HKCU", "", "CurrentVersion" } };
+}
+
+}
