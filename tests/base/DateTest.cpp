@@ -1,6 +1,7 @@
 #include "base/Date.h"
 
 #include "base/Failure.h"
+#include "support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -16,16 +17,6 @@ constexpr std::int64_t Hour = 3600;
 Date On(int year, int month, int day, int hour = 0, int minute = 0, int second = 0)
 {
     return Date::FromParts({ year, month, day, hour, minute, second });
-}
-
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
 }
 
 TEST(DateTest, Unset_IsTheZeroMoment)
@@ -84,20 +75,20 @@ TEST(DateTest, FromYearMonthDay_PartsOutOfRange_RollOver)
 
 TEST(DateTest, FromYearMonthDay_OutsideTheCalendar_Fails)
 {
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(10000, 1, 1); }), 5);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(9999, 12, 32); }), 5);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(100, 1, 0); }), 5);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(-1, 1, 1); }), 5);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(32767, 32767, 32767); }), 5);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(-32768, -32768, -32768); }), 5);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(10000, 1, 1); }), 5);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(9999, 12, 32); }), 5);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(100, 1, 0); }), 5);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(-1, 1, 1); }), 5);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(32767, 32767, 32767); }), 5);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(-32768, -32768, -32768); }), 5);
 }
 
 TEST(DateTest, FromYearMonthDay_PartBeyond16Bits_Overflows)
 {
     constexpr auto Largest = std::numeric_limits<std::int32_t>::max();
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(40000, 1, 1); }), 6);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(2006, Largest, 1); }), 6);
-    EXPECT_EQ(NumberOf([] { Date::FromYearMonthDay(2006, 1, -40000); }), 6);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(40000, 1, 1); }), 6);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(2006, Largest, 1); }), 6);
+    EXPECT_EQ(FailureNumber([] { Date::FromYearMonthDay(2006, 1, -40000); }), 6);
 }
 
 TEST(DateTest, FromTexts_TextsOfNumbers_AreRead)
@@ -105,10 +96,10 @@ TEST(DateTest, FromTexts_TextsOfNumbers_AreRead)
     EXPECT_EQ(Date::FromTexts("2006", 10, "10").DayKey(), "20061010");
     EXPECT_EQ(Date::FromTexts("06", 10, "10").DayKey(), "20061010");
     EXPECT_EQ(Date::FromTexts("2006", 0, "10").DayKey(), "20051210");
-    EXPECT_EQ(NumberOf([] { Date::FromTexts("", 1, "1"); }), 13);
-    EXPECT_EQ(NumberOf([] { Date::FromTexts("abc", 1, "1"); }), 13);
-    EXPECT_EQ(NumberOf([] { Date::FromTexts("2006", 1, ""); }), 13);
-    EXPECT_EQ(NumberOf([] { Date::FromTexts("40000", 1, "1"); }), 6);
+    EXPECT_EQ(FailureNumber([] { Date::FromTexts("", 1, "1"); }), 13);
+    EXPECT_EQ(FailureNumber([] { Date::FromTexts("abc", 1, "1"); }), 13);
+    EXPECT_EQ(FailureNumber([] { Date::FromTexts("2006", 1, ""); }), 13);
+    EXPECT_EQ(FailureNumber([] { Date::FromTexts("40000", 1, "1"); }), 6);
 }
 
 TEST(DateTest, Add_Base20061010_MovesTheMoment)
@@ -141,8 +132,8 @@ TEST(DateTest, MinutesBetween_Beyond32Bits_Overflows)
 {
     constexpr std::int64_t Largest = std::numeric_limits<std::int32_t>::max();
     EXPECT_EQ(MinutesBetween(Date(), Date().AddMinutes(Largest)), Largest);
-    EXPECT_EQ(NumberOf([] { MinutesBetween(Date(), Date().AddMinutes(Largest + 1)); }), 6);
-    EXPECT_EQ(NumberOf([] { MinutesBetween(Date(), Date().AddMinutes(-Largest - 2)); }), 6);
+    EXPECT_EQ(FailureNumber([] { MinutesBetween(Date(), Date().AddMinutes(Largest + 1)); }), 6);
+    EXPECT_EQ(FailureNumber([] { MinutesBetween(Date(), Date().AddMinutes(-Largest - 2)); }), 6);
 }
 
 TEST(DateTest, DaysBetween_AnyMoments_CountsMidnights)

@@ -1,5 +1,7 @@
 #include "base/OrderedCollection.h"
 
+#include "support/FailureNumber.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -9,16 +11,6 @@ namespace tempodial {
 namespace {
 
 using Texts = OrderedCollection<std::string>;
-
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-}
 
 std::string Joined(const Texts& texts)
 {
@@ -46,30 +38,30 @@ TEST_F(OrderedCollectionTest, Item_Positions_CountFromOne)
 {
     EXPECT_EQ(mTexts.Count(), 3);
     EXPECT_EQ(Joined(mTexts), "abc");
-    EXPECT_EQ(NumberOf([&] { mTexts.Item(0); }), 9);
-    EXPECT_EQ(NumberOf([&] { mTexts.Item(4); }), 9);
-    EXPECT_EQ(NumberOf([&] { mTexts.Item(-1); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.Item(0); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.Item(4); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.Item(-1); }), 9);
 }
 
 TEST_F(OrderedCollectionTest, ItemKeyed_KeyInOtherCase_IsFound)
 {
     EXPECT_EQ(mTexts.ItemKeyed("ALPHA"), "a");
     EXPECT_EQ(mTexts.ItemKeyed("äTHER"), "c");
-    EXPECT_EQ(NumberOf([&] { mTexts.ItemKeyed("beta"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mTexts.ItemKeyed("beta"); }), 5);
 }
 
 TEST_F(OrderedCollectionTest, ItemKeyed_EmptyKey_IsAnOrdinaryKey)
 {
-    EXPECT_EQ(NumberOf([&] { mTexts.ItemKeyed(""); }), 5) << "an entry without a key has no empty one";
+    EXPECT_EQ(FailureNumber([&] { mTexts.ItemKeyed(""); }), 5) << "an entry without a key has no empty one";
     mTexts.AddKeyed("d", "");
     EXPECT_EQ(mTexts.ItemKeyed(""), "d");
-    EXPECT_EQ(NumberOf([&] { mTexts.AddKeyed("e", ""); }), 457);
+    EXPECT_EQ(FailureNumber([&] { mTexts.AddKeyed("e", ""); }), 457);
 }
 
 TEST_F(OrderedCollectionTest, AddKeyed_KnownKey_FailsAndChangesNothing)
 {
-    EXPECT_EQ(NumberOf([&] { mTexts.AddKeyed("x", "aLPHA"); }), 457);
-    EXPECT_EQ(NumberOf([&] { mTexts.AddKeyedBefore("x", "alpha", 1); }), 457);
+    EXPECT_EQ(FailureNumber([&] { mTexts.AddKeyed("x", "aLPHA"); }), 457);
+    EXPECT_EQ(FailureNumber([&] { mTexts.AddKeyedBefore("x", "alpha", 1); }), 457);
     EXPECT_EQ(Joined(mTexts), "abc");
 }
 
@@ -83,9 +75,9 @@ TEST_F(OrderedCollectionTest, AddKeyedBefore_Position_MovesLaterEntriesUp)
 
 TEST_F(OrderedCollectionTest, AddKeyedBefore_PositionOutOfRange_FailsAndChangesNothing)
 {
-    EXPECT_EQ(NumberOf([&] { mTexts.AddKeyedBefore("x", "x", 0); }), 9);
-    EXPECT_EQ(NumberOf([&] { mTexts.AddKeyedBefore("x", "x", 4); }), 9);
-    EXPECT_EQ(NumberOf([] { Texts().AddKeyedBefore("x", "x", 1); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.AddKeyedBefore("x", "x", 0); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.AddKeyedBefore("x", "x", 4); }), 9);
+    EXPECT_EQ(FailureNumber([] { Texts().AddKeyedBefore("x", "x", 1); }), 9);
     EXPECT_EQ(Joined(mTexts), "abc");
 }
 
@@ -93,9 +85,9 @@ TEST_F(OrderedCollectionTest, Remove_Position_MovesLaterEntriesDown)
 {
     mTexts.Remove(1);
     EXPECT_EQ(Joined(mTexts), "bc");
-    EXPECT_EQ(NumberOf([&] { mTexts.ItemKeyed("alpha"); }), 5);
-    EXPECT_EQ(NumberOf([&] { mTexts.Remove(3); }), 9);
-    EXPECT_EQ(NumberOf([&] { mTexts.Remove(0); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.ItemKeyed("alpha"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mTexts.Remove(3); }), 9);
+    EXPECT_EQ(FailureNumber([&] { mTexts.Remove(0); }), 9);
     mTexts.AddKeyed("a", "alpha");
     EXPECT_EQ(Joined(mTexts), "bca");
 }
@@ -104,7 +96,7 @@ TEST_F(OrderedCollectionTest, RemoveKeyed_Key_TakesItsEntry)
 {
     mTexts.RemoveKeyed("ALPHA");
     EXPECT_EQ(Joined(mTexts), "bc");
-    EXPECT_EQ(NumberOf([&] { mTexts.RemoveKeyed("alpha"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mTexts.RemoveKeyed("alpha"); }), 5);
     EXPECT_EQ(Joined(mTexts), "bc");
 }
 

@@ -1,5 +1,7 @@
 #include "base/Watched.h"
 
+#include "support/FailureNumber.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -39,16 +41,6 @@ private:
     EventSource<DoorEvents> mEvents;
 };
 
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-}
-
 class WatchedTest : public testing::Test
 {
 protected:
@@ -66,7 +58,7 @@ protected:
 TEST_F(WatchedTest, Unset_AnyMember_Fails)
 {
     EXPECT_FALSE(mDoor);
-    EXPECT_EQ(NumberOf([&] { mDoor->Shut(); }), 91);
+    EXPECT_EQ(FailureNumber([&] { mDoor->Shut(); }), 91);
 }
 
 TEST_F(WatchedTest, Set_Object_HearsItsEvents)
@@ -91,7 +83,7 @@ TEST_F(WatchedTest, Set_AnotherObject_EndsTheFormerSubscription)
 TEST_F(WatchedTest, Set_Nothing_FailsAndChangesNothing)
 {
     mDoor.Set(mFirst, Noting("a"));
-    EXPECT_EQ(NumberOf([&] { mDoor.Set(nullptr, Noting("b")); }), 91);
+    EXPECT_EQ(FailureNumber([&] { mDoor.Set(nullptr, Noting("b")); }), 91);
     mFirst->Shut();
     EXPECT_EQ(mSeen, "a");
     EXPECT_EQ(mDoor.Get(), mFirst);
@@ -101,7 +93,7 @@ TEST_F(WatchedTest, Set_SubscriptionRefused_ChangesNothing)
 {
     mDoor.Set(mFirst, Noting("a"));
     mSecond->mRefuses = true;
-    EXPECT_EQ(NumberOf([&] { mDoor.Set(mSecond, Noting("b")); }), 462);
+    EXPECT_EQ(FailureNumber([&] { mDoor.Set(mSecond, Noting("b")); }), 462);
     mFirst->Shut();
     EXPECT_EQ(mSeen, "a");
     EXPECT_EQ(mDoor.Get(), mFirst);

@@ -10,6 +10,7 @@
 #include "host/system/TomlRegistry.h"
 #include "host/windows/HostApplication.h"
 #include "platform/objectmodel/Folders.h"
+#include "support/FailureNumber.h"
 #include "support/TempFolder.h"
 #include "support/TestMailbox.h"
 
@@ -39,21 +40,11 @@ protected:
         for (const auto& [name, call] : calls) {
             mPlan->Add({ .call = name, .failure = Failure(4711, name) });
             const auto before = mPlan->CallCount();
-            EXPECT_EQ(NumberOf(call), 4711) << name;
+            EXPECT_EQ(FailureNumber(call), 4711) << name;
             EXPECT_EQ(mPlan->CallCount(), before + 1) << name;
-            EXPECT_NE(NumberOf(call), 4711) << name;
+            EXPECT_NE(FailureNumber(call), 4711) << name;
         }
     }
-    static std::int32_t NumberOf(const std::function<void()>& call)
-    {
-        try {
-            call();
-        } catch (const Failure& failure) {
-            return failure.Number();
-        }
-        return 0;
-    }
-
     Ref<FaultPlan> mPlan = MakeRef<FaultPlan>();
     /// A mailbox with an item in its calendar.
     static Ref<Mailbox> MailboxWithItem()
@@ -341,20 +332,20 @@ TEST_F(WrappedTest, Events_Objects_AreWrapped)
     const auto items = mCalendar->Items();
     const auto arrived = items->Subscribe({ .ItemAdd = [&](const auto& item) {
         mPlan->Add({ .call = "OutlookItem.Subject" });
-        note("item " + std::to_string(NumberOf([&] { item->Subject(); })));
+        note("item " + std::to_string(FailureNumber([&] { item->Subject(); })));
     } });
     const auto opened = mApplication->Explorers()->Subscribe({ .NewExplorer = [&](const auto& explorer) {
         mPlan->Add({ .call = "Explorer.Caption" });
-        note("explorer " + std::to_string(NumberOf([&] { explorer->Caption(); })));
+        note("explorer " + std::to_string(FailureNumber([&] { explorer->Caption(); })));
     } });
     const auto shown = mApplication->Inspectors()->Subscribe({ .NewInspector = [&](const auto& inspector) {
         mPlan->Add({ .call = "Inspector.Caption" });
-        note("inspector " + std::to_string(NumberOf([&] { inspector->Caption(); })));
+        note("inspector " + std::to_string(FailureNumber([&] { inspector->Caption(); })));
     } });
     const auto button = mExplorer->CommandBars()->ItemNamed("Standard")->Controls()->Add({}).As<CommandBarButton>();
     const auto clicked = button->Subscribe({ .Click = [&](const auto& control, bool& cancelDefault) {
         mPlan->Add({ .call = "CommandBarButton.Caption" });
-        note("button " + std::to_string(NumberOf([&] { control->Caption(); })));
+        note("button " + std::to_string(FailureNumber([&] { control->Caption(); })));
         cancelDefault = true;
     } });
     NewTestItem(mMailbox, "b")->Save();

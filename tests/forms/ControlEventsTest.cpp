@@ -5,6 +5,7 @@
 #include "forms/FormModel.h"
 #include "forms/OptionButtonModel.h"
 #include "forms/TextBoxModel.h"
+#include "support/FailureNumber.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,16 +20,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-}
 
 /// A control that nobody but the form holds.
 template <class Model> Model& Bare(const Ref<FormModel>& form, const std::string& name)
@@ -144,8 +135,8 @@ TEST_F(ControlEventsTest, ListIndex_ByCode_RaisesClickWhenItChanges)
     mMonth->SetListIndex(-1);
     EXPECT_THAT(Heard(), ElementsAre("Month click"));
     EXPECT_EQ(mMonth->Text(), "");
-    EXPECT_EQ(NumberOf([&] { mMonth->SetListIndex(3); }), 380);
-    EXPECT_EQ(NumberOf([&] { mMonth->SetListIndex(-2); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mMonth->SetListIndex(3); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mMonth->SetListIndex(-2); }), 380);
     EXPECT_THAT(Heard(), IsEmpty());
 }
 
@@ -224,13 +215,13 @@ TEST_F(ControlEventsTest, ControlThatCanNotBeWorked_FailsAndChangesNothing)
     };
     for (const auto& [control, action] : actions) {
         control->SetEnabled(false);
-        EXPECT_EQ(NumberOf(action), 5) << "disabled";
+        EXPECT_EQ(FailureNumber(action), 5) << "disabled";
         control->SetEnabled(true);
         control->SetVisible(false);
-        EXPECT_EQ(NumberOf(action), 5) << "hidden";
+        EXPECT_EQ(FailureNumber(action), 5) << "hidden";
         control->SetVisible(true);
         mForm->Hide();
-        EXPECT_EQ(NumberOf(action), 5) << "form hidden";
+        EXPECT_EQ(FailureNumber(action), 5) << "form hidden";
         mForm->Show();
     }
     EXPECT_THAT(Heard(), IsEmpty());

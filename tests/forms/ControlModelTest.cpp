@@ -5,6 +5,7 @@
 #include "forms/LabelModel.h"
 #include "forms/ProgressBarModel.h"
 #include "forms/TextBoxModel.h"
+#include "support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -13,16 +14,6 @@
 
 namespace tempodial {
 namespace {
-
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-}
 
 class ControlModelTest : public testing::Test
 {
@@ -83,17 +74,17 @@ TEST_F(ControlModelTest, Click_ButtonThatCanNotBeWorked_Fails)
     int clicks = 0;
     const auto subscription = mOk->Subscribe({ .Click = [&] { ++clicks; } });
     const auto outside = mOutside->Subscribe({ .Click = [&] { ++clicks; } });
-    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "form not shown";
+    EXPECT_EQ(FailureNumber([&] { mOk->Click(); }), 5) << "form not shown";
     mForm->Show();
-    EXPECT_EQ(NumberOf([&] { mOutside->Click(); }), 5) << "outside of the visible part";
+    EXPECT_EQ(FailureNumber([&] { mOutside->Click(); }), 5) << "outside of the visible part";
     mOk->SetEnabled(false);
-    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "disabled";
+    EXPECT_EQ(FailureNumber([&] { mOk->Click(); }), 5) << "disabled";
     mOk->SetEnabled(true);
     mOk->SetVisible(false);
-    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "hidden";
+    EXPECT_EQ(FailureNumber([&] { mOk->Click(); }), 5) << "hidden";
     mOk->SetVisible(true);
     mForm->Hide();
-    EXPECT_EQ(NumberOf([&] { mOk->Click(); }), 5) << "form hidden";
+    EXPECT_EQ(FailureNumber([&] { mOk->Click(); }), 5) << "form hidden";
     EXPECT_EQ(clicks, 0);
     mForm->Show();
     mOk->Click();
@@ -112,7 +103,7 @@ TEST_F(ControlModelTest, Click_ListenerDropsTheForm_Finishes)
     } });
     button->Click();
     EXPECT_TRUE(clicked);
-    EXPECT_EQ(NumberOf([&] { button->Click(); }), 5) << "the form is gone";
+    EXPECT_EQ(FailureNumber([&] { button->Click(); }), 5) << "the form is gone";
 }
 
 TEST_F(ControlModelTest, TypeText_ShownBox_TakesThePlaceOfTheText)
@@ -128,16 +119,16 @@ TEST_F(ControlModelTest, TypeText_ShownBox_TakesThePlaceOfTheText)
 
 TEST_F(ControlModelTest, TypeText_BoxThatCanNotBeWorked_Fails)
 {
-    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "form not shown";
+    EXPECT_EQ(FailureNumber([&] { mName->Type("x"); }), 5) << "form not shown";
     mForm->Show();
     mName->SetEnabled(false);
-    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "disabled";
+    EXPECT_EQ(FailureNumber([&] { mName->Type("x"); }), 5) << "disabled";
     mName->SetEnabled(true);
     mName->SetVisible(false);
-    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "hidden";
+    EXPECT_EQ(FailureNumber([&] { mName->Type("x"); }), 5) << "hidden";
     mName->SetVisible(true);
     mForm->Hide();
-    EXPECT_EQ(NumberOf([&] { mName->Type("x"); }), 5) << "form hidden";
+    EXPECT_EQ(FailureNumber([&] { mName->Type("x"); }), 5) << "form hidden";
     EXPECT_EQ(mName->Text(), "a name");
     mName->SetText("by code");
     EXPECT_EQ(mName->Text(), "by code");
@@ -159,11 +150,11 @@ TEST_F(ControlModelTest, Choose_Entry_SetsTextAndIndex)
 TEST_F(ControlModelTest, Choose_AbsentEntryOrBoxThatCanNotBeWorked_FailsAndChangesNothing)
 {
     mMonth->AddItem("Jan");
-    EXPECT_EQ(NumberOf([&] { mMonth->Choose(0); }), 5);
-    EXPECT_EQ(NumberOf([&] { mMonth->Type("x"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mMonth->Choose(0); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mMonth->Type("x"); }), 5);
     mForm->Show();
-    EXPECT_EQ(NumberOf([&] { mMonth->Choose(1); }), 5);
-    EXPECT_EQ(NumberOf([&] { mMonth->Choose(-1); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mMonth->Choose(1); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mMonth->Choose(-1); }), 5);
     EXPECT_EQ(mMonth->Text(), "");
     EXPECT_EQ(mMonth->ListIndex(), -1);
 }
@@ -200,8 +191,8 @@ TEST_F(ControlModelTest, SetValue_InsideOfTheRange_IsTaken)
 TEST_F(ControlModelTest, SetValue_OutsideOfTheRange_FailsAndChangesNothing)
 {
     mBar->SetValue(5);
-    EXPECT_EQ(NumberOf([&] { mBar->SetValue(-1); }), 380);
-    EXPECT_EQ(NumberOf([&] { mBar->SetValue(101); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mBar->SetValue(-1); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mBar->SetValue(101); }), 380);
     EXPECT_EQ(mBar->Value(), 5);
 }
 
@@ -213,8 +204,8 @@ TEST_F(ControlModelTest, SetBounds_ValueOutside_IsMovedIntoThem)
     mBar->SetValue(0);
     mBar->SetMin(10);
     EXPECT_EQ(mBar->Value(), 10);
-    EXPECT_EQ(NumberOf([&] { mBar->SetMax(9); }), 380);
-    EXPECT_EQ(NumberOf([&] { mBar->SetMin(51); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mBar->SetMax(9); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mBar->SetMin(51); }), 380);
     EXPECT_EQ(mBar->Min(), 10);
     EXPECT_EQ(mBar->Max(), 50);
 }

@@ -5,6 +5,7 @@
 #include "forms/ComboBoxModel.h"
 #include "forms/LabelModel.h"
 #include "forms/ProgressBarModel.h"
+#include "support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,7 @@
 namespace tempodial {
 namespace {
 
-FormDefinition Sample()
+FormDefinition SmallSample()
 {
     return { .className = "SampleForm",
         .title = "Sample",
@@ -22,20 +23,10 @@ FormDefinition Sample()
             { { .name = "Bar", .kind = ControlKind::ProgressBar, .text = "" } } } };
 }
 
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-}
-
 class FormModelTest : public testing::Test
 {
 protected:
-    Ref<FormModel> mForm = MakeRef<FormModel>(Sample(), 7);
+    Ref<FormModel> mForm = MakeRef<FormModel>(SmallSample(), 7);
 };
 
 TEST_F(FormModelTest, Control_Name_GivesTheControlOfItsKind)
@@ -44,14 +35,14 @@ TEST_F(FormModelTest, Control_Name_GivesTheControlOfItsKind)
     EXPECT_FALSE(mForm->Control("Line").As<Button>());
     EXPECT_TRUE(mForm->Control("Bar").As<ProgressBar>());
     EXPECT_EQ(mForm->Control("Line"), mForm->Control("Line"));
-    EXPECT_EQ(NumberOf([&] { mForm->Control("Absent"); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mForm->Control("Absent"); }), 5);
 }
 
 TEST_F(FormModelTest, Constructed_TwoControlsOfOneName_Fails)
 {
-    auto definition = Sample();
+    auto definition = SmallSample();
     definition.rows[1].push_back(definition.rows[0][0]);
-    EXPECT_EQ(NumberOf([&] { FormModel(definition, 7); }), 457);
+    EXPECT_EQ(FailureNumber([&] { FormModel(definition, 7); }), 457);
 }
 
 TEST_F(FormModelTest, Number_IsTheOneGiven)
@@ -148,7 +139,7 @@ TEST_F(FormModelTest, CloseByFrame_FormNotShown_Fails)
 {
     bool asked = false;
     const auto subscription = mForm->Subscribe({ .QueryClose = [&](bool&) { asked = true; } });
-    EXPECT_EQ(NumberOf([&] { mForm->CloseByFrame(); }), 5);
+    EXPECT_EQ(FailureNumber([&] { mForm->CloseByFrame(); }), 5);
     EXPECT_FALSE(asked);
 }
 

@@ -19,7 +19,7 @@ template <class Statement> bool Succeeds(Statement&& statement)
 }
 
 /// The history of a file is asked for days and changed as at the end of a sync.
-void ReadAndChange(std::string_view input)
+void ChangeHistory(std::string_view input)
 {
     const HistoryText read { std::string(input) };
     for (const std::string day : { "20061010", "20061009", "20061008" }) {
@@ -48,6 +48,6 @@ void ReadAndChange(std::string_view input)
 
 }
 
-TEMPODIAL_FUZZ_TARGET(HistoryText, ReadAndChange)
+TEMPODIAL_FUZZ_TARGET(HistoryText, ChangeHistory)
 
 }

@@ -20,8 +20,8 @@ std::string WithoutLinks(const std::string& html)
         const auto end = html.find(LinkEnd, shown);
         Hold(end != std::string::npos, "a link ends");
         const auto address = html.substr(shown, end - shown);
-        Hold(
-            html.substr(begin, shown - begin) == std::string(LinkBegin) + address + "'>", "a link leads where it says");
+        const auto target = Replace(address, "'", "&#39;");
+        Hold(html.substr(begin, shown - begin) == std::string(LinkBegin) + target + "'>", "a link leads where it says");
         Hold(address.find_first_of("<>\" \t\r\n") == std::string::npos, "an address holds no marks");
         text += address;
         at = end + LinkEnd.size();

@@ -16,7 +16,7 @@ namespace tempodial {
 
 namespace {
 
-const TempFolder& Folder()
+const TempFolder& MailboxFolder()
 {
     static const TempFolder folder(TempFolder::InMemory());
     return folder;
@@ -25,7 +25,7 @@ const TempFolder& Folder()
 /// A mailbox with something in each of its tables.
 std::string SoundMailbox()
 {
-    const auto path = Folder().Path("sound.db");
+    const auto path = MailboxFolder().Path("sound.db");
     {
         const auto mailbox = OpenTestMailbox(path);
         const auto calendar = mailbox->NameSpace()->GetDefaultFolder(DefaultFolder::Calendar);
@@ -46,7 +46,7 @@ std::string SoundMailbox()
         mailbox->NewItem(log, form)->FormDescription()->PublishForm(FormRegistry::Personal);
         mailbox->Drafts().Save({ { "a@b.example" }, "subject", "<p>", true, { { "a.txt", "content", "text/plain" } } });
     }
-    return Folder().Read("sound.db");
+    return MailboxFolder().Read("sound.db");
 }
 
 /// Takes an input apart, from its begin on; behind its end there are zeros.
@@ -222,7 +222,7 @@ void DamageAndOpen(std::string_view input)
     } else if (damage == 1) {
         content.resize(bytes.Next(3) % content.size());
     }
-    const auto path = Folder().Write("mailbox.db", content);
+    const auto path = MailboxFolder().Write("mailbox.db", content);
     for (const auto* suffix : { "-wal", "-shm" }) {
         std::filesystem::remove(path + suffix);
     }
@@ -230,16 +230,16 @@ void DamageAndOpen(std::string_view input)
         ChangeRows(path, bytes);
     }
     if (damage == 3) {
-        static_cast<void>(Folder().Write("mailbox.db-wal", "x"));
+        static_cast<void>(MailboxFolder().Write("mailbox.db-wal", "x"));
     }
-    const auto before = Folder().Read("mailbox.db");
+    const auto before = MailboxFolder().Read("mailbox.db");
     Ref<Mailbox> mailbox;
     try {
         mailbox = OpenTestMailbox(path);
     } catch (const MailboxError& error) {
         Hold(std::string(error.what()).find(path) != std::string::npos,
             "a mailbox that is refused is named: " + std::string(error.what()));
-        Hold(Folder().Read("mailbox.db") == before, "a mailbox that is refused stays as it is");
+        Hold(MailboxFolder().Read("mailbox.db") == before, "a mailbox that is refused stays as it is");
         return;
     }
     try {

@@ -10,7 +10,7 @@ namespace {
 constexpr auto Key = "Software\\Lindenfold\\Tempodial";
 
 /// A registry file is read, changed and read again.
-void ReadAndChange(std::string_view input)
+void ChangeRegistry(std::string_view input)
 {
     static const TempFolder folder(TempFolder::InMemory());
     const auto path = folder.Write("registry.toml", input);
@@ -38,6 +38,6 @@ void ReadAndChange(std::string_view input)
 
 }
 
-TEMPODIAL_FUZZ_TARGET(Registry, ReadAndChange)
+TEMPODIAL_FUZZ_TARGET(Registry, ChangeRegistry)
 
 }

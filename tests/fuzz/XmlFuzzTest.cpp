@@ -6,7 +6,7 @@ namespace tempodial {
 namespace {
 
 /// A view's definition is read, given another row height as the work log does it, written and read again.
-void ReadAndChange(std::string_view input)
+void ChangeTree(std::string_view input)
 {
     static ExpatXmlFactory factory;
     const auto document = factory.NewDocument();
@@ -41,6 +41,6 @@ void ReadAndChange(std::string_view input)
 
 }
 
-TEMPODIAL_FUZZ_TARGET(Xml, ReadAndChange)
+TEMPODIAL_FUZZ_TARGET(Xml, ChangeTree)
 
 }

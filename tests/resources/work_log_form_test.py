@@ -3,7 +3,6 @@
 import json
 import os
 import pathlib
-import re
 import shutil
 import struct
 import subprocess
@@ -13,8 +12,9 @@ import uuid
 
 import olefile
 
+import product_words
+
 FORM = pathlib.Path(os.environ["TEMPODIAL_SHARE_DIR"]) / "WorkLogForm.oft"
-STRINGS = pathlib.Path(__file__).resolve().parents[2] / "src/engine/foundation/TempodialStrings.cpp"
 
 PUBLIC_STRINGS = uuid.UUID("{00020329-0000-0000-C000-000000000046}")
 COMMON = uuid.UUID("{00062008-0000-0000-C000-000000000046}")
@@ -32,9 +32,6 @@ FIELDS = {
     "ApplyPast": YES_NO,
 }
 
-
-def word_of_the_product(field):
-    return re.search(rf'\b{field} = "([^"]*)";', STRINGS.read_text(encoding="utf-8"))[1]
 
 
 class Message:
@@ -144,7 +141,7 @@ class WorkLogFormTest(unittest.TestCase):
 
     def test_MessageClass_IsTheProducts(self):
         message_class = self.message.properties[0x001A]
-        self.assertEqual(message_class, word_of_the_product("mFormClass"))
+        self.assertEqual(message_class, product_words.Word("mFormClass"))
         self.assertEqual(message_class, "IPM.Appointment.TDActivity1")
 
     def test_FormName_IsTheLastPartOfTheClass(self):
@@ -155,7 +152,7 @@ class WorkLogFormTest(unittest.TestCase):
         self.assertEqual(self.message.named(COMMON, 0x8542), 0x02000000)
 
     def test_Defaults_AreThePromptAndNo(self):
-        self.assertEqual(self.message.named(PUBLIC_STRINGS, "Keyword"), word_of_the_product("mSelectAKeyword"))
+        self.assertEqual(self.message.named(PUBLIC_STRINGS, "Keyword"), product_words.Word("mSelectAKeyword"))
         self.assertIs(self.message.named(PUBLIC_STRINGS, "ApplyPast"), False)
 
     def test_NewActivity_RemindsOfNothingAndShowsTheTimeAsFree(self):
@@ -172,10 +169,10 @@ class WorkLogFormTest(unittest.TestCase):
 
     def test_Page_HasTheControlsThatTheProgramWorks(self):
         page = json.loads(self.message.streams["TempodialPage"].decode("utf-8"))
-        self.assertEqual(page["page"], word_of_the_product("mMainPageName"))
+        self.assertEqual(page["page"], product_words.Word("mMainPageName"))
         controls = {control["name"]: control for row in page["rows"] for control in row}
         self.assertEqual({name: (control["kind"], control.get("field")) for name, control in controls.items()}, {
-            word_of_the_product("mProjectComboBox"): ("combo", "Project"),
+            product_words.Word("mProjectComboBox"): ("combo", "Project"),
             "DescCombo": ("combo", "Keyword"),
             "ApplyCheckBox": ("check", "ApplyPast"),
             "SubjectBox": ("text", "Description"),

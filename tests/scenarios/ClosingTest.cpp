@@ -11,7 +11,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr auto SaveAndClose = "&Save and Close";
 constexpr auto Question = "Do you want to save your changes?";
 
 }

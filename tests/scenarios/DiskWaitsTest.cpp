@@ -12,7 +12,7 @@ class DiskWaitsTest : public ProgramFixture
 protected:
     DiskWaitsTest()
     {
-        WriteTracker("20061010", { Word(32400, 32700, "a") });
+        WriteTracker("20061010", { WordSlot(32400, 32700, "a") });
         EXPECT_EQ(Run({ "sync" }).status, 0);
     }
     /// Runs a command and holds which files and folders it flushes, by their names and in that order.
@@ -28,7 +28,7 @@ protected:
         EXPECT_EQ(result->status, 0) << result->error;
         EXPECT_EQ(names, expected);
     }
-    void AddLine() { WriteTracker("20061010", { Word(32400, 32700, "a"), Word(32700, 33000, "b") }); }
+    void AddLine() { WriteTracker("20061010", { WordSlot(32400, 32700, "a"), WordSlot(32700, 33000, "b") }); }
 };
 
 TEST_F(DiskWaitsTest, Sync_OneNewLine_WaitsFiveTimes)

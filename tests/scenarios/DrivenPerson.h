@@ -11,6 +11,11 @@
 
 namespace tempodial {
 
+/// The button by which an activity's window saves and closes.
+inline constexpr auto SaveAndClose = "&Save and Close";
+/// The dialog that keeps the projects.
+inline constexpr auto SettingsForm = "ProjectSettingsForm";
+
 /// A person at work in the host, through the driver: a profile of its own, in en_US, from 9 o'clock on Tuesday,
 /// 10 October 2006. What goes wrong is noted and stops nothing.
 class DrivenPerson

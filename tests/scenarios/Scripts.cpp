@@ -4,9 +4,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto SaveAndClose = "&Save and Close";
 constexpr auto Settings = "Pro&ject Settings...";
-constexpr auto SettingsForm = "ProjectSettingsForm";
 
 Json CancelJob()
 {

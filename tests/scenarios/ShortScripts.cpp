@@ -4,8 +4,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto SettingsForm = "ProjectSettingsForm";
-
 /// The add-in has started, with a few slots that wait for it.
 void Begin(DrivenPerson& person)
 {

@@ -41,7 +41,7 @@ TEST(ProfileTest, PathThatHoldsABackslash_KeepsAllInOneFolder)
         EXPECT_TRUE(files.FileExists(profile.DataFolder() + "/new.out"));
     }
     EXPECT_THAT(NamesIn(folder.Path()), UnorderedElementsAre(R"(a\b)"));
-    EXPECT_THAT(NamesIn(path), UnorderedElementsAre("mailbox.db", "registry.toml", "Tempodial"));
+    EXPECT_THAT(NamesIn(path), UnorderedElementsAre("mailbox.db", "mailbox.db-wal", "registry.toml", "Tempodial"));
     EXPECT_THAT(NamesIn(path + "/Tempodial"), UnorderedElementsAre("new.out", "added.out"));
     const Profile again(path, "en_US", std::nullopt);
     EXPECT_EQ(again.Registry()->Get(Hive::CurrentUser, "Software", "a"), Variant("b"));

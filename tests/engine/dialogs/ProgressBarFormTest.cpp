@@ -2,6 +2,7 @@
 
 #include "forms/ButtonModel.h"
 #include "forms/FormModelFactory.h"
+#include "support/FailureNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -28,16 +29,6 @@ public:
     int mCount = 0;
     std::function<void()> mThen;
 };
-
-std::int32_t NumberOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-}
 
 class ProgressBarFormTest : public testing::Test
 {
@@ -126,7 +117,7 @@ TEST_F(ProgressBarFormTest, Update_AboveTheLimit_ShowsAFullBar)
 TEST_F(ProgressBarFormTest, Update_Negative_Fails)
 {
     mProgress->Update(3);
-    EXPECT_EQ(NumberOf([&] { mProgress->Update(-1); }), 380);
+    EXPECT_EQ(FailureNumber([&] { mProgress->Update(-1); }), 380);
     EXPECT_EQ(Bar()->Value(), 3);
     EXPECT_EQ(mPump->mCount, 1);
 }
@@ -176,7 +167,7 @@ TEST_F(ProgressBarFormTest, Unload_ShownForm_TakesItOffTheScreen)
     mProgress->Unload();
     EXPECT_FALSE(Model()->Visible());
     EXPECT_EQ(mForms->NewestVisible("ProgressBarForm"), Ref<FormModel>());
-    EXPECT_EQ(NumberOf([&] { Button("LoadCancel")->Click(); }), 5);
+    EXPECT_EQ(FailureNumber([&] { Button("LoadCancel")->Click(); }), 5);
     EXPECT_FALSE(mProgress->IsCancelled());
 }
 
@@ -197,7 +188,7 @@ TEST_F(ProgressBarFormTest, Destroyed_Form_IsLetGo)
     mProgress->Show();
     mProgress.reset();
     EXPECT_TRUE(mForms->Forms().empty());
-    EXPECT_EQ(NumberOf([&] { button->Click(); }), 5);
+    EXPECT_EQ(FailureNumber([&] { button->Click(); }), 5);
 }
 
 }

@@ -18,7 +18,7 @@ struct TextCase
     std::string span;
 };
 
-std::string NameOf(const testing::TestParamInfo<TextCase>& info)
+std::string CaseName(const testing::TestParamInfo<TextCase>& info)
 {
     return info.param.name;
 }
@@ -55,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, HtmlTextEscapeTest,
         TextCase { "QuotesStay", "\"a\" 'b'", "\"a\" 'b'" },
         TextCase {
             "OtherScripts", "\xe8\xa8\x88\xe7\x94\xbb <\xd8\xae>", "\xe8\xa8\x88\xe7\x94\xbb &lt;\xd8\xae&gt;" }),
-    NameOf);
+    CaseName);
 
 class HtmlTextMogrifyTest : public HtmlTextTest, public testing::WithParamInterface<TextCase>
 {
@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, HtmlTextMogrifyTest,
             "http://b at [36,44)" },
         TextCase { "OtherScripts", "\xe8\xa8\x88\xe7\x94\xbb http://\xe4\xbe\x8b x",
             "\xe8\xa8\x88\xe7\x94\xbb " + Link("http://\xe4\xbe\x8b") + " x", "http://\xe4\xbe\x8b at [4,12)" }),
-    NameOf);
+    CaseName);
 
 TEST_F(HtmlTextTest, HTMLMogrify_TwoAddresses_AreTracedInTheirOrder)
 {

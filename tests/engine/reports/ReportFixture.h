@@ -9,6 +9,9 @@
 
 namespace tempodial {
 
+/// The first line of the table that a report has as a file.
+inline constexpr auto CsvHeader = "Project,Application,Description,People,Day,Start time,End time,Duration (minutes)";
+
 /// The name of a test's case.
 template <class Case> std::string NameOf(const testing::TestParamInfo<Case>& info)
 {

@@ -13,8 +13,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Header = "Project,Application,Description,People,Day,Start time,End time,Duration (minutes)";
-
 /// What closes a plain report.
 std::string Tail(const std::string& time)
 {
@@ -250,7 +248,7 @@ TEST_F(ReportGatheringTest, ToCSVLine_Item_HasEightFields)
     Add(Moment(10, 9, 0), 5, "R&D", "Notepad", "a \"b\", c", "Ann;Bob");
     const std::string line
         = R"("R&D","Notepad","a 'b', c","Ann;Bob","Tuesday, October 10, 2006","9:00 AM","9:05 AM",5)";
-    EXPECT_THAT(Csv(10, 10), ElementsAre(Header, line));
+    EXPECT_THAT(Csv(10, 10), ElementsAre(CsvHeader, line));
     EXPECT_THAT(mAddIn.Trace(), Contains("TDReport ToCSVLine: " + line));
 }
 

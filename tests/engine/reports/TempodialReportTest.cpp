@@ -15,8 +15,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Header = "Project,Application,Description,People,Day,Start time,End time,Duration (minutes)";
-
 class TempodialReportTest : public ReportFixture
 {
 protected:
@@ -226,7 +224,7 @@ TEST_F(TempodialReportTest, CreateReport_OwnTemplates_ReferToNothingOutside)
 
 TEST_F(TempodialReportTest, CreateReport_OneDay_NamesTheCsvFileByIt)
 {
-    EXPECT_THAT(Csv(10, 10), ElementsAre(Header));
+    EXPECT_THAT(Csv(10, 10), ElementsAre(CsvHeader));
     EXPECT_EQ(mCsvPath, mAddIn.main->mCommonUtils->GetDataFilePath("Tempodial Tuesday, October 10, 2006.csv"));
     EXPECT_THAT(ReportTrace(), Contains("csv file: " + mCsvPath));
 }
@@ -234,7 +232,7 @@ TEST_F(TempodialReportTest, CreateReport_OneDay_NamesTheCsvFileByIt)
 TEST_F(TempodialReportTest, CreateReport_TwoDays_NamesTheCsvFileByBoth)
 {
     mFolder.Write("Tempodial/Tempodial Tuesday, October 10, 2006 - Wednesday, October 11, 2006.csv", "older\r\n");
-    EXPECT_THAT(Csv(10, 11), ElementsAre(Header));
+    EXPECT_THAT(Csv(10, 11), ElementsAre(CsvHeader));
     EXPECT_THAT(mCsvPath, EndsWith("Tempodial Tuesday, October 10, 2006 - Wednesday, October 11, 2006.csv"));
 }
 
