@@ -30,6 +30,8 @@ target_link_libraries(test_headers PRIVATE test_options)
 target_precompile_headers(test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <functional> <memory> <string> <vector>)
 
 tempodial_folder(test_support tests/support LINK test_options slots platform base)
+# Each test program takes the helpers that it needs, so they stay apart.
+set_target_properties(test_support PROPERTIES UNITY_BUILD OFF)
 target_precompile_headers(test_support REUSE_FROM test_headers)
 
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${tests}/*.cpp")

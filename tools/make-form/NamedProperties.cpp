@@ -26,7 +26,7 @@ std::uint32_t Checksum(const Bytes& bytes)
     return sum;
 }
 
-std::string StreamName(std::uint32_t identifier)
+std::string MappingStream(std::uint32_t identifier)
 {
     constexpr std::string_view Digits = "0123456789ABCDEF";
     std::string name = "__substg1.0_";
@@ -76,11 +76,11 @@ void NamedProperties::WriteTo(CompoundFolder& root) const
     }
 
     auto folder = root.Begin("__nameid_version1.0");
-    folder.Write(StreamName(2), sets);
-    folder.Write(StreamName(3), entries);
-    folder.Write(StreamName(4), mNames);
+    folder.Write(MappingStream(2), sets);
+    folder.Write(MappingStream(3), entries);
+    folder.Write(MappingStream(4), mNames);
     for (const auto& [identifier, bucket] : buckets) {
-        folder.Write(StreamName(identifier), bucket);
+        folder.Write(MappingStream(identifier), bucket);
     }
     folder.Close();
 }
