@@ -1,6 +1,8 @@
 #include "faults/Interposed.h"
 #include "faults/Wrapped.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -91,7 +93,10 @@ private:
     /// A call about a file or folder, whose name is the key.
     static Told Named(const char* member, std::string_view path)
     {
-        return { member, path.substr(path.find_last_of("/\\") + 1), path };
+        // Each line of the trace asks twice, so this is written for speed.
+        const auto name = std::find_if(
+            path.rbegin(), path.rend(), [](char character) { return character == '/' || character == '\\'; });
+        return { member, path.substr(static_cast<std::size_t>(path.rend() - name)), path };
     }
 };
 
