@@ -116,7 +116,7 @@ TEST_F(ActivityListTest, ActivityTable_OneDay_HasNoHeading)
     Add("long\x1b\xe2\x80\xae work\r\n", At(10, 22, 0), At(11, 0, 10));
     EXPECT_EQ(Table(Tenth),
         "09:00–09:05       5 min  [Plan] Microsoft Word, \"plan.doc\"\n"
-        "22:00–00:10  2 h 10 min  long␛ work\n");
+        "22:00–00:10  2 h 10 min  \u2068long␛ work \u2069\n");
 }
 
 TEST_F(ActivityListTest, ActivityTable_SeveralDays_HaveHeadings)

@@ -100,7 +100,7 @@ TEST_F(ListCommandTest, List_CaptionWithControlCharacters_IsHarmlessForPeopleAnd
 {
     WriteTracker("20061010", { WordSlot(32400, 32700, "a\t\xe2\x80\xae.doc") });
     Run({ "sync" });
-    EXPECT_THAT(Run({ "list" }).out, HasSubstr("Microsoft Word, \"a .doc\"\n"));
+    EXPECT_THAT(Run({ "list" }).out, HasSubstr("  \u2068Microsoft Word, \"a .doc\"\u2069\n"));
     EXPECT_THAT(Subjects(Json({ "list" })), ElementsAre("Microsoft Word, \"a\t\xe2\x80\xae.doc\""));
 }
 
