@@ -115,6 +115,14 @@ ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
         mOut << reply.document.Text() << "\n";
     }
     mOut.flush();
+    if (!options.quiet) {
+        for (const auto& note : reply.notes) {
+            mError << HarmlessLine(note) << "\n";
+        }
+    }
+    for (const auto& warning : reply.warnings) {
+        Complain(mError, Name, warning);
+    }
     for (const auto& complaint : reply.complaints) {
         Complain(mError, Name, complaint);
     }

@@ -100,6 +100,26 @@ TEST_F(ProjectsCommandTest, Set_Refused_SaysWhyAndChangesNothing)
     EXPECT_EQ(Json({ "projects" }).at(4), Project("Wish", "2"));
 }
 
+TEST_F(ProjectsCommandTest, Set_RuleWithBothSeparators_IsWarnedOf)
+{
+    const auto set = [this](const std::string& option, const std::string& rule) {
+        const auto result = Run({ "projects", "set", "Plan", option, rule, "--quiet" });
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.out, "");
+        return result.error;
+    };
+    for (const auto* option : { "--subject", "--not-subject" }) {
+        EXPECT_EQ(set(option, "a, b;c ;d"),
+            "tempodial: in the rule \"a, b;c ;d\" commas part the terms, and semicolons belong to them: it is read as "
+            "a "
+            "| b;c ;d\n");
+        for (const auto* rule : { "a, b", "a; b", "\"a;b\", c", "\"a,b\"; c", "" }) {
+            EXPECT_EQ(set(option, rule), "") << rule;
+        }
+    }
+    EXPECT_EQ(set("--people", "Berger, Ann; Bob"), "") << "its terms stand between semicolons";
+}
+
 TEST_F(ProjectsCommandTest, Remove_KnownAndUnknown_AnswerSo)
 {
     EXPECT_EQ(Json({ "projects", "remove", "wish" }), (nlohmann::json { { "removed", "Wish" } }));
