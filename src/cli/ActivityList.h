@@ -12,8 +12,11 @@
 
 namespace tempodial {
 
-/// The activities of a work log that start in the range, in order of start; with a project only those of exactly that
-/// project. Fails as the store does.
+/// The project of an activity, empty when it has none.
+std::string ProjectOf(const Ref<AppointmentItem>& activity);
+
+/// The activities of a work log that start in the range, in order of start; with a project only those of that project,
+/// whatever the case of its letters. Fails as the store does.
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
     const DayRange& days, const std::optional<std::string>& project);
 

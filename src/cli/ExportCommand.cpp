@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/DayRangeArguments.h"
 #include "cli/OutputFile.h"
+#include "cli/ProjectArgument.h"
 #include "host/system/HostClock.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
@@ -49,6 +50,7 @@ public:
     void Declare(ArgumentList& arguments) override
     {
         mDays.Declare(arguments);
+        mProject.Declare(arguments);
         arguments.Required("--format FORMAT", mFormat, "ics, csv or json");
         mOut.Declare(arguments, "The file to write, instead of standard output", false);
     }
@@ -58,8 +60,9 @@ public:
         RequireKnownFormat();
         const bool isFile = mOut.IsNamed();
         const auto days = mDays.Days(HostClock(options.now).Now());
+        mProject.RequireUsable();
         const auto profile = OpenProfile(options);
-        const auto activities = ActivitiesOf(profile, days, std::nullopt);
+        const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply;
         if (options.json && !isFile && mFormat == "json") {
             reply.document = Items(activities);
@@ -106,6 +109,7 @@ private:
     }
 
     DayRangeArguments mDays;
+    ProjectArgument mProject;
     std::string mFormat;
     OutputFile mOut;
 };

@@ -2,6 +2,8 @@
 
 #include "base/Text.h"
 #include "cli/CommandError.h"
+#include "cli/ProjectNames.h"
+#include "session/ProductFacts.h"
 #include "terminal/TerminalText.h"
 
 #include <algorithm>
@@ -64,7 +66,7 @@ std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
 {
     const auto found = Find(addIn, name);
     if (!found) {
-        throw CommandError("there is no project \"" + name + R"(": see "tempodial projects" for those there are)");
+        throw UnknownProject(name, Names(addIn));
     }
     return *found;
 }

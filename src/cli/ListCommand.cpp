@@ -1,11 +1,10 @@
 #include "cli/ActivityList.h"
 #include "cli/Commands.h"
 #include "cli/DayRangeArguments.h"
+#include "cli/ProjectArgument.h"
 #include "host/system/HostClock.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
-
-#include <optional>
 
 namespace tempodial {
 
@@ -29,15 +28,15 @@ public:
     void Declare(ArgumentList& arguments) override
     {
         mDays.Declare(arguments);
-        arguments.Optional(
-            "--project NAME", mProject, "Only activities of the project of exactly this name, such as \"No Project\"");
+        mProject.Declare(arguments);
     }
 
     Reply Run(const Options& options) override
     {
         const auto days = mDays.Days(HostClock(options.now).Now());
+        mProject.RequireUsable();
         const auto profile = OpenProfile(options);
-        const auto activities = ActivitiesOf(profile, days, mProject);
+        const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply { .document = JsonValue::Array() };
         if (options.json) {
             for (const auto& activity : activities) {
@@ -52,7 +51,7 @@ public:
 
 private:
     DayRangeArguments mDays;
-    std::optional<std::string> mProject;
+    ProjectArgument mProject;
 };
 
 }

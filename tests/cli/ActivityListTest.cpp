@@ -99,15 +99,15 @@ TEST_F(ActivityListTest, ActivitiesIn_OtherItems_AreLeftOut)
     EXPECT_EQ(Subjects(In(Tenth)), (Names { "ours" }));
 }
 
-TEST_F(ActivityListTest, ActivitiesIn_Project_IsComparedExactly)
+TEST_F(ActivityListTest, ActivitiesIn_Project_IsComparedWithoutCase)
 {
     Add("plan", At(10, 9, 0), At(10, 9, 5), "Plan");
     Add("small", At(10, 9, 5), At(10, 9, 10), "plan");
     Add("none", At(10, 9, 10), At(10, 9, 15), "No Project");
     Add("absent", At(10, 9, 15), At(10, 9, 20));
-    EXPECT_EQ(Subjects(In(Tenth, "Plan")), (Names { "plan" }));
-    EXPECT_EQ(Subjects(In(Tenth, "No Project")), (Names { "none" }));
-    EXPECT_TRUE(In(Tenth, "").empty());
+    EXPECT_EQ(Subjects(In(Tenth, "PLAN")), (Names { "plan", "small" }));
+    EXPECT_EQ(Subjects(In(Tenth, "no project")), (Names { "none" }));
+    EXPECT_TRUE(In(Tenth, "Plans").empty());
 }
 
 TEST_F(ActivityListTest, ActivityTable_OneDay_HasNoHeading)

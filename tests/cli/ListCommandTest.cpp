@@ -58,12 +58,35 @@ TEST_F(ListCommandTest, List_OtherLocales_FindTheSame)
     }
 }
 
-TEST_F(ListCommandTest, List_Project_IsExact)
+TEST_F(ListCommandTest, List_Project_IsFoundInAnyCase)
 {
     Import();
-    EXPECT_THAT(Subjects(Json({ "list", "--project", "Plan" })), ElementsAre(B));
-    EXPECT_THAT(Subjects(Json({ "list", "--project", "plan" })), ElementsAre());
-    EXPECT_THAT(Subjects(Json({ "list", "--project", "No Project" })), ElementsAre(A));
+    for (const auto* name : { "Plan", "plan", "PLAN" }) {
+        EXPECT_THAT(Subjects(Json({ "list", "--project", name })), ElementsAre(B));
+    }
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "no project" })), ElementsAre(A));
+}
+
+TEST_F(ListCommandTest, List_ProjectWithoutActivities_IsKnownByTheListOrByOtherDays)
+{
+    Import();
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "wish" })), ElementsAre());
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "plan", "--to", "yesterday" })), ElementsAre());
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "No Project", "--to", "2006-10-01" })), ElementsAre());
+}
+
+TEST_F(ListCommandTest, List_UnknownProject_IsRefusedWithTheNearest)
+{
+    Import();
+    EXPECT_EQ(Refusal({ "list", "--project", "Whish" }, 1),
+        "tempodial: there is no project \"Whish\": did you mean \"Wish\"? Else see \"tempodial projects\" for those "
+        "there are\n");
+    EXPECT_THAT(Refusal({ "list", "--project", "Plam", "--to", "yesterday" }, 1), HasSubstr("did you mean \"Plan\"?"));
+    EXPECT_EQ(Refusal({ "list", "--project", "Zebra" }, 1),
+        "tempodial: there is no project \"Zebra\": see \"tempodial projects\" for those there are\n");
+    for (const auto* name : { "", " ", "a\nb" }) {
+        EXPECT_THAT(Refusal({ "list", "--project", name }, 2), HasSubstr("the name of a project can't"));
+    }
 }
 
 TEST_F(ListCommandTest, List_Item_HasItsFields)
