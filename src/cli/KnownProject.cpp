@@ -71,10 +71,18 @@ std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
     return *found;
 }
 
+bool KnownProject::IsListed(TempodialMain& addIn, const std::string& name)
+{
+    return Find(addIn, name).has_value();
+}
+
 std::string KnownProject::NameOrNew(TempodialMain& addIn, const std::string& name)
 {
     if (const auto known = Find(addIn, name)) {
         return *known;
+    }
+    if (IsNoProject(name)) {
+        return NoProject;
     }
     RequireReadable(name, "a name");
     return name;

@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
+#include "cli/ProjectNames.h"
 #include "engine/core/ProjectFacts.h"
 #include "terminal/UsageError.h"
 
@@ -52,6 +53,7 @@ public:
 
     Reply Run(const Options& options) override
     {
+        RequireProjectName(mName);
         const auto precedence = mPrecedence ? std::optional(PrecedenceNumber(*mPrecedence)) : std::nullopt;
         for (const auto& rule : { mSubject, mNotSubject, mPeople }) {
             if (rule) {

@@ -87,10 +87,14 @@ TEST_F(ProjectsCommandTest, Set_Refused_SaysWhyAndChangesNothing)
     EXPECT_EQ(Run({ "projects", "set", "a|b" }).status, 1);
     EXPECT_EQ(Run({ "projects", "set", "No Project" }).error, "tempodial: Invalid project selected\n");
     EXPECT_EQ(Run({ "projects", "set", "No Project" }).status, 1);
+    EXPECT_EQ(Run({ "projects", "set", "no project" }).error, "tempodial: Invalid project selected\n");
     for (const auto* option : { "--subject", "--not-subject", "--people" }) {
         EXPECT_THAT(Refusal({ "projects", "set", "Wish", option, "a|b" }, 1), HasSubstr("can't hold \"|\""));
     }
-    EXPECT_THAT(Refusal({ "projects", "set", "a\x01z" }, 1), HasSubstr("a name can't hold control characters"));
+    for (const auto* name : { "", " ", "a\x01z" }) {
+        EXPECT_THAT(Refusal({ "projects", "set", name }, 2), HasSubstr("the name of a project can't"));
+    }
+    EXPECT_THAT(Refusal({ "projects", "set", "a\uFFFE" }, 1), HasSubstr("a name can't hold control characters"));
     EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--people", "a\rb" }, 1),
         HasSubstr("a rule can't hold control characters"));
     EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--subject", "a\uFFFE" }, 1), HasSubstr("control characters"));
