@@ -51,9 +51,10 @@ public:
             throw CommandError(refusal);
         }
         const bool wasListed = KnownProject::IsListed(addIn, name);
+        const ProjectChanges changes(run.Profile(), { from.Day(), to.Day() });
         addIn.SetProjectForItems(name, false, true, from, to, mOverwrite);
         const bool isNew = !wasListed && KnownProject::IsListed(addIn, name);
-        auto reply = run.ConcludedWithChanges();
+        auto reply = run.ConcludedWithChanges(changes);
         if (isNew) {
             reply.notes.push_back("Added: the project " + name);
         }
