@@ -43,19 +43,19 @@ public:
     {
         const auto day = ToDay("--day", mDay, HostClock(options.now).Now());
         (void)mOut.IsNamed();
+        (void)mOut.Form({ "eml" });
         ConnectedRun run(options);
         run.AddIn().ReportProblem(ProblemReportText::Body(run.Host().formats->LongDate(day), BoxText(mExpected),
                                       BoxText(mActual), ProductVersion),
             day, false, false);
         const auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
-        mOut.Write(mail);
+        mOut.Write(mail, reply);
         auto names = JsonValue::Array();
         for (const auto& attachment : mail.attachments) {
             names.Append(attachment.name);
         }
         reply.document = { { "subject", mail.subject }, { "body", mail.body }, { "attachments", std::move(names) } };
-        reply.summary = mOut.Summary();
         return reply;
     }
 

@@ -97,7 +97,7 @@ TEST_F(TerminalRunTest, AnyCommand_ReaderGone_EndsInSilenceWithItsChangesMade)
     WriteLongDay("20061010", 10);
     for (const auto& arguments :
         { Arguments { "sync" }, Arguments { "list" }, Arguments { "report" }, Arguments { "--help" },
-            Arguments { "projects", "set", "Plan" } }) {
+            Arguments { "export", "--format", "csv", "--out", "-" }, Arguments { "projects", "set", "Plan" } }) {
         StartedProgram program(Whole(arguments), { .hasNoReader = true });
         EXPECT_EQ(program.End(), 128 + SIGPIPE) << arguments.front();
         EXPECT_EQ(program.Shown().find("tempodial:"), std::string::npos) << program.Shown();
