@@ -30,7 +30,7 @@ std::string ProjectOf(const Ref<AppointmentItem>& activity)
 }
 
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
-    const DayRange& days, const std::optional<std::string>& project)
+    const Period& days, const std::optional<std::string>& project)
 {
     constexpr std::int64_t LastMinute = 24 * 60 - 1;
     const auto items = workLog->Items()->Restrict("[Start] >= \"" + formats->Moment(days.first) + "\" and [Start] <= \""
@@ -49,7 +49,7 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
 }
 
 std::vector<Ref<AppointmentItem>> ActivitiesOf(
-    const Profile& profile, const DayRange& days, const std::optional<std::string>& project)
+    const Profile& profile, const Period& days, const std::optional<std::string>& project)
 {
     const auto workLog = WorkLogOf(profile);
     return workLog ? ActivitiesIn(workLog, profile.Surroundings().formats, days, project)
@@ -57,7 +57,7 @@ std::vector<Ref<AppointmentItem>> ActivitiesOf(
 }
 
 std::string ActivityTable(
-    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const DayRange& days)
+    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const Period& days)
 {
     using enum TextTable::Side;
     const bool hasHeadings = days.first != days.last;

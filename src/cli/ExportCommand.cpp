@@ -2,10 +2,9 @@
 #include "cli/ActivityCsv.h"
 #include "cli/ActivityRecord.h"
 #include "cli/Commands.h"
-#include "cli/DayRangeArguments.h"
 #include "cli/OutputFile.h"
+#include "cli/PeriodArguments.h"
 #include "cli/ProjectArgument.h"
-#include "host/system/HostClock.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
 #include "terminal/UsageError.h"
@@ -35,7 +34,7 @@ public:
         : Command({ "export", "Write the activities for other programs",
             "Writes the activities that start in the range, both days included, in order of\n"
             "start.\n"
-                + std::string(DayRangeArguments::Help)
+                + std::string(PeriodArguments::Help)
                 + "\n"
                   "  ics   a calendar file (iCalendar); times are those of the wall clock, and the\n"
                   "        project is the category\n"
@@ -62,7 +61,7 @@ public:
     {
         const bool isFile = mOut.IsNamed();
         const auto format = Format(isFile);
-        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto days = mDays.Days(options);
         mProject.RequireUsable();
         const auto profile = OpenProfile(options);
         const auto activities = mProject.ActivitiesOf(profile, days);
@@ -122,7 +121,7 @@ private:
         return Items(activities).Text() + "\n";
     }
 
-    DayRangeArguments mDays;
+    PeriodArguments mDays;
     ProjectArgument mProject;
     std::optional<std::string> mFormat;
     OutputFile mOut;

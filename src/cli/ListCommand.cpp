@@ -1,8 +1,7 @@
 #include "cli/ActivityList.h"
 #include "cli/Commands.h"
-#include "cli/DayRangeArguments.h"
+#include "cli/PeriodArguments.h"
 #include "cli/ProjectArgument.h"
-#include "host/system/HostClock.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
 
@@ -17,11 +16,11 @@ public:
         : Command({ "list", "Show the activities of a day or of several",
             "Shows the activities that start in the range, both days included, in order of\n"
             "start.\n"
-                + std::string(DayRangeArguments::Help)
+                + std::string(PeriodArguments::Help)
                 + "\n"
                   "  tempodial list\n"
                   "  tempodial list --from 2006-10-02 --to 2006-10-06 --project Riverside\n"
-                  "  tempodial list --from yesterday --json" })
+                  "  tempodial list last-week --json" })
     {
     }
 
@@ -33,7 +32,7 @@ public:
 
     Reply Run(const Options& options) override
     {
-        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto days = mDays.Days(options);
         mProject.RequireUsable();
         const auto profile = OpenProfile(options);
         const auto activities = mProject.ActivitiesOf(profile, days);
@@ -50,7 +49,7 @@ public:
     }
 
 private:
-    DayRangeArguments mDays;
+    PeriodArguments mDays;
     ProjectArgument mProject;
 };
 

@@ -17,7 +17,7 @@ void ProjectArgument::RequireUsable() const
     }
 }
 
-std::vector<Ref<AppointmentItem>> ProjectArgument::ActivitiesOf(const Profile& profile, const DayRange& days) const
+std::vector<Ref<AppointmentItem>> ProjectArgument::ActivitiesOf(const Profile& profile, const Period& days) const
 {
     auto activities = tempodial::ActivitiesOf(profile, days, mName);
     if (mName && activities.empty()) {

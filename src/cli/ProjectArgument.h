@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/DayRange.h"
 #include "platform/objectmodel/AppointmentItem.h"
+#include "review/Period.h"
 #include "session/Profile.h"
 #include "terminal/ArgumentList.h"
 
@@ -21,7 +21,7 @@ public:
     void RequireUsable() const;
     /// The activities of the profile that start in the range, in order of start. Fails with a `CommandError` when there
     /// is no such project, and as the store does.
-    std::vector<Ref<AppointmentItem>> ActivitiesOf(const Profile& profile, const DayRange& days) const;
+    std::vector<Ref<AppointmentItem>> ActivitiesOf(const Profile& profile, const Period& days) const;
 
 private:
     std::optional<std::string> mName;

@@ -7,7 +7,7 @@
 
 namespace tempodial {
 
-ProjectChanges::ProjectChanges(const Profile& profile, const DayRange& days)
+ProjectChanges::ProjectChanges(const Profile& profile, const Period& days)
     : mProfile(profile)
     , mDays(days)
     , mFormer(Projects())

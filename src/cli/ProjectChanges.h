@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/DayRange.h"
+#include "review/Period.h"
 #include "session/Profile.h"
 
 #include <cstddef>
@@ -14,7 +14,7 @@ class ProjectChanges
 {
 public:
     /// Notes the projects that the activities have; the profile must live as long as this. Fails as the store does.
-    ProjectChanges(const Profile& profile, const DayRange& days);
+    ProjectChanges(const Profile& profile, const Period& days);
 
     /// The activities whose project is now another. Fails as the store does.
     std::size_t Count() const;
@@ -24,7 +24,7 @@ private:
     std::unordered_map<std::string, std::string> Projects() const;
 
     const Profile& mProfile;
-    DayRange mDays;
+    Period mDays;
     std::unordered_map<std::string, std::string> mFormer;
 };
 

@@ -35,7 +35,7 @@ bool IsBlank(char32_t character)
 /// The projects that the profile's activities have, each once for each activity.
 std::vector<std::string> ProjectsOfActivities(const Profile& profile)
 {
-    const DayRange allDays { Date::FromYearMonthDay(100, 1, 1), Date::FromYearMonthDay(9999, 12, 31) };
+    const Period allDays { Date::FromYearMonthDay(100, 1, 1), Date::FromYearMonthDay(9999, 12, 31) };
     const auto activities = ActivitiesOf(profile, allDays, std::nullopt);
     std::vector<std::string> projects;
     projects.reserve(activities.size());

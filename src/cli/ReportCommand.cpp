@@ -1,10 +1,9 @@
 #include "base/Text.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
-#include "cli/DayRangeArguments.h"
 #include "cli/Interruption.h"
 #include "cli/OutputFile.h"
-#include "host/system/HostClock.h"
+#include "cli/PeriodArguments.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -31,7 +30,7 @@ public:
             "  .txt   plain text\n"
             "  .csv   the table\n"
             "  .eml   an e-mail with the table, which your mail program opens for sending\n"
-            "\n" + std::string(DayRangeArguments::Help)
+            "\n" + std::string(PeriodArguments::Help)
                 + "Ctrl-C stops it, and nothing is written then.\n"
                   "\n"
                   "  tempodial report --text\n"
@@ -55,7 +54,7 @@ public:
 
     Reply Run(const Options& options) override
     {
-        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto days = mDays.Days(options);
         const auto type = Type();
         const bool isFile = mOut.IsNamed();
         const auto form = isFile ? Form() : "";
@@ -152,7 +151,7 @@ private:
         return document;
     }
 
-    DayRangeArguments mDays;
+    PeriodArguments mDays;
     std::string mBy = "application";
     bool mIsText = false;
     bool mHasNoDetails = false;

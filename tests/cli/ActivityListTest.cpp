@@ -11,8 +11,8 @@ namespace tempodial {
 
 namespace {
 
-const DayRange Tenth { Date::FromYearMonthDay(2006, 10, 10), Date::FromYearMonthDay(2006, 10, 10) };
-const DayRange NinthToTenth { Date::FromYearMonthDay(2006, 10, 9), Date::FromYearMonthDay(2006, 10, 10) };
+const Period Tenth { Date::FromYearMonthDay(2006, 10, 10), Date::FromYearMonthDay(2006, 10, 10) };
+const Period NinthToTenth { Date::FromYearMonthDay(2006, 10, 9), Date::FromYearMonthDay(2006, 10, 10) };
 
 Date At(int day, int hour, int minute, int second = 0)
 {
@@ -44,7 +44,7 @@ protected:
         return item;
     }
     std::vector<Ref<AppointmentItem>> In(
-        const DayRange& days, const std::optional<std::string>& project = std::nullopt) const
+        const Period& days, const std::optional<std::string>& project = std::nullopt) const
     {
         return ActivitiesIn(mWorkLog, mAddIn.platform->formats, days, project);
     }
@@ -56,7 +56,7 @@ protected:
         }
         return subjects;
     }
-    std::string Table(const DayRange& days) const { return ActivityTable(In(days), mAddIn.platform->formats, days); }
+    std::string Table(const Period& days) const { return ActivityTable(In(days), mAddIn.platform->formats, days); }
 
     TempFolder mFolder;
     TestAddIn mAddIn { mFolder.Path() };

@@ -48,6 +48,7 @@ TEST_F(ExportCommandTest, Export_Json_IsThatOfList)
     EXPECT_EQ(list.size(), 3U);
     EXPECT_EQ(nlohmann::json::parse(Out({ "export", "--format", "json", "--from", "yesterday" })), list);
     EXPECT_EQ(Json({ "export", "--format", "json", "--from", "yesterday" }), list);
+    EXPECT_EQ(Json({ "export", "2006-10", "--format", "json" }), list);
 }
 
 TEST_F(ExportCommandTest, Export_Csv_IsPrintedByteForByte)

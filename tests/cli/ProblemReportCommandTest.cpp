@@ -110,6 +110,7 @@ TEST_F(ProblemReportCommandTest, ProblemReport_BadArguments_AreUsageErrors)
     Refusal({ "problem-report", "--expected", "a", "--actual", "b" }, 2);
     Refusal({ "problem-report", "--expected", "a", "--actual", "b", "--out", "" }, 2);
     Refusal(Report({ "--day", "soon" }), 2);
+    Refusal(Report({ "--day", "week" }), 2);
     mMail = mFolder.Path("problem.html");
     EXPECT_THAT(Refusal(Report(), 2), HasSubstr("give a name that ends in .eml\n"));
     EXPECT_FALSE(std::filesystem::exists(mProfile));

@@ -137,6 +137,8 @@ TEST_F(ReportCommandTest, Report_Ranges_AreThoseOfList)
     EXPECT_EQ(total({ "--from", "yesterday" }), 20);
     EXPECT_EQ(total({ "--to", "yesterday" }), 5);
     EXPECT_EQ(total({ "--from", "2006-10-11" }), 0);
+    EXPECT_EQ(total({ "yesterday" }), 5);
+    EXPECT_EQ(total({ "-2d" }), 20);
 }
 
 TEST_F(ReportCommandTest, Report_Demo_AgreesWithItselfAndWithTheList)
@@ -320,7 +322,8 @@ TEST_F(ReportCommandTest, Report_BadArguments_AreUsageErrors)
     EXPECT_THAT(Refusal({ "report", "--by", "people" }, 2), HasSubstr("project, application, description or date"));
     Refusal({ "report", "--from", "2006-10-10", "--to", "2006-10-09" }, 2);
     Refusal({ "report", "--out", "" }, 2);
-    Refusal({ "report", "today" }, 2);
+    Refusal({ "report", "tomorrow" }, 2);
+    Refusal({ "report", "today", "--to", "today" }, 2);
     EXPECT_FALSE(std::filesystem::exists(mProfile));
 }
 
