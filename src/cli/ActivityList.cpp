@@ -1,6 +1,7 @@
 #include "cli/ActivityList.h"
 
 #include "base/Number.h"
+#include "base/Text.h"
 #include "cli/TextTable.h"
 #include "platform/objectmodel/Items.h"
 #include "session/ProductFacts.h"
@@ -9,12 +10,6 @@
 namespace tempodial {
 
 namespace {
-
-bool HasProject(const Ref<AppointmentItem>& item, const std::string& project)
-{
-    const auto property = item->UserProperties()->Item("Project");
-    return property && property->Value() == Variant(project);
-}
 
 std::string DurationText(std::int64_t minutes)
 {
@@ -28,8 +23,14 @@ std::string DurationText(std::int64_t minutes)
 
 }
 
+std::string ProjectOf(const Ref<AppointmentItem>& activity)
+{
+    const auto property = activity->UserProperties()->Item("Project");
+    return property ? property->Value().ToText() : "";
+}
+
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
-    const DayRange& days, const std::optional<std::string>& project)
+    const Period& days, const std::optional<std::string>& project)
 {
     constexpr std::int64_t LastMinute = 24 * 60 - 1;
     const auto items = workLog->Items()->Restrict("[Start] >= \"" + formats->Moment(days.first) + "\" and [Start] <= \""
@@ -39,7 +40,8 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
     const auto count = items->Count();
     for (std::int32_t i = 1; i <= count; ++i) {
         auto item = items->Item(i).As<AppointmentItem>();
-        if (item && item->MessageClass() == ActivityClass && (!project || HasProject(item, *project))) {
+        if (item && item->MessageClass() == ActivityClass
+            && (!project || EqualIgnoringCase(ProjectOf(item), *project))) {
             activities.push_back(std::move(item));
         }
     }
@@ -47,7 +49,7 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
 }
 
 std::vector<Ref<AppointmentItem>> ActivitiesOf(
-    const Profile& profile, const DayRange& days, const std::optional<std::string>& project)
+    const Profile& profile, const Period& days, const std::optional<std::string>& project)
 {
     const auto workLog = WorkLogOf(profile);
     return workLog ? ActivitiesIn(workLog, profile.Surroundings().formats, days, project)
@@ -55,7 +57,7 @@ std::vector<Ref<AppointmentItem>> ActivitiesOf(
 }
 
 std::string ActivityTable(
-    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const DayRange& days)
+    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const Period& days)
 {
     using enum TextTable::Side;
     const bool hasHeadings = days.first != days.last;

@@ -16,7 +16,8 @@ public:
         : Command({ "apply", "Give a project to the past activities that its rules match",
             "Goes over today's activities and those of the days before. Those that the\n"
             "project's rules match get the project, also when they have another one\n"
-            "already. Ctrl-C stops it.\n"
+            "already; activities that come to another project are counted. Ctrl-C stops\n"
+            "it.\n"
             "\n"
             "  tempodial apply Riverside\n"
             "  tempodial apply Riverside --days 21" })
@@ -36,10 +37,12 @@ public:
         const Interruption interruption;
         ConnectedRun run(options);
         const auto name = KnownProject::NameOf(run.AddIn(), mName);
+        const auto today = run.Host().clock->Now().Day();
+        const ProjectChanges changes(run.Profile(), { today.AddDays(1 - days), today });
         if (!Interruption::IsRequested()) {
             run.AddIn().ApplyProject(name, days);
         }
-        return run.ConcludedWithChanges();
+        return run.ConcludedWithChanges(changes);
     }
 
 private:

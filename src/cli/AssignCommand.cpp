@@ -1,8 +1,8 @@
-#include "base/Text.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
+#include "cli/ProjectNames.h"
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
@@ -37,6 +37,7 @@ public:
 
     Reply Run(const Options& options) override
     {
+        RequireProjectName(mName);
         const auto from = ToMoment("--from", mFrom);
         const auto to = ToMoment("--to", mTo);
         if (from >= to) {
@@ -45,13 +46,19 @@ public:
         }
         ConnectedRun run(options);
         auto& addIn = run.AddIn();
-        const bool isNone = EqualIgnoringCase(mName, NoProject);
-        const auto name = isNone ? NoProject : KnownProject::NameOrNew(addIn, mName);
-        if (const auto refusal = addIn.ValidateProject(name); !isNone && !refusal.empty()) {
+        const auto name = KnownProject::NameOrNew(addIn, mName);
+        if (const auto refusal = addIn.ValidateProject(name); !IsNoProject(name) && !refusal.empty()) {
             throw CommandError(refusal);
         }
+        const bool wasListed = KnownProject::IsListed(addIn, name);
+        const ProjectChanges changes(run.Profile(), { from.Day(), to.Day() });
         addIn.SetProjectForItems(name, false, true, from, to, mOverwrite);
-        return run.ConcludedWithChanges();
+        const bool isNew = !wasListed && KnownProject::IsListed(addIn, name);
+        auto reply = run.ConcludedWithChanges(changes);
+        if (isNew) {
+            reply.notes.push_back("Added: the project " + name);
+        }
+        return reply;
     }
 
 private:

@@ -6,6 +6,7 @@
 #include "terminal/UsageError.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace tempodial {
 
@@ -73,8 +74,8 @@ ExitStatus CommandLine::Run(const std::vector<std::string>& arguments) noexcept
 
 ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 {
-    if (!mParser.Parse(arguments, mOut)) {
-        return Print({}, {});
+    if (std::ostringstream help; !mParser.Parse(arguments, help)) {
+        return Print({ .text = help.str() }, {});
     }
     const auto options = ReadOptions();
     return Print(Chosen().Run(options), options);
@@ -107,12 +108,21 @@ void CommandLine::PrintText(const Reply& reply, bool isQuiet)
 
 ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
 {
+    EndWithReader();
     if (!options.json) {
         PrintText(reply, options.quiet);
     } else if (!reply.document.IsNull()) {
         mOut << reply.document.Text() << "\n";
     }
     mOut.flush();
+    if (!options.quiet) {
+        for (const auto& note : reply.notes) {
+            mError << HarmlessLine(note) << "\n";
+        }
+    }
+    for (const auto& warning : reply.warnings) {
+        Complain(mError, Name, warning);
+    }
     for (const auto& complaint : reply.complaints) {
         Complain(mError, Name, complaint);
     }

@@ -77,9 +77,9 @@ Reply ConnectedRun::Concluded(Reply reply)
     return reply;
 }
 
-Reply ConnectedRun::ConcludedWithChanges()
+Reply ConnectedRun::ConcludedWithChanges(const ProjectChanges& changes)
 {
-    const auto changed = Saves().created + Saves().extended + Saves().detailed;
+    const auto changed = changes.Count();
     Reply reply;
     reply.document.Set("changed", changed);
     reply.summary = std::to_string(changed) + (changed == 1 ? " activity changed\n" : " activities changed\n");

@@ -2,6 +2,7 @@
 
 #include "cli/Options.h"
 #include "cli/PrintingMessageBox.h"
+#include "cli/ProjectChanges.h"
 #include "cli/Reply.h"
 #include "engine/core/TempodialMain.h"
 #include "faults/Problems.h"
@@ -27,6 +28,8 @@ public:
 
     /// The add-in's own members.
     TempodialMain& AddIn() const { return mSession.AddIn(); }
+    /// The profile.
+    const tempodial::Profile& Profile() const { return mSession.Profile(); }
     /// The surroundings of the profile.
     const Platform& Host() const { return mSession.Profile().Surroundings(); }
     /// The path of a file in the data folder.
@@ -44,8 +47,8 @@ public:
     bool HasProblemWith(const std::string& path) const { return mProblems->HasOneWith(path); }
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.
     Reply Concluded(Reply reply);
-    /// The same for a reply that tells how many items were saved.
-    Reply ConcludedWithChanges();
+    /// The same for a reply that tells how many activities came to another project.
+    Reply ConcludedWithChanges(const ProjectChanges& changes);
 
 private:
     Platform Surroundings(const Options& options) const;

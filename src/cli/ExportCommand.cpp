@@ -1,16 +1,17 @@
 #include "cli/ActivityCalendar.h"
 #include "cli/ActivityCsv.h"
-#include "cli/ActivityList.h"
+#include "cli/ActivityRecord.h"
 #include "cli/Commands.h"
-#include "cli/DayRangeArguments.h"
 #include "cli/OutputFile.h"
-#include "host/system/HostClock.h"
+#include "cli/PeriodArguments.h"
+#include "cli/ProjectArgument.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace tempodial {
 
@@ -33,7 +34,7 @@ public:
         : Command({ "export", "Write the activities for other programs",
             "Writes the activities that start in the range, both days included, in order of\n"
             "start.\n"
-                + std::string(DayRangeArguments::Help)
+                + std::string(PeriodArguments::Help)
                 + "\n"
                   "  ics   a calendar file (iCalendar); times are those of the wall clock, and the\n"
                   "        project is the category\n"
@@ -41,35 +42,38 @@ public:
                   "        formula gets an apostrophe in front\n"
                   "  json  all fields as they are, as \"list --json\" gives them\n"
                   "\n"
-                  "  tempodial export --format ics --from 2006-10-02 --out october.ics\n"
-                  "  tempodial export --format csv --from yesterday" })
+                  "The name of the file says which, or --format does.\n"
+                  "\n"
+                  "  tempodial export --from 2006-10-02 --out october.ics\n"
+                  "  tempodial export --format csv --from yesterday --project Riverside" })
     {
     }
 
     void Declare(ArgumentList& arguments) override
     {
         mDays.Declare(arguments);
-        arguments.Required("--format FORMAT", mFormat, "ics, csv or json");
-        mOut.Declare(arguments, "The file to write, instead of standard output", false);
+        mProject.Declare(arguments);
+        arguments.Optional("--format FORMAT", mFormat, "ics, csv or json; default the end of FILE");
+        mOut.Declare(arguments, "The file to write (.ics, .csv, .json), instead of standard\noutput", false);
     }
 
     Reply Run(const Options& options) override
     {
-        RequireKnownFormat();
         const bool isFile = mOut.IsNamed();
-        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto format = Format(isFile);
+        const auto days = mDays.Days(options);
+        mProject.RequireUsable();
         const auto profile = OpenProfile(options);
-        const auto activities = ActivitiesOf(profile, days, std::nullopt);
+        const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply;
-        if (options.json && !isFile && mFormat == "json") {
+        if (options.json && !isFile && format == "json") {
             reply.document = Items(activities);
             return reply;
         }
-        auto document = Document(activities);
-        reply.document = { { "format", mFormat }, { "activities", activities.size() }, { "text", nullptr } };
+        auto document = Document(activities, format);
+        reply.document = { { "format", format }, { "activities", activities.size() }, { "text", nullptr } };
         if (isFile) {
-            mOut.Write(document);
-            reply.summary = mOut.Summary();
+            mOut.Write(std::move(document), reply);
         } else {
             reply.document.Set("text", document);
             reply.content = std::move(document);
@@ -78,11 +82,23 @@ public:
     }
 
 private:
-    void RequireKnownFormat() const
+    /// What --format says, or the end of the file's name; both must agree.
+    std::string Format(bool isFile) const
     {
-        if (mFormat != "ics" && mFormat != "csv" && mFormat != "json") {
-            throw UsageError("--format can't be \"" + mFormat + "\": give ics, csv or json");
+        const std::vector<std::string> formats { "ics", "csv", "json" };
+        if (mFormat && std::find(formats.begin(), formats.end(), *mFormat) == formats.end()) {
+            throw UsageError("--format can't be \"" + *mFormat + "\": give ics, csv or json");
         }
+        const bool hasEnd = isFile && !(mFormat && mOut.End().empty());
+        const auto form = hasEnd ? mOut.Form(formats) : "";
+        if (!mFormat && form.empty()) {
+            throw UsageError("--format is required: give ics, csv or json, or --out with a name that ends so");
+        }
+        if (mFormat && !form.empty() && form != *mFormat) {
+            throw UsageError(
+                "--format " + *mFormat + " isn't what \"" + mOut.Path() + "\" ends in: leave one of them out");
+        }
+        return mFormat.value_or(form);
     }
 
     static JsonValue Items(const Activities& activities)
@@ -94,19 +110,20 @@ private:
         return items;
     }
 
-    std::string Document(const Activities& activities) const
+    static std::string Document(const Activities& activities, const std::string& format)
     {
-        if (mFormat == "ics") {
+        if (format == "ics") {
             return ActivityCalendar(Records(activities));
         }
-        if (mFormat == "csv") {
+        if (format == "csv") {
             return ActivityCsv(Records(activities));
         }
         return Items(activities).Text() + "\n";
     }
 
-    DayRangeArguments mDays;
-    std::string mFormat;
+    PeriodArguments mDays;
+    ProjectArgument mProject;
+    std::optional<std::string> mFormat;
     OutputFile mOut;
 };
 

@@ -2,6 +2,8 @@
 
 #include "base/Text.h"
 #include "cli/CommandError.h"
+#include "cli/ProjectNames.h"
+#include "session/ProductFacts.h"
 #include "terminal/TerminalText.h"
 
 #include <algorithm>
@@ -64,15 +66,23 @@ std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
 {
     const auto found = Find(addIn, name);
     if (!found) {
-        throw CommandError("there is no project \"" + name + R"(": see "tempodial projects" for those there are)");
+        throw UnknownProject(name, Names(addIn));
     }
     return *found;
+}
+
+bool KnownProject::IsListed(TempodialMain& addIn, const std::string& name)
+{
+    return Find(addIn, name).has_value();
 }
 
 std::string KnownProject::NameOrNew(TempodialMain& addIn, const std::string& name)
 {
     if (const auto known = Find(addIn, name)) {
         return *known;
+    }
+    if (IsNoProject(name)) {
+        return NoProject;
     }
     RequireReadable(name, "a name");
     return name;

@@ -25,8 +25,10 @@ struct KnownProject
     /// The name of a project as it is kept, whatever the case of the letters given; fails with a `CommandError` when
     /// there is no such project.
     static std::string NameOf(TempodialMain& addIn, const std::string& name);
-    /// The same, or the name as it was given when there is no such project; fails with a `CommandError` when a project
-    /// of that name couldn't be read back.
+    /// True when there is a project of that name, whatever the case of the letters given.
+    static bool IsListed(TempodialMain& addIn, const std::string& name);
+    /// The name of a project as it is kept, "No Project" for that in any case, or the name as it was given when there
+    /// is no such project; fails with a `CommandError` when a project of that name couldn't be read back.
     static std::string NameOrNew(TempodialMain& addIn, const std::string& name);
     /// Fails with a `CommandError` for a rule with which the list of projects couldn't be read back.
     static void RequireReadableRule(const std::string& rule);

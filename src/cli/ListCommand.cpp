@@ -1,11 +1,9 @@
 #include "cli/ActivityList.h"
 #include "cli/Commands.h"
-#include "cli/DayRangeArguments.h"
-#include "host/system/HostClock.h"
+#include "cli/PeriodArguments.h"
+#include "cli/ProjectArgument.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
-
-#include <optional>
 
 namespace tempodial {
 
@@ -18,26 +16,26 @@ public:
         : Command({ "list", "Show the activities of a day or of several",
             "Shows the activities that start in the range, both days included, in order of\n"
             "start.\n"
-                + std::string(DayRangeArguments::Help)
+                + std::string(PeriodArguments::Help)
                 + "\n"
                   "  tempodial list\n"
                   "  tempodial list --from 2006-10-02 --to 2006-10-06 --project Riverside\n"
-                  "  tempodial list --from yesterday --json" })
+                  "  tempodial list last-week --json" })
     {
     }
 
     void Declare(ArgumentList& arguments) override
     {
         mDays.Declare(arguments);
-        arguments.Optional(
-            "--project NAME", mProject, "Only activities of the project of exactly this name, such as \"No Project\"");
+        mProject.Declare(arguments);
     }
 
     Reply Run(const Options& options) override
     {
-        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto days = mDays.Days(options);
+        mProject.RequireUsable();
         const auto profile = OpenProfile(options);
-        const auto activities = ActivitiesOf(profile, days, mProject);
+        const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply { .document = JsonValue::Array() };
         if (options.json) {
             for (const auto& activity : activities) {
@@ -51,8 +49,8 @@ public:
     }
 
 private:
-    DayRangeArguments mDays;
-    std::optional<std::string> mProject;
+    PeriodArguments mDays;
+    ProjectArgument mProject;
 };
 
 }

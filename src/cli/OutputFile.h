@@ -1,28 +1,36 @@
 #pragma once
 
+#include "cli/Reply.h"
 #include "platform/system/MailDraftWriter.h"
 #include "terminal/ArgumentList.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tempodial {
 
-/// The argument --out of a command: the file that its answer goes to, which takes the place of an old one as a whole.
+/// The argument --out of a command: where its answer goes. The answer takes a file's place as a whole, links are
+/// followed, devices and pipes are written to, and "-" is standard output.
 class OutputFile
 {
 public:
     /// Adds the argument to a command; it is kept here as it is parsed.
     void Declare(ArgumentList& arguments, const std::string& help, bool isRequired);
-    /// True when a file is named. Fails with a `UsageError` when the argument is empty.
+    /// True when a place is named. Fails with a `UsageError` when the argument is empty, with a `CommandError` for a
+    /// folder and for a file of a profile.
     bool IsNamed() const;
     const std::string& Path() const { return *mPath; }
-    /// Writes a text; fails with a `CommandError`.
-    void Write(const std::string& text) const;
-    /// Writes a mail; fails with a `CommandError`.
-    void Write(const MailDraft& mail) const;
-    /// What is said for people of a file that was written: a line.
-    std::string Summary() const { return "Written: " + Path() + "\n"; }
+    /// What the name ends in behind its last dot, in lower case; empty when it has none.
+    std::string End() const;
+    /// The form of the answer, which the name's end says: one of those given. Fails with a `UsageError` for another
+    /// end, which for standard output, a device and a pipe gives the empty text.
+    std::string Form(const std::vector<std::string>& forms) const;
+    /// Puts an answer there, and into the reply what is said of that for people, or the answer itself where that goes
+    /// to standard output. Fails with a `CommandError`.
+    void Write(std::string text, Reply& reply) const;
+    /// The same with a mail.
+    void Write(const MailDraft& mail, Reply& reply) const;
 
 private:
     std::optional<std::string> mPath;

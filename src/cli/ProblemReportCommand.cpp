@@ -2,10 +2,9 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/OutputFile.h"
+#include "cli/PeriodArguments.h"
 #include "engine/dialogs/ProblemReportText.h"
-#include "host/system/HostClock.h"
 #include "session/ProductFacts.h"
-#include "terminal/Arguments.h"
 
 namespace tempodial {
 
@@ -35,27 +34,28 @@ public:
     {
         arguments.Required("--expected TEXT", mExpected, "What you expected to happen");
         arguments.Required("--actual TEXT", mActual, "What happened instead");
-        arguments.Optional("--day DAY", mDay, "When it was: YYYY-MM-DD, today or yesterday; default\ntoday");
+        arguments.Optional(
+            "--day DAY", mDay, "When it was: YYYY-MM-DD, today, yesterday or monday to\nsunday; default today");
         mOut.Declare(arguments, "The e-mail to write (.eml)", true);
     }
 
     Reply Run(const Options& options) override
     {
-        const auto day = ToDay("--day", mDay, HostClock(options.now).Now());
+        const auto day = PeriodArguments::ToDay("--day", mDay, options);
         (void)mOut.IsNamed();
+        (void)mOut.Form({ "eml" });
         ConnectedRun run(options);
         run.AddIn().ReportProblem(ProblemReportText::Body(run.Host().formats->LongDate(day), BoxText(mExpected),
                                       BoxText(mActual), ProductVersion),
             day, false, false);
         const auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
-        mOut.Write(mail);
+        mOut.Write(mail, reply);
         auto names = JsonValue::Array();
         for (const auto& attachment : mail.attachments) {
             names.Append(attachment.name);
         }
         reply.document = { { "subject", mail.subject }, { "body", mail.body }, { "attachments", std::move(names) } };
-        reply.summary = mOut.Summary();
         return reply;
     }
 

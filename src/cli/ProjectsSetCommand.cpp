@@ -2,6 +2,8 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
+#include "cli/ProjectNames.h"
+#include "engine/core/ProjectFacts.h"
 #include "terminal/UsageError.h"
 
 #include <optional>
@@ -30,7 +32,8 @@ public:
     ProjectsSetCommand()
         : Command({ "projects set", "Add a project or change one",
             "What isn't named stays as it is; a new project has no rules and medium\n"
-            "precedence unless said.\n"
+            "precedence unless said. The terms of a subject rule stand between commas, or\n"
+            "else semicolons; those of a people rule between semicolons.\n"
             "\n"
             "  tempodial projects set Riverside --subject \"riverside, kick-off\"\n"
             "  tempodial projects set Riverside --people \"Ann Berger;Zoë Müller\" --precedence high\n"
@@ -50,6 +53,7 @@ public:
 
     Reply Run(const Options& options) override
     {
+        RequireProjectName(mName);
         const auto precedence = mPrecedence ? std::optional(PrecedenceNumber(*mPrecedence)) : std::nullopt;
         for (const auto& rule : { mSubject, mNotSubject, mPeople }) {
             if (rule) {
@@ -68,10 +72,30 @@ public:
         }
         Reply reply { .document = KnownProject::Read(addIn, name).ToJson() };
         reply.summary = "The project " + name + " is kept.\n";
+        for (const auto& rule : { mSubject, mNotSubject }) {
+            if (rule) {
+                WarnOfSemicolons(*rule, reply);
+            }
+        }
         return run.Concluded(std::move(reply));
     }
 
 private:
+    /// Tells how a rule is read in which commas part the terms, so that semicolons belong to them.
+    static void WarnOfSemicolons(const std::string& rule, Reply& reply)
+    {
+        std::string terms;
+        bool hasSemicolon = false;
+        for (const auto& term : SubjectTerms(rule)) {
+            hasSemicolon |= term.front() != '"' && term.find(';') != std::string::npos;
+            terms += (terms.empty() ? "" : " | ") + term;
+        }
+        if (hasSemicolon) {
+            reply.warnings.push_back("in the rule \"" + rule
+                + "\" commas part the terms, and semicolons belong to them: it is read as " + terms);
+        }
+    }
+
     std::string mName;
     std::optional<std::string> mSubject;
     std::optional<std::string> mNotSubject;

@@ -19,6 +19,10 @@ struct Reply
     std::string text;
     /// What stands behind it unless the run is quiet: lines that each end in a line feed.
     std::string summary;
+    /// What is told beside the answer on standard error, unless the run is quiet: a line each.
+    std::vector<std::string> notes;
+    /// What may not be as it was meant, a message each, quiet or not.
+    std::vector<std::string> warnings;
     /// What couldn't be done, a message each.
     std::vector<std::string> complaints;
     ExitStatus status = ExitStatus::Done;

@@ -1,9 +1,9 @@
+#include "base/Text.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
-#include "cli/DayRangeArguments.h"
 #include "cli/Interruption.h"
 #include "cli/OutputFile.h"
-#include "host/system/HostClock.h"
+#include "cli/PeriodArguments.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -24,13 +24,19 @@ public:
         : Command({ "report", "Tell where the time of a day or of several went",
             "Sums up the activities that touch the range, both days included, and lists\n"
             "them. Nothing is imported: \"sync\" does that. The report is printed, or\n"
-            "written with its table as an e-mail that your mail program opens for sending.\n"
-                + std::string(DayRangeArguments::Help)
+            "written in the form that the end of the file's name says:\n"
+            "\n"
+            "  .html  a page\n"
+            "  .txt   plain text\n"
+            "  .csv   the table\n"
+            "  .eml   an e-mail with the table, which your mail program opens for sending\n"
+            "\n" + std::string(PeriodArguments::Help)
                 + "Ctrl-C stops it, and nothing is written then.\n"
                   "\n"
                   "  tempodial report --text\n"
                   "  tempodial report --by project --from 2006-10-02 > week.html\n"
-                  "  tempodial report --by date --work-week --out week.eml" })
+                  "  tempodial report --by date --work-week --out week.eml\n"
+                  "  tempodial report --from 2006-10-02 --out week.html" })
     {
     }
 
@@ -43,18 +49,20 @@ public:
         arguments.Flag("--no-details", mHasNoDetails, "No list of the activities");
         arguments.Flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
         arguments.Flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
-        mOut.Declare(arguments, "The e-mail to write (.eml), instead of standard output", false);
+        mOut.Declare(arguments, "The file to write (.html, .txt, .csv, .eml), instead of\nstandard output", false);
     }
 
     Reply Run(const Options& options) override
     {
-        const auto days = mDays.Days(HostClock(options.now).Now());
+        const auto days = mDays.Days(options);
         const auto type = Type();
         const bool isFile = mOut.IsNamed();
+        const auto form = isFile ? Form() : "";
+        const bool isText = mIsText || form == "txt";
         const Interruption interruption;
         ConnectedRun run(options);
         const bool hasText = !Interruption::IsRequested()
-            && run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !mIsText, mIsWorkWeek);
+            && run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !isText, mIsWorkWeek);
         auto mail = run.TakeShownMail();
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
@@ -73,8 +81,7 @@ public:
             reply.document = Document(mail);
         }
         if (isFile) {
-            mOut.Write(mail);
-            reply.summary = mOut.Summary();
+            Write(mail, form, reply);
         } else {
             reply.content = std::move(mail.body);
         }
@@ -89,6 +96,42 @@ private:
             throw UsageError("--by can't be \"" + mBy + "\": give project, application, description or date");
         }
         return static_cast<std::int32_t>(found - TypeNames.begin()) + 1;
+    }
+
+    /// The form that the file's name says; empty for that in which the report is printed.
+    std::string Form() const
+    {
+        auto form = mOut.Form({ "html", "txt", "csv", "eml" });
+        if ((form == "html" && mIsText) || (form == "csv" && mHasNoCsv)) {
+            throw UsageError((mIsText ? "--text" : "--no-csv") + std::string(" leaves nothing for \"") + mOut.Path()
+                + "\": leave one of them out");
+        }
+        return form;
+    }
+
+    void Write(const MailDraft& mail, const std::string& form, Reply& reply) const
+    {
+        if (form == "eml") {
+            mOut.Write(mail, reply);
+        } else if (form == "csv") {
+            mOut.Write(mail.attachments.front().content, reply);
+        } else {
+            mOut.Write(form == "html" ? TitledPage(mail) : mail.body, reply);
+        }
+    }
+
+    /// The page with the mail's subject as its title.
+    static std::string TitledPage(const MailDraft& mail)
+    {
+        constexpr std::string_view begin = "<title>";
+        const auto title = mail.body.find(begin);
+        const auto end = mail.body.find("</title>", title);
+        if (title == std::string::npos || end == std::string::npos) {
+            return mail.body;
+        }
+        auto page = mail.body;
+        const auto text = Replace(Replace(mail.subject, "&", "&amp;"), "<", "&lt;");
+        return page.replace(title + begin.size(), end - title - begin.size(), text);
     }
 
     /// True when the mail of a report has all of the table, if one is wanted.
@@ -108,7 +151,7 @@ private:
         return document;
     }
 
-    DayRangeArguments mDays;
+    PeriodArguments mDays;
     std::string mBy = "application";
     bool mIsText = false;
     bool mHasNoDetails = false;

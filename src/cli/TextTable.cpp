@@ -9,7 +9,7 @@ namespace tempodial {
 void TextTable::Add(const std::vector<std::string>& cells)
 {
     auto& row = mRows.emplace_back(mColumns.size());
-    std::transform(cells.begin(), cells.end(), row.begin(), HarmlessLine);
+    std::transform(cells.begin(), cells.end(), row.begin(), IsolatedLine);
 }
 
 std::string TextTable::Text() const

@@ -17,7 +17,7 @@ public:
     {
     }
 
-    /// Adds a row; each cell is brought into a harmless line.
+    /// Adds a row; each cell is brought into a harmless line that doesn't turn the others.
     void Add(const std::vector<std::string>& cells);
     /// The rows, each with a line feed behind it.
     std::string Text() const;

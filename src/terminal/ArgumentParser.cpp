@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "session/ProductFacts.h"
+#include "terminal/NearestName.h"
 #include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
@@ -51,18 +52,57 @@ std::string Words(const CLI::App& app)
 
 std::string SeeHelp(const CLI::App& app)
 {
-    return ": see \"" + Words(ChosenApp(app)) + " --help\"";
+    return "see \"" + Words(ChosenApp(app)) + " --help\"";
+}
+
+/// The first argument that nothing was declared for, empty when there is none.
+std::string FirstExtra(const CLI::App& app)
+{
+    const auto extras = app.remaining(true);
+    return extras.empty() ? "" : extras.front();
+}
+
+bool IsOption(const std::string& argument)
+{
+    return argument.starts_with("-");
+}
+
+/// The names of the commands below another, or of the program's own.
+std::vector<std::string> CommandNames(const CLI::App& app)
+{
+    std::vector<std::string> names;
+    for (const auto* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+        names.push_back(command->get_name());
+    }
+    return names;
+}
+
+/// The options of a command and of all above it.
+std::vector<std::string> OptionNames(const CLI::App& app)
+{
+    auto names = app.get_parent() ? OptionNames(*app.get_parent()) : std::vector<std::string>();
+    for (const auto* option : app.get_options()) {
+        for (const auto& name : option->get_lnames()) {
+            names.push_back("--" + name);
+        }
+    }
+    return names;
 }
 
 std::string UnexpectedArgument(const CLI::App& app)
 {
-    const auto extras = app.remaining(true);
-    const auto argument = extras.empty() ? std::string() : extras.front();
-    const bool hasCommands = !app.get_subcommands([](const CLI::App*) { return true; }).empty();
-    if (hasCommands && !argument.starts_with("-") && ChosenApp(app).get_parent() == nullptr) {
-        return "there is no command \"" + argument + "\": see \"" + app.get_name() + " --help\" for the commands";
+    const auto argument = FirstExtra(app);
+    const auto& chosen = ChosenApp(app);
+    if (IsOption(argument)) {
+        const auto name = argument.substr(0, argument.find('='));
+        return "\"" + argument + "\" isn't expected here" + NearestAdvice(name, OptionNames(chosen), SeeHelp(app));
     }
-    return "\"" + argument + "\" isn't expected here" + SeeHelp(app);
+    const auto commands = CommandNames(chosen);
+    if (!commands.empty() && chosen.get_parent() == nullptr) {
+        return "there is no command \"" + argument + "\""
+            + NearestAdvice(argument, commands, SeeHelp(app) + " for the commands");
+    }
+    return "\"" + argument + "\" isn't expected here" + NearestAdvice(argument, commands, SeeHelp(app));
 }
 
 }
@@ -115,11 +155,15 @@ bool ArgumentParser::Parse(const std::vector<std::string>& arguments, std::ostre
         out << mApp->help();
     } catch (const CLI::ExtrasError&) {
         throw UsageError(UnexpectedArgument(*mApp));
+    } catch (const CLI::RequiredError& error) {
+        // What is missed may stand there under another name.
+        throw UsageError(
+            IsOption(FirstExtra(*mApp)) ? UnexpectedArgument(*mApp) : error.what() + (": " + SeeHelp(*mApp)));
     } catch (const CLI::ArgumentMismatch& error) {
         const std::string text = error.what();
-        throw UsageError(text.substr(0, text.find(':')) + " needs exactly one value" + SeeHelp(*mApp));
+        throw UsageError(text.substr(0, text.find(':')) + " needs exactly one value: " + SeeHelp(*mApp));
     } catch (const CLI::ParseError& error) {
-        throw UsageError(error.what() + SeeHelp(*mApp));
+        throw UsageError(error.what() + (": " + SeeHelp(*mApp)));
     }
     return false;
 }

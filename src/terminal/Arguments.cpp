@@ -12,7 +12,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::string_view DayForm = "0000-00-00";
 constexpr std::string_view MomentForm = "0000-00-00T00:00";
 constexpr std::string_view MomentWithSecondsForm = "0000-00-00T00:00:00";
 
@@ -61,21 +60,6 @@ std::optional<Date> Read(std::string_view text, std::string_view form)
     throw UsageError(std::string(name) + " can't be \"" + std::string(text) + "\": " + std::string(advice));
 }
 
-}
-
-Date ToDay(std::string_view name, std::string_view text, Date now)
-{
-    if (text == "today") {
-        return now.Day();
-    }
-    if (text == "yesterday") {
-        return now.Day().AddDays(-1);
-    }
-    const auto day = Read(text, DayForm);
-    if (!day) {
-        Refuse(name, text, "give a day as YYYY-MM-DD, today or yesterday");
-    }
-    return *day;
 }
 
 Date ToMoment(std::string_view name, std::string_view text)

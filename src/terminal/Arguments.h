@@ -12,8 +12,6 @@ namespace tempodial {
 /// The arguments of one kind are read here; `name` is the argument's name for the message. What can't be read fails
 /// with a `UsageError`.
 
-/// The midnight of a day: `YYYY-MM-DD` of the years 100 to 9999, `today` or `yesterday`.
-Date ToDay(std::string_view name, std::string_view text, Date now);
 /// A moment `YYYY-MM-DDTHH:MM`.
 Date ToMoment(std::string_view name, std::string_view text);
 /// A moment `YYYY-MM-DDTHH:MM:SS`.

@@ -35,6 +35,11 @@ void PrepareProcess()
     (void)std::signal(SIGXFSZ, SIG_IGN);
 }
 
+void EndWithReader()
+{
+    (void)std::signal(SIGPIPE, SIG_DFL);
+}
+
 void Complain(std::ostream& stream, const std::string& program, const std::string& message)
 {
     stream << program << ": " << HarmlessLine(message) << "\n";

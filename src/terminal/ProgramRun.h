@@ -13,6 +13,10 @@ namespace tempodial {
 /// fails. Large blocks of memory go back to the system at once.
 void PrepareProcess();
 
+/// From here on a reader that goes away ends the process in silence, by the system's own signal: for the moment from
+/// which on all that is left to do is to write an answer.
+void EndWithReader();
+
 /// Writes what went wrong, and what to do, as the one line `program: message`.
 void Complain(std::ostream& stream, const std::string& program, const std::string& message);
 

@@ -6,10 +6,14 @@
 namespace tempodial {
 
 /// The text as it may go to a terminal: control characters but line feeds become visible signs, marks that turn the
-/// direction of writing are left out, and bytes that aren't UTF-8 become U+FFFD.
+/// direction of writing are left out but for isolates that end in their line, and bytes that aren't UTF-8 become
+/// U+FFFD.
 std::string Harmless(std::string_view text);
 /// The same as one line: line ends and tabs become a blank.
 std::string HarmlessLine(std::string_view text);
+/// The same for a text of somebody else's that stands beside others in a line: one that holds letters written from
+/// right to left, or marks of direction, is isolated, so that it doesn't turn what stands beside it.
+std::string IsolatedLine(std::string_view text);
 /// Columns that a harmless text takes on a terminal: wide characters take two, combining ones none.
 int DisplayWidth(std::string_view text);
 

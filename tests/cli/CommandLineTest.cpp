@@ -248,6 +248,16 @@ TEST_F(CommandLineTest, Run_Complaints_ArePrintedWithTheStatus)
     EXPECT_EQ(Error(), "tempodial: a: b\ntempodial: c d: e\n");
 }
 
+TEST_F(CommandLineTest, Run_NotesAndWarnings_StandOnStandardError)
+{
+    mRun = [] { return Reply { .text = "text\n", .notes = { "Added: a" }, .warnings = { "a: b" } }; };
+    EXPECT_EQ(Run({ "list" }), ExitStatus::Done);
+    EXPECT_EQ(mOut.str(), "text\n");
+    EXPECT_EQ(Error(), "Added: a\ntempodial: a: b\n");
+    Run({ "list", "--quiet" });
+    EXPECT_EQ(Error(), "tempodial: a: b\n");
+}
+
 TEST_F(CommandLineTest, Run_CommandFails_GivesTheStatusThatFits)
 {
     const auto fails = [this](auto&& fail) {

@@ -1,7 +1,10 @@
 #include "cli/ReadBack.h"
 #include "support/ProgramFixture.h"
 
+#include <fstream>
+#include <sstream>
 #include <sys/stat.h>
+#include <thread>
 
 namespace tempodial {
 
@@ -45,6 +48,7 @@ TEST_F(ExportCommandTest, Export_Json_IsThatOfList)
     EXPECT_EQ(list.size(), 3U);
     EXPECT_EQ(nlohmann::json::parse(Out({ "export", "--format", "json", "--from", "yesterday" })), list);
     EXPECT_EQ(Json({ "export", "--format", "json", "--from", "yesterday" }), list);
+    EXPECT_EQ(Json({ "export", "2006-10", "--format", "json" }), list);
 }
 
 TEST_F(ExportCommandTest, Export_Csv_IsPrintedByteForByte)
@@ -88,21 +92,84 @@ TEST_F(ExportCommandTest, Export_File_ReplacesTheOldOneAsAWhole)
     const auto path = mFolder.Write("a.csv", std::string(100'000, 'x'));
     EXPECT_EQ(Out({ "export", "--format", "csv", "--out", path, "--quiet" }), "");
     EXPECT_EQ(mFolder.Read("a.csv"), Csv);
-    EXPECT_EQ(Json({ "export", "--format", "json", "--out", path }),
-        (nlohmann::json { { "format", "json" }, { "activities", 2 }, { "text", nullptr } }));
-    EXPECT_EQ(nlohmann::json::parse(mFolder.Read("a.csv")), Json({ "list" }));
     EXPECT_FALSE(mFolder.Has(".a.csv.new"));
+    EXPECT_EQ(Out({ "export", "--format", "csv", "--out", path }), "Replaced: " + path + "\n");
+}
+
+TEST_F(ExportCommandTest, Export_EndOfTheName_SaysTheFormat)
+{
+    Import();
+    EXPECT_EQ(Json({ "export", "--out", mFolder.Path("a.JSON") }),
+        (nlohmann::json { { "format", "json" }, { "activities", 2 }, { "text", nullptr } }));
+    EXPECT_EQ(nlohmann::json::parse(mFolder.Read("a.JSON")), Json({ "list" }));
+    Out({ "export", "--out", mFolder.Path("a.csv") });
+    EXPECT_EQ(mFolder.Read("a.csv"), Csv);
+    Out({ "export", "--out", mFolder.Path("a.ics") });
+    EXPECT_THAT(mFolder.Read("a.ics"), StartsWith("BEGIN:VCALENDAR\r\n"));
+    Out({ "export", "--format", "csv", "--out", mFolder.Path("table") });
+    EXPECT_EQ(mFolder.Read("table"), Csv);
+    EXPECT_THAT(Refusal({ "export", "--format", "json", "--out", mFolder.Path("b.csv") }, 2),
+        HasSubstr("--format json isn't what"));
+    for (const auto& arguments :
+        { Arguments { "export", "--out", mFolder.Path("b.txt") }, Arguments { "export", "--out", mFolder.Path("b") },
+            Arguments { "export", "--format", "csv", "--out", mFolder.Path("b.txt") } }) {
+        EXPECT_THAT(Refusal(arguments, 2), HasSubstr("give a name that ends in .ics, .csv or .json"));
+    }
+    EXPECT_THAT(Refusal({ "export", "--out", "-" }, 2), HasSubstr("--format is required"));
+    EXPECT_FALSE(mFolder.Has("b.csv") || mFolder.Has("b.txt") || mFolder.Has("b"));
+}
+
+TEST_F(ExportCommandTest, Export_StandardOutput_GetsTheDocumentAlone)
+{
+    Import();
+    for (const auto* name : { "-", "/dev/stdout", "/proc/self/fd/1" }) {
+        EXPECT_EQ(Out({ "export", "--format", "csv", "--out", name }), Csv);
+    }
+}
+
+TEST_F(ExportCommandTest, Export_Link_IsFollowedAndStays)
+{
+    Import();
+    const auto path = mFolder.Write("a.csv", "old");
+    std::filesystem::permissions(path, std::filesystem::perms(0664));
+    std::filesystem::create_symlink("a.csv", mFolder.Path("link.csv"));
+    EXPECT_EQ(Out({ "export", "--out", mFolder.Path("link.csv") }), "Replaced: " + mFolder.Path("link.csv") + "\n");
+    EXPECT_EQ(mFolder.Read("a.csv"), Csv);
+    EXPECT_TRUE(std::filesystem::is_symlink(mFolder.Path("link.csv")));
+    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0664));
+}
+
+TEST_F(ExportCommandTest, Export_Pipe_IsWrittenTo)
+{
+    Import();
+    const auto pipe = mFolder.Path("pipe.csv");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    std::string got;
+    std::thread reader([&] {
+        std::ostringstream text;
+        text << std::ifstream(pipe, std::ios::binary).rdbuf();
+        got = text.str();
+    });
+    EXPECT_EQ(Out({ "export", "--out", pipe }), "Written: " + pipe + "\n");
+    reader.join();
+    EXPECT_EQ(got, Csv);
+}
+
+TEST_F(ExportCommandTest, Export_Project_LeavesOutTheOthers)
+{
+    Import();
+    EXPECT_EQ(Json({ "export", "--format", "json", "--project", "plan" }), Json({ "list", "--project", "Plan" }));
+    EXPECT_EQ(Json({ "export", "--format", "json", "--project", "plan" }).size(), 1U);
+    EXPECT_THAT(Refusal({ "export", "--format", "csv", "--project", "Plam", "--out", mFolder.Path("a.csv") }, 1),
+        HasSubstr("there is no project \"Plam\": did you mean \"Plan\"?"));
+    EXPECT_FALSE(mFolder.Has("a.csv"));
 }
 
 TEST_F(ExportCommandTest, Export_FileCantBeWritten_IsTold)
 {
     EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", mFolder.Path("no/a.csv") }, 1),
         HasSubstr("no/a.csv couldn't be written: Path not found"));
-    EXPECT_THAT(Refusal({ "export", "--format", "ics", "--out", mFolder.Path() }, 1), HasSubstr("couldn't be written"));
-    const auto pipe = mFolder.Path("pipe");
-    ASSERT_EQ(::mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
-    EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", pipe }, 1), HasSubstr("couldn't be written"))
-        << "it doesn't wait for a reader";
+    EXPECT_THAT(Refusal({ "export", "--format", "ics", "--out", mFolder.Path() }, 1), HasSubstr("it is a folder"));
 }
 
 TEST_F(ExportCommandTest, Export_MailboxAsTheFile_IsRefusedAndStays)
@@ -111,6 +178,32 @@ TEST_F(ExportCommandTest, Export_MailboxAsTheFile_IsRefusedAndStays)
     EXPECT_THAT(
         Refusal({ "export", "--format", "csv", "--out", mProfile + "/mailbox.db" }, 1), HasSubstr("is a mailbox"));
     EXPECT_EQ(Json({ "list" }), before);
+}
+
+TEST_F(ExportCommandTest, Export_FileOfAProfile_IsRefusedAndStays)
+{
+    Import();
+    std::filesystem::create_symlink(mProfile + "/registry.toml", mFolder.Path("link.csv"));
+    std::filesystem::create_directory_symlink(mProfile + "/Tempodial", mFolder.Path("way"));
+    const auto registry = mFolder.Read("profile/registry.toml");
+    const auto history = mFolder.Read("profile/Tempodial/TempodialHistory.out");
+    for (const auto& path : { mProfile + "/registry.toml", mProfile + "/mailbox.db-wal", mProfile + "/mailbox.db-shm",
+             mProfile + "/.registry.toml.new", DataPath("TempodialHistory.out"), DataPath("WorkLogTrace1.out"),
+             DataPath("tracker_granules20061010.out"), DataPath("new.csv"), DataPath("kept/new.csv"),
+             mFolder.Path("link.csv"), mFolder.Path("way/new.csv") }) {
+        for (const auto& arguments :
+            { Arguments { "export", "--format", "csv", "--out", path }, Arguments { "report", "--out", path },
+                Arguments { "--profile", mFolder.Path("other"), "export", "--format", "csv", "--out", path } }) {
+            const auto result = RunTempodial(arguments.front() == "--profile" ? arguments : Whole(arguments));
+            EXPECT_EQ(result.status, 1) << path;
+            EXPECT_THAT(result.error, HasSubstr("is a file of a profile"));
+        }
+    }
+    EXPECT_EQ(mFolder.Read("profile/registry.toml"), registry);
+    EXPECT_EQ(mFolder.Read("profile/Tempodial/TempodialHistory.out"), history);
+    EXPECT_FALSE(mFolder.Has("profile/Tempodial/new.csv"));
+    Out({ "export", "--out", mProfile + "/mine.csv" });
+    EXPECT_EQ(mFolder.Read("profile/mine.csv"), Csv);
 }
 
 TEST_F(ExportCommandTest, Export_HostileCaptions_StayTexts)

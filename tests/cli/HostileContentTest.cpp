@@ -81,9 +81,16 @@ std::string Harm(const std::string& shown)
         }
     }
     for (const auto* mark : { "\u0085", "\u009b", "\u200E", "\u200F", "\u202A", "\u202B", "\u202C", "\u202D", "\u202E",
-             "\u2066", "\u2067", "\u2068", "\u2069", "\u061C" }) {
+             "\u2066", "\u2067", "\u061C" }) {
         if (shown.find(mark) != std::string::npos) {
             return "a mark";
+        }
+    }
+    // An isolate ends in its line.
+    for (const auto& line : Split(shown, "\n")) {
+        const auto begins = Split(line, "\u2068").size();
+        if (begins != Split(line, "\u2069").size() || (begins > 1 && line.find("\u2069") < line.find("\u2068"))) {
+            return "an isolate: " + line;
         }
     }
     return "";

@@ -67,6 +67,11 @@ TEST_F(KnownProjectTest, NameOf_OtherCase_GivesTheNameKept)
     EXPECT_EQ(KnownProject::NameOrNew(*mAddIn.main, "wISH"), "Wish");
 }
 
+TEST_F(KnownProjectTest, NameOrNew_NoProjectInOtherCase_IsThatWord)
+{
+    EXPECT_EQ(KnownProject::NameOrNew(*mAddIn.main, "nO proJect"), "No Project");
+}
+
 TEST_F(KnownProjectTest, NameOf_Unknown_FailsOrStaysNew)
 {
     for (const auto* name : { "", "Wishes", "No Project" }) {

@@ -47,6 +47,34 @@ TEST_F(ListCommandTest, List_Ranges_TakeBothDays)
     EXPECT_THAT(Subjects(Json({ "list", "--from", "2006-10-11" })), ElementsAre());
 }
 
+TEST_F(ListCommandTest, List_Words_AreSpans)
+{
+    Import();
+    EXPECT_THAT(Subjects(Json({ "list", "yesterday" })), ElementsAre(Y));
+    EXPECT_THAT(Subjects(Json({ "list", "2006-10-09" })), ElementsAre(Y));
+    EXPECT_THAT(Subjects(Json({ "list", "-4d" })), ElementsAre(S, Y, A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "week" })), ElementsAre(Y, A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "last-week" })), ElementsAre(S));
+    EXPECT_THAT(Subjects(Json({ "list", "2006-W40" })), ElementsAre(S));
+    EXPECT_THAT(Subjects(Json({ "list", "month" })), ElementsAre(S, Y, A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "monday" })), ElementsAre(Y, A, B));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "last-week", "--to", "last-week" })), ElementsAre(S));
+    EXPECT_THAT(Subjects(Json({ "list", "--from", "-2d" })), ElementsAre(Y, A, B));
+}
+
+TEST_F(ListCommandTest, List_Week_BeginsAsTheLocaleHasIt)
+{
+    Import();
+    for (const auto& [locale, count] :
+        std::vector<std::pair<const char*, std::size_t>> { { "en_US", 3 }, { "de_DE", 3 }, { "ar_EG", 4 } }) {
+        // Saturday's activity is of the week that begins on that day, or of the week before.
+        const auto result = RunTempodial(
+            { "--profile", mProfile, "--locale", locale, "--now", mNow, "--json", "list", "--from", "week" });
+        EXPECT_EQ(result.status, 0) << locale << result.error;
+        EXPECT_EQ(nlohmann::json::parse(result.out).size(), count) << locale;
+    }
+}
+
 TEST_F(ListCommandTest, List_OtherLocales_FindTheSame)
 {
     Import();
@@ -58,12 +86,35 @@ TEST_F(ListCommandTest, List_OtherLocales_FindTheSame)
     }
 }
 
-TEST_F(ListCommandTest, List_Project_IsExact)
+TEST_F(ListCommandTest, List_Project_IsFoundInAnyCase)
 {
     Import();
-    EXPECT_THAT(Subjects(Json({ "list", "--project", "Plan" })), ElementsAre(B));
-    EXPECT_THAT(Subjects(Json({ "list", "--project", "plan" })), ElementsAre());
-    EXPECT_THAT(Subjects(Json({ "list", "--project", "No Project" })), ElementsAre(A));
+    for (const auto* name : { "Plan", "plan", "PLAN" }) {
+        EXPECT_THAT(Subjects(Json({ "list", "--project", name })), ElementsAre(B));
+    }
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "no project" })), ElementsAre(A));
+}
+
+TEST_F(ListCommandTest, List_ProjectWithoutActivities_IsKnownByTheListOrByOtherDays)
+{
+    Import();
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "wish" })), ElementsAre());
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "plan", "--to", "yesterday" })), ElementsAre());
+    EXPECT_THAT(Subjects(Json({ "list", "--project", "No Project", "--to", "2006-10-01" })), ElementsAre());
+}
+
+TEST_F(ListCommandTest, List_UnknownProject_IsRefusedWithTheNearest)
+{
+    Import();
+    EXPECT_EQ(Refusal({ "list", "--project", "Whish" }, 1),
+        "tempodial: there is no project \"Whish\": did you mean \"Wish\"? Else see \"tempodial projects\" for those "
+        "there are\n");
+    EXPECT_THAT(Refusal({ "list", "--project", "Plam", "--to", "yesterday" }, 1), HasSubstr("did you mean \"Plan\"?"));
+    EXPECT_EQ(Refusal({ "list", "--project", "Zebra" }, 1),
+        "tempodial: there is no project \"Zebra\": see \"tempodial projects\" for those there are\n");
+    for (const auto* name : { "", " ", "a\nb" }) {
+        EXPECT_THAT(Refusal({ "list", "--project", name }, 2), HasSubstr("the name of a project can't"));
+    }
 }
 
 TEST_F(ListCommandTest, List_Item_HasItsFields)
@@ -100,7 +151,7 @@ TEST_F(ListCommandTest, List_CaptionWithControlCharacters_IsHarmlessForPeopleAnd
 {
     WriteTracker("20061010", { WordSlot(32400, 32700, "a\t\xe2\x80\xae.doc") });
     Run({ "sync" });
-    EXPECT_THAT(Run({ "list" }).out, HasSubstr("Microsoft Word, \"a .doc\"\n"));
+    EXPECT_THAT(Run({ "list" }).out, HasSubstr("  \u2068Microsoft Word, \"a .doc\"\u2069\n"));
     EXPECT_THAT(Subjects(Json({ "list" })), ElementsAre("Microsoft Word, \"a\t\xe2\x80\xae.doc\""));
 }
 
@@ -116,6 +167,10 @@ TEST_F(ListCommandTest, List_BadRanges_AreUsageErrors)
     EXPECT_THAT(Refusal({ "list", "--from", "2006-10-10", "--to", "2006-10-09" }, 2), HasSubstr("is later than --to"));
     EXPECT_THAT(Refusal({ "list", "--from", "tomorrow" }, 2), HasSubstr("--from can't be \"tomorrow\""));
     EXPECT_THAT(Refusal({ "list", "--to", "2006-02-29" }, 2), HasSubstr("YYYY-MM-DD"));
+    EXPECT_THAT(Refusal({ "list", "2006-13" }, 2), HasSubstr("RANGE can't be \"2006-13\""));
+    EXPECT_THAT(Refusal({ "list", "week", "--from", "today" }, 2), HasSubstr("leave one of them out"));
+    Refusal({ "list", "Today" }, 2);
+    Refusal({ "list", "2025-W53" }, 2);
     EXPECT_FALSE(std::filesystem::exists(mProfile));
 }
 

@@ -46,6 +46,7 @@ TEST_F(ProblemReportCommandTest, ProblemReport_Mail_IsReadBackWithoutDefects)
 {
     WriteTracker("20061009", { WordSlot(32400, 32700, "s\xfc\xdf.doc") });
     EXPECT_EQ(Run(Report({ "--day", "yesterday" })).out, "Written: " + mMail + "\n");
+    EXPECT_EQ(Run(Report({ "--day", "yesterday" })).out, "Replaced: " + mMail + "\n");
     const auto lines = Split(ReadBack("host/system/read_mail.py", mMail), "\n");
     EXPECT_THAT(lines, Contains("to: support@tempodial.example"));
     EXPECT_THAT(lines, Contains("unsent: 1"));
@@ -95,6 +96,13 @@ TEST_F(ProblemReportCommandTest, ProblemReport_FileCantBeWritten_IsTold)
     EXPECT_THAT(Refusal(Report(), 1), HasSubstr("problem.eml couldn't be written: Path not found"));
 }
 
+TEST_F(ProblemReportCommandTest, ProblemReport_StandardOutput_GetsTheMail)
+{
+    mMail = "-";
+    EXPECT_THAT(Run(Report()).out, HasSubstr("\r\nSubject: Tempodial Problem Report"));
+    EXPECT_EQ(Json(Report()).at("attachments").size(), 1U);
+}
+
 TEST_F(ProblemReportCommandTest, ProblemReport_BadArguments_AreUsageErrors)
 {
     Refusal({ "problem-report", "--actual", "b", "--out", mMail }, 2);
@@ -102,8 +110,11 @@ TEST_F(ProblemReportCommandTest, ProblemReport_BadArguments_AreUsageErrors)
     Refusal({ "problem-report", "--expected", "a", "--actual", "b" }, 2);
     Refusal({ "problem-report", "--expected", "a", "--actual", "b", "--out", "" }, 2);
     Refusal(Report({ "--day", "soon" }), 2);
+    Refusal(Report({ "--day", "week" }), 2);
+    mMail = mFolder.Path("problem.html");
+    EXPECT_THAT(Refusal(Report(), 2), HasSubstr("give a name that ends in .eml\n"));
     EXPECT_FALSE(std::filesystem::exists(mProfile));
-    EXPECT_FALSE(mFolder.Has("problem.eml"));
+    EXPECT_FALSE(mFolder.Has("problem.html"));
 }
 
 }

@@ -87,10 +87,14 @@ TEST_F(ProjectsCommandTest, Set_Refused_SaysWhyAndChangesNothing)
     EXPECT_EQ(Run({ "projects", "set", "a|b" }).status, 1);
     EXPECT_EQ(Run({ "projects", "set", "No Project" }).error, "tempodial: Invalid project selected\n");
     EXPECT_EQ(Run({ "projects", "set", "No Project" }).status, 1);
+    EXPECT_EQ(Run({ "projects", "set", "no project" }).error, "tempodial: Invalid project selected\n");
     for (const auto* option : { "--subject", "--not-subject", "--people" }) {
         EXPECT_THAT(Refusal({ "projects", "set", "Wish", option, "a|b" }, 1), HasSubstr("can't hold \"|\""));
     }
-    EXPECT_THAT(Refusal({ "projects", "set", "a\x01z" }, 1), HasSubstr("a name can't hold control characters"));
+    for (const auto* name : { "", " ", "a\x01z" }) {
+        EXPECT_THAT(Refusal({ "projects", "set", name }, 2), HasSubstr("the name of a project can't"));
+    }
+    EXPECT_THAT(Refusal({ "projects", "set", "a\uFFFE" }, 1), HasSubstr("a name can't hold control characters"));
     EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--people", "a\rb" }, 1),
         HasSubstr("a rule can't hold control characters"));
     EXPECT_THAT(Refusal({ "projects", "set", "Wish", "--subject", "a\uFFFE" }, 1), HasSubstr("control characters"));
@@ -98,6 +102,26 @@ TEST_F(ProjectsCommandTest, Set_Refused_SaysWhyAndChangesNothing)
     EXPECT_THAT(Refusal({ "projects", "set" }, 2), HasSubstr("NAME is required"));
     EXPECT_THAT(Names(), ElementsAre("Critical", "Other", "Personal", "Supportive", "Wish"));
     EXPECT_EQ(Json({ "projects" }).at(4), Project("Wish", "2"));
+}
+
+TEST_F(ProjectsCommandTest, Set_RuleWithBothSeparators_IsWarnedOf)
+{
+    const auto set = [this](const std::string& option, const std::string& rule) {
+        const auto result = Run({ "projects", "set", "Plan", option, rule, "--quiet" });
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.out, "");
+        return result.error;
+    };
+    for (const auto* option : { "--subject", "--not-subject" }) {
+        EXPECT_EQ(set(option, "a, b;c ;d"),
+            "tempodial: in the rule \"a, b;c ;d\" commas part the terms, and semicolons belong to them: it is read as "
+            "a "
+            "| b;c ;d\n");
+        for (const auto* rule : { "a, b", "a; b", "\"a;b\", c", "\"a,b\"; c", "" }) {
+            EXPECT_EQ(set(option, rule), "") << rule;
+        }
+    }
+    EXPECT_EQ(set("--people", "Berger, Ann; Bob"), "") << "its terms stand between semicolons";
 }
 
 TEST_F(ProjectsCommandTest, Remove_KnownAndUnknown_AnswerSo)

@@ -137,6 +137,8 @@ TEST_F(ReportCommandTest, Report_Ranges_AreThoseOfList)
     EXPECT_EQ(total({ "--from", "yesterday" }), 20);
     EXPECT_EQ(total({ "--to", "yesterday" }), 5);
     EXPECT_EQ(total({ "--from", "2006-10-11" }), 0);
+    EXPECT_EQ(total({ "yesterday" }), 5);
+    EXPECT_EQ(total({ "-2d" }), 20);
 }
 
 TEST_F(ReportCommandTest, Report_Demo_AgreesWithItselfAndWithTheList)
@@ -184,6 +186,7 @@ TEST_F(ReportCommandTest, Report_Mail_IsReadBackWithoutDefects)
     Import();
     const auto path = mFolder.Path("a.eml");
     EXPECT_EQ(Out({ "report", "--out", path }), "Written: " + path + "\n");
+    EXPECT_EQ(Out({ "report", "--out", path }), "Replaced: " + path + "\n");
     const auto lines = Split(ReadBack("host/system/read_mail.py", path), "\n");
     EXPECT_THAT(lines, Contains("subject: Tempodial Report (By Application) Tuesday, October 10, 2006"));
     EXPECT_THAT(lines, Contains("to: None"));
@@ -198,6 +201,53 @@ TEST_F(ReportCommandTest, Report_Mail_IsReadBackWithoutDefects)
     const auto plain = Split(ReadBack("host/system/read_mail.py", path), "\n");
     EXPECT_THAT(plain, Contains("part: text/plain utf-8 None None"));
     EXPECT_THAT(plain, Contains("headers: X-Unsent, Subject, MIME-Version, Content-Type, Content-Transfer-Encoding"));
+}
+
+TEST_F(ReportCommandTest, Report_EndOfTheName_SaysTheForm)
+{
+    Import();
+    const auto written = [this](const std::string& name, const Arguments& more = {}) {
+        Arguments arguments { "report", "--out", mFolder.Path(name) };
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        EXPECT_EQ(Out(arguments), "Written: " + mFolder.Path(name) + "\n");
+        return mFolder.Read(name);
+    };
+    const auto page = Out({ "report" });
+    const auto begin = page.find("<title>") + 7;
+    EXPECT_EQ(written("a.html"),
+        std::string(page).replace(
+            begin, page.find("</title>") - begin, "Tempodial Report (By Application) Tuesday, October 10, 2006"));
+    EXPECT_EQ(written("b.txt"), Out({ "report", "--text" }));
+    EXPECT_EQ(written("c.TXT", { "--text", "--by", "project" }), Out({ "report", "--text", "--by", "project" }));
+    EXPECT_EQ(written("d.csv"), Json({ "report" }).at("csv"));
+    EXPECT_THAT(written("e.Eml"), HasSubstr("\r\nMIME-Version: 1.0\r\n"));
+    EXPECT_FALSE(HasCsvFile());
+}
+
+TEST_F(ReportCommandTest, Report_OtherEnds_AreUsageErrors)
+{
+    for (const auto* name : { "a", "a.pdf", "a.html.gz", "html", ".", "a.ics" }) {
+        const auto result = Run({ "report", "--out", mFolder.Path("x") + name });
+        EXPECT_EQ(result.status, 2);
+        EXPECT_THAT(result.error, HasSubstr("give a name that ends in .html, .txt, .csv or .eml\n"));
+    }
+    EXPECT_THAT(
+        Refusal({ "report", "--text", "--out", mFolder.Path("a.html") }, 2), HasSubstr("--text leaves nothing"));
+    EXPECT_THAT(
+        Refusal({ "report", "--no-csv", "--out", mFolder.Path("a.csv") }, 2), HasSubstr("--no-csv leaves nothing"));
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+TEST_F(ReportCommandTest, Report_StandardOutputAndDevices_GetWhatIsPrinted)
+{
+    Import();
+    for (const auto* name : { "-", "/dev/stdout" }) {
+        EXPECT_EQ(Out({ "report", "--out", name }), Out({ "report" }));
+        EXPECT_EQ(Out({ "report", "--text", "--out", name }), Out({ "report", "--text" }));
+        EXPECT_EQ(Json({ "report", "--out", name }), Json({ "report" }));
+    }
+    EXPECT_EQ(Out({ "report", "--out", "/dev/null" }), "Written: /dev/null\n");
+    EXPECT_THAT(Refusal({ "report", "--out", "/dev/full" }, 1), HasSubstr("/dev/full couldn't be written: Disk full"));
 }
 
 TEST_F(ReportCommandTest, Report_AnyTime_LeavesNothingBehind)
@@ -272,7 +322,8 @@ TEST_F(ReportCommandTest, Report_BadArguments_AreUsageErrors)
     EXPECT_THAT(Refusal({ "report", "--by", "people" }, 2), HasSubstr("project, application, description or date"));
     Refusal({ "report", "--from", "2006-10-10", "--to", "2006-10-09" }, 2);
     Refusal({ "report", "--out", "" }, 2);
-    Refusal({ "report", "today" }, 2);
+    Refusal({ "report", "tomorrow" }, 2);
+    Refusal({ "report", "today", "--to", "today" }, 2);
     EXPECT_FALSE(std::filesystem::exists(mProfile));
 }
 

@@ -28,7 +28,14 @@ StartedProgram::StartedProgram(const std::vector<std::string>& arguments, const 
         const rlimit limit { settings.largestFile, settings.largestFile };
         ::setrlimit(RLIMIT_FSIZE, &limit);
         ::dup2(::open(terminal.c_str(), O_RDWR | O_NOCTTY), STDERR_FILENO);
-        if (settings.output.empty()) {
+        if (settings.hasNoReader) {
+            std::array<int, 2> pipe {};
+            if (::pipe(pipe.data()) != 0) {
+                ::_exit(126);
+            }
+            ::close(pipe[0]);
+            ::dup2(pipe[1], STDOUT_FILENO);
+        } else if (settings.output.empty()) {
             ::close(STDOUT_FILENO);
         } else {
             ::dup2(::open(settings.output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDOUT_FILENO);

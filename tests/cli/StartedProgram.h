@@ -16,6 +16,8 @@ public:
     {
         /// The file that standard output goes to, "" for none at all: the stream is closed.
         std::string output = "/dev/null";
+        /// Standard output goes to a pipe that nobody reads any more, instead.
+        bool hasNoReader = false;
         /// The largest size of a file that may be written, in bytes.
         rlim_t largestFile = RLIM_INFINITY;
     };

@@ -92,6 +92,20 @@ TEST_F(TerminalRunTest, List_OutputClosed_IsToldAndHarmsNothing)
     EXPECT_EQ(Json({ "list" }).size(), 10U);
 }
 
+TEST_F(TerminalRunTest, AnyCommand_ReaderGone_EndsInSilenceWithItsChangesMade)
+{
+    WriteLongDay("20061010", 10);
+    for (const auto& arguments :
+        { Arguments { "sync" }, Arguments { "list" }, Arguments { "report" }, Arguments { "--help" },
+            Arguments { "export", "--format", "csv", "--out", "-" }, Arguments { "projects", "set", "Plan" } }) {
+        StartedProgram program(Whole(arguments), { .hasNoReader = true });
+        EXPECT_EQ(program.End(), 128 + SIGPIPE) << arguments.front();
+        EXPECT_EQ(program.Shown().find("tempodial:"), std::string::npos) << program.Shown();
+    }
+    EXPECT_EQ(Json({ "list" }).size(), 10U);
+    EXPECT_EQ(Json({ "projects" }).size(), 6U);
+}
+
 TEST_F(TerminalRunTest, List_FullDisk_IsTold)
 {
     StartedProgram program(Whole({ "list" }), { .output = "/dev/full" });

@@ -18,6 +18,15 @@ TEST(TextTableTest, Text_RowsOfDifferentWidths_AreAligned)
     EXPECT_EQ(table.Text(), "a      5 min  x\n売上  15 min\n");
 }
 
+TEST(TextTableTest, Add_CellThatTurnsDirection_LeavesTheOthers)
+{
+    using enum TextTable::Side;
+    TextTable table({ Left, Right, Left });
+    table.Add({ "שלום", "5 min", "a\u202Eb" });
+    table.Add({ "plan", "15 min", "c" });
+    EXPECT_EQ(table.Text(), "\u2068שלום\u2069   5 min  \u2068ab\u2069\nplan  15 min  c\n");
+}
+
 TEST(TextTableTest, Add_CellWithLineEndAndControlCharacter_StaysOneHarmlessLine)
 {
     TextTable table({ TextTable::Side::Left });

@@ -73,9 +73,29 @@ TEST_F(ArgumentParserTest, Parse_WhatIsNotExpected_IsRefusedByItsKind)
 {
     EXPECT_EQ(Refusal({ "list" }), "\"list\" isn't expected here: see \"prog --help\"");
     AddCommands();
-    EXPECT_EQ(Refusal({ "lists" }), "there is no command \"lists\": see \"prog --help\" for the commands");
+    EXPECT_EQ(Refusal({ "nothing" }), "there is no command \"nothing\": see \"prog --help\" for the commands");
     EXPECT_EQ(Refusal({ "--lists" }), "\"--lists\" isn't expected here: see \"prog --help\"");
-    EXPECT_EQ(Refusal({ "projects", "get" }), "\"get\" isn't expected here: see \"prog projects --help\"");
+    EXPECT_EQ(Refusal({ "projects", "none" }), "\"none\" isn't expected here: see \"prog projects --help\"");
+}
+
+TEST_F(ArgumentParserTest, Parse_WhatIsNearlyThere_IsAnsweredWithIt)
+{
+    std::string value;
+    mParser.Arguments().Optional("--value TEXT", value, "A value");
+    AddCommands();
+    std::string from;
+    mParser.AddCommand({ "report", "", "" }).Required("--from DAY", from, "A day");
+    EXPECT_EQ(Refusal({ "lits" }),
+        "there is no command \"lits\": did you mean \"list\"? Else see \"prog --help\" for the commands");
+    EXPECT_EQ(Refusal({ "projects", "sat" }),
+        "\"sat\" isn't expected here: did you mean \"set\"? Else see \"prog projects --help\"");
+    EXPECT_EQ(Refusal({ "--vlaue=x" }),
+        "\"--vlaue=x\" isn't expected here: did you mean \"--value\"? Else see \"prog --help\"");
+    EXPECT_EQ(Refusal({ "projects", "set", "--vale", "x" }),
+        "\"--vale\" isn't expected here: did you mean \"--value\"? Else see \"prog projects set --help\"");
+    EXPECT_EQ(Refusal({ "report", "--form", "today" }),
+        "\"--form\" isn't expected here: did you mean \"--from\"? Else see \"prog report --help\"");
+    EXPECT_EQ(Refusal({ "list", "--from", "today" }), "\"--from\" isn't expected here: see \"prog list --help\"");
 }
 
 TEST_F(ArgumentParserTest, Parse_TextThatIsNoUtf8_IsRefused)

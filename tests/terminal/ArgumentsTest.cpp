@@ -12,37 +12,7 @@ namespace {
 using testing::HasSubstr;
 using testing::ThrowsMessage;
 
-const Date Now = Date::FromParts({ 2006, 3, 1, 9, 5, 7 });
-
 }
-
-TEST(ArgumentsTest, ToDay_Words_CountFromNow)
-{
-    EXPECT_EQ(ToDay("--from", "today", Now), Date::FromYearMonthDay(2006, 3, 1));
-    EXPECT_EQ(ToDay("--from", "yesterday", Now), Date::FromYearMonthDay(2006, 2, 28));
-}
-
-TEST(ArgumentsTest, ToDay_Days_AreRead)
-{
-    EXPECT_EQ(ToDay("--from", "2008-02-29", Now), Date::FromYearMonthDay(2008, 2, 29));
-    EXPECT_EQ(ToDay("--from", "0100-01-01", Now), Date::FromYearMonthDay(100, 1, 1));
-    EXPECT_EQ(ToDay("--from", "9999-12-31", Now), Date::FromYearMonthDay(9999, 12, 31));
-}
-
-class BadDayTest : public testing::TestWithParam<const char*>
-{
-};
-
-TEST_P(BadDayTest, ToDay_OtherText_IsRefusedWithAdvice)
-{
-    EXPECT_THAT([] { ToDay("--from", GetParam(), Now); },
-        ThrowsMessage<UsageError>(testing::AllOf(HasSubstr("--from can't be \""), HasSubstr("YYYY-MM-DD"))));
-}
-
-INSTANTIATE_TEST_SUITE_P(Texts, BadDayTest,
-    testing::Values("", "Today", "tomorrow", "2006-2-28", "2006-02-29", "2006-13-01", "2006-00-01", "2006-01-00",
-        "2006-01-32", "0099-01-01", "0000-01-01", "06-01-01", "2006/01/01", "20060101", "2006-01-01 ", " 2006-01-01",
-        "2006-01-01T00:00", "-006-01-01", "2006-0a-01", "+006-01-01"));
 
 TEST(ArgumentsTest, ToMoment_Moment_IsRead)
 {

@@ -25,6 +25,23 @@ TEST(TerminalTextTest, Harmless_MarksOfDirection_AreLeftOut)
     EXPECT_EQ(Harmless("שלום"), "שלום");
 }
 
+TEST(TerminalTextTest, Harmless_Isolates_StayWhereTheyEndInTheirLine)
+{
+    EXPECT_EQ(Harmless("a\u2068b\u2069c\n"), "a\u2068b\u2069c\n");
+    EXPECT_EQ(Harmless("\u2068a\u2068b\u2068c\n\u2069d"), "abc\nd");
+    EXPECT_EQ(Harmless("\u2069a\u2068b\u2068c\u2069\u202Ed"), "ab\u2068c\u2069d");
+}
+
+TEST(TerminalTextTest, IsolatedLine_RightToLeftOrMarks_IsIsolated)
+{
+    EXPECT_EQ(IsolatedLine("a\tb"), "a b");
+    EXPECT_EQ(IsolatedLine("שלום"), "\u2068שלום\u2069");
+    EXPECT_EQ(IsolatedLine("خطة a"), "\u2068خطة a\u2069");
+    EXPECT_EQ(IsolatedLine("a\u202Egpj.exe"), "\u2068agpj.exe\u2069");
+    EXPECT_EQ(IsolatedLine("a\u2069\u202Eb\u2068"), "\u2068ab\u2069") << "it can't end the isolate";
+    EXPECT_EQ(Harmless(IsolatedLine("שלום") + "\n"), "\u2068שלום\u2069\n");
+}
+
 TEST(TerminalTextTest, Harmless_BytesThatAreNoUtf8_AreReplacedOneByOne)
 {
     EXPECT_EQ(Harmless("M\xfcller"), "M\uFFFDller");
@@ -49,6 +66,7 @@ TEST(TerminalTextTest, DisplayWidth_WideAndCombining_CountAsDrawn)
     EXPECT_EQ(DisplayWidth("売上"), 4);
     EXPECT_EQ(DisplayWidth("e\u0301"), 1);
     EXPECT_EQ(DisplayWidth("😀"), 2);
+    EXPECT_EQ(DisplayWidth("\u2068שלום\u2069"), 4);
 }
 
 }

@@ -3,6 +3,9 @@
 #include "host/files/FolderDescriptor.h"
 #include "host/files/PathOperations.h"
 
+#include <cerrno>
+#include <sys/stat.h>
+
 namespace tempodial {
 
 namespace {
@@ -29,6 +32,15 @@ NativePath NewPath(const NativePath& path)
     return newPath;
 }
 
+/// The mode that the user's new files have.
+mode_t ModeOfNewFiles()
+{
+    // The mask is only told when it is set.
+    const auto mask = ::umask(S_IRWXG | S_IRWXO);
+    ::umask(mask);
+    return DEFFILEMODE & ~mask;
+}
+
 }
 
 ReplacementFile::ReplacementFile(const NativePath& path, Old old)
@@ -52,6 +64,17 @@ void ReplacementFile::Write(std::string_view bytes)
     } catch (const Failure& failure) {
         mFailure = failure;
         throw;
+    }
+}
+
+void ReplacementFile::TakeUsualMode() const
+{
+    struct stat old
+    {
+    };
+    const auto mode = ::stat(mPath.CText(), &old) == 0 ? old.st_mode & ACCESSPERMS : ModeOfNewFiles();
+    if (::fchmod(mFile.Number(), mode) != 0) {
+        throw SystemFailure(errno);
     }
 }
 

@@ -24,8 +24,9 @@ public:
 
     /// Adds content; fails when the disk refuses (61, 57), and then it can't take the file's place any more.
     void Write(std::string_view bytes);
-    /// The descriptor of the new content, for a library that writes to it by itself.
-    int Descriptor() const { return mFile.Number(); }
+    /// Gives the new content the mode of the file whose place it takes, or else that of the user's new files; without
+    /// this it is the user's alone.
+    void TakeUsualMode() const;
     /// Gives the new content a time of last change.
     void SetModificationTime(const timespec& moment) { mFile.SetModificationTime(moment); }
     /// Takes the file's place, safe on disk when it returns; fails when the disk refuses it or refused a part (61, 57).

@@ -1,5 +1,6 @@
 #include "host/system/GMimeDraftWriter.h"
 
+#include "host/files/MemoryFile.h"
 #include "host/files/ReplacementFile.h"
 #include "host/files/SystemFailure.h"
 
@@ -12,13 +13,21 @@ GMimeDraftWriter::GMimeDraftWriter(std::string modulePath)
 {
 }
 
-void GMimeDraftWriter::Write(const MailDraft& draft, const std::string& path)
+std::string GMimeDraftWriter::Text(const MailDraft& draft)
 {
     const auto writeMessage = mModule.Get<MimeMessageWriter>(MimeMessageWriterName);
-    ReplacementFile file { NativePath(path) };
+    const MemoryFile file;
     if (const auto error = writeMessage(draft, file.Descriptor()); error != 0) {
         throw SystemFailure(error);
     }
+    return file.Text();
+}
+
+void GMimeDraftWriter::Write(const MailDraft& draft, const std::string& path)
+{
+    const auto text = Text(draft);
+    ReplacementFile file { NativePath(path) };
+    file.Write(text);
     file.Commit();
 }
 

@@ -16,7 +16,10 @@ public:
     /// Takes the path of the module, which else is the program's own.
     explicit GMimeDraftWriter(std::string modulePath = ProgramModule::PathOf(MimeMessageModule));
 
-    /// Fails also (429) when the module can't be loaded.
+    /// The text of a draft's file. Fails (429) when the module can't be loaded, and when there isn't enough memory
+    /// (7, 61).
+    std::string Text(const MailDraft& draft);
+    /// Fails also as `Text` does.
     void Write(const MailDraft& draft, const std::string& path) override;
 
 private:

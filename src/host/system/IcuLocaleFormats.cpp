@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 
+#include <unicode/calendar.h>
 #include <unicode/dtfmtsym.h>
 #include <unicode/locid.h>
 #include <unicode/smpdtfmt.h>
@@ -215,6 +216,14 @@ std::string IcuLocaleFormats::FromEnvironment()
         }
     }
     return "en_US";
+}
+
+int IcuLocaleFormats::FirstDayOfWeek(const std::string& localeName)
+{
+    auto status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(Source(localeName).locale, status));
+    CheckIcu(status);
+    return calendar->getFirstDayOfWeek();
 }
 
 std::string IcuLocaleFormats::MonthAbbreviation(int month)

@@ -24,6 +24,9 @@ public:
     /// The name of the locale that the environment asks for, "en_US" when it asks for none that is known.
     static std::string FromEnvironment();
 
+    /// The day with which a week begins in a locale, Sunday 1 to Saturday 7; an unknown locale fails (5).
+    static int FirstDayOfWeek(const std::string& localeName);
+
     std::string ShortDate(Date date) override { return mShortDate.Format(date); }
     std::string LongDate(Date date) override { return mLongDate.Format(date); }
     std::string MediumDate(Date date) override { return mMediumDate.Format(date); }

@@ -180,6 +180,15 @@ TEST_F(IcuLocaleFormatsTest, Parse_WhatWasFormatted_ComesBackInEachLocale)
     }
 }
 
+TEST_F(IcuLocaleFormatsTest, FirstDayOfWeek_Locales_AreTold)
+{
+    EXPECT_EQ(IcuLocaleFormats::FirstDayOfWeek("en_US"), 1);
+    EXPECT_EQ(IcuLocaleFormats::FirstDayOfWeek("C"), 1);
+    EXPECT_EQ(IcuLocaleFormats::FirstDayOfWeek("de_DE.UTF-8"), 2);
+    EXPECT_EQ(IcuLocaleFormats::FirstDayOfWeek("ar_EG"), 7);
+    EXPECT_EQ(FailureNumber([] { IcuLocaleFormats::FirstDayOfWeek("xx_XX"); }), 5);
+}
+
 TEST_F(IcuLocaleFormatsTest, IsKnown_NamesOfLocales_AreToldFromOthers)
 {
     for (const auto* name : { "en_US", "de_DE", "de_DE.UTF-8", "de_DE@euro", "sv", "ja_JP.eucJP", "C", "POSIX",

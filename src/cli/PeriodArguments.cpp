@@ -1,0 +1,83 @@
+#include "cli/PeriodArguments.h"
+
+#include "host/system/HostClock.h"
+#include "host/system/IcuLocaleFormats.h"
+#include "terminal/Arguments.h"
+#include "terminal/UsageError.h"
+
+#include <algorithm>
+
+namespace tempodial {
+
+namespace {
+
+std::optional<Period> PeriodNamed(const std::string& text, const Options& options)
+{
+    return Period::Named(text, HostClock(options.now).Now(), [&options] {
+        return IcuLocaleFormats::FirstDayOfWeek(options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment());
+    });
+}
+
+[[noreturn]] void RefuseDays(const std::string& name, const std::string& text, const std::string& advice)
+{
+    throw UsageError(name + " can't be \"" + text + "\": give " + advice);
+}
+
+Period ToPeriod(const std::string& name, const std::string& text, const Options& options)
+{
+    const auto period = PeriodNamed(text, options);
+    if (!period) {
+        RefuseDays(name, text,
+            "a day as YYYY-MM-DD, or a word such as today, monday, week, last-month, 2026-11, 2026-W47 or -7d");
+    }
+    return *period;
+}
+
+}
+
+void PeriodArguments::Declare(ArgumentList& arguments)
+{
+    arguments.Optional("RANGE", mRange, "The days: a day, or a word for several");
+    arguments.Optional("--from DAY", mFrom, "First day, or a word for several, of which it is the first");
+    arguments.Optional("--to DAY", mTo, "Last day, or the last of several");
+}
+
+Period PeriodArguments::Days(const Options& options) const
+{
+    if (mRange && (mFrom || mTo)) {
+        throw UsageError("RANGE \"" + *mRange + "\" stands beside --from or --to: leave one of them out");
+    }
+    if (mRange) {
+        return ToPeriod("RANGE", *mRange, options);
+    }
+    const auto today = HostClock(options.now).Now().Day();
+    Period days { today, today };
+    if (mFrom) {
+        days.first = ToPeriod("--from", *mFrom, options).first;
+    }
+    if (mTo) {
+        days.last = ToPeriod("--to", *mTo, options).last;
+    }
+    if (!mFrom) {
+        days.first = std::min(today, days.last);
+    }
+    if (!mTo) {
+        days.last = std::max(today, days.first);
+    }
+    if (days.first > days.last) {
+        throw UsageError("--from " + IsoDay(days.first) + " is later than --to " + IsoDay(days.last)
+            + ": give the earlier day as --from");
+    }
+    return days;
+}
+
+Date PeriodArguments::ToDay(const std::string& name, const std::string& text, const Options& options)
+{
+    const auto period = PeriodNamed(text, options);
+    if (!period || period->first != period->last) {
+        RefuseDays(name, text, "a day as YYYY-MM-DD, today, yesterday or a day of the week");
+    }
+    return period->first;
+}
+
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "cli/Options.h"
+#include "review/Period.h"
+#include "terminal/ArgumentList.h"
+
+#include <optional>
+#include <string>
+
+namespace tempodial {
+
+/// The arguments RANGE, --from and --to of a command that works on a span of days.
+class PeriodArguments
+{
+public:
+    /// What the help of such a command says of them.
+    static constexpr auto Help = "Without a range it is today; where only one end is given, the other is today, or\n"
+                                 "the same day when that comes out of order. RANGE and both ends are days,\n"
+                                 "YYYY-MM-DD, or words: today, yesterday, monday to sunday (the last such day),\n"
+                                 "week, month, year, last-week, last-month, last-year, 2026, 2026-11, 2026-W47,\n"
+                                 "-7d (seven days up to today).\n";
+
+    /// Adds them to a command; they are kept here as they are parsed.
+    void Declare(ArgumentList& arguments);
+    /// The span that they name. Fails with a `UsageError`.
+    Period Days(const Options& options) const;
+
+    /// The one day that an argument of that name calls by its text. Fails with a `UsageError`.
+    static Date ToDay(const std::string& name, const std::string& text, const Options& options);
+
+private:
+    std::optional<std::string> mRange;
+    std::optional<std::string> mFrom;
+    std::optional<std::string> mTo;
+};
+
+}
