@@ -162,9 +162,45 @@ bool TomlRegistry::Delete(Hive hive, const std::string& key, const std::string& 
     }
     auto changed = std::make_unique<Tables>(*mTables);
     Erase(*changed->Make(hive, key), value);
-    Save(*changed);
-    mTables = std::move(changed);
+    Take(std::move(changed));
     return true;
+}
+
+void TomlRegistry::Together(const std::function<void()>& work)
+{
+    mIsHolding = true;
+    try {
+        work();
+    } catch (...) {
+        Release();
+        throw;
+    }
+    Release();
+}
+
+void TomlRegistry::Take(std::unique_ptr<Tables> changed)
+{
+    if (!mIsHolding) {
+        Save(*changed);
+    } else if (!mSaved) {
+        mSaved = std::move(mTables);
+    }
+    mTables = std::move(changed);
+}
+
+void TomlRegistry::Release()
+{
+    mIsHolding = false;
+    auto saved = std::exchange(mSaved, nullptr);
+    if (!saved) {
+        return;
+    }
+    try {
+        Save(*mTables);
+    } catch (const Failure& failure) {
+        mTables = std::move(saved);
+        throw Failure(failure.Number(), failure.Description() + ": the registry file " + mPath);
+    }
 }
 
 void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& value, const Variant& data)
@@ -188,8 +224,7 @@ void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& val
     } else {
         values->insert(name, data.ToInt32());
     }
-    Save(*changed);
-    mTables = std::move(changed);
+    Take(std::move(changed));
 }
 
 void TomlRegistry::Save(const Tables& tables) const

@@ -3,6 +3,7 @@
 #include "platform/system/Registry.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -38,15 +39,26 @@ public:
     void WriteNumber(Hive hive, const std::string& key, const std::string& value, std::int32_t number);
     /// Deletes a value; false when there was none. Fails as `Write` does.
     bool Delete(Hive hive, const std::string& key, const std::string& value);
+    /// Does work whose changes reach the file together, when it has ended in whatever way; that fails as `Write` does,
+    /// and then none of them was made.
+    void Together(const std::function<void()>& work);
 
 private:
     class Tables;
+
+    /// Takes over changed content: into the file, or while changes are held into memory alone.
+    void Take(std::unique_ptr<Tables> changed);
+    /// Brings held changes into the file, and holds no more.
+    void Release();
 
     void Set(Hive hive, const std::string& key, const std::string& value, const Variant& data);
     void Save(const Tables& tables) const;
 
     std::string mPath;
     std::unique_ptr<Tables> mTables;
+    bool mIsHolding = false;
+    /// What the file has while it lacks changes that are held.
+    std::unique_ptr<Tables> mSaved;
 };
 
 }

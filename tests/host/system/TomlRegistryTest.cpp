@@ -1,5 +1,6 @@
 #include "host/system/TomlRegistry.h"
 
+#include "base/Failure.h"
 #include "base/Utf8.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
@@ -142,6 +143,66 @@ TEST_F(TomlRegistryTest, Write_SameValue_TouchesNoFile)
     registry.Write(User, Key, "n", "5");
     EXPECT_EQ(Reopened(User, Key, "n"), Variant("5"));
     EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
+TEST_F(TomlRegistryTest, Together_Changes_ReachTheFileAtTheEnd)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "gone", "a");
+    registry.Together([&] {
+        registry.Write(User, Key, "a", "b");
+        registry.WriteNumber(User, Key, "n", 5);
+        registry.Delete(User, Key, "gone");
+        EXPECT_EQ(registry.Get(User, Key, "a"), Variant("b"));
+        EXPECT_EQ(Reopened(User, Key, "gone"), Variant("a"));
+        EXPECT_TRUE(Reopened(User, Key, "a").IsEmpty());
+    });
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+    EXPECT_EQ(Reopened(User, Key, "n"), Variant(5));
+    EXPECT_TRUE(Reopened(User, Key, "gone").IsEmpty());
+    registry.Write(User, Key, "a", "c");
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("c"));
+}
+
+TEST_F(TomlRegistryTest, Together_WorkFails_KeepsWhatWasWritten)
+{
+    auto registry = Open();
+    const auto work = [&] {
+        registry.Write(User, Key, "a", "b");
+        throw Failure(Error::InvalidCall);
+    };
+    EXPECT_EQ(FailureNumber([&] { registry.Together(work); }), 5);
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
+TEST_F(TomlRegistryTest, Together_NothingChanged_TouchesNoFile)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "a", "b");
+    fs::remove(mFolder.Path("registry.toml"));
+    registry.Together([&] { registry.Write(User, Key, "a", "b"); });
+    EXPECT_FALSE(mFolder.Has("registry.toml"));
+}
+
+TEST_F(TomlRegistryTest, Together_FileRefuses_FailsWithItsNameAndChangesNothing)
+{
+    fs::create_directory(mFolder.Path("profile"));
+    const auto path = mFolder.Path("profile/registry.toml");
+    TomlRegistry registry(path);
+    registry.Write(User, Key, "a", "old");
+    fs::remove_all(mFolder.Path("profile"));
+    try {
+        registry.Together([&] {
+            registry.Write(User, Key, "a", "new");
+            registry.Write(User, Key, "b", "new");
+        });
+        ADD_FAILURE() << "no failure";
+    } catch (const Failure& failure) {
+        EXPECT_TRUE(failure.Is(Error::PathNotFound));
+        EXPECT_NE(failure.Description().find(path), std::string::npos);
+    }
+    EXPECT_EQ(registry.Get(User, Key, "a"), Variant("old"));
+    EXPECT_TRUE(registry.Get(User, Key, "b").IsEmpty());
 }
 
 TEST_F(TomlRegistryTest, Write_EmptyText_IsAValue)
