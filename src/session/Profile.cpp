@@ -21,6 +21,7 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
         mPlatform.formats = MakeRef<IcuLocaleFormats>(locale);
         mPlatform.xml = MakeRef<ExpatXmlFactory>();
         mRegistry = MakeRef<TomlRegistry>(mFolder.Path() + "/" + RegistryFileName);
+        mRegistry->RequireSound(ProductKey, { ProjectsValue });
         mMailbox = Mailbox::Open(mFolder.Path() + "/" + MailboxFileName, mPlatform.formats, mPlatform.xml);
     } catch (const RegistryFileError& error) {
         throw ProfileError(error.what());

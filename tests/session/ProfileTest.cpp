@@ -1,6 +1,7 @@
 #include "session/Profile.h"
 
 #include "base/Variant.h"
+#include "session/ProfileError.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -45,6 +46,17 @@ TEST(ProfileTest, PathThatHoldsABackslash_KeepsAllInOneFolder)
     EXPECT_THAT(NamesIn(path + "/Tempodial"), UnorderedElementsAre("new.out", "added.out"));
     const Profile again(path, "en_US", std::nullopt);
     EXPECT_EQ(again.Registry()->Get(Hive::CurrentUser, "Software", "a"), Variant("b"));
+}
+
+TEST(ProfileTest, ProjectsOfAnotherKindThanTexts_AreDamageAndStay)
+{
+    const TempFolder folder;
+    for (const auto* value : { "5", "1.5", "[]", "{}" }) {
+        const auto content = std::string("[HKCU.'Software\\Lindenfold\\Tempodial']\nProjectXML = ") + value + "\n";
+        folder.Write("registry.toml", content);
+        EXPECT_THROW(Profile(folder.Path(), "en_US", std::nullopt), ProfileError) << value;
+        EXPECT_EQ(folder.Read("registry.toml"), content);
+    }
 }
 
 }

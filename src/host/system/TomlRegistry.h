@@ -7,6 +7,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -33,6 +34,9 @@ public:
     /// Fails for texts that aren't UTF-8 (5), where the file has something else of the key's name (75), when the
     /// file is a link, read-only or locked (70), and when the disk refuses (61, 57); then nothing has changed.
     void Write(Hive hive, const std::string& key, const std::string& value, const std::string& text) override;
+    /// Throws a `RegistryFileError` when a value of that key is neither a text nor a number of 32 bits, in either hive;
+    /// those named must be texts.
+    void RequireSound(const std::string& key, const std::vector<std::string>& texts) const;
     /// A text or a number, nothing when there is none; makes no key.
     Variant Get(Hive hive, const std::string& key, const std::string& value) const;
     /// Writes a number, making the key; fails as `Write` does.

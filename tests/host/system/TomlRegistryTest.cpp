@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
@@ -357,6 +358,85 @@ TEST_F(TomlRegistryTest, Open_DamagedFile_SaysWhereAndWhatToDo)
         EXPECT_NE(refusal.find(": correct that line, or move the file away"), std::string::npos) << refusal;
         EXPECT_EQ(Content(), row.content);
     }
+}
+
+TEST_F(TomlRegistryTest, Open_DamagedFile_IsToldInOurWords)
+{
+    for (const auto* content : { "[HKCU.a]\nb = 1\n[HKCU.a]\nc = 2\n", "[HKCU.a]\nb = 1\nb = 2\n" }) {
+        mFolder.Write("registry.toml", content);
+        EXPECT_THAT(Refusal(), testing::HasSubstr("line 3: the name stands in the file a second time: "));
+    }
+    mFolder.Write("registry.toml", "[HKCU.\"a\"]\nb = \"c\n");
+    EXPECT_THAT(Refusal(), testing::HasSubstr("a quotation mark or a bracket may be missing"));
+}
+
+TEST_F(TomlRegistryTest, Open_NestedFile_HasABound)
+{
+    const auto repeated = [](const std::string& text, int count) {
+        std::string all;
+        for (int i = 0; i < count; ++i) {
+            all += text;
+        }
+        return all;
+    };
+    const auto refusalOf = [&](const std::string& content) {
+        mFolder.Write("registry.toml", content);
+        return Refusal();
+    };
+    EXPECT_EQ(refusalOf("[a" + repeated(".a", 32) + "]\nb = " + repeated("[", 32) + repeated("]", 32) + "\n"), "");
+    for (const int depth : { 33, 30'000 }) {
+        for (const auto& content :
+            { "\n[a" + repeated(".a", depth) + "]\n", "\na" + repeated(". 'a'", depth) + " = 1\n",
+                "\na = " + repeated("[", depth) + repeated("]", depth), "\na = " + repeated("{a = ", depth) + "1",
+                "\na = {b = \"\"\"x\"\"\"\"\", c" + repeated(".a", depth) + " = 1}\n" }) {
+            EXPECT_THAT(refusalOf(content), testing::HasSubstr("line 2: it is nested more than 32 deep: "));
+        }
+    }
+}
+
+TEST_F(TomlRegistryTest, Open_BracketsAndPointsInTexts_AreNoNesting)
+{
+    const std::string many(100, '[');
+    const std::string points(100, '.');
+    std::string reals = "1.5";
+    for (int i = 0; i < 50; ++i) {
+        reals += ", 1.5";
+    }
+    mFolder.Write("registry.toml",
+        "[HKCU.key]\na = \"\\\"" + many + points + "\"\nb = '" + many + points + "\\'\nc = \"\"\"\n" + many + "\""
+            + points + "\"\"\"\nd = '''" + points + many + "''' # " + many + points + "\ne = [ " + reals + " ]\n");
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_EQ(Reopened(User, "key", "b"), Variant(many + points + "\\"));
+}
+
+TEST_F(TomlRegistryTest, Open_LargerThanARegistryMayBe_SaysSo)
+{
+    mFolder.Write("registry.toml", "");
+    fs::resize_file(mFolder.Path("registry.toml"), (std::uintmax_t { 64 } << 20) + 1);
+    EXPECT_THAT(Refusal(), testing::HasSubstr("is larger than 64 MiB"));
+}
+
+TEST_F(TomlRegistryTest, RequireSound_ValueOfAnotherKind_IsRefusedWithItsLine)
+{
+    const auto refusalOf = [&](const std::string& content) -> std::string {
+        mFolder.Write("registry.toml", content);
+        const auto registry = Open();
+        try {
+            registry.RequireSound(Key, { "Words" });
+        } catch (const RegistryFileError& error) {
+            return error.what();
+        }
+        return "";
+    };
+    const std::string heading = "[HKCU.'Software\\Lindenfold\\Tempodial']\n";
+    EXPECT_EQ(refusalOf(""), "");
+    EXPECT_EQ(refusalOf(heading + "words = 'a'\nb = 5\n[HKCU.other]\nc = 1.5\n"), "");
+    for (const auto* value : { "1.5", "true", "[ 'a' ]", "{ a = 'b' }", "2006-10-10", "2147483648" }) {
+        EXPECT_THAT(refusalOf(heading + "a = 'b'\nc = " + value + "\n"),
+            testing::HasSubstr("line 3: \"c\" must be a text in quotation marks, or a whole number of 32 bits: "));
+    }
+    EXPECT_THAT(refusalOf(heading + "words = 5\n"), testing::HasSubstr("line 2: \"words\" must be a text, in"));
+    EXPECT_THAT(refusalOf("[HKLM]\n'Software\\Lindenfold\\Tempodial' = 5\n"), testing::HasSubstr("isn't a table"));
 }
 
 TEST_F(TomlRegistryTest, Open_NoReadableFile_SaysSo)
