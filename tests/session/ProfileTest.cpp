@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -46,6 +47,24 @@ TEST(ProfileTest, PathThatHoldsABackslash_KeepsAllInOneFolder)
     EXPECT_THAT(NamesIn(path + "/Tempodial"), UnorderedElementsAre("new.out", "added.out"));
     const Profile again(path, "en_US", std::nullopt);
     EXPECT_EQ(again.Registry()->Get(Hive::CurrentUser, "Software", "a"), Variant("b"));
+}
+
+TEST(ProfileTest, OthersMayWrite_IsWarnedAboutOnce)
+{
+    const TempFolder folder;
+    folder.Write("letter.txt", "x");
+    std::vector<std::string> warnings;
+    const auto open = [&](int mode) {
+        fs::permissions(folder.Path(), fs::perms(mode));
+        fs::remove(folder.Path("mailbox.db"));
+        const Profile profile(folder.Path(), "en_US", std::nullopt, std::chrono::seconds(0),
+            [&](const std::string& message) { warnings.push_back(message); });
+    };
+    open(0755);
+    EXPECT_THAT(warnings, testing::IsEmpty());
+    open(0777);
+    EXPECT_THAT(warnings,
+        testing::ElementsAre(testing::MatchesRegex("other users may write into the profile [^:]+: .*chmod go-w.*")));
 }
 
 TEST(ProfileTest, ProjectsOfAnotherKindThanTexts_AreDamageAndStay)
