@@ -42,7 +42,10 @@ install_missing() {
     fi
     echo "Installing ${missing[*]}" >&2
     local apt=("${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get --quiet --yes -o DPkg::Lock::Timeout=300)
-    "${apt[@]}" update </dev/null >&2 && "${apt[@]}" install --no-install-recommends "${missing[@]}" </dev/null >&2
+    # An index that can't be had may be one that nobody needs here.
+    "${apt[@]}" update </dev/null >&2 ||
+        echo "The lists of packages couldn't all be brought up to date; trying with those that are there" >&2
+    "${apt[@]}" install --no-install-recommends "${missing[@]}" </dev/null >&2
 }
 
 # configure PRESET: makes the build folder of a preset, unless it is there; ninja itself sees to later changes.

@@ -1,11 +1,14 @@
 #include "cli/CommandLine.h"
 
 #include "base/Text.h"
+#include "terminal/Arguments.h"
 #include "terminal/ProgramRun.h"
 #include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
+#include <chrono>
+#include <cstdint>
 #include <sstream>
 
 namespace tempodial {
@@ -13,6 +16,10 @@ namespace tempodial {
 namespace {
 
 constexpr auto Name = "tempodial";
+
+/// Seconds to wait for a profile that another process holds.
+constexpr std::int32_t UsualWait = 5;
+constexpr std::int32_t LongestWait = 24 * 60 * 60;
 
 constexpr auto ProgramDescription
     = "Turns what you do at your PC into a calendar of activities, each with the\n"
@@ -63,6 +70,8 @@ void CommandLine::DeclareOptions()
 {
     auto arguments = mParser.Arguments();
     mProfile.Declare(arguments);
+    arguments.Optional(
+        "--wait SECONDS", mWait, "How long to wait for a profile that another process holds;\ndefault 5, 0 not at all");
     arguments.Flag("--json", mJson, "Answer with one JSON document");
     arguments.Flag("--quiet", mQuiet, "No progress and no summary");
 }
@@ -83,7 +92,10 @@ ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 
 Options CommandLine::ReadOptions() const
 {
-    return { mProfile.Options(), mJson, mQuiet };
+    Options options { mProfile.Options(), mJson, mQuiet };
+    options.wait = std::chrono::seconds(mWait ? ToCount("--wait", *mWait, 0, LongestWait) : UsualWait);
+    options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
+    return options;
 }
 
 Command& CommandLine::Chosen() const

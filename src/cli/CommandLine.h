@@ -6,6 +6,7 @@
 #include "terminal/ProfileArguments.h"
 
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -37,6 +38,7 @@ private:
     std::ostream& mError;
     ArgumentParser mParser;
     ProfileArguments mProfile;
+    std::optional<std::string> mWait;
     bool mJson = false;
     bool mQuiet = false;
 };

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace tempodial {
@@ -23,8 +24,10 @@ Json Parsed(const std::string& line)
             }
             return true;
         });
-    } catch (const Json::exception& error) {
-        throw RequestError(std::string("the line is no JSON: ") + error.what());
+    } catch (const Json::parse_error& error) {
+        throw RequestError("the line is no JSON from its byte " + std::to_string(error.byte) + " on");
+    } catch (const Json::exception&) {
+        throw RequestError("the line is no JSON: a number in it is too large");
     }
 }
 
@@ -40,6 +43,10 @@ Json RefusalOfCurrentException()
         throw;
     } catch (const Failure& failure) {
         return Refusal(failure.Description());
+    } catch (const Json::exception&) {
+        return Refusal("a value in the line is of another kind than its field takes");
+    } catch (const std::bad_alloc&) {
+        return Refusal("there isn't enough memory");
     } catch (const std::exception& error) {
         return Refusal(error.what());
     } catch (...) {

@@ -42,7 +42,9 @@ ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
     if (!parser.Parse(arguments, mOut)) {
         return ExitStatus::Done;
     }
-    Driver driver(profile.Options());
+    auto options = profile.Options();
+    options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
+    Driver driver(options);
     LineReader lines(mInput, LongestLine);
     for (auto line = lines.Next(); line && mOut; line = lines.Next()) {
         mOut << (line->isTooLong ? driver.Refuse("the line is too long") : driver.Answer(line->text)) << '\n';

@@ -10,9 +10,17 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 
 namespace tempodial {
+
+namespace {
+
+/// More windows than anybody opens, and still few enough for the memory.
+constexpr std::int32_t MostExplorers = 1000;
+
+}
 
 void HostCommands::AddTo(CommandTable& table)
 {
@@ -30,7 +38,7 @@ void HostCommands::AddTo(CommandTable& table)
 
 Json HostCommands::Start(const Request& request)
 {
-    mHost.Start({ .explorers = request.NumberFrom(0, "explorers", 1),
+    mHost.Start({ .explorers = request.NumberUpTo(MostExplorers, "explorers", 1),
         .folder = mHost.Folder(request.Text("folder", "Inbox")),
         .version = request.Text("version", HostApplication::DefaultVersion),
         .logon = request.Flag("logon", true) });

@@ -77,6 +77,15 @@ std::int32_t Request::NumberFrom(std::int32_t least, const std::string& name, st
     return number;
 }
 
+std::int32_t Request::NumberUpTo(std::int32_t most, const std::string& name, std::int32_t otherwise) const
+{
+    const auto number = NumberFrom(0, name, otherwise);
+    if (number > most) {
+        throw RequestError("the field \"" + name + "\" must be at most " + std::to_string(most));
+    }
+    return number;
+}
+
 bool Request::Flag(const std::string& name) const
 {
     const auto& value = Any(name);

@@ -29,6 +29,8 @@ public:
     std::int32_t Number(const std::string& name, std::int32_t otherwise) const;
     /// A whole number that isn't below a bound.
     std::int32_t NumberFrom(std::int32_t least, const std::string& name, std::int32_t otherwise) const;
+    /// A whole number between 0 and a bound, both included.
+    std::int32_t NumberUpTo(std::int32_t most, const std::string& name, std::int32_t otherwise) const;
     bool Flag(const std::string& name) const;
     bool Flag(const std::string& name, bool otherwise) const;
     /// A moment as an item's JSON has it.

@@ -8,7 +8,8 @@ namespace tempodial {
 Profile OpenProfile(const ProfileOptions& options)
 {
     return { options.profile ? *options.profile : ProfileFolder::Default(),
-        options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment(), options.now };
+        options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment(), options.now, options.wait,
+        options.warn };
 }
 
 std::string DataPath(const Profile& profile, const std::string& name)

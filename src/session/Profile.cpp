@@ -13,14 +13,20 @@
 
 namespace tempodial {
 
-Profile::Profile(const std::string& folder, const std::string& locale, std::optional<Date> now)
-    : mFolder(folder)
+Profile::Profile(const std::string& folder, const std::string& locale, std::optional<Date> now,
+    std::chrono::seconds wait, const std::function<void(const std::string& message)>& warn)
+    : mFolder(folder, wait)
     , mClock(MakeRef<HostClock>(now))
 {
+    if (warn && mFolder.IsWritableByOthers()) {
+        warn("other users may write into the profile " + mFolder.Path()
+            + ": take that right from them (chmod go-w), or name another with --profile");
+    }
     try {
         mPlatform.formats = MakeRef<IcuLocaleFormats>(locale);
         mPlatform.xml = MakeRef<ExpatXmlFactory>();
         mRegistry = MakeRef<TomlRegistry>(mFolder.Path() + "/" + RegistryFileName);
+        mRegistry->RequireSound(ProductKey, { ProjectsValue });
         mMailbox = Mailbox::Open(mFolder.Path() + "/" + MailboxFileName, mPlatform.formats, mPlatform.xml);
     } catch (const RegistryFileError& error) {
         throw ProfileError(error.what());

@@ -9,6 +9,8 @@
 #include "session/ProductFacts.h"
 #include "session/ProfileFolder.h"
 
+#include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,10 +20,13 @@ namespace tempodial {
 class Profile
 {
 public:
-    /// Opens a profile, making an absent one. The locale is one that ICU knows; without a moment the clock is that of
-    /// the system. Fails with `ProfileInUse`, or with `ProfileError` for a file that can't be used, which is then never
-    /// written to.
-    Profile(const std::string& folder, const std::string& locale, std::optional<Date> now);
+    /// Opens a profile, making an absent one, and waits so long when another process holds it. The locale is one that
+    /// ICU knows; without a moment the clock is that of the system. Fails with `ProfileInUse`, or with `ProfileError`
+    /// for a file that can't be used, which is then never written to. `warn` is told what is to be said of a profile
+    /// that is used all the same.
+    Profile(const std::string& folder, const std::string& locale, std::optional<Date> now,
+        std::chrono::seconds wait = std::chrono::seconds(0),
+        const std::function<void(const std::string& message)>& warn = nullptr);
 
     /// The folder of the tracker's files, the history and the trace; it may be absent.
     std::string DataFolder() const { return mFolder.Path() + "/" + DataFolderName; }

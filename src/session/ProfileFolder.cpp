@@ -7,10 +7,15 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <optional>
+#include <thread>
 
 namespace tempodial {
 
 namespace {
+
+/// How long to wait before the lock is tried again.
+constexpr std::chrono::milliseconds BetweenTrials(50);
 
 std::string Environment(const char* name)
 {
@@ -64,22 +69,32 @@ FolderDescriptor Opened(const NativePath& folder)
     }
 }
 
+/// What the message calls the process that holds the folder.
+std::string NameOf(const std::optional<FolderDescriptor::LockHolder>& holder)
+{
+    return holder ? holder->program + " (process " + holder->process + ")" : "another process";
 }
 
-ProfileFolder::ProfileFolder(const std::string& path)
+}
+
+ProfileFolder::ProfileFolder(const std::string& path, std::chrono::seconds wait)
     : mPath(UsablePath(path))
     , mFolder(Opened(NativePath::Exactly(mPath)))
 {
-    Lock();
+    Lock(wait);
     CloseToOthers();
 }
 
-void ProfileFolder::Lock() const
+void ProfileFolder::Lock(std::chrono::seconds wait) const
 {
+    const auto end = std::chrono::steady_clock::now() + wait;
     try {
-        if (!mFolder.TryLock()) {
-            throw ProfileInUse("the profile " + mPath
-                + " is in use by another process: wait until that has ended, or name another with --profile");
+        while (!mFolder.TryLock()) {
+            if (std::chrono::steady_clock::now() >= end) {
+                throw ProfileInUse("the profile " + mPath + " is in use by " + NameOf(mFolder.Holder())
+                    + ": wait until that has ended, or name another with --profile");
+            }
+            std::this_thread::sleep_for(BetweenTrials);
         }
     } catch (const SystemFailure& failure) {
         throw ProfileError("can't lock the profile folder " + mPath + ": " + failure.Reason()

@@ -2,6 +2,7 @@
 
 #include "host/files/FolderDescriptor.h"
 
+#include <chrono>
 #include <string>
 
 namespace tempodial {
@@ -11,18 +12,20 @@ class ProfileFolder
 {
 public:
     /// Makes the folder when it is absent, with access for its user alone, and locks it. Fails with `ProfileInUse` when
-    /// another process holds it, with `ProfileError` when it can't be made or opened.
-    explicit ProfileFolder(const std::string& path);
+    /// another process holds it still after that time, with `ProfileError` when it can't be made or opened.
+    explicit ProfileFolder(const std::string& path, std::chrono::seconds wait = std::chrono::seconds(0));
 
     /// The absolute path.
     const std::string& Path() const { return mPath; }
+    /// True when other users may put files into it.
+    bool IsWritableByOthers() const { return mFolder.IsWritableByOthers(); }
 
     /// The folder that is used when none is named: TEMPODIAL_PROFILE, else "tempodial" in the user's data folder.
     /// Fails with `ProfileError` when the environment names no home.
     static std::string Default();
 
 private:
-    void Lock() const;
+    void Lock(std::chrono::seconds wait) const;
     void CloseToOthers() const;
 
     std::string mPath;

@@ -2,6 +2,8 @@
 
 #include "base/Date.h"
 
+#include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -16,6 +18,10 @@ struct ProfileOptions
     std::optional<std::string> locale;
     /// The present moment at the start of the run, nothing for that of the system.
     std::optional<Date> now;
+    /// How long to wait for a profile that another process holds.
+    std::chrono::seconds wait { 0 };
+    /// Told what is to be said of a profile that is used all the same, with what to do about it.
+    std::function<void(const std::string& message)> warn = nullptr;
 };
 
 }

@@ -1,5 +1,6 @@
 #include "session/Session.h"
 
+#include "base/Failure.h"
 #include "session/OpenProfile.h"
 
 #include <utility>
@@ -31,9 +32,17 @@ void Session::Start(Platform surroundings, const HostSettings& settings)
     }
     const auto host = MakeRef<StartedHost>(application, MakeRef<Platform>(std::move(surroundings)));
     mHost = host;
-    host->Connect(settings.seen ? settings.seen(application) : application);
-    if (settings.logon) {
-        application->RaiseMapiLogonComplete();
+    // What the add-in takes for its first run must not be over in the file before all is there that it writes then.
+    try {
+        mProfile.Registry()->Together([&] {
+            host->Connect(settings.seen ? settings.seen(application) : application);
+            if (settings.logon) {
+                application->RaiseMapiLogonComplete();
+            }
+        });
+    } catch (const Failure&) {
+        End();
+        throw;
     }
     Idle();
 }

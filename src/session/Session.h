@@ -28,7 +28,8 @@ public:
     /// What a program gives back to `Start`, with its message box in it and whatever else it puts in place of this: the
     /// profile's surroundings, with forms as plain models.
     Platform Surroundings() const;
-    /// Makes a host with its windows and connects the add-in in these surroundings; none may be connected.
+    /// Makes a host with its windows and connects the add-in in these surroundings; none may be connected. Fails with
+    /// `Failure` when the registry's file refuses what the add-in wrote, and then none is.
     void Start(Platform surroundings, const HostSettings& settings = {});
     /// Begins the shut-down of the host and disconnects the add-in, whose forms go with it; the windows stay.
     void Stop();

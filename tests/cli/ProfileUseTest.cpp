@@ -1,8 +1,11 @@
 #include "session/ProfileFolder.h"
 #include "support/ProgramFixture.h"
 
+#include <chrono>
 #include <cstdlib>
+#include <memory>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tempodial {
@@ -38,7 +41,10 @@ std::string NameOf(const testing::TestParamInfo<std::vector<std::string>>& info)
 TEST_P(ProfileUseTest, Run_ProfileInUse_GivesStatus3)
 {
     const ProfileFolder used(mProfile);
-    EXPECT_THAT(Refusal(GetParam(), 3), HasSubstr("is in use by another process"));
+    auto arguments = GetParam();
+    arguments.insert(arguments.begin(), { "--wait", "0" });
+    EXPECT_THAT(
+        Refusal(arguments, 3), HasSubstr(" is in use by cli_tests (process " + std::to_string(::getpid()) + "): "));
 }
 
 TEST_P(ProfileUseTest, Run_DamagedRegistry_IsNamedAndKept)
@@ -111,6 +117,33 @@ TEST_F(ProgramTest, NewProfile_IsForItsUserAlone)
     };
     ASSERT_EQ(::stat(mProfile.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777U, 0700U);
+}
+
+TEST_F(ProgramTest, ProfileInUse_IsWaitedFor)
+{
+    auto used = std::make_unique<ProfileFolder>(mProfile);
+    std::thread freeing([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        used.reset();
+    });
+    const auto result = Run({ "list" });
+    freeing.join();
+    EXPECT_EQ(result.status, 0) << result.error;
+    for (const auto* wait : { "-1", "x", "1.5", "86401" }) {
+        EXPECT_THAT(Refusal({ "--wait", wait, "list" }, 2), HasSubstr("--wait")) << wait;
+    }
+}
+
+TEST_F(ProgramTest, ProfileOpenToOthers_IsWarnedAboutBesideTheAnswer)
+{
+    mFolder.Write("letter.txt", "x");
+    mProfile = mFolder.Path();
+    std::filesystem::permissions(mProfile, std::filesystem::perms::all);
+    const auto result = Run({ "--json", "list" });
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "[]\n");
+    EXPECT_THAT(result.error, testing::MatchesRegex(MessageForm));
+    EXPECT_THAT(result.error, HasSubstr("other users may write into the profile"));
 }
 
 TEST_F(ProgramTest, UnwritableProfile_IsNamed)

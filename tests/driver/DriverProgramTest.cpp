@@ -81,7 +81,7 @@ TEST_F(DriverProgramTest, Run_ProfileInUse_IsStatusThree)
 {
     StartedDriver first(Arguments());
     EXPECT_EQ(json::parse(first.Say(R"({"do":"shell"})")).at("ok"), true);
-    EXPECT_THAT(Refusal(Arguments(), 3), HasSubstr("in use by another process"));
+    EXPECT_THAT(Refusal(Arguments(), 3), HasSubstr("in use by tempodial-drive (process "));
     EXPECT_EQ(first.End(), 0);
 }
 

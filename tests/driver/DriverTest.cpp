@@ -49,6 +49,15 @@ TEST_F(DriverTest, Answer_BadLines_SayWhatIsWrong)
     EXPECT_EQ(Answered(R"({"do":"shell"})").at("ok"), true);
 }
 
+TEST_F(DriverTest, Answer_NoJson_SaysWhereInOurWords)
+{
+    EXPECT_EQ(ErrorOf("{\"do\":\"shell\"]"), "the line is no JSON from its byte 14 on");
+    EXPECT_EQ(ErrorOf(R"({"do":"clock","advance":1e999})"), "the line is no JSON: a number in it is too large");
+    for (const auto* line : { "", "{", "{\"do\":tru}", "{\"do\":\"\xff\"}", "{\"do\":\"\\u12\"}", "1 2" }) {
+        EXPECT_THAT(ErrorOf(line), testing::MatchesRegex("the line is no JSON from its byte [0-9]+ on")) << line;
+    }
+}
+
 TEST_F(DriverTest, Answer_NullField_CountsAsAbsent)
 {
     EXPECT_EQ(Answered(R"({"do":"trace","since":null})").at("ok"), true);

@@ -54,6 +54,17 @@ TEST_F(HostCommandsTest, Start_Fields_AreTaken)
     EXPECT_TRUE(HasButton(2));
 }
 
+TEST_F(HostCommandsTest, Start_Explorers_HaveABound)
+{
+    for (const int count : { 1001, 2'000'000'000 }) {
+        EXPECT_THAT(Refused({ { "do", "start" }, { "explorers", count } }),
+            HasSubstr("the field \"explorers\" must be at most 1000"));
+    }
+    EXPECT_THAT(Refused({ { "do", "start" }, { "explorers", -1 } }), HasSubstr("at least 0"));
+    Do({ { "do", "start" }, { "explorers", 1000 }, { "logon", false } });
+    EXPECT_EQ(Do({ { "do", "windows" } }).at("explorers").size(), 1000);
+}
+
 TEST_F(HostCommandsTest, Start_NoExplorer_LeavesTheAddInDormant)
 {
     Do({ { "do", "start" }, { "explorers", 0 } });

@@ -20,6 +20,7 @@ TEST_F(ProductFactsTest, Words_AreTheAddInsOwn)
     EXPECT_EQ(strings.mFormClass, ActivityClass);
     EXPECT_EQ(strings.mRegistryValueInstall, InstallFolderValue);
     EXPECT_EQ(strings.mRegistryValueOLFolderID, WorkLogIdValue);
+    EXPECT_EQ(strings.mRegistryValueProjectXML, ProjectsValue);
     EXPECT_EQ(strings.mHistoryFile, HistoryFileName);
 }
 

@@ -5,12 +5,16 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace tempodial {
 
@@ -64,7 +68,7 @@ template <class Error> std::string MessageOf(const std::string& path)
 class ProfileFolderTest : public testing::Test
 {
 protected:
-    TempFolder mTemp;
+    TempFolder mTemp { TempFolder::InMemory() };
 };
 
 TEST_F(ProfileFolderTest, Absent_IsMadeWithItsParentsForItsUserAlone)
@@ -86,9 +90,28 @@ TEST_F(ProfileFolderTest, InUse_IsRefusedWithItsNameUntilItIsFree)
     const auto path = mTemp.Path("profile");
     {
         const ProfileFolder first(path);
-        EXPECT_NE(MessageOf<ProfileInUse>(path).find(path + " is in use by another process"), std::string::npos);
+        const auto message = MessageOf<ProfileInUse>(path);
+        EXPECT_NE(message.find(path + " is in use by session_tests (process " + std::to_string(::getpid()) + "): "),
+            std::string::npos)
+            << message;
     }
     EXPECT_NO_THROW(ProfileFolder { path });
+}
+
+TEST_F(ProfileFolderTest, InUse_IsWaitedForAsLongAsTold)
+{
+    using namespace std::chrono_literals;
+    const auto path = mTemp.Path("profile");
+    auto first = std::make_unique<ProfileFolder>(path);
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_THROW(ProfileFolder(path, 1s), ProfileInUse);
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, 1s);
+    std::thread freeing([&] {
+        std::this_thread::sleep_for(200ms);
+        first.reset();
+    });
+    EXPECT_NO_THROW(ProfileFolder(path, 60s));
+    freeing.join();
 }
 
 TEST_F(ProfileFolderTest, FileInItsPlace_IsRefusedWithItsName)

@@ -1,11 +1,13 @@
 #include "session/Profile.h"
 
 #include "base/Variant.h"
+#include "session/ProfileError.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -45,6 +47,35 @@ TEST(ProfileTest, PathThatHoldsABackslash_KeepsAllInOneFolder)
     EXPECT_THAT(NamesIn(path + "/Tempodial"), UnorderedElementsAre("new.out", "added.out"));
     const Profile again(path, "en_US", std::nullopt);
     EXPECT_EQ(again.Registry()->Get(Hive::CurrentUser, "Software", "a"), Variant("b"));
+}
+
+TEST(ProfileTest, OthersMayWrite_IsWarnedAboutOnce)
+{
+    const TempFolder folder;
+    folder.Write("letter.txt", "x");
+    std::vector<std::string> warnings;
+    const auto open = [&](int mode) {
+        fs::permissions(folder.Path(), fs::perms(mode));
+        fs::remove(folder.Path("mailbox.db"));
+        const Profile profile(folder.Path(), "en_US", std::nullopt, std::chrono::seconds(0),
+            [&](const std::string& message) { warnings.push_back(message); });
+    };
+    open(0755);
+    EXPECT_THAT(warnings, testing::IsEmpty());
+    open(0777);
+    EXPECT_THAT(warnings,
+        testing::ElementsAre(testing::MatchesRegex("other users may write into the profile [^:]+: .*chmod go-w.*")));
+}
+
+TEST(ProfileTest, ProjectsOfAnotherKindThanTexts_AreDamageAndStay)
+{
+    const TempFolder folder;
+    for (const auto* value : { "5", "1.5", "[]", "{}" }) {
+        const auto content = std::string("[HKCU.'Software\\Lindenfold\\Tempodial']\nProjectXML = ") + value + "\n";
+        folder.Write("registry.toml", content);
+        EXPECT_THROW(Profile(folder.Path(), "en_US", std::nullopt), ProfileError) << value;
+        EXPECT_EQ(folder.Read("registry.toml"), content);
+    }
 }
 
 }

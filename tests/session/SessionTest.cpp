@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <limits>
 #include <memory>
 
@@ -107,6 +108,17 @@ TEST_F(SessionTest, Start_Surroundings_AreThoseOfTheAddIn)
     EXPECT_TRUE(elsewhere->NewestVisible("AboutBoxForm"));
     EXPECT_FALSE(mSession.Forms()->NewestVisible("AboutBoxForm"));
     elsewhere->CloseAll();
+}
+
+TEST_F(SessionTest, Start_RegistryFileRefuses_FailsAndLetsTheHostGo)
+{
+    std::filesystem::create_directories(mFolder.Path("registry.toml/in it"));
+    EXPECT_THROW(Start(), Failure);
+    EXPECT_FALSE(mSession.IsStarted());
+    std::filesystem::remove_all(mFolder.Path("registry.toml"));
+    Start();
+    EXPECT_TRUE(mSession.IsConnected());
+    EXPECT_THAT(mFolder.Read("registry.toml"), HasSubstr("ProjectXML"));
 }
 
 TEST_F(SessionTest, Stop_Form_GoesAndTheWindowsStay)

@@ -27,6 +27,8 @@ inline constexpr auto ActivityClass = "IPM.Appointment.TDActivity1";
 inline constexpr auto ProductKey = R"(Software\Lindenfold\Tempodial)";
 /// The value that holds the folder of templates.
 inline constexpr auto InstallFolderValue = "Install Directory";
+/// The value that holds the projects.
+inline constexpr auto ProjectsValue = "ProjectXML";
 /// The value that holds the identity of the work log folder.
 inline constexpr auto WorkLogIdValue = "Outlook Folder Unique ID";
 

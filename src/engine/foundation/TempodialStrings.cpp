@@ -131,7 +131,7 @@ void TempodialStrings::Initialize()
     mRegistryValueOLFolderName = "Outlook Folder Display Name";
     mRegistryValueProjectList = "Project List";
     mRegistryValueVersion = "CurrentVersion";
-    mRegistryValueProjectXML = "ProjectXML";
+    mRegistryValueProjectXML = ProjectsValue;
     mRegistryValueDefaultProjects = DefaultProjects();
 }
 

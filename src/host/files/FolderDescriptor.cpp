@@ -1,15 +1,20 @@
 #include "host/files/FolderDescriptor.h"
 
+#include "host/files/FileDescriptor.h"
 #include "host/files/SystemFailure.h"
 #include "host/files/Uninterrupted.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <sstream>
+#include <string>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace tempodial {
@@ -32,6 +37,31 @@ Listing ListingOf(int folder)
         throw failure;
     }
     return listing;
+}
+
+/// What the system tells in one of its files.
+std::string SystemText(const std::string& path)
+{
+    return FileDescriptor(NativePath::Exactly(path), Opening::Reading).ReadAll();
+}
+
+/// True for a place as the list of locks has it, "kind:disk:number" with the first two in hexadecimal digits.
+bool IsAt(const std::string& place, const struct stat& status)
+{
+    std::istringstream parts(place);
+    unsigned kind = 0;
+    unsigned disk = 0;
+    std::uint64_t number = 0;
+    char colon = 0;
+    parts >> std::hex >> kind >> colon >> disk >> colon >> std::dec >> number;
+    return parts && makedev(kind, disk) == status.st_dev && number == status.st_ino;
+}
+
+/// The name of the program that a process runs.
+std::string ProgramOf(const std::string& process)
+{
+    const auto words = SystemText("/proc/" + process + "/cmdline");
+    return NativePath::Exactly(words.substr(0, words.find('\0'))).Name();
 }
 
 }
@@ -93,6 +123,43 @@ bool FolderDescriptor::TryLock() const
         throw SystemFailure(errno);
     }
     return false;
+}
+
+std::optional<FolderDescriptor::LockHolder> FolderDescriptor::Holder() const
+{
+    struct stat status
+    {
+    };
+    if (::fstat(mNumber, &status) != 0) {
+        return std::nullopt;
+    }
+    try {
+        std::istringstream locks(SystemText("/proc/locks"));
+        for (std::string line; std::getline(locks, line);) {
+            std::istringstream words(line);
+            std::string number;
+            std::string kind;
+            std::string duty;
+            std::string access;
+            std::string process;
+            std::string place;
+            words >> number >> kind >> duty >> access >> process >> place;
+            if (kind == "FLOCK" && IsAt(place, status)) {
+                return LockHolder { ProgramOf(process), process };
+            }
+        }
+    } catch (const Failure&) {
+        // A system that doesn't tell, or a process that has just ended.
+    }
+    return std::nullopt;
+}
+
+bool FolderDescriptor::IsWritableByOthers() const
+{
+    struct stat status
+    {
+    };
+    return ::fstat(mNumber, &status) == 0 && (status.st_mode & (S_IWGRP | S_IWOTH)) != 0;
 }
 
 bool FolderDescriptor::IsOpenToOthers() const

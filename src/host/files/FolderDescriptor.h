@@ -3,6 +3,7 @@
 #include "host/files/FileStatus.h"
 #include "host/files/NativePath.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,13 @@ public:
     {
         std::string name;
         FileStatus status;
+    };
+
+    /// A process, and the program that it runs.
+    struct LockHolder
+    {
+        std::string program;
+        std::string process;
     };
 
     /// Opens a folder; an absent one and what is none fail (76), a forbidden one (70).
@@ -34,6 +42,10 @@ public:
     /// Locks it against other processes until it is closed; false when another holds it, and fails where there are no
     /// locks.
     bool TryLock() const;
+    /// The process that holds the lock, nothing when none does or none can be told.
+    std::optional<LockHolder> Holder() const;
+    /// True when other users may make and remove names in it.
+    bool IsWritableByOthers() const;
     /// True when it is this user's and others have access too.
     bool IsOpenToOthers() const;
     /// Takes the others' access, if the system lets it.

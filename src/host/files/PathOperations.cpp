@@ -91,8 +91,11 @@ void MakeFolder(const NativePath& path)
 
 void MakeFoldersAbove(const NativePath& path) noexcept
 {
-    std::error_code ignored;
-    fs::create_directories(path.Folder(), ignored);
+    const auto above = NativePath::Exactly(path.Folder());
+    if (above.Text() != path.Text() && ::mkdir(above.CText(), S_IRWXU) != 0 && errno == ENOENT) {
+        MakeFoldersAbove(above);
+        (void)::mkdir(above.CText(), S_IRWXU);
+    }
 }
 
 NativePath AbsolutePath(const std::string& path)

@@ -30,7 +30,7 @@ void Remove(const NativePath& path);
 void Discard(const NativePath& path) noexcept;
 /// Makes a folder for this user alone; fails when something stands there (58) or the folder above is absent (76).
 void MakeFolder(const NativePath& path);
-/// Makes the folders above a path, as far as they are absent and can be made.
+/// Makes the folders above a path for this user alone, as far as they are absent and can be made.
 void MakeFoldersAbove(const NativePath& path) noexcept;
 /// The path from the root on, without "." and ".." and without a separator at its end. Fails when there is none.
 NativePath AbsolutePath(const std::string& path);

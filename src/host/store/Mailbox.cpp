@@ -56,6 +56,9 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
         if (isDoubtful && !database->IsSound()) {
             throw Failure(Error::Automation, "the mailbox " + fullPath + " is damaged");
         }
+        if (!inMemory) {
+            MailboxSchema::Check(*database);
+        }
         MailboxSchema::Migrate(*database, MailboxSchema::Steps());
         database->Execute("PRAGMA journal_mode = WAL");
         const auto store = MakeRef<MailboxStore>(std::move(database), std::move(formats), std::move(xml));

@@ -84,8 +84,13 @@ MailboxDatabase::MailboxDatabase(const std::string& path)
     } catch (const SQLite::Exception& problem) {
         throw Failed(problem.getErrorCode(), problem.what());
     }
-    sqlite3_db_config(mConnection->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    sqlite3_extended_result_codes(mConnection->getHandle(), 1);
+    auto* handle = mConnection->getHandle();
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    // We have none of these, so those in a file were put there to do harm.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_extended_result_codes(handle, 1);
     AddFunctions();
     Execute("PRAGMA trusted_schema = OFF");
     Execute("PRAGMA cell_size_check = ON");

@@ -5,6 +5,12 @@
 #include "host/store/MailboxDatabase.h"
 #include "host/store/MailboxError.h"
 #include "host/store/MailboxFile.h"
+#include "host/store/Query.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
 
 namespace tempodial {
 
@@ -121,6 +127,22 @@ std::string UniqueNames()
           "DROP INDEX folder_parent;\n";
 }
 
+/// A table, an index, or whatever else the schema of a mailbox holds: what it is and is called, and how it was made.
+using Object = std::pair<std::string, std::string>;
+
+std::vector<Object> ObjectsOf(MailboxDatabase& database)
+{
+    std::vector<Object> objects;
+    Query query(database,
+        "SELECT coalesce(type, '') || ' ' || coalesce(name, ''), coalesce(tbl_name, '') || ' ' || coalesce(sql, '') "
+        "FROM sqlite_schema");
+    while (query.Step()) {
+        objects.emplace_back(query.Text(0), query.Text(1));
+    }
+    std::sort(objects.begin(), objects.end());
+    return objects;
+}
+
 }
 
 const std::vector<std::string>& MailboxSchema::Steps()
@@ -147,6 +169,25 @@ void MailboxSchema::Migrate(MailboxDatabase& database, const std::vector<std::st
         database.Execute("PRAGMA application_id = " + std::to_string(MailboxFile::ApplicationId));
         database.Execute("PRAGMA user_version = " + std::to_string(steps.size()));
     });
+}
+
+void MailboxSchema::Check(MailboxDatabase& database)
+{
+    const auto version = static_cast<std::size_t>(database.Number("PRAGMA user_version"));
+    if (version > Steps().size()) {
+        return; // Nobody knows how it was made; `Migrate` refuses it.
+    }
+    MailboxDatabase model(":memory:");
+    Migrate(model, { Steps().begin(), Steps().begin() + static_cast<std::ptrdiff_t>(version) });
+    const auto expected = ObjectsOf(model);
+    const auto found = ObjectsOf(database);
+    std::vector<Object> others;
+    std::set_symmetric_difference(
+        expected.begin(), expected.end(), found.begin(), found.end(), std::back_inserter(others));
+    if (!others.empty()) {
+        throw MailboxError("the mailbox " + database.Path() + " isn't as the program made it (" + others.front().first
+            + "): move it away and put a good copy of the mailbox in its place, or start with a new mailbox");
+    }
 }
 
 std::string MailboxSchema::FirstViewName(DefaultFolder kind)

@@ -19,6 +19,9 @@ public:
     static int Version() { return static_cast<int>(Steps().size()); }
     /// Brings a mailbox up to the last step, all steps or none; throws `MailboxError` for one that is beyond it.
     static void Migrate(MailboxDatabase& database, const std::vector<std::string>& steps);
+    /// Throws `MailboxError` unless a mailbox holds the tables and indices that the steps up to its version make, as
+    /// they make them, and nothing besides; writes nothing.
+    static void Check(MailboxDatabase& database);
     /// The name of the view that a new folder of that kind begins with.
     static std::string FirstViewName(DefaultFolder kind);
     /// The definition of an ordinary view of that name, a calendar in rows of 30 minutes or a table.

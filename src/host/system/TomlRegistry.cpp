@@ -6,12 +6,15 @@
 #include "host/files/FileDescriptor.h"
 #include "host/files/ReplacementFile.h"
 #include "host/system/RegistryText.h"
+#include "host/system/TomlNesting.h"
 
 #include <toml++/toml.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -54,16 +57,22 @@ toml::table* MadeIn(toml::table& table, std::string_view name)
     return table.insert(SpelledIn(table, name), toml::table()).first->second.as_table();
 }
 
-[[noreturn]] void Refuse(const std::string& path, toml::source_index line, std::string_view reason)
+[[noreturn]] void Refuse(const std::string& path, std::size_t line, const std::string& reason)
 {
-    throw RegistryFileError("the registry file " + path + " can't be read, line " + std::to_string(line) + ": "
-        + std::string(reason) + ": correct that line, or move the file away to begin with an empty registry");
+    throw RegistryFileError("the registry file " + path + " can't be read, line " + std::to_string(line) + ": " + reason
+        + ": correct that line, or move the file away to begin with an empty registry");
 }
 
 std::string ContentOf(const std::string& path)
 {
     try {
-        return FileDescriptor(NativePath::Exactly(path), Opening::Reading).ReadAll(LargestFile);
+        const FileDescriptor file(NativePath::Exactly(path), Opening::Reading);
+        if (file.Status().size > LargestFile) {
+            throw RegistryFileError("the registry file " + path
+                + " is larger than 64 MiB, which no registry is: move it "
+                  "away to begin with an empty registry");
+        }
+        return file.ReadAll(LargestFile);
     } catch (const Failure& failure) {
         if (failure.Is(Error::FileNotFound) || failure.Is(Error::PathNotFound)) {
             return {};
@@ -73,6 +82,38 @@ std::string ContentOf(const std::string& path)
     }
 }
 
+/// What is wrong with a text that can't be read, in words for those who wrote it.
+std::string ReasonOf(const toml::parse_error& error)
+{
+    const bool isTwice = error.description().find("redefine") != std::string_view::npos;
+    return isTwice ? "the name stands in the file a second time"
+                   : "this is no value, no name and no heading (a quotation mark or a bracket may be missing)";
+}
+
+toml::table Parsed(const std::string& path)
+{
+    const auto content = ContentOf(path);
+    if (const auto line = LineNestedTooDeeply(content)) {
+        Refuse(path, *line, "it is nested more than 32 deep");
+    }
+    try {
+        return toml::parse(content, path);
+    } catch (const toml::parse_error& error) {
+        Refuse(path, error.source().begin.line, ReasonOf(error));
+    }
+}
+
+/// The number that a value of the registry has, nothing for another kind of value and for one beyond 32 bits.
+std::optional<std::int32_t> NumberIn(const toml::node& node)
+{
+    using Limits = std::numeric_limits<std::int32_t>;
+    const auto* number = node.as_integer();
+    if (number == nullptr || number->get() < Limits::min() || number->get() > Limits::max()) {
+        return std::nullopt;
+    }
+    return static_cast<std::int32_t>(number->get());
+}
+
 }
 
 /// The content of the file.
@@ -80,12 +121,8 @@ class TomlRegistry::Tables
 {
 public:
     explicit Tables(const std::string& path)
+        : mRoot(Parsed(path))
     {
-        try {
-            mRoot = toml::parse(ContentOf(path), path);
-        } catch (const toml::parse_error& error) {
-            Refuse(path, error.source().begin.line, error.description());
-        }
         for (const auto hive : { Hive::CurrentUser, Hive::LocalMachine }) {
             const auto* node = mRoot.get(SpelledIn(mRoot, NameOf(hive)));
             if (node != nullptr && !node->is_table()) {
@@ -112,14 +149,38 @@ public:
         if (const auto* text = node->as_string()) {
             return text->get();
         }
-        const auto* number = node->as_integer();
-        using Limits = std::numeric_limits<std::int32_t>;
-        const bool fits = number != nullptr && number->get() >= Limits::min() && number->get() <= Limits::max();
-        return fits ? Variant(static_cast<std::int32_t>(number->get())) : Variant();
+        const auto number = NumberIn(*node);
+        return number ? Variant(*number) : Variant();
+    }
+    void RequireSound(const std::string& path, std::string_view key, const std::vector<std::string>& texts) const
+    {
+        for (const auto hive : { Hive::CurrentUser, Hive::LocalMachine }) {
+            const auto* keys = mRoot[SpelledIn(mRoot, NameOf(hive))].as_table();
+            const auto* node = keys == nullptr ? nullptr : keys->get(SpelledIn(*keys, key));
+            if (node != nullptr && !node->is_table()) {
+                Refuse(path, node->source().begin.line, std::string(key) + " isn't a table");
+            }
+            if (node != nullptr) {
+                RequireValues(path, *node->as_table(), texts);
+            }
+        }
     }
     std::string ToText() const { return RegistryText(mRoot); }
 
 private:
+    static void RequireValues(const std::string& path, const toml::table& values, const std::vector<std::string>& texts)
+    {
+        for (const auto& [name, node] : values) {
+            const bool isText = std::any_of(texts.begin(), texts.end(),
+                [known = name.str()](const auto& text) { return EqualIgnoringCase(text, known); });
+            if (!node.is_string() && (isText || !NumberIn(node))) {
+                Refuse(path, node.source().begin.line,
+                    "\"" + std::string(name.str()) + "\" must be a text"
+                        + (isText ? ", in quotation marks" : " in quotation marks, or a whole number of 32 bits"));
+            }
+        }
+    }
+
     toml::table mRoot;
 };
 
@@ -144,6 +205,11 @@ void TomlRegistry::Write(Hive hive, const std::string& key, const std::string& v
     Set(hive, key, value, text);
 }
 
+void TomlRegistry::RequireSound(const std::string& key, const std::vector<std::string>& texts) const
+{
+    mTables->RequireSound(mPath, key, texts);
+}
+
 Variant TomlRegistry::Get(Hive hive, const std::string& key, const std::string& value) const
 {
     return mTables->Get(hive, key, value);
@@ -162,9 +228,45 @@ bool TomlRegistry::Delete(Hive hive, const std::string& key, const std::string& 
     }
     auto changed = std::make_unique<Tables>(*mTables);
     Erase(*changed->Make(hive, key), value);
-    Save(*changed);
-    mTables = std::move(changed);
+    Take(std::move(changed));
     return true;
+}
+
+void TomlRegistry::Together(const std::function<void()>& work)
+{
+    mIsHolding = true;
+    try {
+        work();
+    } catch (...) {
+        Release();
+        throw;
+    }
+    Release();
+}
+
+void TomlRegistry::Take(std::unique_ptr<Tables> changed)
+{
+    if (!mIsHolding) {
+        Save(*changed);
+    } else if (!mSaved) {
+        mSaved = std::move(mTables);
+    }
+    mTables = std::move(changed);
+}
+
+void TomlRegistry::Release()
+{
+    mIsHolding = false;
+    auto saved = std::exchange(mSaved, nullptr);
+    if (!saved) {
+        return;
+    }
+    try {
+        Save(*mTables);
+    } catch (const Failure& failure) {
+        mTables = std::move(saved);
+        throw Failure(failure.Number(), failure.Description() + ": the registry file " + mPath);
+    }
 }
 
 void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& value, const Variant& data)
@@ -188,8 +290,7 @@ void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& val
     } else {
         values->insert(name, data.ToInt32());
     }
-    Save(*changed);
-    mTables = std::move(changed);
+    Take(std::move(changed));
 }
 
 void TomlRegistry::Save(const Tables& tables) const

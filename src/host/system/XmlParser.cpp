@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <random>
+#include <utility>
 
 namespace tempodial {
 
@@ -55,33 +56,54 @@ bool XmlParser::Parse(std::string_view text, XmlTree& tree)
     if (!isWellFormed) {
         tree.Clear();
     }
+    if (mThrown) {
+        std::rethrow_exception(std::exchange(mThrown, nullptr));
+    }
     return isWellFormed;
+}
+
+template <class Work> void XmlParser::Guarded(void* self, Work&& work)
+{
+    auto& parser = *static_cast<XmlParser*>(self);
+    // A parser that was stopped may call once more, for the end of an empty element.
+    if (parser.mThrown) {
+        return;
+    }
+    try {
+        work(parser);
+    } catch (...) {
+        parser.mThrown = std::current_exception();
+        XML_StopParser(parser.mParser.get(), XML_FALSE);
+    }
 }
 
 void XmlParser::StartElement(void* self, const XML_Char* name, const XML_Char** attributes)
 {
-    auto& parser = *static_cast<XmlParser*>(self);
-    if (++parser.mDepth > DeepestElement) {
-        XML_StopParser(parser.mParser.get(), XML_FALSE);
-        return;
-    }
-    parser.mPlace = parser.mTree->AddElement(parser.mPlace, name);
-    for (; *attributes != nullptr; attributes += 2) {
-        parser.mTree->AddAttribute(parser.mPlace, attributes[0], attributes[1]);
-    }
+    Guarded(self, [&](XmlParser& parser) {
+        if (++parser.mDepth > DeepestElement) {
+            XML_StopParser(parser.mParser.get(), XML_FALSE);
+            return;
+        }
+        parser.mPlace = parser.mTree->AddElement(parser.mPlace, name);
+        for (; *attributes != nullptr; attributes += 2) {
+            parser.mTree->AddAttribute(parser.mPlace, attributes[0], attributes[1]);
+        }
+    });
 }
 
 void XmlParser::EndElement(void* self, const XML_Char*)
 {
-    auto& parser = *static_cast<XmlParser*>(self);
-    --parser.mDepth;
-    parser.mPlace = parser.mTree->Parent(parser.mPlace);
+    Guarded(self, [](XmlParser& parser) {
+        --parser.mDepth;
+        parser.mPlace = parser.mTree->Parent(parser.mPlace);
+    });
 }
 
 void XmlParser::CharacterData(void* self, const XML_Char* text, int length)
 {
-    auto& parser = *static_cast<XmlParser*>(self);
-    parser.mTree->AddText(parser.mPlace, { text, static_cast<std::size_t>(length) });
+    Guarded(self, [&](XmlParser& parser) {
+        parser.mTree->AddText(parser.mPlace, { text, static_cast<std::size_t>(length) });
+    });
 }
 
 void XmlParser::StartDoctype(void* self, const XML_Char*, const XML_Char*, const XML_Char*, int)

@@ -4,6 +4,7 @@
 
 #include <expat.h>
 
+#include <exception>
 #include <memory>
 #include <string_view>
 
@@ -18,6 +19,7 @@ public:
     XmlParser();
 
     /// Reads a text of UTF-8, whatever encoding it says it has; false, and an empty tree, when it isn't well-formed.
+    /// Throws what the tree throws, and the tree is empty then, too.
     bool Parse(std::string_view text, XmlTree& tree);
 
 private:
@@ -26,6 +28,8 @@ private:
         void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
     };
 
+    /// Does the work of a handler; what it throws ends the parse, since nothing may pass through the frames of C.
+    template <class Work> static void Guarded(void* self, Work&& work);
     static void StartElement(void* self, const XML_Char* name, const XML_Char** attributes);
     static void EndElement(void* self, const XML_Char* name);
     static void CharacterData(void* self, const XML_Char* text, int length);
@@ -37,6 +41,8 @@ private:
     XmlTree* mTree = nullptr;
     XmlTree::Index mPlace = XmlTree::Document;
     int mDepth = 0;
+    /// What a handler has thrown.
+    std::exception_ptr mThrown;
 };
 
 }

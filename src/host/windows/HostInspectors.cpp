@@ -27,7 +27,7 @@ Ref<HostInspector> HostInspectors::Open(const Ref<StoreItem>& item)
     const bool agreed = item->RaiseOpen();
     if (!agreed && !inspector->IsGone()) {
         // It was never on the screen, so nobody is told that it goes.
-        std::erase(mOpen, inspector);
+        Remove(inspector);
         inspector->MarkGone();
     }
     if (inspector->IsGone()) {
@@ -59,8 +59,7 @@ void HostInspectors::Activate(const Ref<HostInspector>& inspector)
 void HostInspectors::TakeAway(const Ref<HostInspector>& inspector)
 {
     const auto gone = inspector; // NOLINT(performance-unnecessary-copy-initialization)
-    std::erase(mByRecency, gone);
-    if (std::erase(mOpen, gone) > 0) {
+    if (Remove(gone)) {
         gone->RaiseClose();
         gone->MarkGone();
     }
@@ -77,6 +76,12 @@ Ref<HostInspector> HostInspectors::Showing(const Ref<OutlookItem>& item) const
         return Ref<OutlookItem>(inspector->ShownItem()) == item || Ref<OutlookItem>(inspector->ShownMail()) == item;
     });
     return found == mOpen.end() ? nullptr : *found;
+}
+
+bool HostInspectors::Remove(const Ref<HostInspector>& inspector)
+{
+    std::erase(mByRecency, inspector);
+    return std::erase(mOpen, inspector) > 0;
 }
 
 Ref<HostInspector> HostInspectors::Add(const Ref<OutlookItem>& item)

@@ -54,6 +54,8 @@ private:
     Ref<HostInspector> Showing(const Ref<OutlookItem>& item) const;
     /// Takes in a new window and tells of it.
     Ref<HostInspector> Add(const Ref<OutlookItem>& item);
+    /// Takes a window out of those that are open and were in front; false when it wasn't there.
+    bool Remove(const Ref<HostInspector>& inspector);
 
     Ref<Mailbox> mMailbox;
     std::int32_t mNumbers = 0;

@@ -6,7 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <string>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 namespace tempodial {
 
@@ -18,6 +21,28 @@ protected:
     TempFolder mTemp;
     FolderDescriptor mFolder { NativePath(mTemp.Path()) };
 };
+
+TEST_F(FolderDescriptorTest, Holder_Locked_IsThisProgram)
+{
+    const TempFolder inMemory { TempFolder::InMemory() };
+    const FolderDescriptor folder { NativePath(inMemory.Path()) };
+    EXPECT_FALSE(folder.Holder());
+    const FolderDescriptor other { NativePath(inMemory.Path()) };
+    ASSERT_TRUE(other.TryLock());
+    EXPECT_FALSE(folder.TryLock());
+    const auto holder = folder.Holder();
+    ASSERT_TRUE(holder);
+    EXPECT_EQ(holder->process, std::to_string(::getpid()));
+    EXPECT_EQ(holder->program, "host_files_tests");
+}
+
+TEST_F(FolderDescriptorTest, IsWritableByOthers_Modes_AreTold)
+{
+    for (const auto& [mode, isWritable] : { std::pair(0700, false), { 0755, false }, { 0720, true }, { 0702, true } }) {
+        ASSERT_EQ(::chmod(mTemp.Path().c_str(), static_cast<mode_t>(mode)), 0);
+        EXPECT_EQ(mFolder.IsWritableByOthers(), isWritable) << mode;
+    }
+}
 
 TEST_F(FolderDescriptorTest, Open_NoFolder_Fails)
 {

@@ -79,6 +79,20 @@ TEST_F(PathOperationsTest, MakeFolder_NotPossible_Fails)
     EXPECT_EQ(FailureNumber([&] { MakeFolder(At("above/below")); }), 58);
 }
 
+TEST_F(PathOperationsTest, MakeFoldersAbove_Absent_AreForTheirUserAlone)
+{
+    const auto former = ::umask(0);
+    MakeFoldersAbove(At("one/two/three/file"));
+    ::umask(former);
+    for (const auto* made : { "one", "one/two", "one/two/three" }) {
+        EXPECT_EQ(fs::status(mFolder.Path(made)).permissions(), fs::perms(0700)) << made;
+    }
+    EXPECT_FALSE(mFolder.Has("one/two/three/file"));
+    mFolder.Write("file", "");
+    MakeFoldersAbove(At("file/below/it"));
+    EXPECT_EQ(mFolder.Read("file"), "");
+}
+
 TEST_F(PathOperationsTest, AbsolutePath_IsWithoutDetours)
 {
     EXPECT_EQ(AbsolutePath("/a/./b/../c/").Text(), "/a/c");

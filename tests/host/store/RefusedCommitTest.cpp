@@ -141,12 +141,12 @@ protected:
         mMailbox->Drafts().Save(Draft("kept"));
 
         auto& database = TestDatabase(mMailbox);
-        database.Execute("CREATE TABLE refusing (yes INTEGER);"
-                         "CREATE TABLE refused (id INTEGER PRIMARY KEY, other INTEGER REFERENCES refused (id) "
+        database.Execute("CREATE TEMP TABLE refusing (yes INTEGER);"
+                         "CREATE TEMP TABLE refused (id INTEGER PRIMARY KEY, other INTEGER REFERENCES refused (id) "
                          "DEFERRABLE INITIALLY DEFERRED)");
         for (const std::string table : { "folder", "folder_field", "item", "view", "form", "draft" }) {
             for (const std::string change : { "INSERT", "UPDATE", "DELETE" }) {
-                database.Execute("CREATE TRIGGER " + table + change + " AFTER " + change + " ON " + table
+                database.Execute("CREATE TEMP TRIGGER " + table + change + " AFTER " + change + " ON " + table
                     + " WHEN EXISTS (SELECT 1 FROM refusing) BEGIN INSERT INTO refused (other) VALUES (-1); END");
             }
         }

@@ -1,5 +1,6 @@
 #include "host/system/TomlRegistry.h"
 
+#include "base/Failure.h"
 #include "base/Utf8.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
@@ -7,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
@@ -142,6 +144,66 @@ TEST_F(TomlRegistryTest, Write_SameValue_TouchesNoFile)
     registry.Write(User, Key, "n", "5");
     EXPECT_EQ(Reopened(User, Key, "n"), Variant("5"));
     EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
+TEST_F(TomlRegistryTest, Together_Changes_ReachTheFileAtTheEnd)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "gone", "a");
+    registry.Together([&] {
+        registry.Write(User, Key, "a", "b");
+        registry.WriteNumber(User, Key, "n", 5);
+        registry.Delete(User, Key, "gone");
+        EXPECT_EQ(registry.Get(User, Key, "a"), Variant("b"));
+        EXPECT_EQ(Reopened(User, Key, "gone"), Variant("a"));
+        EXPECT_TRUE(Reopened(User, Key, "a").IsEmpty());
+    });
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+    EXPECT_EQ(Reopened(User, Key, "n"), Variant(5));
+    EXPECT_TRUE(Reopened(User, Key, "gone").IsEmpty());
+    registry.Write(User, Key, "a", "c");
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("c"));
+}
+
+TEST_F(TomlRegistryTest, Together_WorkFails_KeepsWhatWasWritten)
+{
+    auto registry = Open();
+    const auto work = [&] {
+        registry.Write(User, Key, "a", "b");
+        throw Failure(Error::InvalidCall);
+    };
+    EXPECT_EQ(FailureNumber([&] { registry.Together(work); }), 5);
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
+TEST_F(TomlRegistryTest, Together_NothingChanged_TouchesNoFile)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "a", "b");
+    fs::remove(mFolder.Path("registry.toml"));
+    registry.Together([&] { registry.Write(User, Key, "a", "b"); });
+    EXPECT_FALSE(mFolder.Has("registry.toml"));
+}
+
+TEST_F(TomlRegistryTest, Together_FileRefuses_FailsWithItsNameAndChangesNothing)
+{
+    fs::create_directory(mFolder.Path("profile"));
+    const auto path = mFolder.Path("profile/registry.toml");
+    TomlRegistry registry(path);
+    registry.Write(User, Key, "a", "old");
+    fs::remove_all(mFolder.Path("profile"));
+    try {
+        registry.Together([&] {
+            registry.Write(User, Key, "a", "new");
+            registry.Write(User, Key, "b", "new");
+        });
+        ADD_FAILURE() << "no failure";
+    } catch (const Failure& failure) {
+        EXPECT_TRUE(failure.Is(Error::PathNotFound));
+        EXPECT_NE(failure.Description().find(path), std::string::npos);
+    }
+    EXPECT_EQ(registry.Get(User, Key, "a"), Variant("old"));
+    EXPECT_TRUE(registry.Get(User, Key, "b").IsEmpty());
 }
 
 TEST_F(TomlRegistryTest, Write_EmptyText_IsAValue)
@@ -296,6 +358,85 @@ TEST_F(TomlRegistryTest, Open_DamagedFile_SaysWhereAndWhatToDo)
         EXPECT_NE(refusal.find(": correct that line, or move the file away"), std::string::npos) << refusal;
         EXPECT_EQ(Content(), row.content);
     }
+}
+
+TEST_F(TomlRegistryTest, Open_DamagedFile_IsToldInOurWords)
+{
+    for (const auto* content : { "[HKCU.a]\nb = 1\n[HKCU.a]\nc = 2\n", "[HKCU.a]\nb = 1\nb = 2\n" }) {
+        mFolder.Write("registry.toml", content);
+        EXPECT_THAT(Refusal(), testing::HasSubstr("line 3: the name stands in the file a second time: "));
+    }
+    mFolder.Write("registry.toml", "[HKCU.\"a\"]\nb = \"c\n");
+    EXPECT_THAT(Refusal(), testing::HasSubstr("a quotation mark or a bracket may be missing"));
+}
+
+TEST_F(TomlRegistryTest, Open_NestedFile_HasABound)
+{
+    const auto repeated = [](const std::string& text, int count) {
+        std::string all;
+        for (int i = 0; i < count; ++i) {
+            all += text;
+        }
+        return all;
+    };
+    const auto refusalOf = [&](const std::string& content) {
+        mFolder.Write("registry.toml", content);
+        return Refusal();
+    };
+    EXPECT_EQ(refusalOf("[a" + repeated(".a", 32) + "]\nb = " + repeated("[", 32) + repeated("]", 32) + "\n"), "");
+    for (const int depth : { 33, 30'000 }) {
+        for (const auto& content :
+            { "\n[a" + repeated(".a", depth) + "]\n", "\na" + repeated(". 'a'", depth) + " = 1\n",
+                "\na = " + repeated("[", depth) + repeated("]", depth), "\na = " + repeated("{a = ", depth) + "1",
+                "\na = {b = \"\"\"x\"\"\"\"\", c" + repeated(".a", depth) + " = 1}\n" }) {
+            EXPECT_THAT(refusalOf(content), testing::HasSubstr("line 2: it is nested more than 32 deep: "));
+        }
+    }
+}
+
+TEST_F(TomlRegistryTest, Open_BracketsAndPointsInTexts_AreNoNesting)
+{
+    const std::string many(100, '[');
+    const std::string points(100, '.');
+    std::string reals = "1.5";
+    for (int i = 0; i < 50; ++i) {
+        reals += ", 1.5";
+    }
+    mFolder.Write("registry.toml",
+        "[HKCU.key]\na = \"\\\"" + many + points + "\"\nb = '" + many + points + "\\'\nc = \"\"\"\n" + many + "\""
+            + points + "\"\"\"\nd = '''" + points + many + "''' # " + many + points + "\ne = [ " + reals + " ]\n");
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_EQ(Reopened(User, "key", "b"), Variant(many + points + "\\"));
+}
+
+TEST_F(TomlRegistryTest, Open_LargerThanARegistryMayBe_SaysSo)
+{
+    mFolder.Write("registry.toml", "");
+    fs::resize_file(mFolder.Path("registry.toml"), (std::uintmax_t { 64 } << 20) + 1);
+    EXPECT_THAT(Refusal(), testing::HasSubstr("is larger than 64 MiB"));
+}
+
+TEST_F(TomlRegistryTest, RequireSound_ValueOfAnotherKind_IsRefusedWithItsLine)
+{
+    const auto refusalOf = [&](const std::string& content) -> std::string {
+        mFolder.Write("registry.toml", content);
+        const auto registry = Open();
+        try {
+            registry.RequireSound(Key, { "Words" });
+        } catch (const RegistryFileError& error) {
+            return error.what();
+        }
+        return "";
+    };
+    const std::string heading = "[HKCU.'Software\\Lindenfold\\Tempodial']\n";
+    EXPECT_EQ(refusalOf(""), "");
+    EXPECT_EQ(refusalOf(heading + "words = 'a'\nb = 5\n[HKCU.other]\nc = 1.5\n"), "");
+    for (const auto* value : { "1.5", "true", "[ 'a' ]", "{ a = 'b' }", "2006-10-10", "2147483648" }) {
+        EXPECT_THAT(refusalOf(heading + "a = 'b'\nc = " + value + "\n"),
+            testing::HasSubstr("line 3: \"c\" must be a text in quotation marks, or a whole number of 32 bits: "));
+    }
+    EXPECT_THAT(refusalOf(heading + "words = 5\n"), testing::HasSubstr("line 2: \"words\" must be a text, in"));
+    EXPECT_THAT(refusalOf("[HKLM]\n'Software\\Lindenfold\\Tempodial' = 5\n"), testing::HasSubstr("isn't a table"));
 }
 
 TEST_F(TomlRegistryTest, Open_NoReadableFile_SaysSo)
