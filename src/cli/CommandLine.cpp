@@ -116,6 +116,14 @@ ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
     for (const auto& complaint : reply.complaints) {
         Complain(mError, Name, complaint);
     }
+    for (const auto& warning : reply.warnings) {
+        Complain(mError, Name, warning);
+    }
+    if (!options.quiet) {
+        for (const auto& remark : reply.remarks) {
+            Complain(mError, Name, remark);
+        }
+    }
     if (!mOut) {
         Complain(mError, Name, "the answer couldn't be written: see to the disk or the program that reads it");
         return ExitStatus::NotDone;

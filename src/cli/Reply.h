@@ -21,6 +21,10 @@ struct Reply
     std::string summary;
     /// What couldn't be done, a message each.
     std::vector<std::string> complaints;
+    /// What has to be known all the same, a message each.
+    std::vector<std::string> warnings;
+    /// What may be of use beside the answer unless the run is quiet, a message each.
+    std::vector<std::string> remarks;
     ExitStatus status = ExitStatus::Done;
 };
 

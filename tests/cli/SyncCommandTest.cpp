@@ -58,7 +58,8 @@ TEST_F(SyncCommandTest, Sync_FileThatCantBeRead_IsNamedAndTheOthersAreImported)
 TEST_F(SyncCommandTest, Sync_HistoryThatCantBeWritten_IsNamed)
 {
     WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
-    std::filesystem::create_directories(DataPath("TempodialHistory.out"));
+    WriteData("TempodialHistory.out", "");
+    std::filesystem::permissions(DataPath("TempodialHistory.out"), std::filesystem::perms::owner_read);
     const auto result = Run({ "sync", "--quiet" });
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.out, "");
