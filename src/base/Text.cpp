@@ -207,6 +207,11 @@ std::string Trim(std::string_view text)
     return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
+bool IsBlank(std::string_view text)
+{
+    return text.find_first_not_of(" \t\r") == NotFound;
+}
+
 std::string Replace(std::string_view text, std::string_view find, std::string_view by)
 {
     if (find.empty()) {

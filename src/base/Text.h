@@ -30,6 +30,8 @@ std::string Mid(std::string_view text, std::int32_t start, std::int32_t length);
 void Overwrite(std::string& text, std::int32_t start, std::int32_t length, std::string_view by);
 /// The text without blanks (U+0020) at its ends.
 std::string Trim(std::string_view text);
+/// True when nothing but blanks, tabs and carriage returns stand in the text.
+bool IsBlank(std::string_view text);
 /// All exact occurrences replaced, from left to right, without looking at what was put in.
 std::string Replace(std::string_view text, std::string_view find, std::string_view by);
 /// The pieces between separators; none for the empty text.

@@ -138,6 +138,11 @@ ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
     for (const auto& complaint : reply.complaints) {
         Complain(mError, Name, complaint);
     }
+    if (!options.quiet) {
+        for (const auto& remark : reply.remarks) {
+            Complain(mError, Name, remark);
+        }
+    }
     if (!mOut) {
         Complain(mError, Name, "the answer couldn't be written: see to the disk or the program that reads it");
         return ExitStatus::NotDone;

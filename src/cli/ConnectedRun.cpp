@@ -39,7 +39,7 @@ ConnectedRun::ConnectedRun(const Options& options)
 Platform ConnectedRun::Surroundings(const Options& options) const
 {
     const auto recorder = MakeRef<ProblemRecorder>(mProblems);
-    auto surroundings = mSession.Surroundings();
+    auto surroundings = mSession.Surroundings(Imports::ByLines);
     surroundings.fileSystem = Wrapped(surroundings.fileSystem, recorder);
     surroundings.registry = Wrapped(surroundings.registry, recorder);
     surroundings.importJournal = Wrapped(surroundings.importJournal, recorder);
@@ -69,6 +69,9 @@ Reply ConnectedRun::Concluded(Reply reply)
     }
     mSession.End();
     reply.complaints = mProblems->Messages();
+    for (const auto& path : KeptFiles()) {
+        reply.warnings.push_back("a tracker file is too old and wasn't imported as a whole: it is kept as " + path);
+    }
     if (Interruption::IsRequested()) {
         reply.status = ExitStatus::Interrupted;
     } else if (!reply.complaints.empty()) {

@@ -7,11 +7,14 @@
 #include "engine/core/TempodialMain.h"
 #include "faults/Problems.h"
 #include "host/store/Mailbox.h"
+#include "host/store/StoreImportJournal.h"
 #include "platform/system/MailDraftWriter.h"
 #include "session/OpenProfile.h"
 #include "session/Session.h"
 
 #include <iostream>
+#include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -32,11 +35,19 @@ public:
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
     /// The surroundings of the profile.
     const Platform& Host() const { return mSession.Profile().Surroundings(); }
+    std::string DataFolder() const { return mSession.Profile().DataFolder(); }
     /// The path of a file in the data folder.
     std::string DataPath(const std::string& name) const { return tempodial::DataPath(mSession.Profile(), name); }
     /// The mail that the add-in put on the screen, taken from there, empty when there is none. What couldn't be
     /// attached goes wrong.
     MailDraft TakeShownMail() const;
+    /// The lines that the import couldn't read, of those that it reached first.
+    const std::vector<StoreImportJournal::UnreadLine>& UnreadLines() const
+    {
+        return mSession.Profile().Journal()->Unread();
+    }
+    /// Where tracker files were kept that were too old.
+    const std::vector<std::string>& KeptFiles() const { return mSession.KeptFiles(); }
     /// What was saved since the add-in was connected.
     const SaveStatistics& Saves() const { return mSession.Mailbox()->Statistics(); }
     /// True when the add-in showed a message, as it does when it can't make activities.

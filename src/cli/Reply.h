@@ -25,6 +25,8 @@ struct Reply
     std::vector<std::string> warnings;
     /// What couldn't be done, a message each.
     std::vector<std::string> complaints;
+    /// What may be of use beside the answer unless the run is quiet, a message each.
+    std::vector<std::string> remarks;
     ExitStatus status = ExitStatus::Done;
 };
 

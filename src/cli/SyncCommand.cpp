@@ -1,11 +1,105 @@
+#include "base/Failure.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
 #include "session/ProductFacts.h"
+#include "session/TrackerDay.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
 
 namespace tempodial {
 
 namespace {
+
+/// Line numbers that a message names.
+constexpr std::size_t NumbersShown = 10;
+
+std::string NameIn(const std::string& path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+std::string Listed(const std::vector<std::string>& texts)
+{
+    std::string list;
+    for (const auto& text : texts) {
+        list += (list.empty() ? "" : ", ") + text;
+    }
+    return list;
+}
+
+/// The tracker files that are too old for an import, by name.
+std::vector<std::string> TooOldFiles(const ConnectedRun& run)
+{
+    std::vector<std::string> names;
+    const auto firstDay = run.Host().clock->Now().AddDays(-SavedDataDays).DayKey();
+    try {
+        for (const auto& file : run.Host().fileSystem->GetFolder(run.DataFolder()).files) {
+            const auto day = TrackerDay(file.name);
+            if (!day.empty() && day < firstDay) {
+                names.push_back(file.name);
+            }
+        }
+    } catch (const Failure&) {
+        // No folder, no files; one that can't be read the import has told of.
+    }
+    return names;
+}
+
+/// The same together with those that the run has put aside.
+std::vector<std::string> LeftOut(const ConnectedRun& run)
+{
+    auto names = TooOldFiles(run);
+    for (const auto& path : run.KeptFiles()) {
+        names.push_back(NameIn(path));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// The numbers of the lines that couldn't be read, by the name of their file.
+std::map<std::string, std::vector<std::int64_t>> UnreadLines(const ConnectedRun& run)
+{
+    std::map<std::string, std::vector<std::int64_t>> lines;
+    for (const auto& line : run.UnreadLines()) {
+        lines[TrackerFileName(line.day)].push_back(line.number);
+    }
+    return lines;
+}
+
+JsonValue UnreadJson(const ConnectedRun& run)
+{
+    auto unread = JsonValue::Array();
+    for (const auto& [file, numbers] : UnreadLines(run)) {
+        for (const auto number : numbers) {
+            unread.Append({ { "file", file }, { "line", number } });
+        }
+    }
+    return unread;
+}
+
+/// What is told of files and lines that were left out.
+std::vector<std::string> Remarks(const ConnectedRun& run)
+{
+    std::vector<std::string> remarks;
+    for (const auto& [file, numbers] : UnreadLines(run)) {
+        std::vector<std::string> shown;
+        for (std::size_t i = 0; i < std::min(numbers.size(), NumbersShown); ++i) {
+            shown.push_back(std::to_string(numbers[i]));
+        }
+        const auto more = numbers.size() - shown.size();
+        remarks.push_back(file + ": couldn't read " + (numbers.size() == 1 ? "line " : "lines ") + Listed(shown)
+            + (more == 0 ? "" : " and " + std::to_string(more) + " more"));
+    }
+    if (const auto files = TooOldFiles(run); !files.empty()) {
+        remarks.push_back("left out as older than " + std::to_string(SavedDataDays) + " days: " + Listed(files));
+    }
+    return remarks;
+}
 
 class SyncCommand final : public Command
 {
@@ -15,8 +109,8 @@ public:
             "Imports what the tracker wrote today and in the 21 days before: new activities\n"
             "are created, running ones extended, and short ones in between listed as\n"
             "details. What was imported isn't imported again. A file of a past day is then\n"
-            "kept under its finished name. Ctrl-C stops it; the next sync goes on from\n"
-            "there.\n"
+            "kept under its finished name. Files that are older and lines that can't be\n"
+            "read are named. Ctrl-C stops it; the next sync goes on from there.\n"
             "\n"
             "  tempodial sync\n"
             "  tempodial sync --quiet --json" })
@@ -36,14 +130,21 @@ public:
             run.Complain("no new activity can be made, since the form of activities can't be used: install the program "
                          "again");
         }
+        return run.Concluded(Answer(run));
+    }
+
+private:
+    static Reply Answer(const ConnectedRun& run)
+    {
         const bool cancelled = Interruption::IsRequested();
         const auto& saves = run.Saves();
         Reply reply;
         reply.document = { { "created", saves.created }, { "extended", saves.extended }, { "detailed", saves.detailed },
-            { "cancelled", cancelled } };
+            { "cancelled", cancelled }, { "leftOut", LeftOut(run) }, { "unread", UnreadJson(run) } };
         reply.summary = std::to_string(saves.created) + " created, " + std::to_string(saves.extended) + " extended, "
             + std::to_string(saves.detailed) + " detailed" + (cancelled ? ", then interrupted" : "") + "\n";
-        return run.Concluded(std::move(reply));
+        reply.remarks = Remarks(run);
+        return reply;
     }
 };
 

@@ -17,7 +17,7 @@ void DriverHost::Start(HostSettings settings)
         throw RequestError("the host is started already: stop it first");
     }
     settings.seen = [faults = mFaults](const Ref<Application>& application) { return Wrapped(application, faults); };
-    mSession.Start(Surroundings(), settings);
+    mSession.Start(Surroundings(settings.imports), settings);
 }
 
 void DriverHost::Stop()
@@ -50,9 +50,9 @@ Ref<StoreItem> DriverHost::Item(const std::string& entryId) const
     }
 }
 
-Platform DriverHost::Surroundings() const
+Platform DriverHost::Surroundings(Imports imports) const
 {
-    auto surroundings = mSession.Surroundings();
+    auto surroundings = mSession.Surroundings(imports);
     surroundings.messageBox = mMessageBox;
     surroundings.eventPump = mEventPump;
     surroundings.shell

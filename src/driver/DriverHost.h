@@ -49,7 +49,7 @@ public:
     const std::vector<std::string>& Opened() const { return *mOpened; }
 
 private:
-    Platform Surroundings() const;
+    Platform Surroundings(Imports imports) const;
     void RequireStarted() const;
 
     tempodial::Session mSession;

@@ -41,7 +41,8 @@ Json HostCommands::Start(const Request& request)
     mHost.Start({ .explorers = request.NumberUpTo(MostExplorers, "explorers", 1),
         .folder = mHost.Folder(request.Text("folder", "Inbox")),
         .version = request.Text("version", HostApplication::DefaultVersion),
-        .logon = request.Flag("logon", true) });
+        .logon = request.Flag("logon", true),
+        .imports = request.Flag("remember", false) ? Imports::ByLines : Imports::ByHistory });
     return Json::object();
 }
 

@@ -29,6 +29,7 @@ public:
     }
 
     std::string ReadLine() override { return Call(Named("ReadLine"), &Object::ReadLine); }
+    LineKind LastLine() const override { return Target()->LastLine(); }
     std::string ReadAll() override { return Call(Named("ReadAll"), &Object::ReadAll); }
     void Write(const std::string& text) override { Call(Named("Write"), &Object::Write, text); }
     void WriteLine(const std::string& text) override { Call(Named("WriteLine"), &Object::WriteLine, text); }

@@ -66,6 +66,17 @@ public:
     }
     void HistorySaved() override { Call("HistorySaved", &Object::HistorySaved); }
     void End() override { Call("End", &Object::End); }
+    bool Remembers() override { return Call("Remembers", &Object::Remembers); }
+    void ForgetLines() override { Call("ForgetLines", &Object::ForgetLines); }
+    std::int32_t BeginDay(const std::string& dayKey, std::int32_t lastCount) override
+    {
+        return Call({ "BeginDay", dayKey }, &Object::BeginDay, dayKey, lastCount);
+    }
+    bool IsKnown(const std::string& line) override { return Call("IsKnown", &Object::IsKnown, line); }
+    void Reached(std::int64_t number, bool isReadable) override
+    {
+        Call("Reached", &Object::Reached, number, isReadable);
+    }
 };
 
 class InterposedPictureLoader final : public Interposed<PictureLoader>

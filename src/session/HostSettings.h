@@ -4,6 +4,7 @@
 #include "host/windows/HostApplication.h"
 #include "platform/objectmodel/Application.h"
 #include "platform/objectmodel/MAPIFolder.h"
+#include "session/Imports.h"
 
 #include <cstdint>
 #include <functional>
@@ -20,6 +21,8 @@ struct HostSettings
     std::string version = HostApplication::DefaultVersion;
     /// True to tell of the mail logon once the add-in is connected.
     bool logon = true;
+    /// What imports go by.
+    Imports imports = Imports::ByHistory;
     /// Makes what the add-in gets in the place of the application, nothing for the application itself.
     std::function<Ref<Application>(const Ref<Application>& application)> seen = nullptr;
 };

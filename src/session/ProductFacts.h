@@ -9,6 +9,8 @@ namespace tempodial {
 
 /// The folder of the tracker's files and the trace, below the profile.
 inline constexpr auto DataFolderName = ProductName;
+/// The folder of tracker files that are too old and weren't imported as a whole, below that one.
+inline constexpr auto KeptFolderName = "kept";
 /// The mailbox, in the profile.
 inline constexpr auto MailboxFileName = "mailbox.db";
 /// The registry store, in the profile.

@@ -1,7 +1,6 @@
 #include "session/Profile.h"
 
 #include "host/store/MailboxError.h"
-#include "host/store/StoreImportJournal.h"
 #include "host/system/BitmapLoader.h"
 #include "host/system/ExpatXml.h"
 #include "host/system/HostFileSystem.h"
@@ -38,7 +37,8 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
     mPlatform.shell = MakeRef<HostShell>();
     mPlatform.clock = mClock;
     mPlatform.pictures = MakeRef<BitmapLoader>();
-    mPlatform.importJournal = MakeRef<StoreImportJournal>(mMailbox);
+    mJournal = MakeRef<StoreImportJournal>(mMailbox);
+    mPlatform.importJournal = mJournal;
     mPlatform.eventPump = MakeRef<MailboxEventPump>(mMailbox);
 }
 

@@ -3,6 +3,7 @@
 #include "base/Date.h"
 #include "base/Ref.h"
 #include "host/store/Mailbox.h"
+#include "host/store/StoreImportJournal.h"
 #include "host/system/HostClock.h"
 #include "host/system/TomlRegistry.h"
 #include "platform/Platform.h"
@@ -32,6 +33,8 @@ public:
     std::string DataFolder() const { return mFolder.Path() + "/" + DataFolderName; }
     const Ref<TomlRegistry>& Registry() const { return mRegistry; }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mMailbox; }
+    /// The journal of imports, in the mailbox.
+    const Ref<StoreImportJournal>& Journal() const { return mJournal; }
     const Ref<HostClock>& Clock() const { return mClock; }
     /// The surroundings, but for forms and message boxes, which a program adds; their event pump tells what the mailbox
     /// has to tell.
@@ -41,6 +44,7 @@ private:
     ProfileFolder mFolder;
     Ref<TomlRegistry> mRegistry;
     Ref<tempodial::Mailbox> mMailbox;
+    Ref<StoreImportJournal> mJournal;
     Ref<HostClock> mClock;
     Platform mPlatform;
 };

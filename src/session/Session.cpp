@@ -9,12 +9,18 @@ namespace tempodial {
 
 Session::Session(const ProfileOptions& options)
     : mProfile(OpenProfile(options))
+    , mFiles(MakeRef<KeepingFileSystem>(
+          mProfile.Surroundings().fileSystem->GetSpecialFolder(SpecialFolder::Temporary), mProfile.Mailbox()))
 {
 }
 
-Platform Session::Surroundings() const
+Platform Session::Surroundings(Imports imports) const
 {
     auto surroundings = mProfile.Surroundings();
+    mProfile.Journal()->SetRemembers(imports == Imports::ByLines);
+    if (imports == Imports::ByLines) {
+        surroundings.fileSystem = mFiles;
+    }
     surroundings.forms = mForms;
     return surroundings;
 }

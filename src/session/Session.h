@@ -8,6 +8,8 @@
 #include "host/windows/HostMail.h"
 #include "platform/Platform.h"
 #include "session/HostSettings.h"
+#include "session/Imports.h"
+#include "session/KeepingFileSystem.h"
 #include "session/Profile.h"
 #include "session/ProfileOptions.h"
 #include "session/StartedHost.h"
@@ -26,8 +28,8 @@ public:
     explicit Session(const ProfileOptions& options);
 
     /// What a program gives back to `Start`, with its message box in it and whatever else it puts in place of this: the
-    /// profile's surroundings, with forms as plain models.
-    Platform Surroundings() const;
+    /// profile's surroundings, with forms as plain models. Imports go by what is named from now on.
+    Platform Surroundings(Imports imports = Imports::ByHistory) const;
     /// Makes a host with its windows and connects the add-in in these surroundings; none may be connected. Fails with
     /// `Failure` when the registry's file refuses what the add-in wrote, and then none is.
     void Start(Platform surroundings, const HostSettings& settings = {});
@@ -54,12 +56,16 @@ public:
     /// The mail that came last to the screen, nothing when there is none.
     Ref<HostMail> ShownMail() const;
 
+    /// Where tracker files were kept that were too old, in order.
+    const std::vector<std::string>& KeptFiles() const { return mFiles->Kept(); }
+
     const tempodial::Profile& Profile() const { return mProfile; }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mProfile.Mailbox(); }
     const Ref<FormModelFactory>& Forms() const { return mForms; }
 
 private:
     tempodial::Profile mProfile;
+    Ref<KeepingFileSystem> mFiles;
     Ref<FormModelFactory> mForms = MakeRef<FormModelFactory>();
     Ref<StartedHost> mHost;
     std::vector<Ref<StartedHost>> mReplaced;

@@ -167,6 +167,14 @@ TEST(TextTest, Overwrite_PositionOutsideTheText_FailsAndChangesNothing)
     EXPECT_EQ(text, "abc");
 }
 
+TEST(TextTest, IsBlank_NothingButBlanksTabsAndCarriageReturns_IsTrue)
+{
+    EXPECT_TRUE(IsBlank(""));
+    EXPECT_TRUE(IsBlank(" \t \r"));
+    EXPECT_FALSE(IsBlank(" a "));
+    EXPECT_FALSE(IsBlank(std::string_view("\0", 1)));
+}
+
 TEST(TextTest, Trim_BlanksAtTheEnds_AreTakenOffAndNothingElse)
 {
     EXPECT_EQ(Trim("  a b "), "a b");

@@ -65,6 +65,27 @@ TEST_F(HostCommandsTest, Start_Explorers_HaveABound)
     EXPECT_EQ(Do({ { "do", "windows" } }).at("explorers").size(), 1000);
 }
 
+TEST_F(HostCommandsTest, Start_Remember_LetsImportsGoByLines)
+{
+    const auto refresh = [&] {
+        const auto explorer = Do({ { "do", "windows" } }).at("explorers").at(0);
+        Do({ { "do", "command" }, { "explorer", explorer }, { "bar", "Standard" },
+            { "path", { "Refre&sh Tempodial" } } });
+        return Do({ { "do", "items" } }).at("items").size();
+    };
+    const auto history = DataPath("TempodialHistory.out");
+    Do({ { "do", "start" } });
+    WriteTracker("20061010", { Slot(8, 0, "a") });
+    EXPECT_EQ(refresh(), 1);
+    std::ofstream(history) << "|20061001_00100";
+    EXPECT_EQ(refresh(), 2) << "by the history alone the line is new";
+    Do({ { "do", "stop" } });
+
+    Do({ { "do", "start" }, { "remember", true } });
+    std::ofstream(history) << "|20061001_00100";
+    EXPECT_EQ(refresh(), 2);
+}
+
 TEST_F(HostCommandsTest, Start_NoExplorer_LeavesTheAddInDormant)
 {
     Do({ { "do", "start" }, { "explorers", 0 } });

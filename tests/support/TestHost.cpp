@@ -1,7 +1,6 @@
 #include "support/TestHost.h"
 
 #include "host/store/FormTemplate.h"
-#include "host/store/StoreImportJournal.h"
 #include "host/store/StoreItem.h"
 #include "host/system/ExpatXml.h"
 #include "host/system/IcuLocaleFormats.h"
@@ -44,7 +43,8 @@ TestHost::TestHost(const std::string& folder, const Ref<Registry>& registry, con
     platform->messageBox = messageBox;
     platform->eventPump = eventPump;
     mailbox = Mailbox::Open(mailboxPath, platform->formats, platform->xml);
-    journal = MakeRef<TestImportJournal>(MakeRef<StoreImportJournal>(mailbox));
+    storeJournal = MakeRef<StoreImportJournal>(mailbox);
+    journal = MakeRef<TestImportJournal>(storeJournal);
     platform->importJournal = journal;
     application = MakeRef<TestApplication>(MakeRef<HostApplication>(mailbox));
     application->fromTemplate = [this](const std::string&, const Ref<MAPIFolder>& target) {

@@ -2,6 +2,7 @@
 
 #include "forms/FormModelFactory.h"
 #include "host/store/Mailbox.h"
+#include "host/store/StoreImportJournal.h"
 #include "host/windows/HostApplication.h"
 #include "platform/Platform.h"
 #include "support/CannedMessageBox.h"
@@ -35,6 +36,8 @@ public:
     Ref<TestEventPump> eventPump = MakeRef<TestEventPump>();
     Ref<Platform> platform = MakeRef<Platform>();
     Ref<Mailbox> mailbox;
+    /// The mailbox's own journal, and what the add-in gets in its place.
+    Ref<StoreImportJournal> storeJournal;
     Ref<TestImportJournal> journal;
     Ref<TestApplication> application;
     /// The explorer on the inbox.

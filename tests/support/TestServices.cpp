@@ -118,6 +118,31 @@ void TestImportJournal::End()
     mJournal->End();
 }
 
+bool TestImportJournal::Remembers()
+{
+    return mJournal->Remembers();
+}
+
+void TestImportJournal::ForgetLines()
+{
+    mJournal->ForgetLines();
+}
+
+std::int32_t TestImportJournal::BeginDay(const std::string& dayKey, std::int32_t lastCount)
+{
+    return mJournal->BeginDay(dayKey, lastCount);
+}
+
+bool TestImportJournal::IsKnown(const std::string& line)
+{
+    return mJournal->IsKnown(line);
+}
+
+void TestImportJournal::Reached(std::int64_t number, bool isReadable)
+{
+    mJournal->Reached(number, isReadable);
+}
+
 void TestImportJournal::Tell(const std::string& call)
 {
     calls.push_back(call);
@@ -171,5 +196,24 @@ std::optional<ImportJournal::Position> NoImportJournal::Committed(const std::str
 void NoImportJournal::HistorySaved() { }
 
 void NoImportJournal::End() { }
+
+bool NoImportJournal::Remembers()
+{
+    return false;
+}
+
+void NoImportJournal::ForgetLines() { }
+
+std::int32_t NoImportJournal::BeginDay(const std::string&, std::int32_t lastCount)
+{
+    return lastCount;
+}
+
+bool NoImportJournal::IsKnown(const std::string&)
+{
+    return false;
+}
+
+void NoImportJournal::Reached(std::int64_t, bool) { }
 
 }

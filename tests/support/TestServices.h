@@ -87,6 +87,11 @@ public:
     std::optional<Position> Committed(const std::string& dayKey) override;
     void HistorySaved() override;
     void End() override;
+    bool Remembers() override;
+    void ForgetLines() override;
+    std::int32_t BeginDay(const std::string& dayKey, std::int32_t lastCount) override;
+    bool IsKnown(const std::string& line) override;
+    void Reached(std::int64_t number, bool isReadable) override;
 
 private:
     void Tell(const std::string& call);
@@ -104,6 +109,11 @@ public:
     std::optional<Position> Committed(const std::string&) override;
     void HistorySaved() override;
     void End() override;
+    bool Remembers() override;
+    void ForgetLines() override;
+    std::int32_t BeginDay(const std::string&, std::int32_t lastCount) override;
+    bool IsKnown(const std::string&) override;
+    void Reached(std::int64_t, bool) override;
 };
 
 }

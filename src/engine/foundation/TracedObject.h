@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 
 #include <concepts>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -61,6 +62,15 @@ public:
             std::forward<OnFailure>(onFailure)(Failure::FromCurrentException());
             return false;
         }
+    }
+    /// Runs a statement as ever; what it failed with, nothing when it didn't.
+    template <class Statement> std::optional<Failure> FailureOf(Statement&& statement) const
+    {
+        std::optional<Failure> caught;
+        if (!(*this)(std::forward<Statement>(statement), [&](const Failure& failure) { caught = failure; })) {
+            TraceFailure(*caught);
+        }
+        return caught;
     }
     /// The value of an expression, the empty value of its type when it failed.
     template <class Expression> auto Get(Expression&& expression) const

@@ -1,5 +1,6 @@
 #include "engine/import/TempodialDataHandler.h"
 
+#include "base/Failure.h"
 #include "base/Number.h"
 #include "engine/core/ProductWords.h"
 #include "engine/core/TempodialMain.h"
@@ -90,7 +91,13 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
     Ref<TextStream> historyStream;
     attempt([&] { sync.dataFolder = mMain->mCommonUtils->GetDataFolderName(); });
     attempt([&] { historyPath = mFileSystem->BuildPath(sync.dataFolder, mMain->mStrings->mHistoryFile); });
-    ReadHistory(attempt, historyPath, historyStream, sync.history);
+    mRemembers = attempt.Get([&] { return mPlatform->importJournal->Remembers(); });
+    const auto historyFile = ReadHistory(attempt, historyPath, historyStream, sync.history);
+    const bool mayGoOn = historyFile != HistoryFile::Unreadable || !mRemembers;
+    sync.notCancelled = sync.notCancelled && mayGoOn;
+    if (historyFile == HistoryFile::Absent && sync.notCancelled) {
+        attempt([&] { mPlatform->importJournal->ForgetLines(); });
+    }
 
     mStage = "looping through";
     mUncommittedLines = 0;
@@ -107,7 +114,9 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
 
     mStage = "Cleanup";
     attempt([&] { mLastSynced = mPlatform->clock->Now(); });
-    WriteHistory(attempt, historyPath, historyStream, sync);
+    if (mayGoOn) {
+        WriteHistory(attempt, historyPath, historyStream, sync);
+    }
     attempt([&] { mPlatform->importJournal->End(); });
     attempt([&] { sync.progress->Unload(); });
     mSyncing = false;
@@ -118,17 +127,20 @@ void TempodialDataHandler::SyncData(std::int32_t loadRange, bool forceSync)
     }
 }
 
-void TempodialDataHandler::ReadHistory(
+TempodialDataHandler::HistoryFile TempodialDataHandler::ReadHistory(
     const Attempt& attempt, const std::string& path, Ref<TextStream>& stream, HistoryText& history)
 {
     attempt.Say("historyfile: " + path);
-    attempt([&] { stream = mFileSystem->OpenTextFile(path, OpenMode::Reading, false); });
+    const auto unopened
+        = attempt.FailureOf([&] { stream = mFileSystem->OpenTextFile(path, OpenMode::Reading, false); });
     if (!stream) {
         attempt.Say("no history");
-        return;
+        const bool isAbsent = unopened && (unopened->Is(Error::FileNotFound) || unopened->Is(Error::PathNotFound));
+        return isAbsent ? HistoryFile::Absent : HistoryFile::Unreadable;
     }
-    attempt([&] { history = HistoryText(stream->ReadAll()); });
+    const auto unread = attempt.FailureOf([&] { history = HistoryText(stream->ReadAll()); });
     attempt.Say([&] { return "history: " + history.Text(); });
+    return !unread || unread->Is(Error::InputPastEnd) ? HistoryFile::Readable : HistoryFile::Unreadable;
 }
 
 void TempodialDataHandler::WriteHistory(

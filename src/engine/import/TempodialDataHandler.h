@@ -69,7 +69,13 @@ private:
         bool journalNeeded = false;
     };
 
-    void ReadHistory(const Attempt& attempt, const std::string& path, Ref<TextStream>& stream, HistoryText& history);
+    /// What stands in a line.
+    enum class LineContent { NoDocument, SlotWithoutTimes, Slot };
+    /// What there is of a history.
+    enum class HistoryFile { Absent, Readable, Unreadable };
+
+    HistoryFile ReadHistory(
+        const Attempt& attempt, const std::string& path, Ref<TextStream>& stream, HistoryText& history);
     void WriteHistory(const Attempt& attempt, const std::string& path, const Ref<TextStream>& oldStream, Sync& sync);
     DayFile DayOf(const Attempt& attempt, const Sync& sync, std::int32_t daysBack) const;
     void SyncDay(const Attempt& attempt, Sync& sync, std::int32_t daysBack);
@@ -92,11 +98,15 @@ private:
     /// Reads a day's file to its end; true when reading was abandoned.
     bool ParseFile(Ref<TextStream> stream, const DayFile& day, std::int32_t lastCount,
         const Ref<ProgressBarForm>& progress, std::int32_t loadRange);
+    /// Notes the slots as unread when the first line is all of a file, since its lines end in a way that isn't known.
+    void NoteForeignLineEnds(const Attempt& attempt, const Ref<TextStream>& stream, const std::string& firstLine);
     /// Passes over lines; false when the file has fewer.
     bool SkipLines(const Ref<TextStream>& stream, std::int64_t lines);
     /// Handles one line; true when the whole sync must stop.
     bool ParseLine(const std::string& line, const DayFile& day, std::int32_t lastCount,
         const Ref<ProgressBarForm>& progress, bool showing);
+    /// Has the line in hand remembered, unless the tracker may be writing it still.
+    void NoteReached(const Attempt& attempt, LineContent content);
     /// Stretches the last item by a slot; false when the slot needs an item of its own.
     bool Continue(const Attempt& attempt, Date expectedEnd, const SlotActivity& activity);
     /// Adds a line to the list in the body of the item that ends with the slot; without such an item it is dropped.
@@ -123,9 +133,16 @@ private:
     std::string mLastItemBody;
     bool mSyncing = false;
     bool mTerminated = false;
+    /// The sync under way goes by the lines that were reached, and stops at what it can't read.
+    bool mRemembers = false;
     Date mLastSynced;
     /// Lines of the file in hand read behind its first.
     std::int64_t mLinesRead = 0;
+    LineKind mLineKind = LineKind::Whole;
+    /// The last count of the day in hand by the history.
+    std::int32_t mHistoryCount = 0;
+    /// The line in hand was reached before.
+    bool mLineIsKnown = false;
     std::int32_t mUncommittedLines = 0;
     Date mLastCommit;
     /// The parsed line, one document for all lines.

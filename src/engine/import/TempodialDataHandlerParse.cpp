@@ -1,3 +1,4 @@
+#include "base/Failure.h"
 #include "base/Number.h"
 #include "base/Text.h"
 #include "engine/core/TempodialMain.h"
@@ -17,6 +18,8 @@ constexpr std::int32_t LinesPerProgressStep = 4;
 /// Seconds, and lines loaded, between two commits in the midst of a file.
 constexpr std::int64_t CommitSeconds = 1;
 constexpr std::int32_t CommitLines = 1000;
+/// Lines of a file in front of its slots.
+constexpr std::int64_t HeadingLines = 1;
 
 }
 
@@ -26,19 +29,25 @@ bool TempodialDataHandler::ParseFile(Ref<TextStream> stream, const DayFile& day,
     const auto attempt = Failing("ParseFile error ", LineShape::TextBlankStep);
     const auto read = Failing("File error ", LineShape::TextBlankStep);
     bool fileEnded = false;
+    bool fileFailed = false;
     bool cancelled = false;
     bool showing = false;
     std::string line;
     const auto readLine = [&] {
-        if (!read([&] { line = stream->ReadLine(); })) {
-            fileEnded = true;
-        }
+        const auto failure = read.FailureOf([&] { line = stream->ReadLine(); });
+        fileEnded = fileEnded || failure;
+        fileFailed = fileFailed || (failure && !failure->Is(Error::InputPastEnd));
     };
 
     mStage = "ReadLine";
     readLine(); // The first line is no slot, whatever it holds.
     mLinesRead = 0;
-    if (day.committed && !fileEnded) {
+    mHistoryCount = lastCount;
+    attempt([&] { lastCount = mPlatform->importJournal->BeginDay(day.key, lastCount); });
+    if (!fileEnded) {
+        NoteForeignLineEnds(attempt, stream, line);
+    }
+    if (day.committed && !fileEnded && !mRemembers) {
         if (SkipLines(stream, day.committed->lines)) {
             mLinesRead = day.committed->lines;
         } else {
@@ -49,6 +58,7 @@ bool TempodialDataHandler::ParseFile(Ref<TextStream> stream, const DayFile& day,
             }
             readLine();
             lastCount = day.committed->count;
+            attempt([&] { mPlatform->importJournal->BeginDay(day.key, lastCount); });
         }
     }
     readLine();
@@ -61,6 +71,10 @@ bool TempodialDataHandler::ParseFile(Ref<TextStream> stream, const DayFile& day,
 
     while (!fileEnded) {
         ++mLinesRead;
+        mLineKind = attempt.Get([&] { return stream->LastLine(); });
+        // What isn't remembered isn't asked for: a line that is too long comes as an empty one too.
+        const bool isNothing = IsBlank(line) && mLineKind != LineKind::TooLong;
+        mLineIsKnown = !isNothing && attempt.Get([&] { return mPlatform->importJournal->IsKnown(line); });
         attempt([&] { cancelled = ParseLine(line, day, lastCount, progress, showing); });
         if (mLineLoaded && !cancelled && !showing) {
             showing = true;
@@ -77,14 +91,28 @@ bool TempodialDataHandler::ParseFile(Ref<TextStream> stream, const DayFile& day,
 
     mStage = "Close";
     attempt([&] { stream->Close(); });
-    return cancelled;
+    return cancelled || (fileFailed && mRemembers);
+}
+
+void TempodialDataHandler::NoteForeignLineEnds(
+    const Attempt& attempt, const Ref<TextStream>& stream, const std::string& firstLine)
+{
+    const auto end = firstLine.find('\r');
+    const bool isAll = attempt.Get([&] { return stream->LastLine() == LineKind::Unended; });
+    if (isAll && end != std::string::npos && end + 1 < firstLine.size()) {
+        // All of the file is one line then, so that its slots are never seen.
+        mLineIsKnown = attempt.Get([&] { return mPlatform->importJournal->IsKnown(firstLine); });
+        if (!mLineIsKnown) {
+            attempt([&] { mPlatform->importJournal->Reached(HeadingLines + 1, false); });
+        }
+    }
 }
 
 bool TempodialDataHandler::SkipLines(const Ref<TextStream>& stream, std::int64_t lines)
 {
     return Failing("", LineShape::Silent)([&] {
         for (std::int64_t skipped = 0; skipped < lines; ++skipped) {
-            stream->ReadLine();
+            mPlatform->importJournal->IsKnown(stream->ReadLine());
         }
     });
 }
@@ -103,19 +131,30 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
         return false;
     }
     if (!attempt([&] { mSlot->LoadXML(line); }) || attempt.Get([&] { return mSlot->IsEmpty(); })) {
+        if (!IsBlank(line) || mLineKind == LineKind::TooLong) {
+            NoteReached(attempt, LineContent::NoDocument);
+        }
         return false; // Not well-formed, as the last line is while the tracker writes it.
     }
     std::int32_t endCount = 0;
-    attempt([&] { endCount = ToInt32(utils.GetTextValue(mSlot, "slot/EndTime")); });
+    const bool hasEnd = attempt([&] { endCount = ToInt32(utils.GetTextValue(mSlot, "slot/EndTime")); });
     const bool isDetail = isSet("slot/Detail");
-    const bool taken = endCount > lastCount || (endCount == lastCount && isDetail);
+    const bool isNew = endCount > lastCount || (endCount == lastCount && isDetail);
+    // kept: a detail at the last count of the history is loaded at each sync, which adds nothing; but not behind a run
+    // that came further than the history.
+    const bool isAtLastCount = isDetail && endCount == mHistoryCount && !day.committed;
+    const bool isAgain = mLineIsKnown && mRemembers && !isAtLastCount;
+    const bool taken = isNew && !isAgain;
     SlotActivity activity;
     if (taken) {
         attempt.Say([&] { return "load line: " + line; });
         attempt([&] { ExtractData(mSlot, day.day, activity); });
     }
+    const bool hasTimes = hasEnd && (!taken || (activity.startTime != Date() && activity.endTime != Date()));
+    const auto content = hasTimes ? LineContent::Slot : LineContent::SlotWithoutTimes;
     mStage = ".text";
     if (!taken) {
+        NoteReached(attempt, content);
         return false;
     }
 
@@ -140,6 +179,7 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
     mNewLastCount = endCount;
     attempt.Say(" new Last count: " + std::to_string(mNewLastCount));
     ++mUncommittedLines;
+    NoteReached(attempt, content);
     if (!attempt([&] { mPlatform->importJournal->Loaded(day.key, { mNewLastCount, mLinesRead }); })) {
         GoBackToCommitted(attempt, day.key);
         return true;
@@ -151,6 +191,15 @@ bool TempodialDataHandler::ParseLine(const std::string& line, const DayFile& day
         cancelled = attempt.Get([&] { return progress->IsCancelled(); }) || mTerminated;
     }
     return cancelled;
+}
+
+void TempodialDataHandler::NoteReached(const Attempt& attempt, LineContent content)
+{
+    const bool isUnended = mLineKind == LineKind::Unended;
+    if (!mLineIsKnown && !(isUnended && content == LineContent::NoDocument)) {
+        const bool isReadable = isUnended || content == LineContent::Slot;
+        attempt([&] { mPlatform->importJournal->Reached(mLinesRead + HeadingLines, isReadable); });
+    }
 }
 
 bool TempodialDataHandler::Continue(const Attempt& attempt, Date expectedEnd, const SlotActivity& activity)

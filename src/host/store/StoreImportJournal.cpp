@@ -19,6 +19,7 @@ constexpr std::chrono::seconds LongestHold { 2 };
 
 StoreImportJournal::StoreImportJournal(const Ref<Mailbox>& mailbox)
     : mStore(mailbox->Store())
+    , mMemory(mailbox)
 {
 }
 
@@ -29,6 +30,7 @@ StoreImportJournal::~StoreImportJournal()
 
 void StoreImportJournal::Begin()
 {
+    mUnread.clear();
     mStore->Database().Recover();
     mStore->SetCommit([this] { Commit(); });
     if (mStore->Database().IsHolding()) {
@@ -71,6 +73,7 @@ void StoreImportJournal::HistorySaved()
 {
     mPositions.clear();
     Query(mStore->Database(), "DELETE FROM import_position").Run();
+    mMemory.ForgetOldDays();
     if (mStore->Database().IsHolding()) {
         Commit();
     }
@@ -83,6 +86,21 @@ void StoreImportJournal::End()
     } catch (...) {
         mStore->Database().Recover();
         throw;
+    }
+}
+
+std::int32_t StoreImportJournal::BeginDay(const std::string& dayKey, std::int32_t lastCount)
+{
+    mDay = dayKey;
+    const auto firstCount = mMemory.BeginDay(dayKey, lastCount);
+    return mRemembers ? firstCount : lastCount;
+}
+
+void StoreImportJournal::Reached(std::int64_t number, bool isReadable)
+{
+    mMemory.Reached();
+    if (!isReadable) {
+        mUnread.push_back({ mDay, number });
     }
 }
 
@@ -99,6 +117,7 @@ bool StoreImportJournal::Keep()
             .Bind(position.lines)
             .Run();
     }
+    mMemory.Keep();
     mStore->Database().CommitHeld();
     mStore->Committed();
     return true;
@@ -107,6 +126,7 @@ bool StoreImportJournal::Keep()
 void StoreImportJournal::Hold()
 {
     mPositions.clear();
+    mMemory.Discard();
     mLines = 0;
     mLastCommit = std::chrono::steady_clock::now();
     mStore->Database().Hold();

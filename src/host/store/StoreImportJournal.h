@@ -1,12 +1,14 @@
 #pragma once
 
 #include "base/Ref.h"
+#include "host/store/LineMemory.h"
 #include "platform/system/ImportJournal.h"
 
 #include <chrono>
 #include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -14,10 +16,18 @@ class Mailbox;
 class MailboxStore;
 
 /// The import journal of a mailbox: while it is begun, writes are committed every two seconds or 2,000 lines, and when
-/// asked. A failure undoes what was written since the last commit, and from then on every write fails until `End`.
+/// asked. A failure undoes what was written since the last commit, and from then on every write fails until `End`. The
+/// lines that were reached are kept in any case, and gone by when it is told so.
 class StoreImportJournal final : public ImportJournal
 {
 public:
+    /// A line of a tracker's file that couldn't be read; the heading is line 1.
+    struct UnreadLine
+    {
+        std::string day;
+        std::int64_t number = 0;
+    };
+
     explicit StoreImportJournal(const Ref<Mailbox>& mailbox);
     ~StoreImportJournal() override;
     StoreImportJournal(const StoreImportJournal&) = delete;
@@ -30,6 +40,16 @@ public:
     std::optional<Position> Committed(const std::string& dayKey) override;
     void HistorySaved() override;
     void End() override;
+    bool Remembers() override { return mRemembers; }
+    void ForgetLines() override { mMemory.ForgetLines(); }
+    std::int32_t BeginDay(const std::string& dayKey, std::int32_t lastCount) override;
+    bool IsKnown(const std::string& line) override { return mMemory.IsKnown(line); }
+    void Reached(std::int64_t number, bool isReadable) override;
+
+    /// Lets imports go by the lines that were reached, or by the history alone, as they do at first.
+    void SetRemembers(bool remembers) { mRemembers = remembers; }
+    /// The lines that couldn't be read of those that the last sync reached first.
+    const std::vector<UnreadLine>& Unread() const { return mUnread; }
 
 private:
     /// Commits with the positions and ends the holding; false when nothing was held.
@@ -37,6 +57,10 @@ private:
     void Hold();
 
     Ref<MailboxStore> mStore;
+    LineMemory mMemory;
+    bool mRemembers = false;
+    std::string mDay;
+    std::vector<UnreadLine> mUnread;
     std::map<std::string, Position> mPositions;
     std::int32_t mLines = 0;
     std::chrono::steady_clock::time_point mLastCommit;

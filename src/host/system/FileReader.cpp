@@ -44,7 +44,9 @@ std::string FileReader::ReadLine()
     if (isEnded && line.ends_with('\r')) {
         line.pop_back();
     }
+    mLastLine = isEnded ? LineKind::Whole : LineKind::Unended;
     if (isTooLong || line.size() > LongestLine) {
+        mLastLine = isEnded ? LineKind::TooLong : LineKind::Unended;
         return {};
     }
     return DecodedLine(std::move(line));

@@ -19,6 +19,7 @@ public:
 
     /// A line of more than 1 MiB is given as an empty one.
     std::string ReadLine() override;
+    LineKind LastLine() const override { return mLastLine; }
     /// More than 64 MiB fail (7).
     std::string ReadAll() override;
     void Write(const std::string& text) override;
@@ -33,6 +34,7 @@ private:
     std::unique_ptr<char[]> mBuffer;
     std::size_t mNext = 0;
     std::size_t mEnd = 0;
+    LineKind mLastLine = LineKind::Whole;
 };
 
 }

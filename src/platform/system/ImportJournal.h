@@ -6,8 +6,8 @@
 
 namespace tempodial {
 
-/// Makes an import exactly-once: what the import writes and how far it has come are committed together. Where the
-/// mailbox can't do that, as on Outlook, it does nothing.
+/// Makes an import exactly-once: what the import writes, how far it has come and which lines it has reached are
+/// committed together. Where the mailbox can't do that, as on Outlook, it does nothing.
 class ImportJournal
 {
 public:
@@ -36,6 +36,21 @@ public:
     virtual void HistorySaved() = 0;
     /// The sync ends: writes are durable one by one again. What wasn't committed is committed.
     virtual void End() = 0;
+
+    /// True when imports go by the lines that were reached, and stop at what they can't read; false when they go by
+    /// the history alone.
+    virtual bool Remembers() = 0;
+    /// There is no history: the lines of all days are forgotten, but for those that a sync has committed which didn't
+    /// come to write it.
+    virtual void ForgetLines() = 0;
+    /// A day's file is read from its beginning. Answers the last count to go by for lines that weren't reached yet: the
+    /// one given, or the one that was given when the first line of this day was reached.
+    virtual std::int32_t BeginDay(const std::string& dayKey, std::int32_t lastCount) = 0;
+    /// Takes the next line of that file; true when it was reached before, equal lines being told apart by their number.
+    virtual bool IsKnown(const std::string& line) = 0;
+    /// The line that was asked for last, which isn't known, is dealt with; its number counts from 1. It is remembered
+    /// with the next commit.
+    virtual void Reached(std::int64_t number, bool isReadable) = 0;
 };
 
 }

@@ -4,6 +4,10 @@
 
 namespace tempodial {
 
+/// What a line of a text file is that was read: all of it, one at the end of the file that has no line end yet, or one
+/// that is too long to be given.
+enum class LineKind { Whole, Unended, TooLong };
+
 /// A text file opened for reading, writing or appending; it is closed with its last reference at the latest.
 class TextStream
 {
@@ -12,6 +16,8 @@ public:
 
     /// The text up to the next line end, without it; past the end fails (62), on a stream for writing (54).
     virtual std::string ReadLine() = 0;
+    /// What the line read last is, as far as that is known.
+    virtual LineKind LastLine() const { return LineKind::Whole; }
     /// The rest of the text; at the end, so of an empty file, fails (62), on a stream for writing (54).
     virtual std::string ReadAll() = 0;
     /// Writes a text as it is; fails on a stream for reading (54) and when the disk refuses (61, 57).

@@ -188,6 +188,27 @@ TEST_F(HostTextStreamTest, ReadLine_LongestLine_IsWholeAndALongerOneEmpty)
     EXPECT_EQ(FailureNumber([&] { stream->ReadLine(); }), 62);
 }
 
+TEST_F(HostTextStreamTest, LastLine_LinesOfEachKind_AreToldApart)
+{
+    const std::size_t tooLong = 1048577;
+    const auto stream = Reading("a\r\n\n" + std::string(tooLong, 'x') + "\nb\r");
+    const auto next = [&] {
+        stream->ReadLine();
+        return stream->LastLine();
+    };
+    EXPECT_EQ(next(), LineKind::Whole);
+    EXPECT_EQ(next(), LineKind::Whole);
+    EXPECT_EQ(next(), LineKind::TooLong);
+    EXPECT_EQ(next(), LineKind::Unended);
+}
+
+TEST_F(HostTextStreamTest, LastLine_TooLongWithoutItsEnd_IsUnended)
+{
+    const auto stream = Reading(std::string(3000000, 'x'));
+    stream->ReadLine();
+    EXPECT_EQ(stream->LastLine(), LineKind::Unended);
+}
+
 TEST_F(HostTextStreamTest, ReadLine_NotUtf8_IsReadAsWindows1252)
 {
     const auto stream = Reading("M\xFCller \x80 \x93x\x94 \x81\x8D\x8F\x90\x9D\r\nM\xC3\xBCller \xE2\x82\xAC\r\n\xC3");

@@ -1,0 +1,114 @@
+#include "host/store/LineMemory.h"
+
+#include "host/store/Mailbox.h"
+#include "host/store/MailboxDatabase.h"
+#include "host/store/MailboxStore.h"
+#include "host/store/Query.h"
+
+#include <string_view>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::size_t HashSize = 8;
+constexpr unsigned int ByteBits = 8;
+constexpr unsigned int LastByte = 0xff;
+
+/// FNV-1a: it stays the same wherever a mailbox is opened.
+std::uint64_t HashOf(std::string_view line)
+{
+    constexpr std::uint64_t offset = 0xcbf29ce484222325;
+    constexpr std::uint64_t prime = 0x100000001b3;
+    auto hash = offset;
+    for (const char character : line) {
+        hash = (hash ^ static_cast<unsigned char>(character)) * prime;
+    }
+    return hash;
+}
+
+std::uint64_t HashAt(std::string_view bytes)
+{
+    std::uint64_t hash = 0;
+    for (const char byte : bytes.substr(0, HashSize)) {
+        hash = hash << ByteBits | static_cast<unsigned char>(byte);
+    }
+    return hash;
+}
+
+void Append(std::string& bytes, std::uint64_t hash)
+{
+    for (auto left = HashSize; left > 0; --left) {
+        bytes += static_cast<char>(hash >> (left - 1) * ByteBits & LastByte);
+    }
+}
+
+}
+
+LineMemory::LineMemory(const Ref<Mailbox>& mailbox)
+    : mStore(mailbox->Store())
+{
+}
+
+void LineMemory::ForgetLines()
+{
+    Query(mStore->Database(), "DELETE FROM import_line WHERE NOT EXISTS (SELECT 1 FROM import_position)").Run();
+}
+
+void LineMemory::ForgetOldDays()
+{
+    // By the days themselves and not by the clock, which may be wrong for a run.
+    Query(mStore->Database(),
+        "DELETE FROM import_line WHERE day < (SELECT min(day) FROM (SELECT DISTINCT day FROM import_line "
+        "ORDER BY day DESC LIMIT 60))")
+        .Run();
+}
+
+std::int32_t LineMemory::BeginDay(const std::string& dayKey, std::int32_t lastCount)
+{
+    Keep();
+    mDay = dayKey;
+    mLastCount = lastCount;
+    mKnown.clear();
+    Query query(mStore->Database(), "SELECT last_count, hashes FROM import_line WHERE day = ?");
+    query.Bind(dayKey);
+    while (query.Step()) {
+        mLastCount = static_cast<std::int32_t>(query.Int(0));
+        const auto hashes = query.Text(1);
+        for (std::string_view rest(hashes); rest.size() >= HashSize; rest.remove_prefix(HashSize)) {
+            ++mKnown[HashAt(rest)];
+        }
+    }
+    return mLastCount;
+}
+
+bool LineMemory::IsKnown(const std::string& line)
+{
+    mLine = HashOf(line);
+    const auto known = mKnown.find(mLine);
+    if (known == mKnown.end() || known->second == 0) {
+        return false;
+    }
+    --known->second;
+    return true;
+}
+
+void LineMemory::Reached()
+{
+    Append(mReached, mLine);
+}
+
+void LineMemory::Keep()
+{
+    if (mReached.empty()) {
+        return;
+    }
+    Query(mStore->Database(), "INSERT INTO import_line (day, last_count, hashes) VALUES (?, ?, ?)")
+        .Bind(mDay)
+        .Bind(std::int64_t { mLastCount })
+        .BindBytes(mReached)
+        .Run();
+    mReached.clear();
+}
+
+}

@@ -1,0 +1,73 @@
+#include "session/KeepingFileSystem.h"
+
+#include "base/Failure.h"
+#include "base/Text.h"
+#include "host/files/PathOperations.h"
+#include "host/store/LineMemory.h"
+#include "session/ProductFacts.h"
+#include "session/TrackerDay.h"
+
+#include <utility>
+
+namespace tempodial {
+
+KeepingFileSystem::KeepingFileSystem(std::string temporaryFolder, Ref<Mailbox> mailbox)
+    : HostFileSystem(std::move(temporaryFolder))
+    , mMailbox(std::move(mailbox))
+{
+}
+
+void KeepingFileSystem::DeleteFile(const std::string& path, bool force)
+{
+    const NativePath native(path);
+    const auto status = StatusAt(native, Links::Taken);
+    const auto dayKey = TrackerDay(native.Name());
+    // By force goes what was imported just now; what is read-only stays in any case.
+    const bool isInQuestion
+        = !force && !dayKey.empty() && status && status->kind == FileStatus::Kind::File && status->isWritable;
+    if (isInQuestion && !WasReadWhole(path, dayKey)) {
+        Keep(path);
+    } else {
+        HostFileSystem::DeleteFile(path, force);
+    }
+}
+
+bool KeepingFileSystem::WasReadWhole(const std::string& path, const std::string& dayKey)
+{
+    LineMemory memory(mMailbox);
+    bool hasLines = false;
+    try {
+        memory.BeginDay(dayKey, 0);
+        const auto file = OpenTextFile(path, OpenMode::Reading, false);
+        file->ReadLine();
+        for (;;) {
+            const auto line = file->ReadLine();
+            const bool isBlank = IsBlank(line) && file->LastLine() != LineKind::TooLong;
+            if (!isBlank && !memory.IsKnown(line)) {
+                return false;
+            }
+            hasLines = hasLines || !isBlank;
+        }
+    } catch (const Failure& failure) {
+        // A file without lines may be one whose line ends nobody knows.
+        return hasLines && failure.Is(Error::InputPastEnd);
+    }
+}
+
+void KeepingFileSystem::Keep(const std::string& path)
+{
+    const NativePath native(path);
+    const auto folder = BuildPath(native.Folder(), KeptFolderName);
+    if (!FolderExists(folder)) {
+        CreateFolder(folder);
+    }
+    const auto first = BuildPath(folder, native.Name());
+    auto target = first;
+    for (int next = 2; StatusAt(NativePath(target), Links::Taken); ++next) {
+        target = first + "." + std::to_string(next);
+    }
+    MoveFile(path, target);
+    mKept.push_back(target);
+}
+
+}
