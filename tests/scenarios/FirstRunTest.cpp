@@ -25,7 +25,7 @@ TEST_F(FirstRunTest, Projects_KilledAnywhere_AreAllThereInTheNextRun)
     const auto expected = Json({ "projects" });
     ASSERT_EQ(expected.size(), 5U);
     int killed = 0;
-    for (std::int64_t call = 1; call <= whole->systemCalls; call += ShortOrLong(61, 1)) {
+    for (std::int64_t call = 1; call <= whole->systemCalls; call += ShortOrLong(23, 1)) {
         SCOPED_TRACE("killed at system call " + std::to_string(call) + " of " + std::to_string(whole->systemCalls));
         std::filesystem::remove_all(mProfile);
         killed += RunTempodialKilledAt(command, call)->status == 128 + 9 ? 1 : 0;
