@@ -1,14 +1,15 @@
 #include "session/Profile.h"
 
+#include "host/files/ProgramFolder.h"
 #include "host/store/MailboxError.h"
 #include "host/system/BitmapLoader.h"
 #include "host/system/ExpatXml.h"
 #include "host/system/HostFileSystem.h"
 #include "host/system/HostShell.h"
 #include "host/system/IcuLocaleFormats.h"
+#include "portable/InstalledRegistry.h"
 #include "session/MailboxEventPump.h"
 #include "session/ProfileError.h"
-#include "session/ProgramRegistry.h"
 
 namespace tempodial {
 
@@ -33,7 +34,8 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
         throw ProfileError(error.what());
     }
     mPlatform.fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
-    mPlatform.registry = MakeRef<ProgramRegistry>(mRegistry, ProgramRegistry::FolderOfThisProgram());
+    mPlatform.registry = MakeRef<InstalledRegistry>(
+        mRegistry, InstalledRegistry::Place { ProductKey, InstallFolderValue }, InProgramFolder("share/tempodial"));
     mPlatform.shell = MakeRef<HostShell>();
     mPlatform.clock = mClock;
     mPlatform.pictures = MakeRef<BitmapLoader>();

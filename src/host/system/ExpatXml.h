@@ -1,46 +1,20 @@
 #pragma once
 
-#include "host/system/XmlParser.h"
-#include "platform/system/XmlDocument.h"
+#include "host/system/ExpatParser.h"
+#include "portable/TreeXml.h"
 
 #include <memory>
-#include <string>
-#include <string_view>
 
 namespace tempodial {
 
-/// Makes documents that are read by expat and held in small trees.
-class ExpatXmlFactory : public XmlFactory
+/// Makes documents that are read by expat.
+class ExpatXmlFactory final : public TreeXmlFactory
 {
 public:
-    Ref<XmlDocument> NewDocument() override;
-
-private:
-    std::shared_ptr<XmlParser> mParser = std::make_shared<XmlParser>();
-};
-
-/// An XML document. Comments and processing instructions are dropped when it is changed; an element that was selected
-/// stays as it was when the document takes another text.
-class ExpatXmlDocument : public XmlDocument
-{
-public:
-    explicit ExpatXmlDocument(std::shared_ptr<XmlParser> parser);
-
-    Ref<XmlNode> SelectSingleNode(std::string_view path) override;
-    std::string Text() override;
-    /// Fails (438): a document has a root, not a text.
-    void SetText(const std::string& text) override;
-    bool LoadXML(const std::string& text) override;
-    bool IsEmpty() const override;
-    /// The text that was loaded, without a byte-order mark, as long as nothing was changed.
-    std::string Xml() override;
-
-private:
-    struct Content;
-    class Node;
-
-    std::shared_ptr<XmlParser> mParser;
-    std::shared_ptr<Content> mContent;
+    ExpatXmlFactory()
+        : TreeXmlFactory(std::make_shared<ExpatParser>())
+    {
+    }
 };
 
 }

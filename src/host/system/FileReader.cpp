@@ -1,6 +1,6 @@
 #include "host/system/FileReader.h"
 
-#include "host/files/TextEncoding.h"
+#include "portable/TextEncoding.h"
 
 #include <cstring>
 #include <utility>

@@ -1,7 +1,6 @@
 #include "host/system/IcuLocaleFormats.h"
 
 #include "base/Failure.h"
-#include "base/Text.h"
 
 #include <unicode/calendar.h>
 #include <unicode/dtfmtsym.h>
@@ -15,27 +14,11 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
-#include <optional>
 #include <utility>
 
 namespace tempodial {
 
 namespace {
-
-constexpr int HoursOfHalfDay = 12;
-/// Understood in every locale.
-const std::array<std::string, 2> PlainDayHalves = { "AM", "PM" };
-
-/// The blanks that don't break and the narrow ones become plain blanks, as people type them.
-std::string WithPlainBlanks(std::string text)
-{
-    for (const std::string_view blank : { "\u00A0", "\u202F", "\u2009" }) {
-        if (text.find(blank) != std::string::npos) {
-            text = Replace(text, blank, " ");
-        }
-    }
-    return text;
-}
 
 std::string TextOf(const icu::UnicodeString& string)
 {
@@ -121,71 +104,33 @@ std::string TimePatternOf(const icu::Locale& locale, icu::DateFormat::EStyle sty
     return PatternOf(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createTimeInstance(style, locale)));
 }
 
-/// The day of the fields; nothing when there is no such day.
-std::optional<Date> DayOf(const DateFields& fields)
+/// The locale of a name, with the calendar and the digits that the product writes; an unknown one fails (5).
+icu::Locale LocaleOf(const std::string& name)
 {
-    if (fields.month < 1 || fields.month > 12 || fields.day < 1 || fields.day > 31) {
-        return std::nullopt;
+    if (!IcuLocaleFormats::IsKnown(name)) {
+        throw Failure(Error::InvalidCall);
     }
-    const auto day = Date::FromYearMonthDay(fields.year, fields.month, fields.day);
-    const bool isWeekday = fields.weekday < 0 || fields.weekday == day.Weekday();
-    return isWeekday && day.ToParts().day == fields.day ? std::optional(day) : std::nullopt;
+    auto locale = icu::Locale::createFromName(PlainName(name).c_str());
+    auto status = U_ZERO_ERROR;
+    locale.setKeywordValue("calendar", "gregorian", status);
+    locale.setKeywordValue("numbers", "latn", status);
+    CheckIcu(status);
+    return locale;
 }
 
-/// Seconds from midnight to the fields' time; nothing when there is no such time.
-std::optional<std::int64_t> SecondsOf(const DateFields& fields)
+LocalePatterns PatternsOf(const icu::Locale& locale)
 {
-    if (fields.hour < 0 || fields.hour > 23 || fields.minute < 0 || fields.minute > 59 || fields.second > 59) {
-        return std::nullopt;
-    }
-    auto hour = fields.hour;
-    // An hour that can only be one of 24 doesn't heed the half of the day.
-    if (fields.dayHalf == 0 && hour == HoursOfHalfDay) {
-        hour = 0;
-    } else if (fields.dayHalf == 1 && hour < HoursOfHalfDay) {
-        hour += HoursOfHalfDay;
-    }
-    return hour * 3600 + fields.minute * 60 + std::max(fields.second, 0);
-}
-
-std::string_view WithoutBlanks(std::string_view text)
-{
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(' ') + 1 - first);
+    return { .names = NamesOf(locale),
+        .shortDate = WithWholeYears(DatePatternOf(locale, icu::DateFormat::kShort)),
+        .longDate = DatePatternOf(locale, icu::DateFormat::kFull),
+        .shortTime = TimePatternOf(locale, icu::DateFormat::kShort),
+        .longTime = TimePatternOf(locale, icu::DateFormat::kMedium) };
 }
 
 }
-
-struct IcuLocaleFormats::Source
-{
-    explicit Source(const std::string& localeName)
-    {
-        if (!IsKnown(localeName)) {
-            throw Failure(Error::InvalidCall);
-        }
-        locale = icu::Locale::createFromName(PlainName(localeName).c_str());
-        auto status = U_ZERO_ERROR;
-        locale.setKeywordValue("calendar", "gregorian", status);
-        locale.setKeywordValue("numbers", "latn", status);
-        CheckIcu(status);
-    }
-
-    icu::Locale locale;
-};
 
 IcuLocaleFormats::IcuLocaleFormats(const std::string& localeName)
-    : IcuLocaleFormats(Source(localeName))
-{
-}
-
-IcuLocaleFormats::IcuLocaleFormats(const Source& source)
-    : mNames(NamesOf(source.locale))
-    , mShortDate(WithWholeYears(DatePatternOf(source.locale, icu::DateFormat::kShort)), mNames)
-    , mLongDate(DatePatternOf(source.locale, icu::DateFormat::kFull), mNames)
-    , mMediumDate("dd-LLL-yy", mNames)
-    , mShortTime(TimePatternOf(source.locale, icu::DateFormat::kShort), mNames)
-    , mLongTime(TimePatternOf(source.locale, icu::DateFormat::kMedium), mNames)
+    : PatternFormats(PatternsOf(LocaleOf(localeName)))
 {
 }
 
@@ -221,74 +166,9 @@ std::string IcuLocaleFormats::FromEnvironment()
 int IcuLocaleFormats::FirstDayOfWeek(const std::string& localeName)
 {
     auto status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(Source(localeName).locale, status));
+    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(LocaleOf(localeName), status));
     CheckIcu(status);
     return calendar->getFirstDayOfWeek();
-}
-
-std::string IcuLocaleFormats::MonthAbbreviation(int month)
-{
-    if (month < 1 || month > 12) {
-        throw Failure(Error::InvalidCall);
-    }
-    return mNames.loneShortMonths[static_cast<std::size_t>(month) - 1];
-}
-
-Date IcuLocaleFormats::Parse(const std::string& text)
-{
-    const auto plain = WithPlainBlanks(text);
-    const auto whole = WithoutBlanks(plain);
-    // Where times are written with full stops, 01.02.03 is one: dates have years of four digits.
-    if (const auto seconds = SecondOfDay(whole)) {
-        return Date().AddSeconds(*seconds);
-    }
-    for (const auto* pattern : { &mShortDate, &mLongDate, &mMediumDate }) {
-        auto rest = whole;
-        DateFields fields;
-        const auto day = pattern->TakeOff(rest, fields) ? DayOf(fields) : std::nullopt;
-        if (day && rest.empty()) {
-            return *day;
-        }
-        const auto seconds = day && rest.starts_with(' ') ? SecondOfDay(WithoutBlanks(rest)) : std::nullopt;
-        if (seconds) {
-            return day->AddSeconds(*seconds);
-        }
-    }
-    throw Failure(Error::TypeMismatch);
-}
-
-std::optional<std::int64_t> IcuLocaleFormats::SecondOfDay(std::string_view text) const
-{
-    for (const auto* pattern : { &mLongTime, &mShortTime }) {
-        auto rest = text;
-        DateFields fields;
-        if (pattern->TakeOff(rest, fields) && rest.empty()) {
-            return SecondsOf(fields);
-        }
-    }
-    DateFields fields;
-    fields.hour = TakeOffNumber(text, 2);
-    if (TakeOffLiteral(text, ":")) {
-        fields.minute = TakeOffNumber(text, 2);
-        if (fields.minute >= 0 && TakeOffLiteral(text, ":")) {
-            fields.second = TakeOffNumber(text, 2);
-            if (fields.second < 0) {
-                return std::nullopt;
-            }
-        }
-    }
-    text = WithoutBlanks(text);
-    if (!text.empty()) {
-        fields.dayHalf = TakeOffName(text, mNames.dayHalves.data(), mNames.dayHalves.size());
-        if (fields.dayHalf < 0) {
-            fields.dayHalf = TakeOffName(text, PlainDayHalves.data(), PlainDayHalves.size());
-        }
-        // An hour alone is a time only with the half of the day behind it.
-        if (fields.dayHalf >= 0 && fields.minute < 0) {
-            fields.minute = 0;
-        }
-    }
-    return text.empty() ? SecondsOf(fields) : std::nullopt;
 }
 
 }

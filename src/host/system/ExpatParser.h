@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/system/XmlTree.h"
+#include "portable/XmlParser.h"
 
 #include <expat.h>
 
@@ -10,17 +10,12 @@
 
 namespace tempodial {
 
-/// Reads texts into trees, one parser of expat serving them all. A document type declaration is refused, and so is a
-/// document that is nested more than 64 deep or longer than 16 MiB.
-class XmlParser
+/// Reads texts into trees, one parser of expat serving them all.
+class ExpatParser final : public XmlParser
 {
 public:
     /// Fails (7) without memory.
-    XmlParser();
-
-    /// Reads a text of UTF-8, whatever encoding it says it has; false, and an empty tree, when it isn't well-formed.
-    /// Throws what the tree throws, and the tree is empty then, too.
-    bool Parse(std::string_view text, XmlTree& tree);
+    ExpatParser();
 
 private:
     struct Freeing
@@ -28,6 +23,7 @@ private:
         void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
     };
 
+    bool Read(std::string_view text, XmlTree& tree) override;
     /// Does the work of a handler; what it throws ends the parse, since nothing may pass through the frames of C.
     template <class Work> static void Guarded(void* self, Work&& work);
     static void StartElement(void* self, const XML_Char* name, const XML_Char** attributes);

@@ -1,4 +1,4 @@
-#include "host/system/XmlTree.h"
+#include "portable/XmlTree.h"
 
 namespace tempodial {
 

@@ -1,4 +1,4 @@
-#include "host/system/DatePattern.h"
+#include "portable/DatePattern.h"
 
 #include "base/Text.h"
 

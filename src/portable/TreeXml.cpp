@@ -1,4 +1,4 @@
-#include "host/system/ExpatXml.h"
+#include "portable/TreeXml.h"
 
 #include "base/Failure.h"
 #include "base/Utf8.h"
@@ -33,7 +33,7 @@ std::string_view DeclarationOf(std::string_view source)
 }
 
 /// What a document holds, together with the elements selected from it.
-struct ExpatXmlDocument::Content
+struct TreeXmlDocument::Content
 {
     std::string source;
     XmlTree tree;
@@ -41,7 +41,7 @@ struct ExpatXmlDocument::Content
 };
 
 /// An element of a document.
-class ExpatXmlDocument::Node : public XmlNode
+class TreeXmlDocument::Node : public XmlNode
 {
 public:
     Node(std::shared_ptr<Content> content, XmlTree::Index place)
@@ -76,33 +76,33 @@ private:
     XmlTree::Index mPlace;
 };
 
-Ref<XmlDocument> ExpatXmlFactory::NewDocument()
+Ref<XmlDocument> TreeXmlFactory::NewDocument()
 {
-    return MakeRef<ExpatXmlDocument>(mParser);
+    return MakeRef<TreeXmlDocument>(mParser);
 }
 
-ExpatXmlDocument::ExpatXmlDocument(std::shared_ptr<XmlParser> parser)
+TreeXmlDocument::TreeXmlDocument(std::shared_ptr<XmlParser> parser)
     : mParser(std::move(parser))
     , mContent(std::make_shared<Content>())
 {
 }
 
-Ref<XmlNode> ExpatXmlDocument::SelectSingleNode(std::string_view path)
+Ref<XmlNode> TreeXmlDocument::SelectSingleNode(std::string_view path)
 {
     return Node::Select(mContent, XmlTree::Document, path);
 }
 
-std::string ExpatXmlDocument::Text()
+std::string TreeXmlDocument::Text()
 {
     return mContent->tree.Text(XmlTree::Document);
 }
 
-void ExpatXmlDocument::SetText(const std::string&)
+void TreeXmlDocument::SetText(const std::string&)
 {
     throw Failure(Error::NotSupported);
 }
 
-bool ExpatXmlDocument::LoadXML(const std::string& text)
+bool TreeXmlDocument::LoadXML(const std::string& text)
 {
     if (mContent.use_count() > 1) {
         mContent = std::make_shared<Content>();
@@ -116,12 +116,12 @@ bool ExpatXmlDocument::LoadXML(const std::string& text)
     return true;
 }
 
-bool ExpatXmlDocument::IsEmpty() const
+bool TreeXmlDocument::IsEmpty() const
 {
     return mContent->tree.IsEmpty();
 }
 
-std::string ExpatXmlDocument::Xml()
+std::string TreeXmlDocument::Xml()
 {
     if (!mContent->isChanged) {
         return mContent->source;

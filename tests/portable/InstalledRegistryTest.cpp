@@ -1,8 +1,7 @@
-#include "session/ProgramRegistry.h"
+#include "portable/InstalledRegistry.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <map>
 #include <string>
 
@@ -31,7 +30,7 @@ private:
 
 }
 
-class ProgramRegistryTest : public testing::Test
+class InstalledRegistryTest : public testing::Test
 {
 protected:
     Variant Read(Hive hive, const std::string& key, const std::string& value)
@@ -39,34 +38,27 @@ protected:
         return mRegistry.Read(hive, key, value, RegistryAccess::Query);
     }
 
-    ProgramRegistry mRegistry { MakeRef<MapRegistry>(), "/usr/share/tempodial" };
+    InstalledRegistry mRegistry { MakeRef<MapRegistry>(), { Key, "Install Directory" }, "/usr/share/tempodial" };
 };
 
-TEST_F(ProgramRegistryTest, InstallFolderAbsent_IsTheProgramsOwn)
+TEST_F(InstalledRegistryTest, InstallFolderAbsent_IsTheProgramsOwn)
 {
     EXPECT_EQ(Read(Hive::LocalMachine, Key, "Install Directory"), Variant("/usr/share/tempodial"));
     EXPECT_EQ(Read(Hive::LocalMachine, R"(software\lindenfold\TEMPODIAL)", "install directory"),
         Variant("/usr/share/tempodial"));
 }
 
-TEST_F(ProgramRegistryTest, InstallFolderSet_IsThatOne)
+TEST_F(InstalledRegistryTest, InstallFolderSet_IsThatOne)
 {
     mRegistry.Write(Hive::LocalMachine, Key, "Install Directory", "/opt/templates");
     EXPECT_EQ(Read(Hive::LocalMachine, Key, "Install Directory"), Variant("/opt/templates"));
 }
 
-TEST_F(ProgramRegistryTest, OtherValues_AreNotAnswered)
+TEST_F(InstalledRegistryTest, OtherValues_AreNotAnswered)
 {
     EXPECT_TRUE(Read(Hive::CurrentUser, Key, "Install Directory").IsEmpty());
     EXPECT_TRUE(Read(Hive::LocalMachine, "Software\\Other", "Install Directory").IsEmpty());
     EXPECT_TRUE(Read(Hive::LocalMachine, Key, "CurrentVersion").IsEmpty());
-}
-
-TEST_F(ProgramRegistryTest, FolderOfThisProgram_LiesBesideItsOwn)
-{
-    const auto program = std::filesystem::read_symlink("/proc/self/exe");
-    EXPECT_EQ(
-        ProgramRegistry::FolderOfThisProgram(), (program.parent_path().parent_path() / "share" / "tempodial").string());
 }
 
 }

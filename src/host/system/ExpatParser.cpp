@@ -1,7 +1,6 @@
-#include "host/system/XmlParser.h"
+#include "host/system/ExpatParser.h"
 
 #include "base/Failure.h"
-#include "base/Utf8.h"
 
 #include <cstddef>
 #include <random>
@@ -9,22 +8,7 @@
 
 namespace tempodial {
 
-namespace {
-
-constexpr int DeepestElement = 64;
-constexpr std::size_t LongestDocument = std::size_t { 16 } << 20;
-
-/// True when a text begins as a document does. By other beginnings expat would know UTF-16, or a second byte-order
-/// mark.
-bool BeginsInUtf8(std::string_view text)
-{
-    constexpr std::string_view Beginnings = "< \t\r\n";
-    return text.size() > 1 && Beginnings.find(text[0]) != std::string_view::npos && text[1] != '\0';
-}
-
-}
-
-XmlParser::XmlParser()
+ExpatParser::ExpatParser()
     : mParser(XML_ParserCreate("UTF-8"))
     , mHashSalt(std::random_device()() | 1UL) // 0 would have the system asked for one at each document
 {
@@ -33,15 +17,8 @@ XmlParser::XmlParser()
     }
 }
 
-bool XmlParser::Parse(std::string_view text, XmlTree& tree)
+bool ExpatParser::Read(std::string_view text, XmlTree& tree)
 {
-    tree.Clear();
-    if (text.starts_with(Utf8ByteOrderMark)) {
-        text.remove_prefix(Utf8ByteOrderMark.size());
-    }
-    if (text.size() > LongestDocument || !BeginsInUtf8(text)) {
-        return false;
-    }
     auto* parser = mParser.get();
     XML_ParserReset(parser, "UTF-8");
     XML_SetHashSalt(parser, mHashSalt);
@@ -53,18 +30,15 @@ bool XmlParser::Parse(std::string_view text, XmlTree& tree)
     mPlace = XmlTree::Document;
     mDepth = 0;
     const bool isWellFormed = XML_Parse(parser, text.data(), static_cast<int>(text.size()), XML_TRUE) == XML_STATUS_OK;
-    if (!isWellFormed) {
-        tree.Clear();
-    }
     if (mThrown) {
         std::rethrow_exception(std::exchange(mThrown, nullptr));
     }
     return isWellFormed;
 }
 
-template <class Work> void XmlParser::Guarded(void* self, Work&& work)
+template <class Work> void ExpatParser::Guarded(void* self, Work&& work)
 {
-    auto& parser = *static_cast<XmlParser*>(self);
+    auto& parser = *static_cast<ExpatParser*>(self);
     // A parser that was stopped may call once more, for the end of an empty element.
     if (parser.mThrown) {
         return;
@@ -77,9 +51,9 @@ template <class Work> void XmlParser::Guarded(void* self, Work&& work)
     }
 }
 
-void XmlParser::StartElement(void* self, const XML_Char* name, const XML_Char** attributes)
+void ExpatParser::StartElement(void* self, const XML_Char* name, const XML_Char** attributes)
 {
-    Guarded(self, [&](XmlParser& parser) {
+    Guarded(self, [&](ExpatParser& parser) {
         if (++parser.mDepth > DeepestElement) {
             XML_StopParser(parser.mParser.get(), XML_FALSE);
             return;
@@ -91,24 +65,24 @@ void XmlParser::StartElement(void* self, const XML_Char* name, const XML_Char** 
     });
 }
 
-void XmlParser::EndElement(void* self, const XML_Char*)
+void ExpatParser::EndElement(void* self, const XML_Char*)
 {
-    Guarded(self, [](XmlParser& parser) {
+    Guarded(self, [](ExpatParser& parser) {
         --parser.mDepth;
         parser.mPlace = parser.mTree->Parent(parser.mPlace);
     });
 }
 
-void XmlParser::CharacterData(void* self, const XML_Char* text, int length)
+void ExpatParser::CharacterData(void* self, const XML_Char* text, int length)
 {
-    Guarded(self, [&](XmlParser& parser) {
+    Guarded(self, [&](ExpatParser& parser) {
         parser.mTree->AddText(parser.mPlace, { text, static_cast<std::size_t>(length) });
     });
 }
 
-void XmlParser::StartDoctype(void* self, const XML_Char*, const XML_Char*, const XML_Char*, int)
+void ExpatParser::StartDoctype(void* self, const XML_Char*, const XML_Char*, const XML_Char*, int)
 {
-    XML_StopParser(static_cast<XmlParser*>(self)->mParser.get(), XML_FALSE);
+    XML_StopParser(static_cast<ExpatParser*>(self)->mParser.get(), XML_FALSE);
 }
 
 }

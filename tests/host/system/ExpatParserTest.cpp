@@ -1,4 +1,4 @@
-#include "host/system/XmlParser.h"
+#include "host/system/ExpatParser.h"
 
 #include <gtest/gtest.h>
 
@@ -43,7 +43,7 @@ void operator delete(void* block, std::size_t) noexcept
 
 namespace tempodial {
 
-TEST(XmlParserTest, Parse_MemoryEndsAnywhere_ThrowsAndReadsTheNextText)
+TEST(ExpatParserTest, Parse_MemoryEndsAnywhere_ThrowsAndReadsTheNextText)
 {
     constexpr int Most = 1000;
     const std::string content(2000, 'x');
@@ -51,7 +51,7 @@ TEST(XmlParserTest, Parse_MemoryEndsAnywhere_ThrowsAndReadsTheNextText)
     bool isRead = false;
     int failures = 0;
     for (int blocks = 0; blocks < Most && !isRead; ++blocks) {
-        XmlParser parser;
+        ExpatParser parser;
         XmlTree tree;
         blocksLeft = blocks;
         try {

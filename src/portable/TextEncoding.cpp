@@ -1,4 +1,4 @@
-#include "host/files/TextEncoding.h"
+#include "portable/TextEncoding.h"
 
 #include "base/Utf8.h"
 
