@@ -3,6 +3,7 @@
 #include "base/Subscription.h"
 
 #include <functional>
+#include <utility>
 
 namespace tempodial {
 
@@ -11,6 +12,10 @@ struct FormModelEvents
 {
     /// Something that is seen may have changed, or is to be drawn at once.
     std::function<void()> Changed;
+    /// The form is to stand in front of other windows.
+    std::function<void()> BroughtToFront;
+    /// The form is gone for good.
+    std::function<void()> Ended;
 };
 
 /// What a form shares with its controls.
@@ -24,7 +29,7 @@ public:
         Changed();
     }
     /// The form is gone, so that a control of it which is still held can't be seen any more.
-    void End() noexcept { mVisible = false; }
+    void End() noexcept;
 
     /// The option button chosen by its address, null for none.
     const void* ChosenOption() const { return mChosenOption; }
@@ -32,6 +37,7 @@ public:
 
     /// Tells whoever draws the form.
     void Changed() const { mEvents.Raise(&FormModelEvents::Changed); }
+    void BringToFront() const { mEvents.Raise(&FormModelEvents::BroughtToFront); }
     Subscription Subscribe(FormModelEvents events) { return mEvents.Subscribe(std::move(events)); }
 
 private:
@@ -39,5 +45,15 @@ private:
     const void* mChosenOption = nullptr;
     EventSource<FormModelEvents> mEvents;
 };
+
+inline void FormFrame::End() noexcept
+{
+    mVisible = false;
+    try {
+        mEvents.Raise(&FormModelEvents::Ended);
+    } catch (...) { // NOLINT(bugprone-empty-catch)
+        // Whoever draws the form can't keep it.
+    }
+}
 
 }

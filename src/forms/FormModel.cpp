@@ -63,6 +63,9 @@ void FormModel::SetCaption(const std::string& caption)
 
 void FormModel::Show()
 {
+    if (mFrame->Visible()) {
+        BringToFront();
+    }
     mFrame->SetVisible(true);
 }
 
@@ -82,7 +85,7 @@ void FormModel::Unload()
 
 void FormModel::BringToFront()
 {
-    mFrame->Changed();
+    mFrame->BringToFront();
 }
 
 void FormModel::Refresh()

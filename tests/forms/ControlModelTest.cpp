@@ -225,7 +225,6 @@ TEST_F(ControlModelTest, Change_OfAnyControl_IsToldToWhoeverDrawsTheForm)
         [&] { mBar->SetValue(1); },
         [&] { mForm->SetCaption("x"); },
         [&] { mForm->Show(); },
-        [&] { mForm->BringToFront(); },
         [&] { mForm->Refresh(); },
         [&] { mForm->Hide(); },
     };
@@ -234,6 +233,43 @@ TEST_F(ControlModelTest, Change_OfAnyControl_IsToldToWhoeverDrawsTheForm)
         step();
         EXPECT_EQ(changes, before + 1);
     }
+}
+
+TEST_F(ControlModelTest, BringToFront_IsToldAsThat)
+{
+    int changes = 0;
+    int raised = 0;
+    const auto subscription
+        = mForm->SubscribeToChanges({ .Changed = [&] { ++changes; }, .BroughtToFront = [&] { ++raised; } });
+    mForm->BringToFront();
+    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(raised, 1);
+}
+
+TEST_F(ControlModelTest, Show_OfAFormOnTheScreen_BringsItToTheFront)
+{
+    int raised = 0;
+    const auto subscription = mForm->SubscribeToChanges({ .BroughtToFront = [&] { ++raised; } });
+    mForm->Hide();
+    mForm->Show();
+    EXPECT_EQ(raised, 0);
+    mForm->Show();
+    EXPECT_EQ(raised, 1);
+}
+
+TEST_F(ControlModelTest, EndOfTheForm_IsToldOnceAndNobodyCanStopIt)
+{
+    auto form = std::make_shared<FormModel>(FormDefinition { .className = "Short", .title = "t", .rows = {} }, 9);
+    int ends = 0;
+    const auto subscription = form->SubscribeToChanges({ .Ended = [&] {
+        ++ends;
+        throw Failure(Error::InvalidCall);
+    } });
+    form->Show();
+    form->Hide();
+    EXPECT_EQ(ends, 0);
+    form.reset();
+    EXPECT_EQ(ends, 1);
 }
 
 }

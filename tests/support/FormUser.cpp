@@ -118,10 +118,12 @@ bool FormUser::IsOn(const std::string& name) const
 std::vector<std::string> FormUser::Controls() const
 {
     constexpr std::array Kinds { "label", "button", "text", "combo", "check", "option", "progress" };
+    constexpr std::array Roles { "", "default ", "cancel " };
     std::vector<std::string> controls;
     for (const auto& row : Form()->Definition().rows) {
         for (const auto& control : row) {
-            controls.push_back(control.name + "|" + Kinds.at(static_cast<std::size_t>(control.kind)) + "|"
+            controls.push_back(control.name + "|" + Roles.at(static_cast<std::size_t>(control.role))
+                + Kinds.at(static_cast<std::size_t>(control.kind)) + (control.severalLines ? " of lines|" : "|")
                 + control.text + "|" + control.toolTip);
         }
     }

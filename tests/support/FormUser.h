@@ -39,7 +39,7 @@ public:
     std::vector<std::string> List(const std::string& name) const;
     /// True when the check box is ticked or the option button is chosen.
     bool IsOn(const std::string& name) const;
-    /// Each control in its order, as "name|kind|text|tool tip".
+    /// Each control in its order, as "name|role and kind|text|tool tip".
     std::vector<std::string> Controls() const;
 
 private:

@@ -20,7 +20,7 @@ FormDefinition AboutBoxDefinition()
             { { "Label1", Label,
                 "Warning: this program is protected by copyright law. It may be copied and passed on only as its "
                 "licence allows." } },
-            { { "OK", Button, "OK" } },
+            { { .name = "OK", .kind = Button, .text = "OK", .role = ButtonRole::Default } },
         } };
 }
 

@@ -21,10 +21,10 @@ FormDefinition DiagsDefinition()
         .rows = {
             { { "Label2", Label, "Description" } },
             { { "Label4", Label, "What did you e&xpect to happen?" } },
-            { { "ExpectedText", TextBox, "" } },
+            { { .name = "ExpectedText", .kind = TextBox, .text = "", .severalLines = true } },
             { { "Label7", Label, "For example, click my folder and see my activities" } },
             { { "Label5", Label, "What &actually happened?" } },
-            { { "ActualText", TextBox, "" } },
+            { { .name = "ActualText", .kind = TextBox, .text = "", .severalLines = true } },
             { { "Label9", Label, "For example, nothing happened" } },
             { { "Label1", Label, "Date" } },
             { { "Label6", Label, "&When did the problem occur?" } },
@@ -35,7 +35,8 @@ FormDefinition DiagsDefinition()
                 "To diagnose your problem, we need to collect information including email subjects and recipients.  "
                 "This information will be never be passed to anyone else and we will destroy it once your problem is "
                 "diagnosed. If you are happy for us to collect these diagnostics, select OK." } },
-            { { "OK", Button, "OK" }, { "Cancel", Button, "Cancel" } },
+            { { .name = "OK", .kind = Button, .text = "OK", .role = ButtonRole::Default },
+                { .name = "Cancel", .kind = Button, .text = "Cancel", .role = ButtonRole::Cancel } },
         } };
 }
 

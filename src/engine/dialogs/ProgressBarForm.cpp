@@ -14,7 +14,7 @@ FormDefinition ProgressBarDefinition()
         .rows = { { { .name = "Label1", .kind = ControlKind::Label, .text = "" } },
             { { .name = "Label2", .kind = ControlKind::Label, .text = "" } },
             { { .name = "ProgressBar1", .kind = ControlKind::ProgressBar, .text = "" } },
-            { { .name = "LoadCancel", .kind = ControlKind::Button, .text = "&Cancel" },
+            { { .name = "LoadCancel", .kind = ControlKind::Button, .text = "&Cancel", .role = ButtonRole::Cancel },
                 { .name = "CancelButton", .kind = ControlKind::Button, .text = "", .onForm = false } } } };
 }
 

@@ -43,7 +43,8 @@ FormDefinition ProjectSettingsDefinition()
                     "For example, to back apply this project to today's activities, enter 1. To back apply to today "
                     "and yesterday, enter 2."),
                 { "DaysLabel", Label, "days" } },
-            { { "SaveandCloseButton", Button, "OK" }, { "CancelButton", Button, "Cancel" },
+            { { .name = "SaveandCloseButton", .kind = Button, .text = "OK", .role = ButtonRole::Default },
+                { .name = "CancelButton", .kind = Button, .text = "Cancel", .role = ButtonRole::Cancel },
                 { "SaveButton", Button, "Apply" } },
         } };
 }

@@ -49,7 +49,8 @@ FormDefinition ReportDefinition()
             { { "Label1", Label, "&To:" }, { "YearComboTo", ComboBox, "" }, { "MonthComboTo", ComboBox, "" },
                 { "DayComboTo", ComboBox, "" } },
             { { "WorkDayOnly", CheckBox, "only include activities in your calendar &work week" } },
-            { { "Command1", Button, "OK" }, { "Command2", Button, "Cancel" } },
+            { { .name = "Command1", .kind = Button, .text = "OK", .role = ButtonRole::Default },
+                { .name = "Command2", .kind = Button, .text = "Cancel", .role = ButtonRole::Cancel } },
         } };
 }
 

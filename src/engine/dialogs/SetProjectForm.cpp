@@ -40,7 +40,8 @@ FormDefinition SetProjectDefinition()
                 { "ToTimeCombo", ComboBox, "" } },
             { { "Label6", Label, "Options" } },
             { { "OverwriteCheck", CheckBox, "&Overwrite any existing project " } },
-            { { "Command1", Button, "OK" }, { "Command2", Button, "Cancel" } },
+            { { .name = "Command1", .kind = Button, .text = "OK", .role = ButtonRole::Default },
+                { .name = "Command2", .kind = Button, .text = "Cancel", .role = ButtonRole::Cancel } },
         } };
 }
 

@@ -13,6 +13,9 @@ namespace tempodial {
 /// The kinds of controls that a form can hold.
 enum class ControlKind { Label, Button, TextBox, ComboBox, CheckBox, OptionButton, ProgressBar };
 
+/// What a button is to the keys of a form: Enter clicks the default one, Escape the one that cancels.
+enum class ButtonRole { None, Default, Cancel };
+
 /// One control of a form as data: its name, kind, and text or caption.
 struct ControlDefinition
 {
@@ -23,6 +26,10 @@ struct ControlDefinition
     bool onForm = true;
     /// What the form tells of the control when the pointer rests on it; empty for nothing.
     std::string toolTip {};
+    /// What a button is to the keys.
+    ButtonRole role = ButtonRole::None;
+    /// True for a text box that shows several lines, in which Enter begins another.
+    bool severalLines = false;
 };
 
 /// A form as data: its class, its title and its controls in their order, a row of the layout each.

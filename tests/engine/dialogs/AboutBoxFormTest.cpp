@@ -28,7 +28,7 @@ TEST_F(AboutBoxFormTest, Form_IsLaidOutInItsOrder)
         ElementsAre("About|label|Tempodial v1|", "Copyright|label|Copyright \u00a9 2026 the Tempodial developers|",
             "Label1|label|Warning: this program is protected by copyright law. It may be copied and passed on only as "
             "its licence allows.|",
-            "OK|button|OK|"));
+            "OK|default button|OK|"));
     EXPECT_FALSE(mUser.Sees());
 }
 

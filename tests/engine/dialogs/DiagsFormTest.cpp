@@ -96,6 +96,10 @@ TEST_F(DiagsFormTest, Form_IsLaidOutInItsOrder)
         }
     }
     EXPECT_EQ(rows, expected);
+    EXPECT_EQ(Get<ButtonModel>("OK")->Definition().role, ButtonRole::Default);
+    EXPECT_EQ(Get<ButtonModel>("Cancel")->Definition().role, ButtonRole::Cancel);
+    EXPECT_TRUE(Get<TextBoxModel>("ExpectedText")->Definition().severalLines);
+    EXPECT_TRUE(Get<TextBoxModel>("ActualText")->Definition().severalLines);
     EXPECT_EQ(Model()->Definition().className, "DiagsForm");
     EXPECT_EQ(Model()->Caption(), "Reporting a Problem");
 }

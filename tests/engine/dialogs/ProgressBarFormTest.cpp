@@ -60,6 +60,7 @@ TEST_F(ProgressBarFormTest, Constructed_Form_HasItsTitleAndIsNotShown)
     EXPECT_EQ(Model()->Definition().className, "ProgressBarForm");
     EXPECT_EQ(Model()->Caption(), "Loading activities");
     EXPECT_EQ(Button("LoadCancel")->Caption(), "&Cancel");
+    EXPECT_EQ(Button("LoadCancel")->Definition().role, ButtonRole::Cancel);
     EXPECT_FALSE(Model()->Visible());
     EXPECT_FALSE(progress.IsCancelled());
 }

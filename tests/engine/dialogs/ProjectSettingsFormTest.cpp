@@ -30,7 +30,8 @@ TEST_F(ProjectSettingsFormTest, Form_HasItsControls)
             "directly into the box.",
             "SubjectText|text||Enter text to match against an activity's subject, application or description. For an "
             "exact match, use quotes.",
-            "DeleteButton|button|&Remove from list|", "SaveandCloseButton|button|OK|", "CancelButton|button|Cancel|",
+            "DeleteButton|button|&Remove from list|", "SaveandCloseButton|default button|OK|",
+            "CancelButton|cancel button|Cancel|",
             "NotSubjectText|text||Enter text that will exclude an activity from the selected project. ",
             "SaveButton|button|Apply|",
             "Label3|label|Precedence:|If an activity matches several projects, the one with the highest precedence "

@@ -99,8 +99,8 @@ TEST_F(ReportFormTest, Form_IsLaidOutInItsOrder)
             "Label6|label|Dates|", "Label7|label|Select the date and time periods to report.|", "Fr|label|&From:|",
             "YearComboFrom|combo||", "MonthComboFrom|combo||", "DayComboFrom|combo||", "Label1|label|&To:|",
             "YearComboTo|combo||", "MonthComboTo|combo||", "DayComboTo|combo||",
-            "WorkDayOnly|check|only include activities in your calendar &work week|", "Command1|button|OK|",
-            "Command2|button|Cancel|"));
+            "WorkDayOnly|check|only include activities in your calendar &work week|", "Command1|default button|OK|",
+            "Command2|cancel button|Cancel|"));
 }
 
 TEST_F(ReportFormTest, Initialise_FillsBothDateSelectors)

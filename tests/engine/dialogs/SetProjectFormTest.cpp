@@ -67,8 +67,8 @@ TEST_F(SetProjectFormTest, Form_IsLaidOutInItsOrder)
             "SpecifiedCheck|option|&Activities at these times:|", "Label5|label|&Day:|", "YearCombo|combo||",
             "MonthCombo|combo||", "DayCombo|combo||", "Label4|label|&Between:|", "FromTimeCombo|combo||",
             "Label3|label|and|", "ToTimeCombo|combo||", "Label6|label|Options|",
-            "OverwriteCheck|check|&Overwrite any existing project |", "Command1|button|OK|",
-            "Command2|button|Cancel|"));
+            "OverwriteCheck|check|&Overwrite any existing project |", "Command1|default button|OK|",
+            "Command2|cancel button|Cancel|"));
 }
 
 TEST_F(SetProjectFormTest, Initialise_FillsTheLists)
