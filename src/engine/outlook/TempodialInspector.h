@@ -58,6 +58,8 @@ private:
     bool SettleChanges(const Attempt& attempt);
     void LeaveRegister(const Attempt& attempt);
     Ref<UserProperty> Property(const std::string& name);
+    /// The moment that a control shows, be it as a text; fails (13) without one.
+    Date MomentOf(const Ref<PageControl>& control) const;
 
     void CreateMyToolbars();
     /// Takes this add-in's toolbar away and shows the standard one.

@@ -47,6 +47,13 @@ std::string WithoutPeople(const std::string& description, const std::string& peo
 
 }
 
+Date TempodialInspector::MomentOf(const Ref<PageControl>& control) const
+{
+    const auto value = control->Value();
+    const auto* text = value.If<std::string>();
+    return text == nullptr ? value.ToDate() : mPlatform->formats->Parse(*text);
+}
+
 void TempodialInspector::InitUnbound()
 {
     const auto attempt = Failing("InitUnbound error ", LineShape::TextOnly);
@@ -116,8 +123,8 @@ bool TempodialInspector::IsBoundData()
         && attempt.Get([&] { return TextOf(mDescControl) == mOldKeyword; })
         && attempt.Get([&] { return mSubjectControl->Text() == mOldDescription; })
         && attempt.Get([&] { return mPeopleControl->Text() == mOldPeople; })
-        && attempt.Get([&] { return mStartControl->Value().ToDate() == mOldStart; })
-        && attempt.Get([&] { return mEndControl->Value().ToDate() == mOldEnd; });
+        && attempt.Get([&] { return MomentOf(mStartControl) == mOldStart; })
+        && attempt.Get([&] { return MomentOf(mEndControl) == mOldEnd; });
     if (!same) {
         Trace("bound data changed");
     }
@@ -144,8 +151,8 @@ void TempodialInspector::Resetbound()
     Trace("mOldProject: " + mOldProject);
     attempt([&] { mOldDescription = mSubjectControl->Text(); });
     attempt([&] { mOldPeople = mPeopleControl->Text(); });
-    attempt([&] { mOldStart = mStartControl->Value().ToDate(); });
-    attempt([&] { mOldEnd = mEndControl->Value().ToDate(); });
+    attempt([&] { mOldStart = MomentOf(mStartControl); });
+    attempt([&] { mOldEnd = MomentOf(mEndControl); });
     attempt([&] { ResetKeys(); });
 }
 
@@ -197,9 +204,9 @@ void TempodialInspector::Writebound()
     mStage = "refreshcalitem";
     attempt([&] { mMain->RefreshCalendarItem(mCurrentItem, TextOf(mProjectControl), mSubjectControl->Text(), false); });
     SaveRules();
-    if (!attempt.Get([&] { return mStartControl->Value().ToDate() == mOldStart; })) {
+    if (!attempt.Get([&] { return MomentOf(mStartControl) == mOldStart; })) {
         Date day;
-        const bool known = attempt([&] { day = mStartControl->Value().ToDate().Day(); });
+        const bool known = attempt([&] { day = MomentOf(mStartControl).Day(); });
         if (known && !attempt.Get([&] { return Property("Day")->Value() == Variant(day); })) {
             attempt([&] { Property("Day")->SetValue(day); });
         }

@@ -14,7 +14,7 @@ class PageControl
 public:
     virtual ~PageControl() = default;
 
-    /// The value: a text, a boolean, or the moment of a field that holds one.
+    /// The value: a text, a boolean, or the moment of a field that holds one, which may be a text of the locale too.
     virtual Variant Value() const = 0;
     /// Sets the value; one that the field can't take fails (13).
     virtual void SetValue(const Variant& value) = 0;

@@ -65,12 +65,17 @@ Ref<HostInspector> InspectorFixture::Open(const Ref<AppointmentItem>& item)
 
 Ref<HostInspector> InspectorFixture::OpenAlone(const Ref<AppointmentItem>& item, const ItemObserver& observer)
 {
+    return OpenAlone(item, PageObserver { .told = observer });
+}
+
+Ref<HostInspector> InspectorFixture::OpenAlone(const Ref<AppointmentItem>& item, const PageObserver& observer)
+{
     mAlone = MakeRef<HostApplication>(mMailbox);
     mMain->mApplication.Set(mAlone, {});
     const auto subscription = mAlone->Inspectors()->Subscribe({ .NewInspector = [&](const auto& inspector) {
         mCompanion = MakeRef<TempodialInspector>(mPlatform);
         mCompanion->Initialize(mLog, mMain,
-            observer ? MakeRef<ObservedActivityWindow>(inspector, observer) : Ref<Inspector>(inspector), 90);
+            observer.told ? MakeRef<ObservedActivityWindow>(inspector, observer) : Ref<Inspector>(inspector), 90);
     } });
     return mAlone->OpenInspector(item.As<StoreItem>());
 }

@@ -41,6 +41,7 @@ protected:
     /// A window that the running add-in isn't told of, of an application of its own that is then the add-in's, with a
     /// companion of the number 90 in `mCompanion`; an observer is told of what the companion uses.
     Ref<HostInspector> OpenAlone(const Ref<AppointmentItem>& item, const ItemObserver& observer = {});
+    Ref<HostInspector> OpenAlone(const Ref<AppointmentItem>& item, const PageObserver& observer);
     /// Runs something when a window comes into being, after the add-in did.
     void OnNewInspector(std::function<void(const Ref<Inspector>&)> handler);
     /// Lets a built-in command be absent from windows.

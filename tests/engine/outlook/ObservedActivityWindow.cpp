@@ -2,7 +2,7 @@
 
 namespace tempodial {
 
-ObservedPageControl::ObservedPageControl(Ref<PageControl> control, std::string name, ItemObserver observer)
+ObservedPageControl::ObservedPageControl(Ref<PageControl> control, std::string name, PageObserver observer)
     : mControl(std::move(control))
     , mName(std::move(name))
     , mObserver(std::move(observer))
@@ -11,7 +11,8 @@ ObservedPageControl::ObservedPageControl(Ref<PageControl> control, std::string n
 
 Variant ObservedPageControl::Value() const
 {
-    return Told("Value")->Value();
+    const auto value = Told("Value")->Value();
+    return mObserver.shown ? mObserver.shown(value) : value;
 }
 
 void ObservedPageControl::SetValue(const Variant& value)
@@ -41,11 +42,11 @@ void ObservedPageControl::AddItem(const std::string& text)
 
 const Ref<PageControl>& ObservedPageControl::Told(const char* member) const
 {
-    mObserver(mName + "." + member);
+    mObserver.told(mName + "." + member);
     return mControl;
 }
 
-ObservedPages::ObservedPages(Ref<Pages> pages, ItemObserver observer)
+ObservedPages::ObservedPages(Ref<Pages> pages, PageObserver observer)
     : mPages(std::move(pages))
     , mObserver(std::move(observer))
 {
@@ -53,12 +54,12 @@ ObservedPages::ObservedPages(Ref<Pages> pages, ItemObserver observer)
 
 Ref<Page> ObservedPages::Item(const std::string& name)
 {
-    mObserver("Pages.Item");
+    mObserver.told("Pages.Item");
     return MakeRef<ObservedPage>(mPages->Item(name), mObserver);
 }
 
-ObservedActivityWindow::ObservedActivityWindow(const Ref<Inspector>& inspector, const ItemObserver& observer)
-    : mInspector(MakeRef<ObservedInspector>(inspector, observer))
+ObservedActivityWindow::ObservedActivityWindow(const Ref<Inspector>& inspector, const PageObserver& observer)
+    : mInspector(MakeRef<ObservedInspector>(inspector, observer.told))
     , mObserver(observer)
 {
 }
@@ -70,7 +71,7 @@ std::string ObservedActivityWindow::Caption() const
 
 Ref<OutlookItem> ObservedActivityWindow::CurrentItem()
 {
-    return MakeRef<ObservedItem>(mInspector->CurrentItem().As<AppointmentItem>(), mObserver);
+    return MakeRef<ObservedItem>(mInspector->CurrentItem().As<AppointmentItem>(), mObserver.told);
 }
 
 Ref<tempodial::CommandBars> ObservedActivityWindow::CommandBars()

@@ -4,17 +4,26 @@
 #include "support/ObservedItem.h"
 #include "support/ObservedWindows.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace tempodial {
 
+/// What sees the use of a page.
+struct PageObserver
+{
+    ItemObserver told;
+    /// Gives the value that a control seems to have, nothing for its own.
+    std::function<Variant(const Variant& value)> shown = nullptr;
+};
+
 /// A control of a page that tells an observer of its use.
 class ObservedPageControl : public PageControl
 {
 public:
-    ObservedPageControl(Ref<PageControl> control, std::string name, ItemObserver observer);
+    ObservedPageControl(Ref<PageControl> control, std::string name, PageObserver observer);
 
     Variant Value() const override;
     void SetValue(const Variant& value) override;
@@ -29,14 +38,14 @@ private:
 
     Ref<PageControl> mControl;
     std::string mName;
-    ItemObserver mObserver;
+    PageObserver mObserver;
 };
 
 /// The one page of a window, as pages, page and controls, that tells an observer of its use.
 class ObservedPages : public Pages
 {
 public:
-    ObservedPages(Ref<Pages> pages, ItemObserver observer);
+    ObservedPages(Ref<Pages> pages, PageObserver observer);
 
     Ref<Page> Item(const std::string& name) override;
 
@@ -44,7 +53,7 @@ private:
     class ObservedControls : public PageControls
     {
     public:
-        ObservedControls(Ref<PageControls> controls, ItemObserver observer)
+        ObservedControls(Ref<PageControls> controls, PageObserver observer)
             : mControls(std::move(controls))
             , mObserver(std::move(observer))
         {
@@ -52,18 +61,18 @@ private:
 
         Ref<PageControl> Item(const std::string& name) override
         {
-            mObserver("Controls.Item " + name);
+            mObserver.told("Controls.Item " + name);
             return MakeRef<ObservedPageControl>(mControls->Item(name), name, mObserver);
         }
 
     private:
         Ref<PageControls> mControls;
-        ItemObserver mObserver;
+        PageObserver mObserver;
     };
     class ObservedPage : public Page
     {
     public:
-        ObservedPage(Ref<Page> page, ItemObserver observer)
+        ObservedPage(Ref<Page> page, PageObserver observer)
             : mPage(std::move(page))
             , mObserver(std::move(observer))
         {
@@ -71,24 +80,24 @@ private:
 
         Ref<PageControls> Controls() override
         {
-            mObserver("Page.Controls");
+            mObserver.told("Page.Controls");
             return MakeRef<ObservedControls>(mPage->Controls(), mObserver);
         }
 
     private:
         Ref<Page> mPage;
-        ItemObserver mObserver;
+        PageObserver mObserver;
     };
 
     Ref<Pages> mPages;
-    ItemObserver mObserver;
+    PageObserver mObserver;
 };
 
 /// A window on an activity that tells an observer of its use, and of that of its bars, its page and its item.
 class ObservedActivityWindow : public Inspector
 {
 public:
-    ObservedActivityWindow(const Ref<Inspector>& inspector, const ItemObserver& observer);
+    ObservedActivityWindow(const Ref<Inspector>& inspector, const PageObserver& observer);
 
     std::string Caption() const override;
     Ref<OutlookItem> CurrentItem() override;
@@ -98,7 +107,7 @@ public:
 
 private:
     Ref<Inspector> mInspector;
-    ItemObserver mObserver;
+    PageObserver mObserver;
 };
 
 }

@@ -230,6 +230,36 @@ TEST_F(TempodialInspectorEditingTest, Writebound_DayOutOfStep_FollowsOnlyAChange
     EXPECT_EQ(Property(item, "Day"), Variant(At(10, 0, 0)));
 }
 
+TEST_F(TempodialInspectorEditingTest, Moments_ShownAsTexts_AreReadAsMoments)
+{
+    const auto item = Activity();
+    const auto inspector = OpenAlone(item,
+        PageObserver { .told = [](const auto&) {},
+            .shown =
+                [this](const Variant& value) {
+                    const auto* moment = value.If<Date>();
+                    return moment == nullptr ? value : Variant(mPlatform->formats->Moment(*moment));
+                } });
+    ForgetTrace();
+    EXPECT_TRUE(inspector->Save());
+    EXPECT_THAT(Companions(), Not(Contains("bound data changed")));
+
+    Set(inspector, "StartBox", At(12, 9, 0));
+    EXPECT_TRUE(inspector->Save());
+    EXPECT_THAT(Companions(), Contains("bound data changed"));
+    EXPECT_EQ(Property(item, "Day"), Variant(At(12, 0, 0)));
+}
+
+TEST_F(TempodialInspectorEditingTest, Moments_ShownAsNoMoments_CountAsChanged)
+{
+    const auto inspector = OpenAlone(Activity(),
+        PageObserver { .told = [](const auto&) {},
+            .shown = [](const Variant& value) { return value.If<Date>() == nullptr ? value : Variant("soon"); } });
+    EXPECT_THAT(Companions(), Contains("Resetbound error Type mismatch"));
+    EXPECT_TRUE(inspector->Save());
+    EXPECT_THAT(Companions(), Contains("bound data changed"));
+}
+
 TEST_F(TempodialInspectorEditingTest, SaveRules_Keyword_BecomesTheRuleOfThePagesProject)
 {
     const std::vector<std::pair<std::string, std::string>> keywords {
