@@ -21,8 +21,9 @@ target_compile_definitions(test_options INTERFACE
 # A fixture may hold what is local to its source, which looks like a header where several are compiled as one.
 target_compile_options(test_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 if(TEMPODIAL_SANITIZERS)
-    # What the tests do themselves needs no speed, and compiles in half the time without.
-    target_compile_options(test_options INTERFACE -O0)
+    # What the tests do themselves needs no speed, and no proof of what is undefined: that is the product's. They compile
+    # in a third of the time without.
+    target_compile_options(test_options INTERFACE -O0 $<$<CXX_COMPILER_ID:GNU>:-fno-sanitize=undefined>)
 endif()
 
 # The tests' precompiled header, made once.
