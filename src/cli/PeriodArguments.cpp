@@ -1,7 +1,8 @@
 #include "cli/PeriodArguments.h"
 
+#include "base/Text.h"
 #include "host/system/HostClock.h"
-#include "host/system/IcuLocaleFormats.h"
+#include "session/ProfileSettings.h"
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
 
@@ -13,9 +14,7 @@ namespace {
 
 std::optional<Period> PeriodNamed(const std::string& text, const Options& options)
 {
-    return Period::Named(text, HostClock(options.now).Now(), [&options] {
-        return IcuLocaleFormats::FirstDayOfWeek(options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment());
-    });
+    return Period::Named(text, HostClock(options.now).Now(), PeriodArguments::WeekStart(options));
 }
 
 [[noreturn]] void RefuseDays(const std::string& name, const std::string& text, const std::string& advice)
@@ -42,13 +41,26 @@ void PeriodArguments::Declare(ArgumentList& arguments)
     arguments.Optional("--to DAY", mTo, "Last day, or the last of several");
 }
 
-Period PeriodArguments::Days(const Options& options) const
+std::string PeriodArguments::HelpWith(const std::string& usual)
+{
+    return Replace(Help, "it is today; where", "it is " + usual + ".\nWhere");
+}
+
+Period::WeekStart PeriodArguments::WeekStart(const Options& options)
+{
+    return [options] { return FirstDayOfWeek(options); };
+}
+
+Period PeriodArguments::Days(const Options& options, const std::string& usual) const
 {
     if (mRange && (mFrom || mTo)) {
         throw UsageError("RANGE \"" + *mRange + "\" stands beside --from or --to: leave one of them out");
     }
     if (mRange) {
         return ToPeriod("RANGE", *mRange, options);
+    }
+    if (!mFrom && !mTo) {
+        return ToPeriod("RANGE", usual, options);
     }
     const auto today = HostClock(options.now).Now().Day();
     Period days { today, today };

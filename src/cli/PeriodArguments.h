@@ -20,11 +20,16 @@ public:
                                  "week, month, year, last-week, last-month, last-year, 2026, 2026-11, 2026-W47,\n"
                                  "-7d (seven days up to today).\n";
 
+    /// The same for a command that takes other days than today when none are given, which are called by that.
+    static std::string HelpWith(const std::string& usual);
+
     /// Adds them to a command; they are kept here as they are parsed.
     void Declare(ArgumentList& arguments);
-    /// The span that they name. Fails with a `UsageError`.
-    Period Days(const Options& options) const;
+    /// The span that they name, or the usual one when they name none. Fails with a `UsageError`.
+    Period Days(const Options& options, const std::string& usual = "today") const;
 
+    /// Tells with which day a week begins.
+    static Period::WeekStart WeekStart(const Options& options);
     /// The one day that an argument of that name calls by its text. Fails with a `UsageError`.
     static Date ToDay(const std::string& name, const std::string& text, const Options& options);
 

@@ -29,14 +29,6 @@ Period Days(Date first, int count)
     return { first, first.AddDays(count - 1) };
 }
 
-Period MonthOf(Date day)
-{
-    const auto first = day.Day().AddDays(1 - day.ToParts().day);
-    constexpr int MostDays = 31;
-    const auto beyond = first.AddDays(MostDays);
-    return { first, beyond.AddDays(-beyond.ToParts().day) };
-}
-
 Period YearOf(int year)
 {
     return { Date::FromYearMonthDay(year, 1, 1), Date::FromYearMonthDay(year, 12, 31) };
@@ -63,7 +55,7 @@ std::optional<Period> OfMonth(int year, int month)
 {
     constexpr int Months = 12;
     const bool isMonth = month >= 1 && month <= Months;
-    return isMonth ? std::optional(MonthOf(Date::FromYearMonthDay(year, month, 1))) : std::nullopt;
+    return isMonth ? std::optional(Period::MonthOf(Date::FromYearMonthDay(year, month, 1))) : std::nullopt;
 }
 
 std::optional<Period> OfDay(int year, int month, int day)
@@ -124,8 +116,7 @@ std::optional<Period> Period::Named(std::string_view words, Date now, const Week
         return Days(today.AddDays(-1), 1);
     }
     if (words == "week" || words == "last-week") {
-        const auto first = today.AddDays(-DaysBackTo(weekStart(), today));
-        return Days(words == "week" ? first : first.AddDays(-DaysOfWeek), DaysOfWeek);
+        return WeekOf(words == "week" ? today : today.AddDays(-DaysOfWeek), weekStart);
     }
     if (words == "month") {
         return MonthOf(today);
@@ -142,6 +133,19 @@ std::optional<Period> Period::Named(std::string_view words, Date now, const Week
     }
     const auto back = OfDaysBack(words, today);
     return back ? back : OfNumbers(words);
+}
+
+Period Period::WeekOf(Date day, const WeekStart& weekStart)
+{
+    return Days(day.Day().AddDays(-DaysBackTo(weekStart(), day)), DaysOfWeek);
+}
+
+Period Period::MonthOf(Date day)
+{
+    const auto first = day.Day().AddDays(1 - day.ToParts().day);
+    constexpr int MostDays = 31;
+    const auto beyond = first.AddDays(MostDays);
+    return { first, beyond.AddDays(-beyond.ToParts().day) };
 }
 
 }

@@ -1,6 +1,5 @@
 #include "terminal/Arguments.h"
 
-#include "base/Number.h"
 #include "base/Text.h"
 #include "terminal/UsageError.h"
 
@@ -100,18 +99,6 @@ Hive ToHive(std::string_view text)
         return Hive::LocalMachine;
     }
     throw UsageError("there is no hive \"" + std::string(text) + "\": give HKCU or HKLM");
-}
-
-std::string IsoMoment(Date moment)
-{
-    const auto parts = moment.ToParts();
-    return IsoDay(moment) + "T" + Padded(parts.hour, 2) + ":" + Padded(parts.minute, 2) + ":" + Padded(parts.second, 2);
-}
-
-std::string IsoDay(Date moment)
-{
-    const auto parts = moment.ToParts();
-    return Padded(parts.year, 4) + "-" + Padded(parts.month, 2) + "-" + Padded(parts.day, 2);
 }
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/IsoDate.h"
 #include "platform/system/Registry.h"
 
 #include <cstdint>
@@ -21,10 +22,5 @@ std::int32_t ToCount(std::string_view name, std::string_view text, std::int32_t 
 
 /// A hive of the registry: `HKCU` or `HKLM`, in any case.
 Hive ToHive(std::string_view text);
-
-/// A moment as `YYYY-MM-DDTHH:MM:SS`.
-std::string IsoMoment(Date moment);
-/// A day as `YYYY-MM-DD`.
-std::string IsoDay(Date moment);
 
 }

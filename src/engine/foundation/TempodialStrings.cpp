@@ -1,6 +1,7 @@
 #include "engine/foundation/TempodialStrings.h"
 
 #include "engine/core/ProductWords.h"
+#include "engine/foundation/ActivitySubject.h"
 
 namespace tempodial {
 
@@ -38,7 +39,7 @@ void TempodialStrings::Initialize()
     mUserGuideName = "userguide.html";
 
     mNoProject = NoProject;
-    mUnknownString = "None";
+    mUnknownString = UnknownText;
     mNoValue = "<None>";
     mSelectAKeyword = "<word or phrase to match an activity to this project>";
     mSameAsThisItem = "This description";

@@ -1,4 +1,5 @@
 #include "base/Text.h"
+#include "engine/foundation/ActivitySubject.h"
 #include "engine/foundation/TempodialCommonUtils.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/worklog/TempodialWorkLog.h"
@@ -315,15 +316,11 @@ std::string TempodialWorkLog::CreateSubject(
     const auto attempt = Failing("createsubject error ", LineShape::StepNumberText);
     return attempt.Get([&] {
         const auto& strings = *mMain->mStrings;
-        const bool described = !description.empty() && description != strings.mUnknownString;
         std::string subject;
         if (!project.empty() && project != strings.mNoProject) {
             subject.append("[").append(project).append("] ");
         }
-        subject += application;
-        if (described) {
-            subject.append(application.empty() ? "" : ", ").append(description);
-        }
+        subject += ActivitySubject(application, description);
         Trace("createsubject: " + subject);
         return subject;
     });

@@ -1,0 +1,54 @@
+#include "session/ProfileSettings.h"
+
+#include "base/Text.h"
+#include "host/system/IcuLocaleFormats.h"
+#include "host/system/TomlRegistry.h"
+#include "session/ProductFacts.h"
+#include "session/ProfileError.h"
+#include "session/ProfileFolder.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::array<std::string_view, 7> WeekDays { "sunday", "monday", "tuesday", "wednesday", "thursday", "friday",
+    "saturday" };
+
+std::string SettingIn(const TomlRegistry& registry, const char* value)
+{
+    return registry.Get(Hive::CurrentUser, ProductKey, value).ToText();
+}
+
+std::string WeekStartSetting(const ProfileOptions& options)
+{
+    const auto folder = options.profile ? *options.profile : ProfileFolder::Default();
+    try {
+        return SettingIn(TomlRegistry(folder + "/" + RegistryFileName), WeekStartValue);
+    } catch (const RegistryFileError& error) {
+        throw ProfileError(error.what());
+    }
+}
+
+}
+
+int FirstDayOfWeek(const ProfileOptions& options)
+{
+    const auto setting = WeekStartSetting(options);
+    const auto* const day = std::find_if(WeekDays.begin(), WeekDays.end(),
+        [&setting](std::string_view name) { return EqualIgnoringCase(name, setting); });
+    if (day != WeekDays.end()) {
+        return static_cast<int>(day - WeekDays.begin()) + 1;
+    }
+    return IcuLocaleFormats::FirstDayOfWeek(options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment());
+}
+
+std::string AuthorOf(const Profile& profile)
+{
+    return SettingIn(*profile.Registry(), AuthorValue);
+}
+
+}
