@@ -63,7 +63,7 @@ public:
         const auto format = Format(isFile);
         const auto days = mDays.Days(options);
         mProject.RequireUsable();
-        const auto profile = OpenProfile(options);
+        const auto profile = ReadProfile(options);
         const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply;
         if (options.json && !isFile && format == "json") {

@@ -34,7 +34,7 @@ public:
     {
         const auto days = mDays.Days(options);
         mProject.RequireUsable();
-        const auto profile = OpenProfile(options);
+        const auto profile = ReadProfile(options);
         const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply { .document = JsonValue::Array() };
         if (options.json) {

@@ -48,7 +48,7 @@ public:
                                   : "registry " + mAction + " takes no text: leave \"" + *mText + "\" out");
         }
         const auto key = mKey.empty() ? ProductKey : mKey;
-        const auto profile = OpenProfile(options);
+        const auto profile = mAction == "get" ? ReadProfile(options) : OpenProfile(options);
         const auto& registry = profile.Registry();
         if (sets) {
             registry->Write(hive, key, mValue, *mText);

@@ -32,7 +32,7 @@ public:
     {
         constexpr auto Most = std::numeric_limits<std::int32_t>::max();
         TraceTail tail(static_cast<std::size_t>(ToCount("--lines", mLines, 1, Most)));
-        const auto profile = OpenProfile(options);
+        const auto profile = ReadProfile(options);
         tail.Read(profile);
         Reply reply;
         const auto lines = tail.Lines();

@@ -5,11 +5,28 @@
 
 namespace tempodial {
 
+namespace {
+
+std::string FolderOf(const ProfileOptions& options)
+{
+    return options.profile ? *options.profile : ProfileFolder::Default();
+}
+
+std::string LocaleOf(const ProfileOptions& options)
+{
+    return options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment();
+}
+
+}
+
 Profile OpenProfile(const ProfileOptions& options)
 {
-    return { options.profile ? *options.profile : ProfileFolder::Default(),
-        options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment(), options.now, options.wait,
-        options.warn };
+    return { FolderOf(options), LocaleOf(options), options.now, options.wait, options.warn };
+}
+
+Profile ReadProfile(const ProfileOptions& options)
+{
+    return Profile::ForReading(FolderOf(options), LocaleOf(options), options.now, options.warn);
 }
 
 std::string DataPath(const Profile& profile, const std::string& name)

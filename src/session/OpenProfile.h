@@ -10,6 +10,9 @@ namespace tempodial {
 /// The profile that the options name, opened. Fails with `ProfileInUse` or `ProfileError`.
 Profile OpenProfile(const ProfileOptions& options);
 
+/// The same, opened for reading: it makes, changes and locks nothing. Fails with `ProfileError`.
+Profile ReadProfile(const ProfileOptions& options);
+
 /// The path of a file in the profile's data folder.
 std::string DataPath(const Profile& profile, const std::string& name);
 

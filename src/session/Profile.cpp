@@ -2,6 +2,7 @@
 
 #include "host/files/ProgramFolder.h"
 #include "host/store/MailboxError.h"
+#include "host/store/MailboxReading.h"
 #include "host/system/BitmapLoader.h"
 #include "host/system/ExpatXml.h"
 #include "host/system/HostFileSystem.h"
@@ -10,37 +11,70 @@
 #include "portable/InstalledRegistry.h"
 #include "session/MailboxEventPump.h"
 #include "session/ProfileError.h"
+#include "session/ProfilePlace.h"
+
+#include <utility>
 
 namespace tempodial {
 
+namespace {
+
+std::unique_ptr<ProfileFolder> Locked(const std::string& path, std::chrono::seconds wait, const Profile::Warn& warn)
+{
+    auto folder = std::make_unique<ProfileFolder>(path, wait);
+    if (warn && folder->IsWritableByOthers()) {
+        warn(ProfilePlace::WarningOfWriters(folder->Path()));
+    }
+    return folder;
+}
+
+}
+
 Profile::Profile(const std::string& folder, const std::string& locale, std::optional<Date> now,
-    std::chrono::seconds wait, const std::function<void(const std::string& message)>& warn)
-    : mFolder(folder, wait)
+    std::chrono::seconds wait, const Warn& warn)
+    : Profile(Locked(folder, wait, warn), ProfilePlace::UsablePath(folder), locale, now, Mailbox::Open)
+{
+    mJournal = MakeRef<StoreImportJournal>(mMailbox);
+    mPlatform.importJournal = mJournal;
+}
+
+Profile Profile::ForReading(
+    const std::string& folder, const std::string& locale, std::optional<Date> now, const Warn& warn)
+{
+    const ProfilePlace place(folder);
+    if (warn && !place.HasProfile()) {
+        warn("no profile at " + place.Path() + " yet");
+    } else if (warn && place.IsWritableByOthers()) {
+        warn(ProfilePlace::WarningOfWriters(place.Path()));
+    }
+    return { nullptr, place.Path(), locale, now, [&](const auto& path, const auto& formats, const auto& xml) {
+                return OpenMailboxForReading(path, formats, xml, place.IsHeld());
+            } };
+}
+
+Profile::Profile(std::unique_ptr<ProfileFolder> lock, std::string path, const std::string& locale,
+    std::optional<Date> now, const Opener& open)
+    : mLock(std::move(lock))
+    , mPath(std::move(path))
     , mClock(MakeRef<HostClock>(now))
 {
-    if (warn && mFolder.IsWritableByOthers()) {
-        warn("other users may write into the profile " + mFolder.Path()
-            + ": take that right from them (chmod go-w), or name another with --profile");
-    }
     try {
         mPlatform.formats = MakeRef<IcuLocaleFormats>(locale);
         mPlatform.xml = MakeRef<ExpatXmlFactory>();
-        mRegistry = MakeRef<TomlRegistry>(mFolder.Path() + "/" + RegistryFileName);
+        mRegistry = MakeRef<TomlRegistry>(mPath + "/" + RegistryFileName);
         mRegistry->RequireSound(ProductKey, { ProjectsValue });
-        mMailbox = Mailbox::Open(mFolder.Path() + "/" + MailboxFileName, mPlatform.formats, mPlatform.xml);
+        mMailbox = open(mPath + "/" + MailboxFileName, mPlatform.formats, mPlatform.xml);
     } catch (const RegistryFileError& error) {
         throw ProfileError(error.what());
     } catch (const MailboxError& error) {
         throw ProfileError(error.what());
     }
-    mPlatform.fileSystem = MakeRef<HostFileSystem>(mFolder.Path());
+    mPlatform.fileSystem = MakeRef<HostFileSystem>(mPath);
     mPlatform.registry = MakeRef<InstalledRegistry>(
         mRegistry, InstalledRegistry::Place { ProductKey, InstallFolderValue }, InProgramFolder("share/tempodial"));
     mPlatform.shell = MakeRef<HostShell>();
     mPlatform.clock = mClock;
     mPlatform.pictures = MakeRef<BitmapLoader>();
-    mJournal = MakeRef<StoreImportJournal>(mMailbox);
-    mPlatform.importJournal = mJournal;
     mPlatform.eventPump = MakeRef<MailboxEventPump>(mMailbox);
 }
 

@@ -1,11 +1,9 @@
 #include "session/ProfileFolder.h"
 
 #include "host/files/PathOperations.h"
-#include "session/ProductFacts.h"
 #include "session/ProfileError.h"
+#include "session/ProfilePlace.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <optional>
 #include <thread>
@@ -21,27 +19,6 @@ std::string Environment(const char* name)
 {
     const auto* value = std::getenv(name);
     return value ? value : "";
-}
-
-/// True for a folder in which nothing but our own files can be.
-bool IsOurs(const std::string& path, const FolderDescriptor& folder)
-{
-    const std::array<std::string, 3> names { MailboxFileName, RegistryFileName, DataFolderName };
-    return folder.IsEmpty() || std::any_of(names.begin(), names.end(), [&](const auto& name) {
-        return StatusAt(NativePath::Exactly(path + "/" + name), Links::Followed).has_value();
-    });
-}
-
-std::string UsablePath(const std::string& path)
-{
-    try {
-        if (!path.empty()) {
-            return AbsolutePath(path).Text();
-        }
-    } catch (const SystemFailure&) {
-        // Told below.
-    }
-    throw ProfileError("the profile has no usable path: name a folder with --profile");
 }
 
 /// Makes the folder when it is absent.
@@ -78,7 +55,7 @@ std::string NameOf(const std::optional<FolderDescriptor::LockHolder>& holder)
 }
 
 ProfileFolder::ProfileFolder(const std::string& path, std::chrono::seconds wait)
-    : mPath(UsablePath(path))
+    : mPath(ProfilePlace::UsablePath(path))
     , mFolder(Opened(NativePath::Exactly(mPath)))
 {
     Lock(wait);
@@ -105,7 +82,7 @@ void ProfileFolder::Lock(std::chrono::seconds wait) const
 void ProfileFolder::CloseToOthers() const
 {
     // A folder that holds other things too, such as one named by mistake, keeps its mode; our files are closed anyway.
-    if (mFolder.IsOpenToOthers() && IsOurs(mPath, mFolder)) {
+    if (mFolder.IsOpenToOthers() && (mFolder.IsEmpty() || ProfilePlace::HasProfileIn(mPath))) {
         mFolder.CloseToOthers();
     }
 }

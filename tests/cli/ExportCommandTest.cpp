@@ -81,6 +81,7 @@ TEST_F(ExportCommandTest, Export_Ics_IsReadByAnotherProgram)
 
 TEST_F(ExportCommandTest, Export_NewProfile_IsEmptyInEachFormat)
 {
+    Json({ "projects" });
     EXPECT_EQ(Out({ "export", "--format", "json" }), "[]\n");
     EXPECT_THAT(Out({ "export", "--format", "csv" }), testing::EndsWith(",subject\r\n"));
     EXPECT_THAT(Out({ "export", "--format", "ics" }), StartsWith("BEGIN:VCALENDAR\r\n"));
@@ -167,6 +168,7 @@ TEST_F(ExportCommandTest, Export_Project_LeavesOutTheOthers)
 
 TEST_F(ExportCommandTest, Export_FileCantBeWritten_IsTold)
 {
+    Json({ "projects" });
     EXPECT_THAT(Refusal({ "export", "--format", "csv", "--out", mFolder.Path("no/a.csv") }, 1),
         HasSubstr("no/a.csv couldn't be written: Path not found"));
     EXPECT_THAT(Refusal({ "export", "--format", "ics", "--out", mFolder.Path() }, 1), HasSubstr("it is a folder"));
@@ -174,6 +176,7 @@ TEST_F(ExportCommandTest, Export_FileCantBeWritten_IsTold)
 
 TEST_F(ExportCommandTest, Export_MailboxAsTheFile_IsRefusedAndStays)
 {
+    Import();
     const auto before = Json({ "list" });
     EXPECT_THAT(
         Refusal({ "export", "--format", "csv", "--out", mProfile + "/mailbox.db" }, 1), HasSubstr("is a mailbox"));

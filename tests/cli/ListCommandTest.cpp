@@ -29,6 +29,7 @@ constexpr auto S = "Microsoft Word, \"s\xc3\xbc\xc3\x9f.doc\"";
 
 TEST_F(ListCommandTest, List_NewProfile_IsEmpty)
 {
+    Json({ "projects" });
     EXPECT_EQ(Json({ "list" }), nlohmann::json::array());
     EXPECT_EQ(Run({ "list" }).out, "No activities.\n");
     EXPECT_EQ(Run({ "list", "--quiet" }).out, "");

@@ -26,6 +26,10 @@ protected:
     }
 };
 
+class ProfileWriterTest : public ProfileUseTest
+{
+};
+
 std::string NameOf(const testing::TestParamInfo<std::vector<std::string>>& info)
 {
     std::string name = info.param.front();
@@ -38,7 +42,7 @@ std::string NameOf(const testing::TestParamInfo<std::vector<std::string>>& info)
 
 }
 
-TEST_P(ProfileUseTest, Run_ProfileInUse_GivesStatus3)
+TEST_P(ProfileWriterTest, Run_ProfileInUse_GivesStatus3)
 {
     const ProfileFolder used(mProfile);
     auto arguments = GetParam();
@@ -81,6 +85,7 @@ TEST_P(ProfileUseTest, Run_Help_OpensNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, ProfileUseTest, testing::ValuesIn(OneOfEachCommand()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Commands, ProfileWriterTest, testing::ValuesIn(OneOfEachWriter()), NameOf);
 
 class ProgramTest : public ProgramFixture
 {
@@ -111,7 +116,7 @@ TEST_F(ProgramTest, NoCommand_IsAUsageError)
 
 TEST_F(ProgramTest, NewProfile_IsForItsUserAlone)
 {
-    EXPECT_EQ(Run({ "list" }).status, 0);
+    EXPECT_EQ(Run({ "projects" }).status, 0);
     struct stat status
     {
     };
@@ -126,11 +131,11 @@ TEST_F(ProgramTest, ProfileInUse_IsWaitedFor)
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
         used.reset();
     });
-    const auto result = Run({ "list" });
+    const auto result = Run({ "projects" });
     freeing.join();
     EXPECT_EQ(result.status, 0) << result.error;
     for (const auto* wait : { "-1", "x", "1.5", "86401" }) {
-        EXPECT_THAT(Refusal({ "--wait", wait, "list" }, 2), HasSubstr("--wait")) << wait;
+        EXPECT_THAT(Refusal({ "--wait", wait, "projects" }, 2), HasSubstr("--wait")) << wait;
     }
 }
 
@@ -139,11 +144,13 @@ TEST_F(ProgramTest, ProfileOpenToOthers_IsWarnedAboutBesideTheAnswer)
     mFolder.Write("letter.txt", "x");
     mProfile = mFolder.Path();
     std::filesystem::permissions(mProfile, std::filesystem::perms::all);
-    const auto result = Run({ "--json", "list" });
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out, "[]\n");
-    EXPECT_THAT(result.error, testing::MatchesRegex(MessageForm));
-    EXPECT_THAT(result.error, HasSubstr("other users may write into the profile"));
+    for (const auto* command : { "projects", "list" }) {
+        const auto result = Run({ "--json", command });
+        EXPECT_EQ(result.status, 0);
+        EXPECT_TRUE(nlohmann::json::accept(result.out)) << result.out;
+        EXPECT_THAT(result.error, testing::MatchesRegex(MessageForm));
+        EXPECT_THAT(result.error, HasSubstr("other users may write into the profile"));
+    }
 }
 
 TEST_F(ProgramTest, UnwritableProfile_IsNamed)

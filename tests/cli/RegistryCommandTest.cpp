@@ -49,6 +49,7 @@ TEST_F(RegistryCommandTest, Delete_Value_AnswersWhatItWas)
 
 TEST_F(RegistryCommandTest, Get_AbsentValue_MakesNoKey)
 {
+    Json({ "registry", "set", "HKCU", "", "A", "a" });
     Refusal({ "registry", "get", "HKCU", "Software\\Absent", "A" }, 1);
     Json({ "registry", "set", "HKCU", "", "A", "b" });
     EXPECT_THAT(mFolder.Read("profile/registry.toml"), testing::Not(HasSubstr("Absent")));

@@ -16,6 +16,7 @@ protected:
 
 TEST_F(TraceCommandTest, Trace_NoTrace_IsEmpty)
 {
+    Json({ "registry", "set", "HKCU", "", "A", "b" });
     EXPECT_EQ(Json({ "trace" }), (nlohmann::json { { "lines", nlohmann::json::array() } }));
     EXPECT_EQ(Run({ "trace" }).out, "");
 }

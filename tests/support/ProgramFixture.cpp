@@ -62,14 +62,27 @@ std::vector<std::string> ProgramFixture::Subjects(const nlohmann::json& items) c
     return subjects;
 }
 
-std::vector<std::vector<std::string>> OneOfEachCommand()
+std::vector<std::vector<std::string>> OneOfEachReader()
 {
-    return { { "sync" }, { "list" }, { "projects" }, { "projects", "set", "A" }, { "projects", "remove", "Wish" },
+    return { { "list" }, { "export", "--format", "csv" }, { "trace" },
+        { "registry", "get", "HKCU", "", "CurrentVersion" } };
+}
+
+std::vector<std::vector<std::string>> OneOfEachWriter()
+{
+    return { { "sync" }, { "projects" }, { "projects", "set", "A" }, { "projects", "remove", "Wish" },
         { "projects", "match", "a" }, { "apply", "Wish" },
         { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" }, { "report" },
-        { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" },
-        { "export", "--format", "csv" }, { "demo" }, { "trace" }, { "registry", "get", "HKCU", "", "CurrentVersion" },
+        { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" }, { "demo" },
         { "registry", "set", "HKCU", "", "A", "b" }, { "registry", "delete", "HKCU", "", "CurrentVersion" } };
+}
+
+std::vector<std::vector<std::string>> OneOfEachCommand()
+{
+    auto commands = OneOfEachWriter();
+    const auto readers = OneOfEachReader();
+    commands.insert(commands.end(), readers.begin(), readers.end());
+    return commands;
 }
 
 }

@@ -43,7 +43,11 @@ protected:
     std::string mNow = "2006-10-10T17:00:00";
 };
 
-/// One call of each command that opens the profile.
+/// One call of each command that opens the profile and changes nothing in it.
+std::vector<std::vector<std::string>> OneOfEachReader();
+/// One call of each other one.
+std::vector<std::vector<std::string>> OneOfEachWriter();
+/// Both.
 std::vector<std::vector<std::string>> OneOfEachCommand();
 
 }

@@ -65,10 +65,7 @@ Ref<Mailbox> Mailbox::Open(const std::string& path, Ref<LocaleFormats> formats, 
         store->Database().Trust();
         return MakeRef<Mailbox>(store);
     } catch (const Failure& failure) {
-        const auto& reason = failure.Description();
-        const bool isNamed = reason.find(fullPath) != std::string::npos;
-        throw MailboxError((isNamed ? reason : "the mailbox " + fullPath + " can't be read (" + reason + ")")
-            + ": check the disk and the file's permissions; put a good copy in the place of a damaged mailbox");
+        throw MailboxError::Of(fullPath, failure);
     }
 }
 

@@ -73,14 +73,37 @@ void MinuteOf(sqlite3_context* context, int, sqlite3_value** arguments)
     sqlite3_result_int64(context, Date::FromSeconds(sqlite3_value_int64(arguments[0])).Minute().Seconds() / 60);
 }
 
+/// The address of a file for SQLite that nobody changes.
+std::string UnchangedAddress(const std::string& path)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr unsigned int digitBits = 4;
+    constexpr unsigned int lastDigit = 15;
+    std::string address = "file:";
+    for (const char character : path) {
+        if (std::string_view("?#%").find(character) == std::string_view::npos) {
+            address += character;
+        } else {
+            const auto byte = static_cast<unsigned char>(character);
+            address += '%';
+            address += digits[byte >> digitBits];
+            address += digits[byte & lastDigit];
+        }
+    }
+    return address + "?immutable=1";
 }
 
-MailboxDatabase::MailboxDatabase(const std::string& path)
+}
+
+MailboxDatabase::MailboxDatabase(const std::string& path, Access access)
     : mPath(path)
 {
+    const bool isAlone = access == Access::ReadingAlone;
+    const auto name = isAlone ? UnchangedAddress(path) : path;
+    const int flags = (access == Access::Writing ? SQLite::OPEN_READWRITE : SQLite::OPEN_READONLY)
+        | (isAlone ? SQLite::OPEN_URI : 0) | SQLite::OPEN_NOMUTEX;
     try {
-        mConnection = std::make_unique<SQLite::Database>(
-            path.c_str(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, BusyMilliseconds, JournalVfs::Name());
+        mConnection = std::make_unique<SQLite::Database>(name.c_str(), flags, BusyMilliseconds, JournalVfs::Name());
     } catch (const SQLite::Exception& problem) {
         throw Failed(problem.getErrorCode(), problem.what());
     }
@@ -119,6 +142,20 @@ bool MailboxDatabase::IsSound()
         return false;
     }
     return !Query(*this, "PRAGMA foreign_key_check").Step();
+}
+
+void MailboxDatabase::TakeCopyOf(MailboxDatabase& other)
+{
+    auto* const handle = mConnection->getHandle();
+    auto* const copy = sqlite3_backup_init(handle, "main", other.mConnection->getHandle(), "main");
+    if (copy != nullptr) {
+        sqlite3_backup_step(copy, -1);
+        sqlite3_backup_finish(copy);
+    }
+    if (const int code = sqlite3_extended_errcode(handle); code != SQLITE_OK) {
+        throw other.Failed(code, sqlite3_errmsg(handle));
+    }
+    mPath = other.mPath;
 }
 
 void MailboxDatabase::Execute(const std::string& sql)

@@ -22,11 +22,20 @@ namespace tempodial {
 class MailboxDatabase
 {
 public:
+    /// What the file is opened for.
+    enum class Access {
+        Writing,
+        /// Reading beside whoever writes it; nothing but SQLite's own files beside it is written.
+        Reading,
+        /// Reading where nothing can be written beside it, so that nobody writes it.
+        ReadingAlone,
+    };
+
     /// Called when what was written since the last commit of a held transaction has been undone.
     std::function<void()> mOnUndone;
 
     /// Opens a mailbox's file, or an empty mailbox in memory for ":memory:"; fails as a statement does.
-    explicit MailboxDatabase(const std::string& path);
+    explicit MailboxDatabase(const std::string& path, Access access = Access::Writing);
     MailboxDatabase(const MailboxDatabase&) = delete;
     MailboxDatabase& operator=(const MailboxDatabase&) = delete;
     ~MailboxDatabase();
@@ -36,6 +45,8 @@ public:
     void Trust();
     /// True when the whole file is sound; reads all of it.
     bool IsSound();
+    /// Takes all that another holds into this one, an empty mailbox in memory, which goes by its path from then on.
+    void TakeCopyOf(MailboxDatabase& other);
 
     /// Runs statements that take no values.
     void Execute(const std::string& sql);

@@ -33,15 +33,18 @@ std::uint64_t SizeOf(const NativePath& path)
 MailboxFile::MailboxFile(const std::string& path)
     : mPath(NativePath::Exactly(path))
     , mJournal(NativePath::Exactly(BehindLinks(mPath).Text() + "-wal"))
+    , mJournalIndex(NativePath::Exactly(BehindLinks(mPath).Text() + "-shm"))
     , mDraft(NativePath::Exactly(path + ".new"))
 {
 }
 
-MailboxFile::State MailboxFile::Examine(int newestVersion) const
+MailboxFile::State MailboxFile::Examine(int newestVersion, bool isForReading) const
 {
+    // First of all, since whoever closes the mailbox in this moment empties it last.
+    const bool hasJournal = HasJournal();
     const auto status = Look();
     if (!status) {
-        if (HasJournal()) {
+        if (hasJournal) {
             Refuse("is missing, while its journal " + mJournal.Text() + " is still there",
                 "put the mailbox back beside its journal, or move the journal away to start with a new mailbox");
         }
@@ -50,7 +53,7 @@ MailboxFile::State MailboxFile::Examine(int newestVersion) const
     if (status->kind != FileStatus::Kind::File) {
         Refuse("is no file", "move it away, or name another profile");
     }
-    const auto file = Open();
+    const auto file = Open(isForReading);
     if (status->size == 0) {
         Refuse("is empty, so it is no mailbox", Restore);
     }
@@ -60,8 +63,20 @@ MailboxFile::State MailboxFile::Examine(int newestVersion) const
     } catch (const SystemFailure& failure) {
         Refuse("can't be read (" + failure.Reason() + ")", "check the disk");
     }
-    CheckHeader(reinterpret_cast<const unsigned char*>(header.data()), status->size, newestVersion);
-    return HasJournal() ? State::Unclean : State::Clean;
+    CheckHeader(reinterpret_cast<const unsigned char*>(header.data()), status->size, hasJournal, newestVersion);
+    return hasJournal ? State::Unclean : State::Clean;
+}
+
+bool MailboxFile::IsAlone() const
+{
+    if (StatusAt(mJournalIndex, Links::Followed) || MayWrite(NativePath::Exactly(mJournalIndex.Folder()))) {
+        return false;
+    }
+    if (HasJournal()) {
+        Refuse("has a journal, " + mJournal.Text() + ", which can't be read in a folder that can't be written",
+            "make the folder writable, or copy the profile to another");
+    }
+    return true;
 }
 
 bool MailboxFile::IsSmall() const
@@ -109,16 +124,16 @@ std::optional<FileStatus> MailboxFile::Look() const
     }
 }
 
-FileDescriptor MailboxFile::Open() const
+FileDescriptor MailboxFile::Open(bool isForReading) const
 {
     try {
-        if (MayWrite(mPath)) {
+        if (isForReading || MayWrite(mPath)) {
             return { mPath, Opening::Reading };
         }
     } catch (const Failure&) {
         // Told below.
     }
-    Refuse("can't be read and written", "check who owns it and its permissions");
+    Refuse(isForReading ? "can't be read" : "can't be read and written", "check who owns it and its permissions");
 }
 
 bool MailboxFile::HasJournal() const
@@ -126,7 +141,7 @@ bool MailboxFile::HasJournal() const
     return SizeOf(mJournal) > 0;
 }
 
-void MailboxFile::CheckHeader(const unsigned char* header, std::uint64_t size, int newestVersion) const
+void MailboxFile::CheckHeader(const unsigned char* header, std::uint64_t size, bool hasJournal, int newestVersion) const
 {
     constexpr std::size_t pageSizeAt = 16;
     constexpr std::size_t pageCountAt = 28;
@@ -143,7 +158,7 @@ void MailboxFile::CheckHeader(const unsigned char* header, std::uint64_t size, i
     // The journal may hold pages that the file doesn't have yet, so the length only counts without one.
     const std::uint64_t written = std::uint64_t { header[pageSizeAt] } << 8 | header[pageSizeAt + 1];
     const std::uint64_t pageSize = written == 1 ? 65536 : written;
-    if (!HasJournal() && size < pageSize * BigEndian(header + pageCountAt)) {
+    if (!hasJournal && size < pageSize * BigEndian(header + pageCountAt)) {
         Refuse("is damaged: it is shorter than it says", Restore);
     }
 }
