@@ -1,13 +1,22 @@
 #include "slots/SlotLine.h"
 
+#include "base/Utf8.h"
+
 namespace tempodial {
 
 namespace {
 
+void AppendNumber(std::string& line, char32_t character)
+{
+    line += "&#" + std::to_string(std::uint32_t { character }) + ";";
+}
+
 void AppendEscaped(std::string& line, std::string_view text)
 {
-    for (const char character : text) {
-        switch (character) {
+    for (std::size_t offset = 0; offset < text.size();) {
+        const auto character = DecodeUtf8(text, offset);
+        offset += character.size;
+        switch (character.code) {
         case '&':
             line += "&amp;";
             break;
@@ -20,10 +29,14 @@ void AppendEscaped(std::string& line, std::string_view text)
         case '\t':
         case '\n':
         case '\r':
-            line += "&#" + std::to_string(int { character }) + ";";
+            AppendNumber(line, character.code);
             break;
         default:
-            line += character;
+            if (character.size > 1) {
+                AppendNumber(line, character.code);
+            } else {
+                line += static_cast<char>(character.code);
+            }
         }
     }
 }

@@ -16,8 +16,9 @@ public:
 
     /// The program, by the tracker's index.
     SlotLine& Application(int index);
-    /// A node of that name; whatever stands in the text, it is read as it is and the line stays one line. What XML has
-    /// no words for, as most control characters, must not be in it.
+    /// A node of that name; whatever stands in the text, it is read as it is, in whatever encoding the reader takes the
+    /// line to be, and the line stays one line. What XML has no words for, as most control characters, must not be in
+    /// it; bytes that aren't UTF-8 stay as they are.
     SlotLine& Node(std::string_view name, std::string_view text);
     /// Says that the slot goes on with the one before it.
     SlotLine& Continuation();

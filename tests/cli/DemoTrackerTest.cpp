@@ -71,7 +71,7 @@ private:
     {
         for (auto at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1)) {
             const auto entity = text.substr(at, text.find(';', at) - at + 1);
-            if (entity != "&amp;" && entity != "&lt;" && entity != "&gt;") {
+            if (entity != "&amp;" && entity != "&lt;" && entity != "&gt;" && !entity.starts_with("&#")) {
                 return false;
             }
         }
@@ -188,7 +188,7 @@ TEST(DemoTrackerTest, Files_ThreeWeeks_HoldAllThatALifeHas)
                 hasDetail = hasDetail || line.Has("Detail");
                 hasProject = hasProject || line.Has("Project");
                 hasUrl = hasUrl || line.Has("URL");
-                isForeign = isForeign || line.Node("OutlookFrom") == "José Álvarez";
+                isForeign = isForeign || line.Node("OutlookFrom") == "Jos&#233; &#193;lvarez";
                 hasLunch
                     = hasLunch || (lastEnd >= 43200 && lastEnd <= 46800 && line.Number("StartTime") - lastEnd >= 1800);
                 lastEnd = line.Number("EndTime");

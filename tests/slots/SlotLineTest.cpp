@@ -45,10 +45,16 @@ TEST(SlotLineTest, Node_SeveralLines_StayOneLine)
         "<slot><StartTime>0</StartTime><EndTime>1</EndTime><WindowText>a&#13;&#10;b&#9;c</WindowText></slot>");
 }
 
-TEST(SlotLineTest, Node_OtherLetters_StayAsTheyAre)
+TEST(SlotLineTest, Node_OtherLetters_AreNumbers)
 {
     EXPECT_EQ(SlotLine(0, 1).Node("WindowText", "B\u00fcro \U0001F600").Text(),
-        "<slot><StartTime>0</StartTime><EndTime>1</EndTime><WindowText>B\u00fcro \U0001F600</WindowText></slot>");
+        "<slot><StartTime>0</StartTime><EndTime>1</EndTime><WindowText>B&#252;ro &#128512;</WindowText></slot>");
+}
+
+TEST(SlotLineTest, Node_BytesThatAreNoCharacter_StayAsTheyAre)
+{
+    EXPECT_EQ(SlotLine(0, 1).Node("WindowText", "B\xfcro").Text(),
+        "<slot><StartTime>0</StartTime><EndTime>1</EndTime><WindowText>B\xfcro</WindowText></slot>");
 }
 
 }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "slots/Program.h"
+#include "slots/Sighting.h"
+#include "slots/TextPattern.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// A rule of what may be known of a window; a pattern that is absent matches everything.
+struct PrivacyRule
+{
+    /// What becomes of a window that matches: it was never there, only its program is told, other words stand for its
+    /// title, or it belongs to a project.
+    enum class Action { Drop, ProgramOnly, Replace, Project };
+
+    std::optional<TextPattern> program;
+    /// Of the title as the desktop gave it.
+    std::optional<TextPattern> title;
+    Action action = Action::Drop;
+    /// The other words, or the project.
+    std::string text;
+};
+
+/// The rules that windows are looked at by before anything of them is kept; the first that matches decides, a user's
+/// own before those that the product has.
+class PrivacyRules
+{
+public:
+    explicit PrivacyRules(std::vector<PrivacyRule> own = {});
+
+    /// The rule for a window of a program, nothing when none matches.
+    const PrivacyRule* Find(const Sighting& sighting, const Program& program) const;
+
+private:
+    std::vector<PrivacyRule> mRules;
+};
+
+}

@@ -1,0 +1,103 @@
+#include "slots/ViewMaker.h"
+
+#include "base/Text.h"
+#include "slots/PlaceRule.h"
+#include "slots/PlainText.h"
+
+namespace tempodial {
+
+namespace {
+
+/// What stands for a title that nobody is to know.
+constexpr auto PrivateText = "private";
+constexpr auto NoProjectText = "No Project";
+
+constexpr int FirstDocumentKind = 2;
+constexpr int MailKind = 5;
+
+/// What the caption of a mail window is about, empty when it is a folder or a mail without a subject.
+std::string SubjectOf(std::string_view text)
+{
+    constexpr std::string_view Windows[] { " - Message", " - Appointment", " - Meeting", " - Event", " - Task",
+        " - Contact" };
+    // What stands in brackets behind it is the message's form.
+    if (const auto form = text.rfind(" ("); form != std::string_view::npos && text.ends_with(')')) {
+        text = text.substr(0, form);
+    }
+    for (const auto window : Windows) {
+        if (text.ends_with(window)) {
+            text.remove_suffix(window.size());
+            return text == "Untitled" ? "" : std::string(text);
+        }
+    }
+    return "";
+}
+
+}
+
+std::string ProjectText(std::string_view name)
+{
+    auto project = NodeText(name, LongestName);
+    return EqualIgnoringCase(project, NoProjectText) ? "" : project;
+}
+
+Seen ViewMaker::Make(const Sighting& sighting) const
+{
+    const auto program = mPrograms.Find(sighting.program, sighting.programName);
+    if (program.sort == ProgramSort::Lock) {
+        return { Seen::Kind::Locked, {} };
+    }
+    const auto* rule = mRules.Find(sighting, program);
+    if (rule != nullptr && rule->action == PrivacyRule::Action::Drop) {
+        return { Seen::Kind::Dropped, {} };
+    }
+    if (program.sort == ProgramSort::Shell) {
+        return { Seen::Kind::Nothing, {} };
+    }
+    const bool isNameOnly = rule != nullptr && rule->action == PrivacyRule::Action::ProgramOnly;
+    if (isNameOnly || (sighting.isPrivate && (rule == nullptr || rule->action == PrivacyRule::Action::Project))) {
+        return { Seen::Kind::View, NameOnly(program) };
+    }
+    if (rule != nullptr && rule->action == PrivacyRule::Action::Replace) {
+        auto view = NameOnly(program);
+        view.text = NodeText(rule->text, LongestText);
+        view.place = view.text;
+        return { Seen::Kind::View, std::move(view) };
+    }
+    const auto cleaned = TitleCleaner::Clean(sighting.title, program);
+    if (cleaned.isNothing) {
+        return { Seen::Kind::Nothing, {} };
+    }
+    auto view = Titled(program, cleaned, PlainText(sighting.host));
+    if (rule != nullptr) {
+        view.project = ProjectText(rule->text);
+    }
+    return { Seen::Kind::View, std::move(view) };
+}
+
+SlotView ViewMaker::NameOnly(const Program& program)
+{
+    return { program.name, program.sort, 0, PrivateText, PrivateText, "" };
+}
+
+SlotView ViewMaker::Titled(const Program& program, const TitleCleaner::Cleaned& cleaned, const std::string& host)
+{
+    SlotView view;
+    view.program = program.isNamedBySuffix && !cleaned.suffix.empty() ? cleaned.suffix : program.name;
+    view.program = NodeText(view.program, LongestName);
+    view.sort = program.sort;
+    view.kind = program.kind;
+    const auto subject = program.kind == MailKind ? SubjectOf(cleaned.text) : "";
+    const auto placed
+        = subject.empty() ? PlaceRule::Of(program, cleaned.text, host) : PlaceRule::Placed { subject, subject };
+    view.text = NodeText(placed.text, LongestText);
+    view.place = NodeText(placed.place, LongestText);
+    const bool isDocument = view.kind >= FirstDocumentKind && view.kind < MailKind && !view.text.empty();
+    const bool isMail = view.kind == MailKind && !subject.empty();
+    if (view.kind >= FirstDocumentKind && view.kind <= MailKind && !isDocument && !isMail) {
+        view.kind = 0;
+    }
+    return view;
+}
+
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "slots/PrivacyRules.h"
+#include "slots/ProgramTable.h"
+#include "slots/Sighting.h"
+#include "slots/SlotView.h"
+#include "slots/TitleCleaner.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tempodial {
+
+/// What a window in front comes to.
+struct Seen
+{
+    /// A view; nothing, such as the bare desktop; nobody, since the screen is locked; or something that a rule takes as
+    /// if nobody had been there.
+    enum class Kind { View, Nothing, Locked, Dropped };
+
+    Kind kind = Kind::Nothing;
+    /// Set for a view only.
+    SlotView view;
+};
+
+/// Makes views of sightings: looks the program up, holds the rules of what may be known, cleans the title and finds the
+/// place in it.
+class ViewMaker
+{
+public:
+    ViewMaker(ProgramTable programs, PrivacyRules rules)
+        : mPrograms(std::move(programs))
+        , mRules(std::move(rules))
+    {
+    }
+
+    Seen Make(const Sighting& sighting) const;
+
+private:
+    static SlotView NameOnly(const Program& program);
+    static SlotView Titled(const Program& program, const TitleCleaner::Cleaned& cleaned, const std::string& host);
+
+    ProgramTable mPrograms;
+    PrivacyRules mRules;
+};
+
+/// A project's name as a tracker's file takes it: plain and not too long; empty when it stands for none.
+std::string ProjectText(std::string_view name);
+
+}
