@@ -11,6 +11,7 @@ namespace tempodial {
 struct Activity
 {
     std::int64_t number = 0;
+    std::string entryId;
     Date start;
     Date end;
     /// Minute boundaries from start to end.

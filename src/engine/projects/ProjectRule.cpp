@@ -31,6 +31,7 @@ void JoinCutPhrases(std::vector<std::string>& terms, std::string_view separator)
 ProjectRule::Term Prepared(std::string_view trimmed)
 {
     ProjectRule::Term term;
+    term.text = trimmed;
     term.quoted = trimmed.front() == '"' || trimmed.back() == '"';
     term.loneQuote = trimmed == "\"";
     if (term.quoted) {
@@ -47,6 +48,11 @@ ProjectRule::Term Prepared(std::string_view trimmed)
     return term;
 }
 
+}
+
+bool ProjectRule::Term::IsIn(const FoldedText& searched) const
+{
+    return std::all_of(parts.begin(), parts.end(), [&searched](const auto& part) { return searched.Contains(part); });
 }
 
 ProjectRule::ProjectRule(std::string text, std::vector<std::string> terms)
@@ -90,6 +96,13 @@ bool ProjectRule::IsSemiColonSeparator(std::string_view text)
         semicolon |= text[index] == ';';
     }
     return semicolon && !comma;
+}
+
+const ProjectRule::Term* ProjectRule::TermIn(const FoldedText& searched) const
+{
+    const auto found = std::find_if(
+        mMatchTerms.begin(), mMatchTerms.end(), [&searched](const Term& term) { return term.IsIn(searched); });
+    return found == mMatchTerms.end() ? nullptr : &*found;
 }
 
 bool ProjectRule::HasTerm(std::string_view text) const

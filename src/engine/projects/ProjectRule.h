@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/projects/FoldedText.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,11 +15,16 @@ public:
     /// A term without its quotes and outer blanks, with its case folded.
     struct Term
     {
+        /// As typed, without outer blanks.
+        std::string text;
         /// What has to occur in a text: one phrase of a quoted term, else the words between blanks.
         std::vector<std::string> parts;
         bool quoted = false;
         /// A single double quote and nothing else.
         bool loneQuote = false;
+
+        /// True when all that has to occur does so; a text that is empty holds nothing.
+        bool IsIn(const FoldedText& searched) const;
     };
 
     /// A rule without terms.
@@ -36,6 +43,8 @@ public:
     const std::vector<std::string>& Terms() const { return mTerms; }
     /// The terms that can match, in their order; empty ones are left out.
     const std::vector<Term>& MatchTerms() const { return mMatchTerms; }
+    /// The first term that is in a text; null when none is.
+    const Term* TermIn(const FoldedText& searched) const;
     /// True when a term equals the text exactly.
     bool HasTerm(std::string_view text) const;
 

@@ -121,7 +121,7 @@ bool TempodialProject::isMatch(const FoldedText& text, const ProjectRule& rule)
         if (!term.quoted) {
             step = "iterate";
         }
-        if (term.quoted ? text.Contains(term.parts.front()) : isandMatch(text, term)) {
+        if (term.quoted ? term.IsIn(text) : isandMatch(text, term)) {
             return true;
         }
     }
@@ -130,10 +130,8 @@ bool TempodialProject::isMatch(const FoldedText& text, const ProjectRule& rule)
 
 bool TempodialProject::isandMatch(const FoldedText& text, const ProjectRule::Term& term)
 {
-    for (const auto& word : term.parts) {
-        if (!text.Contains(word)) {
-            return false;
-        }
+    if (!term.IsIn(text)) {
+        return false;
     }
     Trace("unquoted match");
     return true;
