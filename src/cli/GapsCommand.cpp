@@ -36,7 +36,7 @@ public:
         constexpr std::int32_t MinutesOfDay = 24 * 60;
         const auto days = mDays.Days(options);
         const auto longer = ToCount("--longer", mLonger, 0, MinutesOfDay);
-        const auto profile = OpenProfile(options);
+        const auto profile = ReadProfile(options);
         const auto gaps = Gap::Between(ActivitiesTouching(profile, days), days, longer);
         Reply reply { .document = JsonValue::Array() };
         if (options.json) {

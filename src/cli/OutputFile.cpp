@@ -79,12 +79,17 @@ OutputTarget TargetAt(const std::string& path)
 
 void OutputFile::Declare(ArgumentList& arguments, const std::string& help, bool isRequired)
 {
-    const auto* form = "--out FILE";
+    constexpr auto Form = "--out FILE";
     if (isRequired) {
-        arguments.Required(form, mPath, help);
+        arguments.Required(Form, mPath, help);
     } else {
-        arguments.Optional(form, mPath, help);
+        DeclareAs(arguments, Form, help);
     }
+}
+
+void OutputFile::DeclareAs(ArgumentList& arguments, const std::string& form, const std::string& help)
+{
+    arguments.Optional(form, mPath, help);
 }
 
 bool OutputFile::IsNamed() const
@@ -93,7 +98,7 @@ bool OutputFile::IsNamed() const
         return false;
     }
     if (mPath->empty()) {
-        throw UsageError("--out names no file: give the path of one");
+        throw UsageError("the name of the file to write is empty: give the path of one");
     }
     (void)TargetAt(Path());
     return true;

@@ -17,6 +17,8 @@ class OutputFile
 public:
     /// Adds the argument to a command; it is kept here as it is parsed.
     void Declare(ArgumentList& arguments, const std::string& help, bool isRequired);
+    /// The same for an argument of another form, which may be left out.
+    void DeclareAs(ArgumentList& arguments, const std::string& form, const std::string& help);
     /// True when a place is named. Fails with a `UsageError` when the argument is empty, with a `CommandError` for a
     /// folder and for a file of a profile.
     bool IsNamed() const;

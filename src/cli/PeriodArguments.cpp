@@ -51,6 +51,15 @@ Period::WeekStart PeriodArguments::WeekStart(const Options& options)
     return [options] { return FirstDayOfWeek(options); };
 }
 
+void PeriodArguments::Take(const std::string& range)
+{
+    if (mRange) {
+        throw UsageError(
+            "RANGE is given twice, as \"" + range + "\" and as \"" + *mRange + "\": leave one of them out");
+    }
+    mRange = range;
+}
+
 Period PeriodArguments::Days(const Options& options, const std::string& usual) const
 {
     if (mRange && (mFrom || mTo)) {

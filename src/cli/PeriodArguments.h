@@ -25,6 +25,10 @@ public:
 
     /// Adds them to a command; they are kept here as they are parsed.
     void Declare(ArgumentList& arguments);
+    /// True when any of them was given.
+    bool IsGiven() const { return mRange || mFrom || mTo; }
+    /// Takes a text that stood in front of them for RANGE. Fails with a `UsageError` when there is one.
+    void Take(const std::string& range);
     /// The span that they name, or the usual one when they name none. Fails with a `UsageError`.
     Period Days(const Options& options, const std::string& usual = "today") const;
 

@@ -1,19 +1,12 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
+#include "cli/PrecedenceWord.h"
 #include "cli/TextTable.h"
 
 namespace tempodial {
 
 namespace {
-
-std::string PrecedenceName(const std::string& precedence)
-{
-    if (precedence == "1") {
-        return "high";
-    }
-    return precedence == "3" ? "low" : "medium";
-}
 
 class ProjectsCommand final : public Command
 {
@@ -47,7 +40,7 @@ public:
         }
         for (const auto& project : projects) {
             reply.document.Append(project.ToJson());
-            table.Add({ project.name, PrecedenceName(project.precedence), project.subject, project.notSubject,
+            table.Add({ project.name, PrecedenceWord(project.precedence), project.subject, project.notSubject,
                 project.people });
         }
         reply.text = table.Text();

@@ -1,30 +1,22 @@
+#include "cli/ChangesReply.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
+#include "cli/PeriodArguments.h"
+#include "cli/PrecedenceWord.h"
 #include "cli/ProjectNames.h"
 #include "engine/core/ProjectFacts.h"
+#include "review/ActivityReader.h"
+#include "review/RuleTerms.h"
 #include "terminal/UsageError.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace tempodial {
 
 namespace {
-
-std::string PrecedenceNumber(const std::string& name)
-{
-    if (name == "high") {
-        return "1";
-    }
-    if (name == "medium") {
-        return "2";
-    }
-    if (name == "low") {
-        return "3";
-    }
-    throw UsageError("--precedence can't be \"" + name + "\": give high, medium or low");
-}
 
 class ProjectsSetCommand final : public Command
 {
@@ -33,9 +25,15 @@ public:
         : Command({ "projects set", "Add a project or change one",
             "What isn't named stays as it is; a new project has no rules and medium\n"
             "precedence unless said. The terms of a subject rule stand between commas, or\n"
-            "else semicolons; those of a people rule between semicolons.\n"
+            "else semicolons; those of a people rule between semicolons. --add-subject and\n"
+            "--remove-subject take one term each, and may be repeated.\n"
+            "\n"
+            "--preview changes nothing. It shows which past activities the project's rules\n"
+            "would bring to it, as \"apply NAME\" does: those of the last seven days, or of\n"
+            "the range that is given.\n"
             "\n"
             "  tempodial projects set Riverside --subject \"riverside, kick-off\"\n"
+            "  tempodial projects set Riverside --add-subject proposal --preview last-week\n"
             "  tempodial projects set Riverside --people \"Ann Berger;Zoë Müller\" --precedence high\n"
             "  tempodial projects set Riverside --subject \"\"" })
     {
@@ -44,17 +42,25 @@ public:
     void Declare(ArgumentList& arguments) override
     {
         arguments.Required("NAME", mName, "The project");
+        mPeriod.Declare(arguments);
         arguments.Optional("--subject RULE", mSubject, "Words and phrases of a subject that belong to the project");
         arguments.Optional("--not-subject RULE", mNotSubject, "Words and phrases of a subject that don't");
         arguments.Optional("--people RULE", mPeople, "People with whom the work is for the project");
         arguments.Optional(
             "--precedence PRECEDENCE", mPrecedence, "Which projects are tried first: high, medium or low");
+        arguments.Repeated("--add-subject TERM", mAdded, "One more word or phrase of a subject");
+        arguments.Repeated("--remove-subject TERM", mRemoved, "One that is to be taken away");
+        arguments.Flag("--preview", mIsPreview, "Show what the rules would change, and change nothing");
     }
 
     Reply Run(const Options& options) override
     {
         RequireProjectName(mName);
-        const auto precedence = mPrecedence ? std::optional(PrecedenceNumber(*mPrecedence)) : std::nullopt;
+        if (mPeriod.IsGiven() && !mIsPreview) {
+            throw UsageError("a range of days goes with --preview: give that too, or leave the range out");
+        }
+        const auto span = mPeriod.Days(options, "-7d");
+        const auto precedence = mPrecedence ? std::optional(PrecedenceOf("--precedence", *mPrecedence)) : std::nullopt;
         for (const auto& rule : { mSubject, mNotSubject, mPeople }) {
             if (rule) {
                 KnownProject::RequireReadableRule(*rule);
@@ -62,27 +68,76 @@ public:
         }
         ConnectedRun run(options);
         auto& addIn = run.AddIn();
-        const auto name = KnownProject::NameOrNew(addIn, mName);
-        const auto former = KnownProject::Read(addIn, name);
-        const auto refusal
-            = addIn.UpdateorAddProject(name, mSubject.value_or(former.subject), mNotSubject.value_or(former.notSubject),
-                mPeople.value_or(former.people), precedence.value_or(former.precedence), false);
-        if (!refusal.empty()) {
-            throw CommandError(refusal);
-        }
-        Reply reply { .document = KnownProject::Read(addIn, name).ToJson() };
-        reply.summary = "The project " + name + " is kept.\n";
-        for (const auto& rule : { mSubject, mNotSubject }) {
-            if (rule) {
-                WarnOfSemicolons(*rule, reply);
-            }
-        }
+        auto project = KnownProject::Read(addIn, KnownProject::NameOrNew(addIn, mName));
+        project.subject = SubjectRule(mSubject.value_or(project.subject));
+        project.notSubject = mNotSubject.value_or(project.notSubject);
+        project.people = mPeople.value_or(project.people);
+        project.precedence = precedence.value_or(project.precedence);
+        auto reply = mIsPreview ? Preview(run, project, span, options) : Set(addIn, project);
+        WarnOfSemicolons(project.subject, mSubject || !mAdded.empty() || !mRemoved.empty(), reply);
+        WarnOfSemicolons(project.notSubject, mNotSubject.has_value(), reply);
         return run.Concluded(std::move(reply));
     }
 
 private:
-    /// Tells how a rule is read in which commas part the terms, so that semicolons belong to them.
-    static void WarnOfSemicolons(const std::string& rule, Reply& reply)
+    /// A rule with the terms added and taken away.
+    std::string SubjectRule(const std::string& rule) const
+    {
+        RuleTerms terms(rule);
+        for (const auto& term : mRemoved) {
+            if (!terms.Has(term)) {
+                throw CommandError(
+                    "the subject rule has no term \"" + term + "\": see \"tempodial projects\" for those it has");
+            }
+            if (!terms.Remove(term)) {
+                throw CommandError("the subject rule couldn't be read without \"" + term
+                    + "\" as its other terms are: give the whole rule with --subject");
+            }
+        }
+        for (const auto& term : mAdded) {
+            KnownProject::RequireReadableRule(term);
+            if (!terms.Add(term)) {
+                throw UsageError("--add-subject can't be \"" + term
+                    + "\": give one term that isn't blank, in quotes that are closed");
+            }
+        }
+        return terms.Rule();
+    }
+
+    static Reply Set(TempodialMain& addIn, const KnownProject& project)
+    {
+        const auto refusal = addIn.UpdateorAddProject(
+            project.name, project.subject, project.notSubject, project.people, project.precedence, false);
+        if (!refusal.empty()) {
+            throw CommandError(refusal);
+        }
+        Reply reply { .document = KnownProject::Read(addIn, project.name).ToJson() };
+        reply.summary = "The project " + project.name + " is kept.\n";
+        return reply;
+    }
+
+    static Reply Preview(
+        const ConnectedRun& run, const KnownProject& project, const Period& span, const Options& options)
+    {
+        if (const auto refusal = run.AddIn().ValidateProject(project.name);
+            !refusal.empty() && !KnownProject::IsListed(run.AddIn(), project.name)) {
+            throw CommandError(refusal);
+        }
+        auto projects = RuledProject::ReadAll(run.Profile());
+        projects.erase(std::remove_if(projects.begin(), projects.end(),
+                           [&project](const auto& known) { return known.name == project.name; }),
+            projects.end());
+        projects.push_back({ project.name, project.precedence, ProjectRule::ForSubjects(project.subject),
+            ProjectRule::ForSubjects(project.notSubject), ProjectRule::ForPeople(project.people) });
+        RuledProject::Sort(projects);
+        const auto preview = RulePreview::OfOne(
+            RuleTrial(std::move(projects)), project.name, ActivitiesStartingIn(run.Profile(), span));
+        TellDisputed(preview, options);
+        return PreviewReply(preview);
+    }
+
+    /// Tells how a rule is read in which commas part the terms, so that semicolons belong to them, if it is a new one.
+    static void WarnOfSemicolons(const std::string& rule, bool isNew, Reply& reply)
     {
         std::string terms;
         bool hasSemicolon = false;
@@ -90,17 +145,21 @@ private:
             hasSemicolon |= term.front() != '"' && term.find(';') != std::string::npos;
             terms += (terms.empty() ? "" : " | ") + term;
         }
-        if (hasSemicolon) {
+        if (isNew && hasSemicolon) {
             reply.warnings.push_back("in the rule \"" + rule
                 + "\" commas part the terms, and semicolons belong to them: it is read as " + terms);
         }
     }
 
     std::string mName;
+    PeriodArguments mPeriod;
     std::optional<std::string> mSubject;
     std::optional<std::string> mNotSubject;
     std::optional<std::string> mPeople;
     std::optional<std::string> mPrecedence;
+    std::vector<std::string> mAdded;
+    std::vector<std::string> mRemoved;
+    bool mIsPreview = false;
 };
 
 }

@@ -72,7 +72,7 @@ public:
         mProjects.RequireUsable();
         RequireFewDays(days, size);
         const auto columns = ColumnsOf(days, size, PeriodArguments::WeekStart(options));
-        const auto profile = OpenProfile(options);
+        const auto profile = ReadProfile(options);
         auto activities = ActivitiesStartingIn(profile, days);
         mProjects.Choose(profile, activities);
         const auto totals = Totals::Of(activities, kind, columns);

@@ -40,7 +40,7 @@ public:
     {
         const auto days = mDays.Days(options, "week");
         const auto rows = ToCount("--rows", mRows, 0, std::numeric_limits<std::int32_t>::max());
-        const auto profile = OpenProfile(options);
+        const auto profile = ReadProfile(options);
         const auto activities = ActivitiesStartingIn(profile, days);
         const auto groups = ActivityGroup::Unassigned(activities);
         const auto words = SubjectWord::Largest(groups);

@@ -12,34 +12,47 @@ namespace tempodial {
 
 namespace {
 
+// Colours stand where they are used, since mail programs know no variables.
 constexpr auto PageStyle = R"(
-:root { color-scheme: light dark; --text: #1c2330; --quiet: #5a6372; --page: #ffffff; --line: #d5dae2; --head: #f1f4f8; }
-@media (prefers-color-scheme: dark) {
-  :root { --text: #e6e9ef; --quiet: #a3adbd; --page: #14181f; --line: #3a4352; --head: #1f2630; }
-}
+:root { color-scheme: light dark; }
 * { box-sizing: border-box; }
-body { margin: 0 auto; max-width: 60rem; padding: 1.5rem 1rem; color: var(--text); background: var(--page);
-  font: 1rem/1.45 system-ui, "Segoe UI", "Noto Sans", sans-serif; }
-h1 { margin: 0; font-size: 1.7rem; line-height: 1.2; overflow-wrap: anywhere; }
-header p { margin: .3rem 0; color: var(--quiet); overflow-wrap: anywhere; }
-dl { display: flex; flex-wrap: wrap; gap: .5rem 2.5rem; margin: 1.2rem 0; }
-dt { color: var(--quiet); font-size: .85rem; }
-dd { margin: 0; font-size: 1.3rem; font-weight: 600; font-variant-numeric: tabular-nums; overflow-wrap: anywhere; }
+body { max-width: 56rem; margin: 0 auto; padding: 1.5rem 1rem 3rem; background: #ffffff; color: #1f2933;
+  font: 16px/1.5 "Segoe UI", system-ui, -apple-system, Roboto, "Helvetica Neue", Arial, sans-serif;
+  overflow-wrap: anywhere; }
+h1 { margin: 0; font-size: 1.625rem; line-height: 1.25; font-weight: 600; }
+header p { margin: .25rem 0; }
+header p, dt, caption, thead th { color: #52606d; }
+dl { display: flex; flex-wrap: wrap; gap: .5rem 2.5rem; margin: 1.25rem 0; }
+dt { font-size: .875rem; }
+dd { margin: 0; font-size: 1.25rem; font-weight: 600; font-variant-numeric: tabular-nums; }
 table { width: 100%; border-collapse: collapse; }
+caption { padding: 0 0 .5rem; text-align: left; }
 thead { display: table-header-group; }
 tr { break-inside: avoid; }
-th, td { padding: .45rem .6rem; border-bottom: 1px solid var(--line); text-align: start; vertical-align: top; }
-thead th { background: var(--head); font-size: .85rem; }
-th[scope=row] { font-weight: 400; white-space: nowrap; }
-.time { text-align: end; white-space: nowrap; font-variant-numeric: tabular-nums; }
-.what { width: 100%; overflow-wrap: anywhere; }
-.total th, .total td { border-bottom: 0; border-top: 2px solid var(--text); font-weight: 600; }
+th, td { padding: .4rem 1rem .4rem 0; border-bottom: 1px solid #e4e7eb; text-align: left; vertical-align: top; }
+thead th { border-bottom: 2px solid #9aa5b1; font-size: .875rem; font-weight: 600; }
+tbody th { font-weight: 400; white-space: nowrap; }
+.time { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
+.what { width: 100%; padding-right: 0; }
+.total th, .total td { border-bottom: 0; border-top: 2px solid #9aa5b1; font-weight: 600; }
 ul { margin: 0; padding: 0; list-style: none; }
-@media (max-width: 30rem) { body { padding: 1rem .5rem; } th, td { padding: .4rem .3rem; font-size: .9rem; } }
+@media (max-width: 30rem) {
+body { padding: 1rem .5rem 2rem; }
+th, td { padding-right: .5rem; font-size: .9rem; }
+}
+@media (prefers-color-scheme: dark) {
+body { background: #15191e; color: #e4e7eb; }
+header p, dt, caption, thead th { color: #a7b3bf; }
+th, td { border-bottom-color: #2c353f; }
+thead th { border-bottom-color: #616e7c; }
+.total th, .total td { border-top-color: #616e7c; }
+}
 @page { margin: 18mm 16mm 20mm; @bottom-right { content: counter(page) " / " counter(pages); font: 9pt sans-serif; } }
 @media print {
-  :root { color-scheme: light; --text: #000000; --quiet: #444444; --page: #ffffff; --line: #bbbbbb; --head: #eeeeee; }
-  body { max-width: none; padding: 0; font-size: 10.5pt; }
+:root { color-scheme: light; }
+body { max-width: none; padding: 0; background: none; color: #000000; font-size: 10.5pt; }
+header p, dt, caption, thead th { color: #333333; }
+header { break-after: avoid; }
 }
 )";
 
@@ -123,7 +136,8 @@ std::string Table(const Timesheet& sheet)
     const bool hasWhat
         = std::any_of(sheet.days.begin(), sheet.days.end(), [](const auto& day) { return !day.what.empty(); });
     const std::string what = hasWhat ? "<th scope=\"col\" class=\"what\">What</th>" : "";
-    auto table = "<table>\n<thead>\n<tr><th scope=\"col\">Day</th><th scope=\"col\" class=\"time\">Measured</th>"
+    auto table = "<table>\n<caption>Hours by day</caption>\n<thead>\n<tr><th scope=\"col\">Day</th><th scope=\"col\" "
+                 "class=\"time\">Measured</th>"
                  "<th scope=\"col\" class=\"time\">Billed</th>"
         + what + "</tr>\n</thead>\n<tbody>\n";
     for (const auto& day : sheet.days) {
@@ -154,7 +168,11 @@ std::vector<std::string> ShownTexts(const Timesheet::Day& day)
 std::string TimesheetPage(const Timesheet& sheet, const std::string& author, const std::string& currency)
 {
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>"
+           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+           "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
+           "base-uri 'none'; form-action 'none'\">\n"
+           "<meta name=\"color-scheme\" content=\"light dark\">\n<meta name=\"referrer\" content=\"no-referrer\">\n"
+           "<title>"
         + Escaped(TimesheetTitle(sheet)) + "</title>\n<style>" + PageStyle + "</style>\n</head>\n<body>\n"
         + Heading(sheet, author, currency) + "<main>\n" + Table(sheet) + "</main>\n</body>\n</html>\n";
 }

@@ -23,6 +23,11 @@ JsonValue::JsonValue(std::int64_t number, Integer)
 {
 }
 
+JsonValue::JsonValue(double number)
+    : mValue(std::make_unique<Json>(number))
+{
+}
+
 JsonValue::JsonValue(const char* text)
     : mValue(std::make_unique<Json>(text))
 {

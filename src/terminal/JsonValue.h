@@ -31,6 +31,7 @@ public:
         : JsonValue(static_cast<std::int64_t>(number), Integer())
     {
     }
+    JsonValue(double number);
     JsonValue(const char* text);
     JsonValue(std::string text);
     /// An array of texts.

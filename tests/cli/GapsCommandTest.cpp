@@ -22,6 +22,7 @@ protected:
 
 TEST_F(GapsCommandTest, Gaps_NewProfile_HasNone)
 {
+    Run({ "projects" });
     EXPECT_EQ(Json({ "gaps" }), nlohmann::json::array());
     EXPECT_EQ(Run({ "gaps" }).out, "No gaps over 15 minutes.\n");
 }

@@ -29,6 +29,7 @@ protected:
 
 TEST_F(SummaryCommandTest, Summary_NewProfile_IsEmpty)
 {
+    Run({ "projects" });
     EXPECT_EQ(Json({ "summary", "today" }), Parsed(R"({ "from": "2006-10-10", "to": "2006-10-10",
         "columns": [{ "from": "2006-10-10", "to": "2006-10-10" }], "rows": [], "totals": [0], "total": 0 })"));
     EXPECT_EQ(Run({ "summary" }).out, "No activities.\n");

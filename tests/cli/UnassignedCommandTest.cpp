@@ -23,6 +23,7 @@ protected:
 
 TEST_F(UnassignedCommandTest, Unassigned_NewProfile_IsEmpty)
 {
+    Run({ "projects" });
     EXPECT_EQ(Json({ "unassigned", "today" }), nlohmann::json::parse(R"({ "from": "2006-10-10", "to": "2006-10-10",
         "minutes": 0, "ofMinutes": 0, "groups": [], "words": [] })"));
     EXPECT_EQ(Run({ "unassigned" }).out, "No time without a project.\n");

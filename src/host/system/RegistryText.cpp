@@ -10,21 +10,13 @@ namespace {
 
 std::string Inline(const toml::node& node);
 
-/// A value that holds no other ones.
-std::string Formatted(const toml::node& node)
-{
-    std::ostringstream text;
-    text << toml::toml_formatter(node, toml::format_flags::allow_unicode_strings);
-    return text.str();
-}
-
 /// A name, in quotes unless it may stand without. The library's own formatter leaves them off for names with an
 /// apostrophe, a tab or a line end, which nobody can read then.
 std::string Name(std::string_view name)
 {
     constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-";
     const bool isBare = !name.empty() && name.find_first_not_of(plain) == std::string_view::npos;
-    return isBare ? std::string(name) : Formatted(toml::value<std::string>(name));
+    return isBare ? std::string(name) : RegistryValueText(toml::value<std::string>(name));
 }
 
 /// A table or an array in one line, with the parts given.
@@ -49,7 +41,7 @@ std::string Inline(const toml::node& node)
     if (const auto* array = node.as_array()) {
         return List("[", *array, "]", [](auto at) { return Inline(*at); });
     }
-    return Formatted(node);
+    return RegistryValueText(node);
 }
 
 void Append(const toml::table& table, const std::string& path, std::string& text)
@@ -70,6 +62,13 @@ void Append(const toml::table& table, const std::string& path, std::string& text
     }
 }
 
+}
+
+std::string RegistryValueText(const toml::node& value)
+{
+    std::ostringstream text;
+    text << toml::toml_formatter(value, toml::format_flags::allow_unicode_strings);
+    return text.str();
 }
 
 std::string RegistryText(const toml::table& root)
