@@ -81,6 +81,19 @@ ExitStatus CommandLine::Run(const std::vector<std::string>& arguments) noexcept
     return RunProgram(Name, mError, [&] { return Execute(arguments); });
 }
 
+std::vector<CommandOutline> CommandLine::Outline() const
+{
+    auto outlines = mParser.Outline();
+    for (auto& outline : outlines) {
+        const auto found = std::find_if(mCommands.begin(), mCommands.end(),
+            [&outline](const auto& command) { return command->About().name == outline.name; });
+        if (found != mCommands.end()) {
+            outline.details = (*found)->About().details;
+        }
+    }
+    return outlines;
+}
+
 ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 {
     if (std::ostringstream help; !mParser.Parse(arguments, help)) {

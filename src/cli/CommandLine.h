@@ -23,6 +23,8 @@ public:
 
     /// Does what the arguments, without the program's name, ask for. Fails never.
     ExitStatus Run(const std::vector<std::string>& arguments) noexcept;
+    /// The program and its commands with their arguments.
+    std::vector<CommandOutline> Outline() const;
 
 private:
     void DeclareOptions();

@@ -27,6 +27,7 @@ std::vector<std::unique_ptr<Command>> AllCommands()
         MakeDemoCommand(),
         MakeTraceCommand(),
         MakeRegistryCommand(),
+        MakeCompletionCommand(),
     };
     return { std::make_move_iterator(std::begin(commands)), std::make_move_iterator(std::end(commands)) };
 }

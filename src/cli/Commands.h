@@ -31,5 +31,6 @@ std::unique_ptr<Command> MakeGapsCommand();
 std::unique_ptr<Command> MakeDemoCommand();
 std::unique_ptr<Command> MakeTraceCommand();
 std::unique_ptr<Command> MakeRegistryCommand();
+std::unique_ptr<Command> MakeCompletionCommand();
 
 }

@@ -105,6 +105,39 @@ std::string UnexpectedArgument(const CLI::App& app)
     return "\"" + argument + "\" isn't expected here" + NearestAdvice(argument, commands, SeeHelp(app));
 }
 
+ArgumentOutline OutlineOf(const CLI::Option& option)
+{
+    ArgumentOutline outline { .value = option.get_option_text(),
+        .help = Replace(option.get_description(), "\n", " "),
+        .isOption = !option.get_positional(),
+        .isRequired = option.get_required(),
+        .isRepeated
+        = option.get_multi_option_policy() == CLI::MultiOptionPolicy::TakeAll || option.get_items_expected_max() > 1 };
+    for (const auto& name : option.get_snames()) {
+        outline.names.push_back("-" + name);
+    }
+    for (const auto& name : option.get_lnames()) {
+        outline.names.push_back("--" + name);
+    }
+    if (!outline.isOption) {
+        outline.names.push_back(option.get_name());
+    }
+    return outline;
+}
+
+/// Adds the outline of a command and of those below it; the words in front of its own are those of its parent.
+void AddOutlines(const CLI::App& app, const std::string& name, std::vector<CommandOutline>& outlines)
+{
+    CommandOutline outline { .name = name, .summary = app.get_description(), .details = app.get_footer() };
+    for (const auto* option : app.get_options()) {
+        outline.arguments.push_back(OutlineOf(*option));
+    }
+    outlines.push_back(std::move(outline));
+    for (const auto* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+        AddOutlines(*command, (name.empty() ? "" : name + " ") + command->get_name(), outlines);
+    }
+}
+
 }
 
 ArgumentParser::ArgumentParser(const Help& program)
@@ -172,6 +205,13 @@ std::string ArgumentParser::ChosenCommand() const
 {
     const auto& chosen = ChosenApp(*mApp);
     return &chosen == mApp.get() ? "" : Words(chosen).substr(mApp->get_name().size() + 1);
+}
+
+std::vector<CommandOutline> ArgumentParser::Outline() const
+{
+    std::vector<CommandOutline> outlines;
+    AddOutlines(*mApp, "", outlines);
+    return outlines;
 }
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "terminal/ArgumentList.h"
+#include "terminal/CommandOutline.h"
 
 #include <memory>
 #include <ostream>
@@ -39,6 +40,9 @@ public:
     bool Parse(const std::vector<std::string>& arguments, std::ostream& out) const;
     /// The name of the command that the arguments read chose, empty when they chose none.
     std::string ChosenCommand() const;
+
+    /// What was declared: the program first, then the commands, each before those below it.
+    std::vector<CommandOutline> Outline() const;
 
 private:
     std::unique_ptr<CLI::App> mApp;

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <sstream>
 
 namespace tempodial {
@@ -125,6 +126,47 @@ TEST_F(ArgumentParserTest, Parse_Version_PrintsIt)
     EXPECT_EQ(Printed({ "--version" }), "prog 1.2.0\n");
     AddCommands();
     EXPECT_EQ(Printed({ "list", "--version" }), "prog 1.2.0\n");
+}
+
+TEST_F(ArgumentParserTest, Outline_NestedCommands_AreInTheirOrderWithTheirArguments)
+{
+    AddCommands();
+    std::optional<std::string> days;
+    std::string name;
+    std::vector<std::string> rules;
+    bool isAll = false;
+    auto arguments = mParser.AddCommand({ "list", "About list", "Details" });
+    arguments.Optional("--days N", days, "How many\ndays");
+    arguments.Required("NAME", name, "A name");
+    arguments.Repeated("--rule RULE", rules, "A rule");
+    arguments.Flag("--all", isAll, "All");
+
+    const auto outline = mParser.Outline();
+
+    ASSERT_EQ(outline.size(), 4U);
+    EXPECT_EQ(outline[0].name, "");
+    EXPECT_EQ(outline[0].details, "An end");
+    EXPECT_EQ(outline[2].name, "projects");
+    EXPECT_EQ(outline[3].name, "projects set");
+    const auto& list = outline[1];
+    EXPECT_EQ(list.name, "list");
+    EXPECT_EQ(list.summary, "About list");
+    EXPECT_EQ(list.details, "Details");
+    ASSERT_EQ(list.arguments.size(), 5U);
+    EXPECT_EQ(list.arguments[0].names, (Words { "-h", "--help" }));
+    EXPECT_EQ(list.arguments[1].names, Words { "--days" });
+    EXPECT_EQ(list.arguments[1].value, "N");
+    EXPECT_EQ(list.arguments[1].help, "How many days");
+    EXPECT_TRUE(list.arguments[1].isOption);
+    EXPECT_FALSE(list.arguments[1].isRequired);
+    EXPECT_FALSE(list.arguments[1].isRepeated);
+    EXPECT_EQ(list.arguments[2].names, Words { "NAME" });
+    EXPECT_EQ(list.arguments[2].value, "");
+    EXPECT_FALSE(list.arguments[2].isOption);
+    EXPECT_TRUE(list.arguments[2].isRequired);
+    EXPECT_TRUE(list.arguments[3].isRepeated);
+    EXPECT_EQ(list.arguments[4].value, "");
+    EXPECT_TRUE(list.arguments[4].isOption);
 }
 
 }
