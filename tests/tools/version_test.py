@@ -20,6 +20,7 @@ class VersionTest(unittest.TestCase):
         self.assertIsNotNone(version)
         self.assertEqual(Found("CMakeLists.txt", r"^project\(.* VERSION ([0-9.]+)"), version)
         self.assertEqual(Found("CHANGELOG.md", r"^## (\S+)"), version)
+        self.assertEqual(Found("debian/changelog", r"^tempodial \(([^)]+)\)"), version)
 
 
 if __name__ == "__main__":
