@@ -1,4 +1,4 @@
-# Installing Debian packages and configuring a preset, for ./start and ./check, which set `here` and read this file.
+# Installing Debian packages and configuring a preset, for ./start, ./check and ./package, which set `here` and read this file.
 
 # What the product is built with and from.
 build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev libexpat1-dev libicu-dev
@@ -16,6 +16,9 @@ fuzz_packages=(clang libclang-rt-dev)
 
 # What ./check --bench needs besides: a peer to compare with, and callgrind.
 bench_packages=(python3 timewarrior valgrind)
+
+# What ./package needs besides.
+package_packages=(debhelper dpkg-dev fakeroot git lintian python3)
 
 # install_missing PACKAGE...: installs those of the packages that are missing; asks dpkg once and nothing else when
 # none is.

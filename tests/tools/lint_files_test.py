@@ -30,6 +30,7 @@ class CheckTest(unittest.TestCase):
 
     def test_TabsAndBlanks_AreRefused(self):
         self.Refuses("src/base/Date.cpp", "int a;\tint b;\n", ":1: a tab")
+        self.assertEqual(Findings("debian/rules", "%:\n\tdh $@\n"), [])
         self.Refuses("src/base/Date.cpp", "int a;\nint b; \n", ":2: blanks")
         self.Refuses("src/base/Date.cpp", "int a;\r\n", "carriage return")
 
