@@ -11,6 +11,7 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 class ProblemReportCommandTest : public ProgramFixture
@@ -103,6 +104,35 @@ TEST_F(ProblemReportCommandTest, ProblemReport_StandardOutput_GetsTheMail)
     EXPECT_EQ(Json(Report()).at("attachments").size(), 1U);
 }
 
+TEST_F(ProblemReportCommandTest, ProblemReport_List_ShowsWhatWouldGoAndWritesNothing)
+{
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc") });
+    const auto listed = Json({ "problem-report", "--list" });
+    EXPECT_THAT(
+        listed.at("attachments").get<Arguments>(), ElementsAre("WorkLogTrace1.out", "tracker_granules20061010.out"));
+    EXPECT_EQ(listed.at("files").at(1).at("name"), "tracker_granules20061010.out");
+    EXPECT_EQ(
+        listed.at("files").at(1).at("bytes"), std::filesystem::file_size(DataPath("tracker_granules20061010.out")));
+    const auto text = Run({ "problem-report", "--list" }).out;
+    EXPECT_THAT(text, StartsWith("An e-mail to support@tempodial.example, with what you expected"));
+    EXPECT_THAT(text, HasSubstr("\n  tracker_granules20061010.out, "));
+    EXPECT_FALSE(mFolder.Has("problem.eml"));
+}
+
+TEST_F(ProblemReportCommandTest, ProblemReport_Redacted_HoldsNoWordsOfTheUser)
+{
+    WriteTracker("20061010", { WordSlot(32400, 32700, "secret.doc") });
+    Run({ "sync" });
+    Run(Report());
+    EXPECT_THAT(ReadBack("cli/read_attachments.py", mMail), HasSubstr("secret"));
+    Run(Report({ "--redact" }));
+    const auto redacted = ReadBack("cli/read_attachments.py", mMail);
+    EXPECT_THAT(redacted, Not(HasSubstr("secret")));
+    EXPECT_THAT(redacted, HasSubstr("tracker_granules20061010.out\n"));
+    EXPECT_THAT(redacted, HasSubstr("<EndTime>32700</EndTime>"));
+    EXPECT_THAT(redacted, HasSubstr("TDDataHandler load line: ..."));
+}
+
 TEST_F(ProblemReportCommandTest, ProblemReport_BadArguments_AreUsageErrors)
 {
     Refusal({ "problem-report", "--actual", "b", "--out", mMail }, 2);
@@ -110,6 +140,7 @@ TEST_F(ProblemReportCommandTest, ProblemReport_BadArguments_AreUsageErrors)
     Refusal({ "problem-report", "--expected", "a", "--actual", "b" }, 2);
     Refusal({ "problem-report", "--expected", "a", "--actual", "b", "--out", "" }, 2);
     Refusal(Report({ "--day", "soon" }), 2);
+    EXPECT_THAT(Refusal(Report({ "--list" }), 2), HasSubstr("--list writes nothing: leave --out out"));
     Refusal(Report({ "--day", "week" }), 2);
     mMail = mFolder.Path("problem.html");
     EXPECT_THAT(Refusal(Report(), 2), HasSubstr("give a name that ends in .eml\n"));
