@@ -51,6 +51,15 @@ class ToldTest(unittest.TestCase):
         self.assertIsNone(self.Told("Network.requestWillBeSent", requestId="1", request={"url": "file:///page.html"}))
         self.assertIsNone(self.Told("Page.frameNavigated", frame={"url": "file:///page.html"}))
 
+    def test_OwnPicture_IsOneBesideThePage(self):
+        def IsOwn(type, url):
+            event = {"method": "Network.requestWillBeSent", "params": {"type": type, "request": {"url": url}}}
+            return check.IsOwnPicture(event, "file:///guide/page.html")
+        self.assertTrue(IsOwn("Image", "file:///guide/a.png"))
+        self.assertFalse(IsOwn("Image", "file:///a.png"))
+        self.assertFalse(IsOwn("Image", "http://guide/a.png"))
+        self.assertFalse(IsOwn("Script", "file:///guide/a.js"))
+
     def test_RefusedRequest_IsAFindingUnlessAllowed(self):
         request = {"requestId": "2", "request": {"url": "http://x/"}}
         self.assertIn("http://x/", self.Told("Network.requestWillBeSent", **request))
