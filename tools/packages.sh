@@ -18,7 +18,7 @@ fuzz_packages=(clang libclang-rt-dev)
 bench_packages=(python3 timewarrior valgrind)
 
 # What ./package needs besides.
-package_packages=(debhelper dpkg-dev fakeroot git lintian python3)
+package_packages=(debhelper dpkg-dev fakeroot fish git lintian mandoc python3 tidy zsh)
 
 # install_missing PACKAGE...: installs those of the packages that are missing; asks dpkg once and nothing else when
 # none is.
