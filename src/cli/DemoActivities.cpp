@@ -4,7 +4,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::array<DemoActivity, 44> InventedActivities { {
+constexpr std::array<DemoActivity, 65> InventedActivities { {
     { 0, { { { "AppName", "Calculator" }, { "WindowText", "Calculator" } } } },
     { 0, { { { "AppName", "Sketchpad" }, { "WindowText", "floor plan.skp - Sketchpad" } } } },
     { 0, { { { "AppName", "Ledger" }, { "WindowText", "" }, { "OwnedWindowText", "Invoices October - Ledger" } } } },
@@ -71,6 +71,27 @@ constexpr std::array<DemoActivity, 44> InventedActivities { {
         { { { "OutlookFolder", "Inbox" }, { "OutlookSubject", "Parking places" },
             { "OutlookFrom", "Facility management" } } } },
     { 2, { { { "WordDocName", "User manual.doc" } } } },
+    { 0, { { { "AppName", "Firefox" }, { "WindowText", "Riverside: open tasks (tracker.example.com)" } } } },
+    { 0, { { { "AppName", "Firefox" }, { "WindowText", "Atlas handbook (wiki.example.com)" } } } },
+    { 0, { { { "AppName", "Firefox" }, { "WindowText", "Train timetable (trains.example.com)" } } } },
+    { 0, { { { "AppName", "Google Chrome" }, { "WindowText", "Calendar (calendar.example.com)" } } } },
+    { 0, { { { "AppName", "Visual Studio Code" }, { "WindowText", "atlas: import.py" } } } },
+    { 0, { { { "AppName", "Visual Studio Code" }, { "WindowText", "atlas: tiles.ts" } } } },
+    { 0, { { { "AppName", "Visual Studio Code" }, { "WindowText", "riverside: prices.sql" } } } },
+    { 0, { { { "AppName", "Terminal" }, { "WindowText", "box: ~/src/atlas" } } } },
+    { 0, { { { "AppName", "Terminal" }, { "WindowText", "server: /var/log" } } } },
+    { 0, { { { "AppName", "LibreOffice Calc" }, { "WindowText", "Invoices October.ods" } } } },
+    { 0, { { { "AppName", "LibreOffice Calc" }, { "WindowText", "Budget Riverside.ods" } } } },
+    { 0, { { { "AppName", "LibreOffice Writer" }, { "WindowText", "Minutes of the weekly meeting.odt" } } } },
+    { 0, { { { "AppName", "Thunderbird" }, { "WindowText", "Write: Atlas release on Friday" } } } },
+    { 0, { { { "AppName", "Thunderbird" }, { "WindowText", "Inbox" } } } },
+    { 0, { { { "AppName", "Slack" }, { "WindowText", "atlas (Lindenfold)" } } } },
+    { 0, { { { "AppName", "Slack" }, { "WindowText", "general (Lindenfold)" } } } },
+    { 0, { { { "AppName", "Zoom" }, { "WindowText", "Weekly meeting" } } } },
+    { 0, { { { "AppName", "Microsoft Teams" }, { "WindowText", "Riverside steering (Lindenfold)" } } } },
+    { 0, { { { "AppName", "Okular" }, { "WindowText", "Angebot Müller & Söhne.pdf" } } } },
+    { 0, { { { "AppName", "Files" }, { "WindowText", "Riverside" } } } },
+    { 0, { { { "AppName", "Text Editor" }, { "WindowText", "notes: ideas für Dienstag.txt" } } } },
 } };
 
 }

@@ -1,6 +1,7 @@
 #include "base/Failure.h"
 #include "cli/CommandError.h"
 #include "cli/Commands.h"
+#include "cli/DemoProjects.h"
 #include "cli/DemoTracker.h"
 #include "host/system/HostClock.h"
 #include "session/OpenProfile.h"
@@ -24,7 +25,8 @@ public:
             "Writes the files that a tracker would have written in the days up to now into\n"
             "the data folder of the profile, unless tracker files are there already.\n"
             "\"tempodial sync\" then makes activities of them. Older days than the 21 before\n"
-            "today wouldn't be imported, so there are at most 22.\n"
+            "today wouldn't be imported, so there are at most 22. A profile without rules\n"
+            "for projects gets four projects that have some.\n"
             "\n"
             "  tempodial --profile /tmp/try demo\n"
             "  tempodial --profile /tmp/try sync" })
@@ -46,6 +48,7 @@ public:
         const auto files = DemoTracker(seed, HostClock(options.now).Now()).Files(days);
         RequireNoTrackerFiles(*profile.Surroundings().fileSystem, profile.DataFolder());
         const auto lines = WriteAll(profile, files);
+        AddDemoProjects(profile);
         Reply reply;
         reply.document.Set("files", files.size());
         reply.document.Set("lines", lines);

@@ -2,6 +2,7 @@
 
 #include "cli/DemoActivities.h"
 #include "session/ProductFacts.h"
+#include "slots/DayFile.h"
 #include "slots/SlotLine.h"
 #include "terminal/Arguments.h"
 
@@ -40,16 +41,15 @@ public:
 
     DemoFile File(const std::vector<Session>& sessions)
     {
-        DemoFile file { TrackerFileName(mDay.DayKey()), { "Tempodial demo tracker, " + IsoDay(mDay) } };
+        DemoFile file { TrackerFileName(mDay.DayKey()), { DayFile::Heading(mDay, 0) } };
         // The day begins with another kind of application each time, so that all of them occur.
         const auto* activity = &AnyOfKind(static_cast<std::size_t>(mDayNumber) % DemoKinds);
-        for (std::size_t i = 0; i < sessions.size(); ++i) {
-            auto slot = sessions[i].begin;
-            while (slot < sessions[i].end) {
-                const auto length = std::min(Length(), sessions[i].end - slot);
+        for (const auto& session : sessions) {
+            auto slot = session.begin;
+            while (slot < session.end) {
+                const auto length = std::min(Length(), session.end - slot);
                 for (int part = 0; part < length; ++part, ++slot) {
-                    const bool isLast = i + 1 == sessions.size() && slot + 1 == sessions[i].end;
-                    AddSlot(file.lines, *activity, slot, part > 0, isLast);
+                    AddSlot(file.lines, *activity, slot, part > 0);
                 }
                 activity = &Another(activity);
             }
@@ -148,17 +148,17 @@ private:
         return *activity;
     }
 
-    void AddSlot(std::vector<std::string>& lines, const DemoActivity& activity, int slot, bool continues, bool isLast)
+    void AddSlot(std::vector<std::string>& lines, const DemoActivity& activity, int slot, bool continues)
     {
         const auto begin = slot * SecondsOfSlot;
-        const auto end = begin + SecondsOfSlot;
-        auto line = Line(activity, begin, end);
-        lines.push_back(continues ? line.Continuation().Text() : line.Text());
-        // A detail at the very end of a file would be taken again at each sync.
-        if (!isLast && OneIn(6)) {
-            const auto aside = begin + Between(1, 4) * SecondsOfSlot / 5;
-            lines.push_back(Line(Another(&activity), aside, end).Detail().Text());
+        if (continues && OneIn(6)) {
+            // What came besides stands in front of the line that goes on, behind the activity's own words, so that
+            // these and the project stay.
+            lines.push_back(Line(activity, begin - SecondsOfSlot, begin).Detail().Text());
+            lines.push_back(Line(Another(&activity), begin - Between(1, 4) * SecondsOfSlot / 5, begin).Detail().Text());
         }
+        auto line = Line(activity, begin, begin + SecondsOfSlot);
+        lines.push_back(continues ? line.Continuation().Text() : line.Text());
     }
 
     static SlotLine Line(const DemoActivity& activity, int begin, int end)

@@ -1,5 +1,6 @@
 #include "support/ProgramFixture.h"
 
+#include <set>
 #include <sys/stat.h>
 
 namespace tempodial {
@@ -61,6 +62,26 @@ TEST_F(DemoCommandTest, Demo_EarlyHours_HaveActivitiesUpToNow)
         EXPECT_EQ(Json({ "demo", "--days", "1" }), (nlohmann::json { { "files", 1 }, { "lines", lines } }));
         std::filesystem::remove_all(mProfile);
     }
+}
+
+TEST_F(DemoCommandTest, Demo_FirstReport_ShowsProjects)
+{
+    Json({ "demo" });
+    Json({ "sync" });
+    std::set<std::string> projects;
+    for (const auto& item : Json({ "list", "-21d" })) {
+        EXPECT_THAT(item.at("properties").at("Description").get<std::string>(), testing::Not(HasSubstr("including: ")));
+        projects.insert(item.at("properties").at("Project"));
+    }
+    EXPECT_THAT(projects, testing::IsSupersetOf({ "Accounts", "Atlas", "Riverside", "Team", "No Project" }));
+}
+
+TEST_F(DemoCommandTest, Demo_ProjectsWithRules_StayAsTheyAre)
+{
+    Json({ "projects", "set", "Own", "--subject", "own" });
+    const auto before = Json({ "projects" });
+    Json({ "demo", "--days", "1" });
+    EXPECT_EQ(Json({ "projects" }), before);
 }
 
 TEST_F(DemoCommandTest, Demo_SeedAndMoment_DecideTheFiles)

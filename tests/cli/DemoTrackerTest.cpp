@@ -138,6 +138,11 @@ TEST(DemoTrackerTest, Files_AnySeedAndMoment_HoldWellFormedSlotsInOrder)
             if (!slots.empty()) {
                 EXPECT_FALSE(slots.back().Has("Detail")) << "would be taken again at each sync";
             }
+            for (std::size_t i = 1; i < slots.size(); ++i) {
+                if (slots[i - 1].Has("Detail") && !slots[i].Has("Detail")) {
+                    EXPECT_TRUE(slots[i].Has("Continuation")) << "would leave its title to a detail";
+                }
+            }
         }
     });
 }
