@@ -24,6 +24,7 @@ std::vector<std::unique_ptr<Command>> AllCommands()
         MakeTimesheetCommand(),
         MakeUnassignedCommand(),
         MakeGapsCommand(),
+        MakeImportCommand(),
         MakeDemoCommand(),
         MakeTraceCommand(),
         MakeRegistryCommand(),

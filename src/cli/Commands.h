@@ -28,6 +28,7 @@ std::unique_ptr<Command> MakeSummaryCommand();
 std::unique_ptr<Command> MakeTimesheetCommand();
 std::unique_ptr<Command> MakeUnassignedCommand();
 std::unique_ptr<Command> MakeGapsCommand();
+std::unique_ptr<Command> MakeImportCommand();
 std::unique_ptr<Command> MakeDemoCommand();
 std::unique_ptr<Command> MakeTraceCommand();
 std::unique_ptr<Command> MakeRegistryCommand();

@@ -22,16 +22,6 @@ std::optional<Period> PeriodNamed(const std::string& text, const Options& option
     throw UsageError(name + " can't be \"" + text + "\": give " + advice);
 }
 
-Period ToPeriod(const std::string& name, const std::string& text, const Options& options)
-{
-    const auto period = PeriodNamed(text, options);
-    if (!period) {
-        RefuseDays(name, text,
-            "a day as YYYY-MM-DD, or a word such as today, monday, week, last-month, 2026-11, 2026-W47 or -7d");
-    }
-    return *period;
-}
-
 }
 
 void PeriodArguments::Declare(ArgumentList& arguments)
@@ -99,6 +89,16 @@ Date PeriodArguments::ToDay(const std::string& name, const std::string& text, co
         RefuseDays(name, text, "a day as YYYY-MM-DD, today, yesterday or a day of the week");
     }
     return period->first;
+}
+
+Period PeriodArguments::ToPeriod(const std::string& name, const std::string& text, const Options& options)
+{
+    const auto period = PeriodNamed(text, options);
+    if (!period) {
+        RefuseDays(name, text,
+            "a day as YYYY-MM-DD, or a word such as today, monday, week, last-month, 2026-11, 2026-W47 or -7d");
+    }
+    return *period;
 }
 
 }

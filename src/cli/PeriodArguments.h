@@ -34,6 +34,8 @@ public:
 
     /// Tells with which day a week begins.
     static Period::WeekStart WeekStart(const Options& options);
+    /// The days that an argument of that name calls by its text. Fails with a `UsageError`.
+    static Period ToPeriod(const std::string& name, const std::string& text, const Options& options);
     /// The one day that an argument of that name calls by its text. Fails with a `UsageError`.
     static Date ToDay(const std::string& name, const std::string& text, const Options& options);
 

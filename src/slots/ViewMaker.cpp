@@ -48,31 +48,51 @@ Seen ViewMaker::Make(const Sighting& sighting) const
         return { Seen::Kind::Locked, {} };
     }
     const auto* rule = mRules.Find(sighting, program);
-    if (rule != nullptr && rule->action == PrivacyRule::Action::Drop) {
-        return { Seen::Kind::Dropped, {} };
-    }
-    if (program.sort == ProgramSort::Shell) {
-        return { Seen::Kind::Nothing, {} };
-    }
-    const bool isNameOnly = rule != nullptr && rule->action == PrivacyRule::Action::ProgramOnly;
-    if (isNameOnly || (sighting.isPrivate && (rule == nullptr || rule->action == PrivacyRule::Action::Project))) {
-        return { Seen::Kind::View, NameOnly(program) };
-    }
-    if (rule != nullptr && rule->action == PrivacyRule::Action::Replace) {
-        auto view = NameOnly(program);
-        view.text = NodeText(rule->text, LongestText);
-        view.place = view.text;
-        return { Seen::Kind::View, std::move(view) };
+    if (auto ruled = Ruled(sighting, program, rule)) {
+        return std::move(*ruled);
     }
     const auto cleaned = TitleCleaner::Clean(sighting.title, program);
-    if (cleaned.isNothing) {
+    if (program.sort == ProgramSort::Shell || cleaned.isNothing) {
         return { Seen::Kind::Nothing, {} };
     }
     auto view = Titled(program, cleaned, PlainText(sighting.host));
-    if (rule != nullptr) {
-        view.project = ProjectText(rule->text);
-    }
+    view.project = rule == nullptr ? "" : ProjectText(rule->text);
     return { Seen::Kind::View, std::move(view) };
+}
+
+Seen ViewMaker::MakeStated(const Sighting& sighting) const
+{
+    Program program;
+    program.name = NodeText(sighting.program, LongestName);
+    const auto* rule = mRules.Find(sighting, program);
+    if (auto ruled = Ruled(sighting, program, rule)) {
+        return std::move(*ruled);
+    }
+    const auto text = NodeText(sighting.title, LongestText);
+    return { Seen::Kind::View,
+        { program.name, program.sort, 0, text, text, rule == nullptr ? "" : ProjectText(rule->text) } };
+}
+
+std::optional<Seen> ViewMaker::Ruled(const Sighting& sighting, const Program& program, const PrivacyRule* rule) const
+{
+    using Action = PrivacyRule::Action;
+    const auto action = rule == nullptr ? Action::Project : rule->action;
+    if (action == Action::Drop) {
+        return Seen { Seen::Kind::Dropped, {} };
+    }
+    if (program.sort == ProgramSort::Shell) {
+        return std::nullopt;
+    }
+    auto view = NameOnly(program);
+    if (action == Action::Replace) {
+        view.text = NodeText(rule->text, LongestText);
+        view.place = view.text;
+        return Seen { Seen::Kind::View, std::move(view) };
+    }
+    if (action == Action::ProgramOnly || sighting.isPrivate) {
+        return Seen { Seen::Kind::View, std::move(view) };
+    }
+    return std::nullopt;
 }
 
 SlotView ViewMaker::NameOnly(const Program& program)

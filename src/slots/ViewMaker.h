@@ -6,6 +6,7 @@
 #include "slots/SlotView.h"
 #include "slots/TitleCleaner.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,8 +37,12 @@ public:
     }
 
     Seen Make(const Sighting& sighting) const;
+    /// The same of what somebody noted down, whose program and words stay as they are but for the rules.
+    Seen MakeStated(const Sighting& sighting) const;
 
 private:
+    /// What a rule leaves of a window; nothing when that is all of it.
+    std::optional<Seen> Ruled(const Sighting& sighting, const Program& program, const PrivacyRule* rule) const;
     static SlotView NameOnly(const Program& program);
     static SlotView Titled(const Program& program, const TitleCleaner::Cleaned& cleaned, const std::string& host);
 

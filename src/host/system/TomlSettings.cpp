@@ -14,7 +14,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t LargestSettings = std::size_t { 1 } << 20;
+constexpr std::size_t LargestSettings = std::size_t { 16 } << 20;
 
 std::string SettingsContent(const std::string& path)
 {
@@ -26,7 +26,7 @@ std::string SettingsContent(const std::string& path)
             return {};
         }
         throw SettingsFileError(path,
-            failure.Is(Error::OutOfMemory) ? "it is larger than 1 MiB, which no settings are: move it away"
+            failure.Is(Error::OutOfMemory) ? "it is larger than 16 MiB, which no settings are: move it away"
                                            : failure.Description() + ": make it a readable file, or move it away");
     }
 }

@@ -59,7 +59,7 @@ TEST_F(TomlSettingsTest, ReadSettingsFile_WhatIsNoSettings_NamesFileAndLine)
     EXPECT_THAT(Refusal("[[rule]]\na = 1.5\n"), HasSubstr("line 2: a is neither"));
     EXPECT_THAT(Refusal("[[rule]]\na = [1]\n"), HasSubstr("line 2: a is a list of something else"));
     EXPECT_THAT(Refusal("a = " + std::string(50, '[')), HasSubstr("nested more than 32 deep"));
-    EXPECT_THAT(Refusal(std::string(2 << 20, '#')), HasSubstr("larger than 1 MiB"));
+    EXPECT_THAT(Refusal(std::string(17 << 20, '#')), HasSubstr("larger than 16 MiB"));
 }
 
 TEST_F(TomlSettingsTest, ReadSettingsFile_Folder_CanNotBeRead)

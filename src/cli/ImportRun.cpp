@@ -1,0 +1,227 @@
+#include "cli/ImportRun.h"
+
+#include "base/Failure.h"
+#include "cli/CommandError.h"
+#include "cli/Interruption.h"
+#include "host/store/LineMemory.h"
+#include "host/system/IcuTimeZone.h"
+#include "host/system/TomlSettings.h"
+#include "review/ActivityReader.h"
+#include "session/ProductFacts.h"
+#include "session/TrackerDay.h"
+#include "slots/DayFile.h"
+
+#include <algorithm>
+
+namespace tempodial {
+
+namespace {
+
+/// What the heading of a file says that an import has written.
+constexpr auto HeadingMark = ", imported";
+/// A day's file before it has its name.
+constexpr auto UnfinishedName = "imported-day.tmp";
+
+Date DayOfKey(const std::string& key)
+{
+    constexpr std::size_t YearDigits = 4;
+    constexpr std::size_t MonthDigits = 2;
+    return Date::FromTexts(key.substr(0, YearDigits), std::stoi(key.substr(YearDigits, MonthDigits)),
+        key.substr(YearDigits + MonthDigits));
+}
+
+/// Minutes by which local time is before UTC at noon of a day.
+int OffsetOf(Date day)
+{
+    constexpr std::int64_t Noon = 12 * 3600;
+    constexpr std::int64_t SecondsOfMinute = 60;
+    IcuTimeZone zone;
+    return static_cast<int>(zone.OffsetAt(zone.MomentOf(day.AddSeconds(Noon))) / SecondsOfMinute);
+}
+
+}
+
+Presence TimeInLog(const Profile& profile, Date first, Date last)
+{
+    Presence time;
+    for (const auto& activity : ActivitiesTouching(profile, { first, last })) {
+        time.Add(activity.start.Seconds(), activity.end.Seconds());
+    }
+    return time;
+}
+
+ImportRun::ImportRun(const Options& options)
+    : mRun(options)
+    , mStart(mRun.Profile().Clock()->Now())
+    , mLedger(ReadSettingsFile(mRun.DataPath(LedgerFileName)))
+{
+}
+
+Date ImportRun::Now() const
+{
+    const auto gone = std::chrono::steady_clock::now() - mStartedAt;
+    return mStart.AddSeconds(std::chrono::duration_cast<std::chrono::seconds>(gone).count());
+}
+
+std::vector<Date> ImportRun::WaitingDays() const
+{
+    std::vector<Date> days;
+    if (mRun.Host().fileSystem->FolderExists(mRun.DataFolder())) {
+        for (const auto& file : mRun.Host().fileSystem->GetFolder(mRun.DataFolder()).files) {
+            if (const auto key = TrackerDay(file.name); !key.empty() && DayOfKey(key) < mStart.Day()) {
+                days.push_back(DayOfKey(key));
+            }
+        }
+    }
+    std::sort(days.begin(), days.end());
+    return days;
+}
+
+bool ImportRun::IsWaiting(Date day) const
+{
+    return mRun.Host().fileSystem->FileExists(mRun.DataPath(TrackerFileName(day.DayKey())));
+}
+
+void ImportRun::SyncUpTo(Date today)
+{
+    const auto now = Now();
+    mRun.Profile().Clock()->Set(std::min(today, now));
+    mRun.AddIn().SyncData(SavedDataDays, true);
+    mRun.Profile().Clock()->Set(Now());
+}
+
+std::vector<Date> ImportRun::SyncWaiting()
+{
+    auto waiting = WaitingDays();
+    while (!waiting.empty() && waiting.front() < mStart.Day().AddDays(-SavedDataDays) && !Interruption::IsRequested()) {
+        const auto today = waiting.front().AddDays(SavedDataDays);
+        SyncUpTo(today);
+        std::erase_if(waiting, [today](Date day) { return day < today; });
+    }
+    if (!Interruption::IsRequested()) {
+        SyncUpTo(Now());
+    }
+    ClosePlanned();
+    mRun.Profile().Mailbox()->MarkStatistics();
+    return WaitingDays();
+}
+
+void ImportRun::ClosePlanned()
+{
+    const auto planned = mLedger.Planned();
+    for (const auto day : planned) {
+        bool isWritten = false;
+        try {
+            const auto finished = mRun.DataPath(FinishedTrackerFileName(day.DayKey()));
+            const auto file = mRun.Host().fileSystem->OpenTextFile(finished, OpenMode::Reading, false);
+            isWritten = file->ReadLine().ends_with(HeadingMark);
+        } catch (const Failure&) {
+            // A plan whose file never had its name was never carried out.
+        }
+        if (!IsWaiting(day)) {
+            mLedger.Close(day, isWritten);
+        }
+    }
+    if (!planned.empty()) {
+        SaveLedger();
+    }
+}
+
+void ImportRun::Write(const ImportPlan::Days& days)
+{
+    Window window;
+    for (const auto& [day, planned] : days) {
+        if (planned.lines.empty() || IsWaiting(day)) {
+            continue;
+        }
+        if (!window.empty() && day >= window.front().first.AddDays(SavedDataDays)) {
+            WriteWindow(window);
+            window.clear();
+        }
+        window.emplace_back(day, &planned);
+    }
+    WriteWindow(window);
+}
+
+void ImportRun::WriteWindow(const Window& window)
+{
+    if (window.empty() || Interruption::IsRequested()) {
+        return;
+    }
+    for (const auto& [day, planned] : window) {
+        mLedger.Plan(day, planned->written);
+    }
+    SaveLedger();
+    for (const auto& [day, planned] : window) {
+        WriteDay(day, *planned);
+    }
+    SyncUpTo(window.front().first.AddDays(SavedDataDays));
+    for (const auto& [day, planned] : window) {
+        if (!IsWaiting(day)) {
+            mLedger.Close(day, true);
+        }
+    }
+    SaveLedger();
+}
+
+void ImportRun::WriteDay(Date day, const PlannedDay& planned)
+{
+    auto& fileSystem = *mRun.Host().fileSystem;
+    const auto path = mRun.DataPath(UnfinishedName);
+    try {
+        const auto stream = fileSystem.OpenTextFile(path, OpenMode::Writing, true);
+        stream->WriteLine(DayFile::Heading(day, OffsetOf(day)) + HeadingMark);
+        for (const auto& line : KnownLines(day)) {
+            stream->WriteLine(line);
+        }
+        for (const auto& line : planned.lines) {
+            stream->WriteLine(line);
+        }
+        stream->Close();
+        fileSystem.MoveFile(path, mRun.DataPath(TrackerFileName(day.DayKey())));
+    } catch (const Failure& failure) {
+        throw CommandError("the tracker file of " + day.DayKey() + " couldn't be written: " + failure.Description()
+            + ": see to the profile's disk and run the import again");
+    }
+}
+
+std::vector<std::string> ImportRun::KnownLines(Date day) const
+{
+    std::vector<std::string> lines;
+    LineMemory memory(mRun.Profile().Mailbox());
+    memory.BeginDay(day.DayKey(), 0);
+    try {
+        const auto finished = mRun.DataPath(FinishedTrackerFileName(day.DayKey()));
+        const auto file = mRun.Host().fileSystem->OpenTextFile(finished, OpenMode::Reading, false);
+        file->ReadLine();
+        for (;;) {
+            auto line = file->ReadLine();
+            if (!memory.IsKnown(line)) {
+                return {};
+            }
+            lines.push_back(std::move(line));
+        }
+    } catch (const Failure&) {
+        // That was the last one, or there is no such file.
+    }
+    return lines;
+}
+
+void ImportRun::SaveLedger()
+{
+    const auto path = mRun.DataPath(LedgerFileName);
+    try {
+        auto& fileSystem = *mRun.Host().fileSystem;
+        if (!fileSystem.FolderExists(mRun.DataFolder())) {
+            fileSystem.CreateFolder(mRun.DataFolder());
+        }
+        const auto stream = fileSystem.OpenTextFile(path, OpenMode::Writing, true);
+        stream->Write(mLedger.Text());
+        stream->Close();
+    } catch (const Failure& failure) {
+        throw CommandError(path + " couldn't be written: " + failure.Description()
+            + ": see to the profile's disk and run the import again");
+    }
+}
+
+}

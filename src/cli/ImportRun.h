@@ -1,0 +1,60 @@
+#pragma once
+
+#include "cli/ConnectedRun.h"
+#include "slots/Presence.h"
+#include "sources/ImportLedger.h"
+#include "sources/ImportPlan.h"
+
+#include <chrono>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tempodial {
+
+/// The name of the ledger in the data folder.
+inline constexpr auto LedgerFileName = "imported.toml";
+
+/// The times that activities of a log have between the beginning of one day and the end of another.
+Presence TimeInLog(const Profile& profile, Date first, Date last);
+
+/// Brings what an import has planned into the work log, through tracker files and the add-in's own import, some days at
+/// a time, so that it can be killed anywhere and the next one ends as it would have.
+class ImportRun
+{
+public:
+    /// Reads the ledger. Fails with `SettingsFileError` when that is damaged, and then nothing has changed.
+    explicit ImportRun(const Options& options);
+
+    ConnectedRun& Connected() { return mRun; }
+    ImportLedger& Ledger() { return mLedger; }
+
+    /// Imports what waits in tracker files, those that a killed run has left among them. Answers the days that are over
+    /// and whose files are there all the same.
+    std::vector<Date> SyncWaiting();
+    /// Writes what was planned and imports it; ends early when the user asks for it.
+    void Write(const ImportPlan::Days& days);
+    /// Writes the ledger into its file.
+    void SaveLedger();
+
+private:
+    using Window = std::vector<std::pair<Date, const PlannedDay*>>;
+
+    void WriteWindow(const Window& window);
+    void WriteDay(Date day, const PlannedDay& planned);
+    void SyncUpTo(Date today);
+    void ClosePlanned();
+    /// The lines of a finished day, each of which the next import knows; none when it doesn't.
+    std::vector<std::string> KnownLines(Date day) const;
+    std::vector<Date> WaitingDays() const;
+    bool IsWaiting(Date day) const;
+    /// The present moment of the run, whatever the clock was set to.
+    Date Now() const;
+
+    ConnectedRun mRun;
+    Date mStart;
+    std::chrono::steady_clock::time_point mStartedAt = std::chrono::steady_clock::now();
+    ImportLedger mLedger;
+};
+
+}

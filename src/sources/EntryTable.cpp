@@ -1,0 +1,272 @@
+#include "sources/EntryTable.h"
+
+#include "base/Text.h"
+#include "slots/PlainText.h"
+#include "sources/CsvRecords.h"
+#include "sources/MomentText.h"
+#include "sources/SightingList.h"
+#include "sources/SourceProblem.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::int64_t LongestEntry = 86400;
+
+/// A row of dates and times, before it is known how its dates are meant.
+struct DatedRow
+{
+    std::string startDate, endDate;
+    std::optional<std::int64_t> startTime, endTime;
+    /// True length, where it is told.
+    std::optional<std::int64_t> length;
+    SourceEntry entry;
+};
+
+/// The site of an address.
+std::string HostOf(std::string_view url)
+{
+    const auto scheme = url.find("://");
+    if (scheme == std::string_view::npos) {
+        return {};
+    }
+    url.remove_prefix(scheme + 3);
+    url = url.substr(0, url.find_first_of("/?#"));
+    url.remove_prefix(url.find('@') == std::string_view::npos ? 0 : url.find('@') + 1);
+    return std::string(url.substr(0, url.find(':')));
+}
+
+/// What an entry of a time sheet is about, empty when it doesn't say.
+std::string TextOf(const std::string& description, const std::string& task)
+{
+    auto text = PlainText(description);
+    const auto more = PlainText(task);
+    if (!more.empty() && more != text) {
+        text += (text.empty() ? "" : ", ") + more;
+    }
+    return text;
+}
+
+/// How many of the dates there aren't in that order.
+std::int64_t Impossible(const std::vector<DatedRow>& rows, DateOrder order)
+{
+    std::int64_t count = 0;
+    for (const auto& row : rows) {
+        count += ReadDay(row.startDate, order) && (row.endDate.empty() || ReadDay(row.endDate, order)) ? 0 : 1;
+    }
+    return count;
+}
+
+/// True when an order has a row that the other refuses.
+bool HasOwnRow(const std::vector<DatedRow>& rows, DateOrder order, DateOrder other)
+{
+    return std::any_of(rows.begin(), rows.end(),
+        [&](const auto& row) { return ReadDay(row.startDate, order) && !ReadDay(row.startDate, other); });
+}
+
+DateOrder OrderOf(const std::vector<DatedRow>& rows, DateOrder given)
+{
+    const bool isSame = std::all_of(rows.begin(), rows.end(), [](const auto& row) {
+        return ReadDay(row.startDate, DateOrder::MonthFirst) == ReadDay(row.startDate, DateOrder::DayFirst)
+            && ReadDay(row.endDate, DateOrder::MonthFirst) == ReadDay(row.endDate, DateOrder::DayFirst);
+    });
+    if (given != DateOrder::FromTheFile || isSame) {
+        return given == DateOrder::FromTheFile ? DateOrder::MonthFirst : given;
+    }
+    const auto monthFirst = Impossible(rows, DateOrder::MonthFirst);
+    const auto dayFirst = Impossible(rows, DateOrder::DayFirst);
+    if (monthFirst < dayFirst && HasOwnRow(rows, DateOrder::MonthFirst, DateOrder::DayFirst)) {
+        return DateOrder::MonthFirst;
+    }
+    if (dayFirst < monthFirst && HasOwnRow(rows, DateOrder::DayFirst, DateOrder::MonthFirst)) {
+        return DateOrder::DayFirst;
+    }
+    throw WrongSource("the file's dates can be read with the month first or with the day first: say which with --dates "
+                      "mdy or --dates dmy");
+}
+
+/// A table of entries while it is read.
+class Reading
+{
+public:
+    Reading(std::istream& stream, const SourceSettings& settings, EntryTableKind kind)
+        : mSettings(settings)
+        , mKind(kind)
+        , mRecords(stream, settings, mData.skipped)
+        , mSightings(mData.sightings)
+    {
+    }
+
+    SourceData All()
+    {
+        if (mKind == EntryTableKind::Csv) {
+            ReadMoments();
+        } else {
+            ReadDatedRows();
+        }
+        return std::move(mData);
+    }
+
+private:
+    [[noreturn]] void Refuse(const char* columns) const
+    {
+        std::string names;
+        for (const auto& name : mRecords.Names()) {
+            names += (names.empty() ? "" : ", ") + name;
+        }
+        throw WrongSource("the first line must name the columns " + std::string(columns)
+            + ", and it names: " + Shortened(PlainText(names), LongestText));
+    }
+
+    void ReadMoments()
+    {
+        const auto start = mRecords.Column({ "start" });
+        const auto end = mRecords.Column({ "end" });
+        const auto program = mRecords.Column({ "program" });
+        if (!start || !end || !program) {
+            Refuse("start, end and program");
+        }
+        const auto title = mRecords.Column({ "title" });
+        const auto project = mRecords.Column({ "project" });
+        const auto url = mRecords.Column({ "url" });
+        while (mRecords.Next()) {
+            const auto from = ReadMoment(mRecords.Field(start));
+            const auto to = ReadMoment(mRecords.Field(end));
+            if (!from || !to || from->offset.has_value() != to->offset.has_value()) {
+                mData.skipped.Add(Skipped::Unreadable);
+                continue;
+            }
+            SourceEntry entry;
+            entry.isWindow = true;
+            entry.words.program = mRecords.Field(program);
+            entry.words.title = mRecords.Field(title);
+            entry.words.host = HostOf(mRecords.Field(url));
+            entry.project = mRecords.Field(project);
+            if (from->offset) {
+                TakeMoments(from->Moment(), to->Moment(), std::move(entry));
+            } else {
+                TakeLocal(from->written, to->written, std::nullopt, std::move(entry));
+            }
+        }
+    }
+
+    void ReadDatedRows()
+    {
+        const bool isClockify = mKind == EntryTableKind::Clockify;
+        const auto startDate = mRecords.Column({ "Start date" });
+        const auto startTime = mRecords.Column({ "Start time" });
+        const auto endDate = mRecords.Column({ "End date" });
+        const auto endTime = mRecords.Column({ "End time" });
+        const auto length = mRecords.Column({ "Duration (h)", "Duration" });
+        const bool hasEnd = endDate && endTime;
+        if (!startDate || !startTime || (!hasEnd && !(isClockify && length))) {
+            Refuse(isClockify ? "Start Date, Start Time, and End Date with End Time or Duration (h)"
+                              : "Start date, Start time, End date and End time");
+        }
+        const auto project = mRecords.Column({ "Project" });
+        const auto description = mRecords.Column({ "Description" });
+        const auto task = isClockify ? mRecords.Column({ "Task", "Activity" }) : mRecords.Column({ "Task" });
+        std::vector<DatedRow> rows;
+        while (mRecords.Next()) {
+            DatedRow row;
+            row.startDate = mRecords.Field(startDate);
+            row.startTime = ReadTime(mRecords.Field(startTime));
+            if (hasEnd) {
+                row.endDate = mRecords.Field(endDate);
+                row.endTime = ReadTime(mRecords.Field(endTime));
+            }
+            row.length = ReadLength(mRecords.Field(length));
+            row.entry.project = mRecords.Field(project);
+            row.entry.words.program = isClockify ? "Clockify" : "Toggl";
+            row.entry.words.title = TextOf(mRecords.Field(description), mRecords.Field(task));
+            if (!row.startTime || (hasEnd ? !row.endTime : !row.length)) {
+                mData.skipped.Add(Skipped::Unreadable);
+                continue;
+            }
+            rows.push_back(std::move(row));
+        }
+        const auto order = OrderOf(rows, mSettings.dates);
+        for (auto& row : rows) {
+            const auto from = ReadDay(row.startDate, order);
+            const auto to = hasEnd ? ReadDay(row.endDate, order) : from;
+            if (!from || !to) {
+                mData.skipped.Add(Skipped::Unreadable);
+                continue;
+            }
+            const auto start = from->AddSeconds(*row.startTime);
+            const auto end = hasEnd ? to->AddSeconds(*row.endTime) : start.AddSeconds(*row.length);
+            TakeLocal(start, end, row.length, std::move(row.entry));
+        }
+    }
+
+    void TakeMoments(std::int64_t from, std::int64_t to, SourceEntry entry)
+    {
+        if (mSettings.asSightings && to - from <= LongestEntry) {
+            ForLocalTimes(mSettings.zone, from, to,
+                [&](std::int64_t begin, std::int64_t end) { TakeWindow(begin, end, entry.words); });
+            return;
+        }
+        entry.start = LocalSeconds(mSettings.zone, from);
+        entry.end = entry.start + (to - from);
+        Take(std::move(entry));
+    }
+
+    void TakeLocal(Date from, Date to, std::optional<std::int64_t> length, SourceEntry entry)
+    {
+        entry.start = from.Seconds();
+        entry.end = to.Seconds();
+        if (mSettings.asSightings) {
+            TakeWindow(entry.start, entry.end, entry.words);
+            return;
+        }
+        // Where the clock was put forward or back in between, the true length is another.
+        const auto trueLength = mSettings.zone.MomentOf(to) - mSettings.zone.MomentOf(from);
+        const auto local = entry.end - entry.start;
+        if (local > 0 && trueLength > 0 && trueLength != local) {
+            entry.end = entry.start + (length && *length > 0 ? *length : trueLength);
+        }
+        Take(std::move(entry));
+    }
+
+    void TakeWindow(std::int64_t begin, std::int64_t end, const Sighting& words)
+    {
+        if (mData.computers.empty()) {
+            mData.computers.emplace_back();
+        }
+        mData.windows.push_back({ begin, end, 0, mSightings.Index(words) });
+    }
+
+    void Take(SourceEntry entry)
+    {
+        if (entry.end == entry.start) {
+            mData.skipped.Add(Skipped::ZeroLength);
+        } else if (entry.end < entry.start) {
+            mData.skipped.Add(Skipped::Unreadable);
+        } else if (entry.end - entry.start > LongestEntry) {
+            mData.skipped.Add(Skipped::TooLong);
+        } else {
+            mData.entries.push_back(std::move(entry));
+        }
+    }
+
+    const SourceSettings& mSettings;
+    EntryTableKind mKind;
+    SourceData mData;
+    CsvRecords mRecords;
+    SightingList mSightings;
+};
+
+}
+
+SourceData EntryTable::Read(std::istream& stream, const SourceSettings& settings)
+{
+    return Reading(stream, settings, mKind).All();
+}
+
+}

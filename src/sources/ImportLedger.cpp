@@ -1,0 +1,174 @@
+#include "sources/ImportLedger.h"
+
+#include "base/Number.h"
+#include "sources/MomentText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto WrittenKind = "day";
+constexpr auto PlannedKind = "planned";
+constexpr std::string_view HexDigits = "0123456789abcdef";
+constexpr std::size_t BitsOfDigit = 4;
+constexpr std::size_t DigitsOfSlots = SlotsOfDay / BitsOfDigit;
+
+std::string HexOf(const std::bitset<SlotsOfDay>& slots)
+{
+    std::string hex;
+    for (std::size_t digit = 0; digit < DigitsOfSlots; ++digit) {
+        std::size_t value = 0;
+        for (std::size_t bit = 0; bit < BitsOfDigit; ++bit) {
+            value |= slots[digit * BitsOfDigit + bit] ? std::size_t { 1 } << bit : 0;
+        }
+        hex += HexDigits[value];
+    }
+    return hex;
+}
+
+bool ReadHex(const std::string& hex, std::bitset<SlotsOfDay>& slots)
+{
+    if (hex.size() != DigitsOfSlots) {
+        return false;
+    }
+    for (std::size_t digit = 0; digit < DigitsOfSlots; ++digit) {
+        const auto value = HexDigits.find(hex[digit]);
+        if (value == std::string_view::npos) {
+            return false;
+        }
+        for (std::size_t bit = 0; bit < BitsOfDigit; ++bit) {
+            slots[digit * BitsOfDigit + bit] = (value >> bit & 1U) != 0;
+        }
+    }
+    return true;
+}
+
+std::string IsoText(Date day)
+{
+    const auto parts = day.ToParts();
+    return Padded(parts.year, 4) + "-" + Padded(parts.month, 2) + "-" + Padded(parts.day, 2);
+}
+
+/// The times and the hash that an entry is known by hold nothing that a text in quotes can't.
+bool IsEntryKey(const std::string& key)
+{
+    return !key.empty() && key.find_first_not_of("0123456789abcdef-") == std::string::npos;
+}
+
+void AppendDays(std::string& text, const std::map<Date, LedgerDay>& days, const char* kind)
+{
+    for (const auto& [day, what] : days) {
+        text += std::string("\n[[") + kind + "]]\nday = \"" + IsoText(day) + "\"\n";
+        if (what.slots.any()) {
+            text += "slots = \"" + HexOf(what.slots) + "\"\n";
+        }
+        if (!what.entries.empty()) {
+            text += "entries = [";
+            for (const auto& entry : what.entries) {
+                text += (entry == *what.entries.begin() ? "\"" : ", \"") + entry + "\"";
+            }
+            text += "]\n";
+        }
+    }
+}
+
+}
+
+std::string LedgerDay::EntryKey(std::int64_t start, std::int64_t end, const std::string& source,
+    const std::string& text, const std::string& project)
+{
+    constexpr std::uint64_t Basis = 14695981039346656037U;
+    constexpr std::uint64_t Prime = 1099511628211U;
+    constexpr unsigned TopShift = 60;
+    auto hash = Basis;
+    for (const auto& part : { source, text, project }) {
+        for (const char byte : part) {
+            hash = (hash ^ static_cast<unsigned char>(byte)) * Prime;
+        }
+        hash = hash * Prime;
+    }
+    auto key = std::to_string(start) + "-" + std::to_string(end) + "-";
+    for (std::size_t digit = 0; digit < sizeof(hash) * 2; ++digit) {
+        key += HexDigits[hash >> TopShift];
+        hash <<= BitsOfDigit;
+    }
+    return key;
+}
+
+void LedgerDay::Add(const LedgerDay& other)
+{
+    slots |= other.slots;
+    entries.insert(other.entries.begin(), other.entries.end());
+}
+
+ImportLedger::ImportLedger(const SettingsFile& file)
+{
+    for (const auto& record : file.records) {
+        const auto refuse = [&file, &record](const std::string& reason) {
+            throw SettingsFileError(file.path, record.line,
+                reason + " (only imports write this file; without it they go by what is in the log)");
+        };
+        if (record.kind != WrittenKind && record.kind != PlannedKind) {
+            refuse("[[" + record.kind + "]] isn't known here");
+        }
+        std::optional<Date> day;
+        LedgerDay what;
+        for (const auto& setting : record.settings) {
+            const auto* text = std::get_if<std::string>(&setting.value);
+            const auto* texts = std::get_if<std::vector<std::string>>(&setting.value);
+            if (setting.name == "day" && text != nullptr && IsYearFirst(*text)) {
+                day = ReadDay(*text, DateOrder::FromTheFile);
+            } else if (setting.name == "slots" && text != nullptr && ReadHex(*text, what.slots)) {
+                continue;
+            } else if (setting.name == "entries" && texts != nullptr
+                && std::all_of(texts->begin(), texts->end(), IsEntryKey)) {
+                what.entries.insert(texts->begin(), texts->end());
+            } else {
+                refuse(setting.name + " can't be read");
+            }
+        }
+        if (!day) {
+            refuse("there is no day");
+        } else {
+            (record.kind == WrittenKind ? mDays : mPlanned)[*day].Add(what);
+        }
+    }
+}
+
+const LedgerDay& ImportLedger::Of(Date day) const
+{
+    static const LedgerDay nothing;
+    const auto found = mDays.find(day);
+    return found == mDays.end() ? nothing : found->second;
+}
+
+std::vector<Date> ImportLedger::Planned() const
+{
+    std::vector<Date> days;
+    for (const auto& [day, what] : mPlanned) {
+        days.push_back(day);
+    }
+    return days;
+}
+
+void ImportLedger::Close(Date day, bool isWritten)
+{
+    const auto planned = mPlanned.extract(day);
+    if (isWritten && !planned.empty()) {
+        mDays[day].Add(planned.mapped());
+    }
+}
+
+std::string ImportLedger::Text() const
+{
+    std::string text
+        = "# What imports have written, so that nothing comes twice and nothing that was deleted comes back.\n";
+    AppendDays(text, mDays, WrittenKind);
+    AppendDays(text, mPlanned, PlannedKind);
+    return text;
+}
+
+}

@@ -1,0 +1,214 @@
+#include "sources/ImportPlan.h"
+
+#include "slots/ActivityWriter.h"
+#include "slots/PlainText.h"
+#include "sources/SourceProblem.h"
+#include "sources/SourceReader.h"
+#include "sources/WindowTimeline.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::int64_t SecondsOfMinute = 60;
+constexpr auto NoDescription = "(no description)";
+
+Date DayOfSeconds(std::int64_t seconds)
+{
+    return Date::FromSeconds(seconds).Day();
+}
+
+void CountLines(PlannedDay& day)
+{
+    for (const auto& line : day.lines) {
+        const bool isDetail = line.find("<Detail>") != std::string::npos;
+        const bool continues = line.find("<Continuation>") != std::string::npos;
+        ++(isDetail ? day.details : continues ? day.continuing : day.beginning);
+    }
+}
+
+}
+
+bool ImportPlan::IsInRange(Date day) const
+{
+    return (!mRange.from || day >= *mRange.from) && (!mRange.to || day <= *mRange.to);
+}
+
+bool ImportPlan::MayBeTaken(std::int64_t start)
+{
+    const auto moment = Date::FromSeconds(start);
+    const auto year1990 = Date::FromYearMonthDay(1990, 1, 1);
+    if (moment > mRange.now) {
+        mSkipped.Add(Skipped::Future);
+    } else if (moment < year1990) {
+        mSkipped.Add(Skipped::Before1990);
+    } else if (moment.Day() >= mRange.now.Day()) {
+        mSkipped.Add(Skipped::Today);
+    } else {
+        return true;
+    }
+    return false;
+}
+
+void ImportPlan::Take(SourceData data)
+{
+    mSkipped = std::move(data.skipped);
+    TakeWindows(data);
+    TakeEntries(data.entries);
+    if (static_cast<std::int64_t>(mDays.size()) > MostSourceDays) {
+        throw BrokenSource("the file holds more than 3660 days: import it in parts, with --from and --to");
+    }
+}
+
+void ImportPlan::TakeWindows(SourceData& data)
+{
+    if (data.windows.empty() && data.computers.empty()) {
+        return;
+    }
+    std::erase_if(data.windows, [this](const SeenWindow& window) {
+        if (!MayBeTaken(window.begin)) {
+            return true;
+        }
+        const auto day = DayOfSeconds(window.begin);
+        if (IsInRange(day)) {
+            mDays[day];
+        } else {
+            mSkipped.Add(Skipped::Outside);
+        }
+        return false;
+    });
+    WindowTimeline timeline(data, mViews);
+    timeline.Make(mSkipped);
+    AddPresence(timeline.Present());
+    mSlots = WholeActivities(timeline.TakeSlots());
+}
+
+void ImportPlan::AddPresence(const Presence& presence)
+{
+    std::map<Date, std::int64_t> seconds;
+    const auto first = Date::FromYearMonthDay(1990, 1, 1).Seconds();
+    for (const auto& stretch : presence.Stretches()) {
+        auto begin = std::max(stretch.begin, first);
+        while (begin < std::min(stretch.end, mRange.now.Day().Seconds())) {
+            const auto day = DayOfSeconds(begin);
+            const auto end = std::min(stretch.end, day.AddDays(1).Seconds());
+            if (IsInRange(day)) {
+                seconds[day] += end - begin;
+            }
+            begin = end;
+        }
+    }
+    for (const auto& [day, sum] : seconds) {
+        mDays[day] += (sum + SecondsOfMinute / 2) / SecondsOfMinute;
+    }
+}
+
+void ImportPlan::TakeEntries(const std::vector<SourceEntry>& entries)
+{
+    for (const auto& entry : entries) {
+        if (!MayBeTaken(entry.start)) {
+            continue;
+        }
+        const auto day = DayOfSeconds(entry.start);
+        if (!IsInRange(day)) {
+            mSkipped.Add(Skipped::Outside);
+            continue;
+        }
+        const auto seen = entry.isWindow ? mViews.Make(entry.words) : mViews.MakeStated(entry.words);
+        if (seen.kind != Seen::Kind::View) {
+            mSkipped.Add(Skipped::Dropped);
+            continue;
+        }
+        const auto project = ProjectText(entry.project);
+        Words words { seen.view.program, seen.view.kind, seen.view.text, "" };
+        if (words.text.empty()) {
+            words.kind = words.kind < 7 ? 0 : words.kind;
+            words.text = project.empty() ? NoDescription : project;
+        }
+        if (!mRange.withoutProjects) {
+            words.project = project.empty() ? seen.view.project : project;
+        }
+        mDays[day] += MinutesBetween(Date::FromSeconds(entry.start), Date::FromSeconds(entry.end));
+        mEntries.push_back({ entry.start, entry.end, std::move(words) });
+    }
+    const auto order = [](const Entry& entry) {
+        return std::tie(entry.end, entry.start, entry.words.text, entry.words.project, entry.words.program);
+    };
+    std::stable_sort(
+        mEntries.begin(), mEntries.end(), [&order](const Entry& a, const Entry& b) { return order(a) < order(b); });
+    const auto same = [this](const Entry& a, const Entry& b) {
+        mSkipped.Add(Skipped::Duplicate, a == b ? 1 : 0);
+        if (a == b) {
+            mDays[DayOfSeconds(b.start)] -= MinutesBetween(Date::FromSeconds(b.start), Date::FromSeconds(b.end));
+        }
+        return a == b;
+    };
+    mEntries.erase(std::unique(mEntries.begin(), mEntries.end(), same), mEntries.end());
+}
+
+std::optional<std::pair<Date, Date>> ImportPlan::Span() const
+{
+    if (mDays.empty()) {
+        return std::nullopt;
+    }
+    return std::pair(mDays.begin()->first, mDays.rbegin()->first);
+}
+
+ImportPlan::Days ImportPlan::Make(const Presence& taken, const ImportLedger& ledger) const
+{
+    Days days;
+    std::map<Date, DayFile> files;
+    for (const auto& [day, minutes] : mDays) {
+        days[day].minutesPresent = minutes;
+    }
+    for (const auto& filed : mSlots) {
+        const auto date = Date::FromSeconds(filed.midnight);
+        const auto day = days.find(date);
+        if (day == days.end() || date >= mRange.now.Day()) {
+            continue;
+        }
+        const auto index = static_cast<std::size_t>(filed.slot.start / SlotSeconds);
+        if (ledger.Of(date).slots[index]) {
+            ++day->second.before;
+        } else if (taken.Within(filed.midnight + filed.slot.start, filed.midnight + filed.slot.end) > 0) {
+            ++day->second.taken;
+        } else {
+            auto slot = filed.slot;
+            if (mRange.withoutProjects) {
+                slot.words.project.clear();
+            }
+            files[date].Add(slot);
+            ++day->second.slots;
+            day->second.minutesWritten += SlotSeconds / SecondsOfMinute;
+            day->second.written.slots.set(index);
+        }
+    }
+    for (const auto& entry : mEntries) {
+        const auto date = DayOfSeconds(entry.start);
+        auto& day = days[date];
+        const auto start = entry.start - date.Seconds();
+        const auto end = entry.end - date.Seconds();
+        const auto key = LedgerDay::EntryKey(start, end, mRange.source, entry.words.text, entry.words.project);
+        if (ledger.Of(date).entries.contains(key)) {
+            ++day.before;
+        } else if (taken.Within(entry.start, entry.end) > 0) {
+            ++day.taken;
+        } else {
+            files[date].AddExact(start, end, entry.words);
+            ++day.entries;
+            day.minutesWritten += MinutesBetween(Date::FromSeconds(entry.start), Date::FromSeconds(entry.end));
+            day.written.entries.insert(key);
+        }
+    }
+    for (auto& [date, file] : files) {
+        days[date].lines = file.TakeLines();
+        CountLines(days[date]);
+    }
+    return days;
+}
+
+}

@@ -1,0 +1,217 @@
+#include "support/ProgramFixture.h"
+
+namespace tempodial {
+
+namespace {
+
+using nlohmann::json;
+using testing::Each;
+using testing::HasSubstr;
+using testing::Not;
+
+/// A table of windows on the days before the present one.
+std::string Table(int firstDay, int lastDay)
+{
+    std::string text = "start,end,program,title\n";
+    for (int day = firstDay; day <= lastDay; ++day) {
+        const auto date = "2006-10-0" + std::to_string(day);
+        text += date + "T09:00," + date + "T09:32,atlas,map " + std::to_string(day) + "\n" + date + "T09:32," + date
+            + "T10:00,ledger,sum\n";
+    }
+    return text;
+}
+
+class ImportCommandTest : public ProgramFixture
+{
+protected:
+    std::string File(const std::string& text) const { return mFolder.Write("export", text); }
+    json Import(const std::string& source, const std::string& text, Arguments more = {}) const
+    {
+        Arguments arguments { "import", source, File(text) };
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return Json(arguments);
+    }
+    json Sightings(int firstDay, int lastDay, Arguments more = {}) const
+    {
+        more.insert(more.begin(), { "--as", "sightings" });
+        return Import("csv", Table(firstDay, lastDay), more);
+    }
+    std::string RefusalOf(const std::string& source, const std::string& text, int status = 2, Arguments more = {}) const
+    {
+        Arguments arguments { "import", source, File(text) };
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return Refusal(arguments, status);
+    }
+    json All() const { return Json({ "list", "--from", "2006-01-01", "--to", "2006-12-31" }); }
+};
+
+}
+
+TEST_F(ImportCommandTest, Import_Sightings_ComeToTheLogAsActivities)
+{
+    const auto answer = Sightings(2, 3);
+    EXPECT_EQ(answer.at("source"), "csv");
+    EXPECT_EQ(answer.at("from"), "2006-10-02");
+    EXPECT_EQ(answer.at("to"), "2006-10-03");
+    EXPECT_EQ(answer.at("days"), json::parse(R"([{"day":"2006-10-02","slots":12,"entries":0,"taken":0,"before":0},
+        {"day":"2006-10-03","slots":12,"entries":0,"taken":0,"before":0}])"));
+    EXPECT_EQ(answer.at("minutes"), json::parse(R"({"present":120,"written":120})"));
+    EXPECT_EQ(answer.at("skipped"), json::object());
+    EXPECT_EQ(answer.at("created"), 4);
+    EXPECT_FALSE(answer.contains("dryRun"));
+    EXPECT_EQ(Subjects(All()),
+        (std::vector<std::string> { "Atlas, \"map 2\"", "Ledger, \"sum\"", "Atlas, \"map 3\"", "Ledger, \"sum\"" }));
+    EXPECT_FALSE(std::filesystem::exists(DataPath("tracker_granules20061002.out")));
+}
+
+TEST_F(ImportCommandTest, Import_SameAgainAndLonger_ComesOnce)
+{
+    Sightings(2, 3);
+    const auto again = Sightings(2, 3);
+    EXPECT_EQ(again.at("created"), 0);
+    EXPECT_EQ(again.at("days").at(0).at("before"), 12);
+    EXPECT_EQ(again.at("minutes").at("written"), 0);
+    EXPECT_EQ(Sightings(2, 5).at("created"), 4);
+    EXPECT_EQ(Sightings(3, 4).at("created"), 0);
+    EXPECT_EQ(All().size(), 8U);
+}
+
+TEST_F(ImportCommandTest, Import_LedgerLost_TakesNoTimeTwice)
+{
+    Sightings(2, 3);
+    std::filesystem::remove(DataPath("imported.toml"));
+    const auto again = Sightings(2, 3);
+    EXPECT_EQ(again.at("days").at(0).at("taken"), 12);
+    EXPECT_EQ(again.at("created"), 0);
+}
+
+TEST_F(ImportCommandTest, Import_FinishedDay_FillsTheGaps)
+{
+    WriteTracker("20061002", { WordSlot(33000, 33300, "a.doc") });
+    Json({ "sync" });
+    const auto answer = Sightings(2, 2);
+    EXPECT_EQ(answer.at("days").at(0).at("taken"), 1);
+    EXPECT_EQ(answer.at("days").at(0).at("slots"), 11);
+    EXPECT_EQ(All().size(), 4U);
+}
+
+TEST_F(ImportCommandTest, Import_DaysOfManyWeeks_LeaveNothingBehind)
+{
+    std::string text = "start,end,program,title\n";
+    for (int month = 1; month <= 9; ++month) {
+        const auto date = "2006-0" + std::to_string(month) + "-15";
+        text += date + "T23:50," + date + "T23:59,atlas,night\n";
+    }
+    const auto answer = Import("csv", text);
+    EXPECT_EQ(answer.at("created"), 9);
+    EXPECT_EQ(answer.at("days").size(), 9U);
+    EXPECT_EQ(answer.at("days").at(0).at("entries"), 1);
+    EXPECT_EQ(All().size(), 9U);
+    for (const auto& entry : std::filesystem::directory_iterator(mProfile + "/Tempodial")) {
+        const auto name = entry.path().filename().string();
+        EXPECT_FALSE(name.starts_with("tracker_granules2")) << name;
+    }
+}
+
+TEST_F(ImportCommandTest, Import_DryRun_MakesNothingAndTellsNoTitle)
+{
+    const auto result = Run({ "--json", "import", "csv", File(Table(2, 3)), "--as", "sightings", "--dry-run" });
+    EXPECT_EQ(result.status, 0) << result.error;
+    const auto answer = json::parse(result.out);
+    EXPECT_EQ(answer.at("dryRun"), true);
+    EXPECT_EQ(answer.at("created"), 4);
+    EXPECT_THAT(result.out, Not(HasSubstr("map")));
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+TEST_F(ImportCommandTest, Import_Again_NeedsAWordAndDoublesNothing)
+{
+    Sightings(2, 2);
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--as", "sightings", "--again" }), HasSubstr("--yes"));
+    const auto answer = Sightings(2, 2, { "--again", "--yes" });
+    EXPECT_EQ(answer.at("created"), 0);
+    EXPECT_EQ(answer.at("days").at(0).at("taken"), 12);
+}
+
+TEST_F(ImportCommandTest, Import_Today_IsLeftToTheTracker)
+{
+    const auto answer = Import("csv", "start,end,program\n2006-10-10T09:00,2006-10-10T10:00,atlas\n");
+    EXPECT_EQ(answer.at("days"), json::array());
+    EXPECT_EQ(answer.at("from"), nullptr);
+    EXPECT_EQ(answer.at("skipped"), json::parse(R"({"today":1})"));
+}
+
+TEST_F(ImportCommandTest, Import_Entries_KeepProjectAndMinutes)
+{
+    const auto answer = Import("toggl",
+        "Project,Description,Start date,Start time,End date,End "
+        "time\nRiverside,call,2006-10-02,09:00:00,2006-10-02,09:07:00\n");
+    EXPECT_EQ(answer.at("minutes").at("written"), 7);
+    const auto items = All();
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].at("subject"), "[Riverside] Toggl, \"call\"");
+    EXPECT_EQ(items[0].at("duration"), 7);
+}
+
+TEST_F(ImportCommandTest, Import_PrivacyRules_HoldHereToo)
+{
+    std::filesystem::create_directories(mProfile);
+    mFolder.Write("profile/track.toml", "[[rule]]\ntitle = \"map*\"\ndo = \"replace\"\ntext = \"Hidden\"\n");
+    Sightings(2, 2);
+    EXPECT_THAT(Subjects(All()), Each(Not(HasSubstr("map"))));
+    mFolder.Write("profile/track.toml", "[[rule]]\ndo = \"hide\"\n");
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 1), HasSubstr("track.toml, line 2"));
+}
+
+TEST_F(ImportCommandTest, Import_UnreadableRows_AreCountedAndTheOthersTaken)
+{
+    const auto result = Run(
+        { "--json", "import", "csv", File("start,end,program\nx,y,z\n2006-10-02T09:00,2006-10-02T10:00,atlas\n") });
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(json::parse(result.out).at("created"), 1);
+    EXPECT_THAT(result.error, HasSubstr("1 records couldn't be read"));
+}
+
+TEST_F(ImportCommandTest, Import_WrongArguments_AreUsageErrors)
+{
+    EXPECT_THAT(RefusalOf("togl", ""), HasSubstr("toggl"));
+    EXPECT_THAT(RefusalOf("manictime", ""), HasSubstr("csv"));
+    EXPECT_THAT(RefusalOf("csv", ""), HasSubstr("empty"));
+    EXPECT_THAT(RefusalOf("csv", "{\"buckets\":{}}"), HasSubstr("activitywatch"));
+    EXPECT_THAT(RefusalOf("toggl", "id,timestamp,duration,data,app\n"), HasSubstr("csv --as sightings"));
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--zone", "Europe/Zurik" }), HasSubstr("Europe/Zurich"));
+    EXPECT_THAT(RefusalOf("toggl", Table(2, 2), 2, { "--as", "sightings" }), HasSubstr("--as"));
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--dates", "ymd" }), HasSubstr("mdy"));
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--from", "today", "--to", "yesterday" }), HasSubstr("later"));
+    EXPECT_THAT(Refusal({ "import", "csv" }, 2), HasSubstr("source and a file"));
+}
+
+TEST_F(ImportCommandTest, Import_FilesThatCanNotBeTaken_ChangeNothing)
+{
+    EXPECT_THAT(Refusal({ "import", "csv", mFolder.Path("none") }, 1), HasSubstr("can't be read"));
+    EXPECT_THAT(Refusal({ "import", "csv", mFolder.Path() }, 1), HasSubstr("can't be read"));
+    EXPECT_THAT(RefusalOf("activitywatch", "{\"buckets\":{\"a\":", 1), HasSubstr("cut off"));
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+    WriteData("imported.toml", "[[day]]\nday = \"x\"\n");
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 1), HasSubstr("imported.toml"));
+    EXPECT_TRUE(All().empty());
+}
+
+TEST_F(ImportCommandTest, Import_NothingInTheFile_IsDone)
+{
+    EXPECT_EQ(Import("csv", "start,end,program\n").at("days"), json::array());
+    EXPECT_EQ(Import("activitywatch", "{\"buckets\":{}}").at("created"), 0);
+    EXPECT_EQ(Import("arbtt", "[]").at("created"), 0);
+}
+
+TEST_F(ImportCommandTest, Import_List_NamesTheSources)
+{
+    const auto sources = Json({ "import", "--list" });
+    EXPECT_EQ(sources.at(0).at("source"), "activitywatch");
+    EXPECT_EQ(sources.at(0).at("as"), json::array({ "sightings" }));
+    for (const auto& source : sources) {
+        EXPECT_FALSE(source.at("reads").get<std::string>().empty());
+    }
+}
+
+}
