@@ -2,10 +2,12 @@
 
 #include "base/Number.h"
 #include "base/Text.h"
-#include "cli/TextTable.h"
+#include "cli/ProjectStyle.h"
 #include "platform/objectmodel/Items.h"
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
+
+#include <utility>
 
 namespace tempodial {
 
@@ -56,24 +58,28 @@ std::vector<Ref<AppointmentItem>> ActivitiesOf(
                    : std::vector<Ref<AppointmentItem>>();
 }
 
-std::string ActivityTable(
-    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const Period& days)
+ShownText ActivityTable(const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats,
+    const Period& days, bool hasTotals)
 {
     using enum TextTable::Side;
     const bool hasHeadings = days.first != days.last;
-    std::string text;
+    ShownText text;
     for (std::size_t i = 0; i < activities.size();) {
         const auto day = activities[i]->Start().Day();
+        std::int64_t minutes = 0;
         TextTable table({ Left, Right, Left });
         for (; i < activities.size() && activities[i]->Start().Day() == day; ++i) {
             const auto& item = activities[i];
-            table.Add({ item->Start().HourMinute() + "–" + item->End().HourMinute(), DurationText(item->Duration()),
-                item->Subject() });
+            const auto duration = item->Duration();
+            table.AddStyled({ { item->Start().HourMinute() + "–" + item->End().HourMinute(), {} },
+                { DurationText(duration), {} }, { item->Subject(), ProjectStyle(ProjectOf(item)) } });
+            minutes += duration;
         }
         if (hasHeadings) {
-            text += (text.empty() ? "" : "\n") + formats->LongDate(day) + "\n";
+            text += text.IsEmpty() ? "" : "\n";
+            text.AddHeading(formats->LongDate(day) + (hasTotals ? "  " + DurationText(minutes) : ""));
         }
-        text += table.Text();
+        text += std::move(table);
     }
     return text;
 }

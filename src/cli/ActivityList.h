@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/ShownText.h"
 #include "platform/objectmodel/AppointmentItem.h"
 #include "platform/objectmodel/MAPIFolder.h"
 #include "platform/system/LocaleFormats.h"
@@ -24,9 +25,10 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
 std::vector<Ref<AppointmentItem>> ActivitiesOf(
     const Profile& profile, const Period& days, const std::optional<std::string>& project);
 
-/// The activities as a table for people, under a heading for each day when the range has several.
-std::string ActivityTable(
-    const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats, const Period& days);
+/// The activities as a table for people, under a heading for each day when the range has several, which may tell its
+/// total.
+ShownText ActivityTable(const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats,
+    const Period& days, bool hasTotals);
 
 /// What stands below the table: how many there are, and how long they took in all.
 std::string ActivityTotal(const std::vector<Ref<AppointmentItem>>& activities);

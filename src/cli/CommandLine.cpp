@@ -1,6 +1,6 @@
 #include "cli/CommandLine.h"
 
-#include "base/Text.h"
+#include "cli/ReplyPrinter.h"
 #include "terminal/Arguments.h"
 #include "terminal/ProgramRun.h"
 #include "terminal/TerminalText.h"
@@ -51,10 +51,10 @@ constexpr auto CommandFooter = "\"tempodial --help\" lists the options of every 
 }
 
 CommandLine::CommandLine(
-    std::vector<std::unique_ptr<Command>> commands, std::ostream& out, bool isTerminal, std::ostream& error)
+    std::vector<std::unique_ptr<Command>> commands, std::ostream& out, const Screen& screen, std::ostream& error)
     : mCommands(std::move(commands))
     , mOut(out)
-    , mIsTerminal(isTerminal)
+    , mScreen(screen)
     , mError(error)
     , mParser({ Name, ProgramDescription, ProgramFooter })
 {
@@ -74,6 +74,9 @@ void CommandLine::DeclareOptions()
         "--wait SECONDS", mWait, "How long to wait for a profile that another process holds;\ndefault 5, 0 not at all");
     arguments.Flag("--json", mJson, "Answer with one JSON document");
     arguments.Flag("--quiet", mQuiet, "No progress and no summary");
+    arguments.Optional(
+        "--color WHEN", mColor, "Colours: auto, always or never; default auto, on a\nterminal unless NO_COLOR is set");
+    arguments.Flag("--wide", mIsWide, "Don't cut tables to the width of the terminal");
 }
 
 ExitStatus CommandLine::Run(const std::vector<std::string>& arguments) noexcept
@@ -97,7 +100,9 @@ std::vector<CommandOutline> CommandLine::Outline() const
 ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 {
     if (std::ostringstream help; !mParser.Parse(arguments, help)) {
-        return Print({ .text = help.str() }, {});
+        Options options;
+        options.screen = mScreen;
+        return Print({ .text = help.str() }, options);
     }
     const auto options = ReadOptions();
     return Print(Chosen().Run(options), options);
@@ -105,7 +110,9 @@ ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
 
 Options CommandLine::ReadOptions() const
 {
-    Options options { mProfile.Options(), mJson, mQuiet };
+    Options options { mProfile.Options(), mJson, mQuiet, mScreen, {} };
+    options.layout.width = mScreen.isTerminal && !mIsWide ? std::optional(mScreen.columns) : std::nullopt;
+    options.layout.hasColors = HasColors();
     options.wait = std::chrono::seconds(mWait ? ToCount("--wait", *mWait, 0, LongestWait) : UsualWait);
     options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
     return options;
@@ -121,46 +128,17 @@ Command& CommandLine::Chosen() const
     return **found;
 }
 
-void CommandLine::PrintText(const Reply& reply, bool isQuiet)
+bool CommandLine::HasColors() const
 {
-    if (mIsTerminal) {
-        mOut << Harmless(Replace(reply.content, CrLf, "\n"));
-    } else {
-        mOut << reply.content;
+    if (mColor != "auto" && mColor != "always" && mColor != "never") {
+        throw UsageError("--color can't be " + InQuotes(mColor) + ": give auto, always or never");
     }
-    mOut << Harmless(reply.text + (isQuiet ? "" : reply.summary));
+    return mColor == "always" || (mColor == "auto" && mScreen.hasColors);
 }
 
 ExitStatus CommandLine::Print(const Reply& reply, const Options& options)
 {
-    EndWithReader();
-    if (!options.json) {
-        PrintText(reply, options.quiet);
-    } else if (!reply.document.IsNull()) {
-        mOut << reply.document.Text() << "\n";
-    }
-    mOut.flush();
-    if (!options.quiet) {
-        for (const auto& note : reply.notes) {
-            mError << HarmlessLine(note) << "\n";
-        }
-    }
-    for (const auto& warning : reply.warnings) {
-        Complain(mError, Name, warning);
-    }
-    for (const auto& complaint : reply.complaints) {
-        Complain(mError, Name, complaint);
-    }
-    if (!options.quiet) {
-        for (const auto& remark : reply.remarks) {
-            Complain(mError, Name, remark);
-        }
-    }
-    if (!mOut) {
-        Complain(mError, Name, "the answer couldn't be written: see to the disk or the program that reads it");
-        return ExitStatus::NotDone;
-    }
-    return reply.status;
+    return ReplyPrinter(Name, mOut, mError).Print(reply, options);
 }
 
 }

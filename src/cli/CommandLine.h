@@ -4,6 +4,7 @@
 #include "terminal/ArgumentParser.h"
 #include "terminal/ExitStatus.h"
 #include "terminal/ProfileArguments.h"
+#include "terminal/Screen.h"
 
 #include <memory>
 #include <optional>
@@ -17,9 +18,9 @@ namespace tempodial {
 class CommandLine
 {
 public:
-    /// Prints answers to the first stream, which may be a terminal, and what went wrong to the second.
+    /// Prints answers to the first stream, which that screen is behind, and what went wrong to the second.
     CommandLine(
-        std::vector<std::unique_ptr<Command>> commands, std::ostream& out, bool isTerminal, std::ostream& error);
+        std::vector<std::unique_ptr<Command>> commands, std::ostream& out, const Screen& screen, std::ostream& error);
 
     /// Does what the arguments, without the program's name, ask for. Fails never.
     ExitStatus Run(const std::vector<std::string>& arguments) noexcept;
@@ -31,18 +32,20 @@ private:
     ExitStatus Execute(const std::vector<std::string>& arguments);
     Options ReadOptions() const;
     Command& Chosen() const;
-    void PrintText(const Reply& reply, bool isQuiet);
+    bool HasColors() const;
     ExitStatus Print(const Reply& reply, const Options& options);
 
     std::vector<std::unique_ptr<Command>> mCommands;
     std::ostream& mOut;
-    bool mIsTerminal;
+    Screen mScreen;
     std::ostream& mError;
     ArgumentParser mParser;
     ProfileArguments mProfile;
     std::optional<std::string> mWait;
     bool mJson = false;
     bool mQuiet = false;
+    std::string mColor = "auto";
+    bool mIsWide = false;
 };
 
 }

@@ -7,7 +7,6 @@
 #include "faults/Wrapped.h"
 
 #include <memory>
-#include <sys/ioctl.h>
 #include <unistd.h>
 #include <utility>
 
@@ -18,13 +17,8 @@ namespace {
 /// A line for progress when standard error is a terminal.
 std::unique_ptr<ProgressLine> TerminalLine()
 {
-    if (::isatty(STDERR_FILENO) == 0) {
-        return nullptr;
-    }
-    constexpr int UsualColumns = 80;
-    winsize size {};
-    const bool known = ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
-    return std::make_unique<ProgressLine>(std::cerr, known ? size.ws_col : UsualColumns);
+    const auto screen = Screen::Of(STDERR_FILENO);
+    return screen.isTerminal ? std::make_unique<ProgressLine>(std::cerr, screen.columns) : nullptr;
 }
 
 }

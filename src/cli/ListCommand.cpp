@@ -42,7 +42,7 @@ public:
                 reply.document.Append(ItemJson(activity));
             }
         } else {
-            reply.text = ActivityTable(activities, profile.Surroundings().formats, days);
+            reply.text = ActivityTable(activities, profile.Surroundings().formats, days, options.screen.isTerminal);
             reply.summary = ActivityTotal(activities);
         }
         return reply;

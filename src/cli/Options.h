@@ -1,6 +1,8 @@
 #pragma once
 
+#include "cli/TextLayout.h"
 #include "session/ProfileOptions.h"
+#include "terminal/Screen.h"
 
 namespace tempodial {
 
@@ -11,6 +13,10 @@ struct Options : ProfileOptions
     bool json = false;
     /// Neither progress nor a summary is shown.
     bool quiet = false;
+    /// Where the answer is shown.
+    Screen screen;
+    /// How texts for people are laid out there.
+    TextLayout layout;
 };
 
 }

@@ -104,6 +104,11 @@ bool OutputFile::IsNamed() const
     return true;
 }
 
+bool OutputFile::IsStandardOutput() const
+{
+    return OutputTarget(Path()).WhatItIs() == Kind::StandardOutput;
+}
+
 std::string OutputFile::End() const
 {
     const auto name = NativePath(Path()).Name();
@@ -134,6 +139,7 @@ void OutputFile::Write(std::string text, Reply& reply) const
         const auto target = TargetAt(Path());
         if (target.WhatItIs() == Kind::StandardOutput) {
             reply.content = std::move(text);
+            reply.isRedirected = true;
             return;
         }
         if (target.WhatItIs() == Kind::Stream) {

@@ -23,6 +23,8 @@ public:
     /// folder and for a file of a profile.
     bool IsNamed() const;
     const std::string& Path() const { return *mPath; }
+    /// True when the place is standard output.
+    bool IsStandardOutput() const;
     /// What the name ends in behind its last dot, in lower case; empty when it has none.
     std::string End() const;
     /// The form of the answer, which the name's end says: one of those given. Fails with a `UsageError` for another

@@ -2,7 +2,10 @@
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
 #include "cli/PrecedenceWord.h"
+#include "cli/ProjectStyle.h"
 #include "cli/TextTable.h"
+
+#include <utility>
 
 namespace tempodial {
 
@@ -36,14 +39,14 @@ public:
         Reply reply { .document = JsonValue::Array() };
         TextTable table({ Left, Left, Left, Left, Left });
         if (!projects.empty()) {
-            table.Add({ "PROJECT", "PRECEDENCE", "SUBJECT", "NOT SUBJECT", "PEOPLE" });
+            table.AddHeading({ "PROJECT", "PRECEDENCE", "SUBJECT", "NOT SUBJECT", "PEOPLE" });
         }
         for (const auto& project : projects) {
             reply.document.Append(project.ToJson());
-            table.Add({ project.name, PrecedenceWord(project.precedence), project.subject, project.notSubject,
-                project.people });
+            table.AddStyled({ { project.name, ProjectStyle(project.name) }, { PrecedenceWord(project.precedence), {} },
+                { project.subject, {} }, { project.notSubject, {} }, { project.people, {} } });
         }
-        reply.text = table.Text();
+        reply.text = std::move(table);
         reply.summary = projects.empty() ? "No projects.\n" : "";
         return run.Concluded(std::move(reply));
     }

@@ -73,8 +73,12 @@ private:
         } else {
             reply.document.Set("text", value.ToText());
         }
-        auto text = (value.If<std::int32_t>() ? std::to_string(value.ToInt32()) : value.ToText()) + "\n";
-        (isAnswer ? reply.text : reply.summary) = std::move(text);
+        const auto text = (value.If<std::int32_t>() ? std::to_string(value.ToInt32()) : value.ToText()) + "\n";
+        if (isAnswer) {
+            reply.text = text;
+        } else {
+            reply.summary = text;
+        }
         return reply;
     }
 

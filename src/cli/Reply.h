@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/ShownText.h"
 #include "terminal/ExitStatus.h"
 #include "terminal/JsonValue.h"
 
@@ -15,8 +16,10 @@ struct Reply
     JsonValue document;
     /// An answer for other programs as well, printed byte for byte before the text. On a terminal it is made harmless.
     std::string content;
-    /// The answer for people: lines that each end in a line feed.
-    std::string text;
+    /// True when the content goes where the user told it to, and not to a pager.
+    bool isRedirected = false;
+    /// The answer for people.
+    ShownText text;
     /// What stands behind it unless the run is quiet: lines that each end in a line feed.
     std::string summary;
     /// What is told beside the answer on standard error, unless the run is quiet: a line each.

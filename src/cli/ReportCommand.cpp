@@ -4,11 +4,13 @@
 #include "cli/Interruption.h"
 #include "cli/OutputFile.h"
 #include "cli/PeriodArguments.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <tuple>
 
 namespace tempodial {
 
@@ -23,8 +25,9 @@ public:
     ReportCommand()
         : Command({ "report", "Tell where the time of a day or of several went",
             "Sums up the activities that touch the range, both days included, and lists\n"
-            "them. Nothing is imported: \"sync\" does that. The report is printed, or\n"
-            "written in the form that the end of the file's name says:\n"
+            "them. Nothing is imported: \"sync\" does that. The report is printed, as plain\n"
+            "text on a terminal and else as a page, or written in the form that the end of\n"
+            "the file's name says:\n"
             "\n"
             "  .html  a page\n"
             "  .txt   plain text\n"
@@ -33,7 +36,7 @@ public:
             "\n" + std::string(PeriodArguments::Help)
                 + "Ctrl-C stops it, and nothing is written then.\n"
                   "\n"
-                  "  tempodial report --text\n"
+                  "  tempodial report\n"
                   "  tempodial report --by project --from 2006-10-02 > week.html\n"
                   "  tempodial report --by date --work-week --out week.eml\n"
                   "  tempodial report --from 2006-10-02 --out week.html" })
@@ -45,7 +48,8 @@ public:
         mDays.Declare(arguments);
         arguments.Optional(
             "--by WHAT", mBy, "What to sum up by: project, application, description or\ndate; default application");
-        arguments.Flag("--text", mIsText, "Plain text instead of HTML");
+        arguments.Flag("--text", mIsText, "Plain text, also where it isn't printed on a terminal");
+        arguments.Flag("--html", mIsHtml, "A page (HTML), also on a terminal");
         arguments.Flag("--no-details", mHasNoDetails, "No list of the activities");
         arguments.Flag("--no-csv", mHasNoCsv, "No table (CSV) attached");
         arguments.Flag("--work-week", mIsWorkWeek, "Only the hours of your working days");
@@ -56,9 +60,13 @@ public:
     {
         const auto days = mDays.Days(options);
         const auto type = Type();
+        if (mIsText && mIsHtml) {
+            throw UsageError("--text stands beside --html: leave one of them out");
+        }
         const bool isFile = mOut.IsNamed();
         const auto form = isFile ? Form() : "";
-        const bool isText = mIsText || form == "txt";
+        const bool isShown = options.screen.isTerminal && !options.json && (!isFile || mOut.IsStandardOutput());
+        const bool isText = mIsText || form == "txt" || (isShown && !mIsHtml);
         const Interruption interruption;
         ConnectedRun run(options);
         const bool hasText = !Interruption::IsRequested()
@@ -102,9 +110,12 @@ private:
     std::string Form() const
     {
         auto form = mOut.Form({ "html", "txt", "csv", "eml" });
-        if ((form == "html" && mIsText) || (form == "csv" && mHasNoCsv)) {
-            throw UsageError((mIsText ? "--text" : "--no-csv") + std::string(" leaves nothing for \"") + mOut.Path()
-                + "\": leave one of them out");
+        for (const auto& [isGiven, option, needed] : { std::tuple(mIsText, "--text", "html"),
+                 std::tuple(mIsHtml, "--html", "txt"), std::tuple(mHasNoCsv, "--no-csv", "csv") }) {
+            if (isGiven && form == needed) {
+                throw UsageError(
+                    std::string(option) + " leaves nothing for " + InQuotes(mOut.Path()) + ": leave one of them out");
+            }
         }
         return form;
     }
@@ -154,6 +165,7 @@ private:
     PeriodArguments mDays;
     std::string mBy = "application";
     bool mIsText = false;
+    bool mIsHtml = false;
     bool mHasNoDetails = false;
     bool mHasNoCsv = false;
     bool mIsWorkWeek = false;

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <cstddef>
+#include <cwchar>
 #include <span>
 #include <utility>
 #include <vector>
@@ -18,16 +20,6 @@ struct Range
     char32_t first, last;
 };
 
-/// East Asian wide and full-width characters, and pictures that are drawn as wide as those.
-constexpr std::array<Range, 20> Wide { { { 0x1100, 0x115F }, { 0x231A, 0x231B }, { 0x23E9, 0x23EC }, { 0x2E80, 0x303E },
-    { 0x3041, 0x33FF }, { 0x3400, 0x4DBF }, { 0x4E00, 0x9FFF }, { 0xA000, 0xA4CF }, { 0xA960, 0xA97F },
-    { 0xAC00, 0xD7A3 }, { 0xF900, 0xFAFF }, { 0xFE10, 0xFE19 }, { 0xFE30, 0xFE6F }, { 0xFF00, 0xFF60 },
-    { 0xFFE0, 0xFFE6 }, { 0x1F300, 0x1F64F }, { 0x1F680, 0x1F6FF }, { 0x1F900, 0x1F9FF }, { 0x20000, 0x2FFFD },
-    { 0x30000, 0x3FFFD } } };
-/// Characters that are drawn over the one before them, or not at all.
-constexpr std::array<Range, 13> Narrow { { { 0x0300, 0x036F }, { 0x0483, 0x0489 }, { 0x0591, 0x05BD },
-    { 0x0610, 0x061A }, { 0x064B, 0x065F }, { 0x0E34, 0x0E3A }, { 0x0E47, 0x0E4E }, { 0x1AB0, 0x1AFF },
-    { 0x200B, 0x200D }, { 0x2066, 0x2069 }, { 0x20D0, 0x20FF }, { 0xFE00, 0xFE0F }, { 0xFE20, 0xFE2F } } };
 /// Marks, embeddings, overrides and isolates of the direction of writing.
 constexpr std::array<Range, 4> Directions { { { 0x061C, 0x061C }, { 0x200E, 0x200F }, { 0x202A, 0x202E },
     { 0x2066, 0x2069 } } };
@@ -44,6 +36,41 @@ bool IsIn(std::span<const Range> ranges, char32_t character)
 {
     return std::any_of(ranges.begin(), ranges.end(),
         [character](const auto& range) { return character >= range.first && character <= range.last; });
+}
+
+/// While it lives, the library tells widths of Unicode characters in this thread, as terminals know them, whatever the
+/// user's locale.
+class UnicodeWidths
+{
+public:
+    UnicodeWidths()
+        : mFormer(::uselocale(Unicode()))
+    {
+    }
+    ~UnicodeWidths() { ::uselocale(mFormer); }
+    UnicodeWidths(const UnicodeWidths&) = delete;
+    UnicodeWidths& operator=(const UnicodeWidths&) = delete;
+
+    /// Columns of a character: two for a wide one, none for a combining one, one for one that nobody knows.
+    int Of(char32_t character) const
+    {
+        const auto width = ::wcwidth(static_cast<wchar_t>(character));
+        return width < 0 ? 1 : width;
+    }
+
+private:
+    static locale_t Unicode()
+    {
+        static const auto locale = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+        return locale;
+    }
+
+    locale_t mFormer;
+};
+
+char32_t CodeOf(const Utf8Character& character)
+{
+    return character.isValid ? character.code : ReplacementCharacter;
 }
 
 template <class Sink> void ForEach(std::string_view text, Sink&& sink)
@@ -162,18 +189,41 @@ std::string IsolatedLine(std::string_view text)
     return line;
 }
 
+std::string InQuotes(std::string_view text)
+{
+    return "\"" + IsolatedLine(text) + "\"";
+}
+
 int DisplayWidth(std::string_view text)
 {
+    const UnicodeWidths widths;
     int width = 0;
-    ForEach(text, [&width](const Utf8Character& character, std::string_view) {
-        const auto code = character.isValid ? character.code : ReplacementCharacter;
-        if (IsIn(Wide, code)) {
-            width += 2;
-        } else if (!IsIn(Narrow, code)) {
-            ++width;
-        }
-    });
+    ForEach(text, [&](const Utf8Character& character, std::string_view) { width += widths.Of(CodeOf(character)); });
     return width;
+}
+
+std::string Shortened(std::string_view text, int columns)
+{
+    const UnicodeWidths widths;
+    std::string shortened;
+    int room = columns - 1;
+    int open = 0;
+    while (!text.empty()) {
+        const auto character = DecodeUtf8(text, 0);
+        const auto code = CodeOf(character);
+        room -= widths.Of(code);
+        if (room < 0) {
+            break;
+        }
+        open += code == Isolate ? 1 : code == EndOfIsolate ? -1 : 0;
+        shortened += text.substr(0, character.size);
+        text.remove_prefix(character.size);
+    }
+    shortened += "…";
+    for (; open > 0; --open) {
+        AppendUtf8(shortened, EndOfIsolate);
+    }
+    return shortened;
 }
 
 }

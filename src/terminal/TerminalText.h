@@ -14,7 +14,11 @@ std::string HarmlessLine(std::string_view text);
 /// The same for a text of somebody else's that stands beside others in a line: one that holds letters written from
 /// right to left, or marks of direction, is isolated, so that it doesn't turn what stands beside it.
 std::string IsolatedLine(std::string_view text);
+/// The same between quotes, for messages.
+std::string InQuotes(std::string_view text);
 /// Columns that a harmless text takes on a terminal: wide characters take two, combining ones none.
 int DisplayWidth(std::string_view text);
+/// The begin of a harmless text that is wider than so many columns, at least one, with "…" behind it.
+std::string Shortened(std::string_view text, int columns);
 
 }

@@ -1,5 +1,6 @@
 #include "cli/ActivityList.h"
 
+#include "cli/ProjectStyle.h"
 #include "host/store/StoreItem.h"
 #include "platform/objectmodel/Folders.h"
 #include "session/ProductFacts.h"
@@ -56,7 +57,10 @@ protected:
         }
         return subjects;
     }
-    std::string Table(const Period& days) const { return ActivityTable(In(days), mAddIn.platform->formats, days); }
+    std::string Table(const Period& days, bool hasTotals = false, const TextLayout& layout = {}) const
+    {
+        return ActivityTable(In(days), mAddIn.platform->formats, days, hasTotals).Text(layout);
+    }
 
     TempFolder mFolder;
     TestAddIn mAddIn { mFolder.Path() };
@@ -129,6 +133,35 @@ TEST_F(ActivityListTest, ActivityTable_SeveralDays_HaveHeadings)
         "\n"
         "Tuesday, October 10, 2006\n"
         "09:00–10:00  1 h 00 min  b\n");
+}
+
+TEST_F(ActivityListTest, ActivityTable_Totals_StandBesideTheDays)
+{
+    Add("a", At(9, 9, 0), At(9, 9, 5));
+    Add("b", At(9, 9, 5), At(9, 10, 10));
+    Add("c", At(10, 9, 0), At(10, 10, 0));
+    EXPECT_EQ(Table(NinthToTenth, true),
+        "Monday, October 9, 2006  1 h 10 min\n"
+        "09:00–09:05       5 min  a\n"
+        "09:05–10:10  1 h 05 min  b\n"
+        "\n"
+        "Tuesday, October 10, 2006  1 h 00 min\n"
+        "09:00–10:00  1 h 00 min  c\n");
+    EXPECT_EQ(Table(Tenth, true), "09:00–10:00  1 h 00 min  c\n");
+}
+
+TEST_F(ActivityListTest, ActivityTable_Colors_AreThoseOfTheProjects)
+{
+    Add("a", At(9, 9, 0), At(9, 9, 5), "Plan");
+    Add("b", At(10, 9, 0), At(10, 9, 5));
+    EXPECT_EQ(Table(NinthToTenth, false, { .hasColors = true }),
+        "\x1b[1mMonday, October 9, 2006\x1b[0m\n"
+        "09:00–09:05  5 min  "
+            + ProjectStyle("Plan").Drawn("a")
+            + "\n"
+              "\n"
+              "\x1b[1mTuesday, October 10, 2006\x1b[0m\n"
+              "09:00–09:05  5 min  \x1b[2mb\x1b[0m\n");
 }
 
 TEST_F(ActivityListTest, ActivityTotal_CountsThemAndTheirTime)

@@ -66,7 +66,7 @@ protected:
         }
         mOut.str("");
         mError.str("");
-        mLine = std::make_unique<CommandLine>(std::move(commands), mOut, mIsTerminal, mError);
+        mLine = std::make_unique<CommandLine>(std::move(commands), mOut, mScreen, mError);
         return mLine->Run(arguments);
     }
     const ProbeCommand& Probe(const std::string& name) const { return *mProbes.at(name); }
@@ -75,7 +75,7 @@ protected:
     std::function<Reply()> mRun = ProbeCommand("").mRun;
     std::ostringstream mOut;
     std::ostringstream mError;
-    bool mIsTerminal = false;
+    Screen mScreen;
 
 private:
     std::map<std::string, ProbeCommand*> mProbes;
@@ -225,7 +225,7 @@ TEST_F(CommandLineTest, Run_Content_IsPrintedByteForByte)
     mRun = [] { return Reply { .content = "M\xfcller\x1b\r\n\t", .text = "text\n", .summary = "sum\n" }; };
     Run({ "list" });
     EXPECT_EQ(mOut.str(), "M\xfcller\x1b\r\n\ttext\nsum\n");
-    mIsTerminal = true;
+    mScreen.isTerminal = true;
     Run({ "list" });
     EXPECT_THAT(mOut.str(), testing::StartsWith("M\uFFFDller\u241B\n"));
 }
@@ -258,6 +258,49 @@ TEST_F(CommandLineTest, Run_NotesAndWarnings_StandOnStandardError)
     EXPECT_EQ(Error(), "tempodial: a: b\n");
 }
 
+TEST_F(CommandLineTest, Run_Color_DecidesOverTheScreen)
+{
+    const auto drawn = [this](const Arguments& color) {
+        Arguments arguments { "list" };
+        arguments.insert(arguments.end(), color.begin(), color.end());
+        EXPECT_EQ(Run(arguments), ExitStatus::Done) << Error();
+        return mOut.str().starts_with("\x1b[1mday\x1b[0m\n");
+    };
+    mRun = [] {
+        ShownText text;
+        text.AddHeading("day");
+        return Reply { .document = { { "a", 1 } }, .text = text };
+    };
+    for (const bool hasColors : { false, true }) {
+        mScreen.hasColors = hasColors;
+        EXPECT_EQ(drawn({}), hasColors);
+        EXPECT_EQ(drawn({ "--color", "auto" }), hasColors);
+        EXPECT_FALSE(drawn({ "--color", "never" }));
+        EXPECT_TRUE(drawn({ "--color=always" }));
+        EXPECT_FALSE(drawn({ "--color=always", "--json" }));
+        EXPECT_EQ(mOut.str().find('\x1b'), std::string::npos);
+    }
+    EXPECT_EQ(Run({ "list", "--color", "red" }), ExitStatus::Usage);
+    EXPECT_EQ(Error(), "tempodial: --color can't be \"red\": give auto, always or never\n");
+}
+
+TEST_F(CommandLineTest, Run_Wide_LeavesTablesUncut)
+{
+    mRun = [] {
+        TextTable table({ TextTable::Side::Left });
+        table.Add({ "a text that is long" });
+        return Reply { .text = std::move(table) };
+    };
+    mScreen.columns = 14;
+    Run({ "list" });
+    EXPECT_EQ(mOut.str(), "a text that is long\n") << "it is no terminal";
+    mScreen.isTerminal = true;
+    Run({ "list" });
+    EXPECT_EQ(mOut.str(), "a text that i…\n");
+    Run({ "list", "--wide" });
+    EXPECT_EQ(mOut.str(), "a text that is long\n");
+}
+
 TEST_F(CommandLineTest, Run_CommandFails_GivesTheStatusThatFits)
 {
     const auto fails = [this](auto&& fail) {
@@ -285,7 +328,7 @@ TEST_F(CommandLineTest, Run_OutputCantBeWritten_IsTold)
     mOut.setstate(std::ios::badbit);
     std::vector<std::unique_ptr<Command>> commands;
     commands.push_back(std::make_unique<ProbeCommand>("list"));
-    EXPECT_EQ(CommandLine(std::move(commands), mOut, mIsTerminal, mError).Run({ "list" }), ExitStatus::NotDone);
+    EXPECT_EQ(CommandLine(std::move(commands), mOut, mScreen, mError).Run({ "list" }), ExitStatus::NotDone);
     EXPECT_THAT(Error(), MatchesRegex(OneLine));
 }
 

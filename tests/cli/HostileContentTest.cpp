@@ -143,7 +143,8 @@ protected:
         EXPECT_TRUE(terminal >= 0 && ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0);
         std::string shown;
         {
-            StartedProgram program(Whole(arguments), { .output = ::ptsname(terminal) });
+            StartedProgram program(
+                Whole(arguments), { .output = ::ptsname(terminal), .environment = { "TERM=xterm", "NO_COLOR=1" } });
             std::array<char, 65536> buffer;
             for (auto got = ::read(terminal, buffer.data(), buffer.size()); got > 0;
                  got = ::read(terminal, buffer.data(), buffer.size())) {
@@ -317,6 +318,22 @@ TEST_F(HostileContentTest, Terminal_Captions_AreShownWithoutHarm)
     // Each activity has its one line.
     const auto list = Run({ "list", "--quiet" }).out;
     EXPECT_GE(static_cast<std::size_t>(std::count(list.begin(), list.end(), '\n')), mCaptions.size());
+}
+
+TEST_F(HostileContentTest, Colors_Captions_AddNoSequences)
+{
+    for (const auto* command : { "list", "projects", "trace" }) {
+        const auto plain = Run({ command }).out;
+        auto drawn = Run({ command, "--color=always" }).out;
+        for (const std::string begin : { "\x1b[0m", "\x1b[1m", "\x1b[2m" }) {
+            drawn = Replace(drawn, begin, "");
+        }
+        for (auto begin = drawn.find("\x1b[38;5;"); begin != std::string::npos; begin = drawn.find("\x1b[38;5;")) {
+            drawn.erase(begin, drawn.find('m', begin) - begin + 1);
+        }
+        EXPECT_EQ(Harm(drawn), "") << command;
+        EXPECT_TRUE(drawn == plain) << command;
+    }
 }
 
 TEST_F(HostileContentTest, Trace_Captions_StandInIt)

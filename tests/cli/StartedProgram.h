@@ -8,7 +8,8 @@
 
 namespace tempodial {
 
-/// The built program, started with standard error on a terminal of its own, and standard output where a test wants it.
+/// The built program, started with standard error on a terminal of its own, standard output where a test wants it, and
+/// nothing on standard input.
 class StartedProgram
 {
 public:
@@ -16,6 +17,16 @@ public:
     {
         /// The file that standard output goes to, "" for none at all: the stream is closed.
         std::string output = "/dev/null";
+        /// Standard output is on the terminal too, whatever it is said to be.
+        bool isOnTerminal = false;
+        /// Standard input is there as well.
+        bool isAsked = true;
+        int columns = 80;
+        int rows = 24;
+        /// Variables that it finds besides those of the test, as "NAME=value".
+        std::vector<std::string> environment;
+        /// Variables that it doesn't find.
+        std::vector<std::string> absent;
         /// Standard output goes to a pipe that nobody reads any more, instead.
         bool hasNoReader = false;
         /// The largest size of a file that may be written, in bytes.
@@ -36,6 +47,7 @@ public:
     const std::string& Shown() const { return mShown; }
 
 private:
+    static void SetOutput(const Settings& settings);
     bool ReadMore();
 
     pid_t mProcess = -1;

@@ -67,6 +67,27 @@ TEST(TerminalTextTest, DisplayWidth_WideAndCombining_CountAsDrawn)
     EXPECT_EQ(DisplayWidth("e\u0301"), 1);
     EXPECT_EQ(DisplayWidth("😀"), 2);
     EXPECT_EQ(DisplayWidth("\u2068שלום\u2069"), 4);
+    EXPECT_EQ(DisplayWidth("กำ"), 2);
+    EXPECT_EQ(DisplayWidth("נָ"), 1);
+    EXPECT_EQ(DisplayWidth("한"), 2);
+    EXPECT_EQ(DisplayWidth("ｱｲ"), 2) << "half-width";
+    EXPECT_EQ(DisplayWidth("\xff\U0010FFFF"), 2) << "what nobody knows takes one";
+}
+
+TEST(TerminalTextTest, Shortened_WidthOfColumns_IsKept)
+{
+    EXPECT_EQ(Shortened("abcdef", 4), "abc…");
+    EXPECT_EQ(Shortened("abcdef", 1), "…");
+    EXPECT_EQ(Shortened("売上表", 4), "売…") << "half a character isn't shown";
+    EXPECT_EQ(Shortened("売上表", 5), "売上…");
+    EXPECT_EQ(Shortened("e\u0301e\u0301e\u0301", 3), "e\u0301e\u0301…");
+    EXPECT_EQ(Shortened("\u2068שלום\u2069", 3), "\u2068של…\u2069");
+}
+
+TEST(TerminalTextTest, InQuotes_RightToLeft_IsIsolatedWithinThem)
+{
+    EXPECT_EQ(InQuotes("a\nb"), "\"a b\"");
+    EXPECT_EQ(InQuotes("שלום"), "\"\u2068שלום\u2069\"");
 }
 
 }
