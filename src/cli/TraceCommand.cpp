@@ -1,9 +1,12 @@
+#include "base/Text.h"
 #include "cli/Commands.h"
 #include "session/OpenProfile.h"
 #include "session/TraceTail.h"
 #include "terminal/Arguments.h"
 
 #include <limits>
+#include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -37,13 +40,38 @@ public:
         Reply reply;
         const auto lines = tail.Lines();
         reply.document.Set("lines", lines);
-        for (const auto& line : lines) {
-            reply.text += line + "\n";
-        }
+        reply.text = TextOf(lines);
         return reply;
     }
 
 private:
+    static constexpr auto BeginOfAFile = "Tempodial Version: ";
+
+    /// True for what begins as the lines of the trace do: with the number of a thread, a moment and a colon. What is
+    /// traced may hold line ends, and what follows them doesn't.
+    static bool HasHead(const std::string& line)
+    {
+        const auto blank = line.find_first_not_of("0123456789");
+        return blank != std::string::npos && blank > 0 && line[blank] == ' '
+            && line.find(": ", blank) != std::string::npos;
+    }
+
+    /// The lines for people, line ends within a traced text as blanks.
+    static std::string TextOf(const std::vector<std::string>& lines)
+    {
+        std::string text;
+        bool isTraced = false;
+        for (const auto& line : lines) {
+            const bool goesOn = isTraced && !HasHead(line) && !line.starts_with(BeginOfAFile);
+            if (goesOn) {
+                text.back() = ' ';
+            }
+            text += Replace(line, "\r", " ") + "\n";
+            isTraced = goesOn || HasHead(line);
+        }
+        return text;
+    }
+
     std::string mLines = "20";
 };
 

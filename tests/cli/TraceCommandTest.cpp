@@ -51,6 +51,26 @@ TEST_F(TraceCommandTest, Trace_BytesThatAreNoUtf8_AreReadAsWindows1252)
     EXPECT_EQ(Run({ "trace" }).out, "Müller␛\n");
 }
 
+TEST_F(TraceCommandTest, Trace_LineEndsInATracedText_AreShownAsBlanks)
+{
+    WriteData("WorkLogTrace2.out", "Tempodial Version: 1\r\n\r\n12 10/10/2006 5:00:00 PM: a b\nc\r\n\rd\r\n");
+    WriteData("WorkLogTrace1.out",
+        "Tempodial Version: 1\r\n\r\n12 10/10/2006 5:00:00 PM: e\r\n12 10/10/2006 5:00:00 PM: f\n\n12 x\r\n");
+    EXPECT_EQ(Run({ "trace" }).out,
+        "Tempodial Version: 1\n\n12 10/10/2006 5:00:00 PM: a b c  d\n"
+        "Tempodial Version: 1\n\n12 10/10/2006 5:00:00 PM: e\n12 10/10/2006 5:00:00 PM: f  12 x\n");
+    EXPECT_EQ(Last("2"), (Lines { "", "12 x" })) << "as they stand there";
+    EXPECT_EQ(Run({ "trace", "--lines", "1" }).out, "12 x\n");
+}
+
+TEST_F(TraceCommandTest, Trace_CaptionWithLineEnds_IsShownInItsLine)
+{
+    WriteTracker("20061010", { WordSlot(32400, 32700, "one\ntwo\nthree") });
+    Run({ "sync" });
+    EXPECT_THAT(Run({ "trace", "--lines", "1000" }).out, testing::HasSubstr("one two three"));
+    EXPECT_THAT(Run({ "trace", "--lines", "1000" }).out, testing::Not(testing::HasSubstr("\ntwo")));
+}
+
 TEST_F(TraceCommandTest, Trace_AfterACommand_EndsWithItsStop)
 {
     Run({ "projects" });
