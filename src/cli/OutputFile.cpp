@@ -153,11 +153,11 @@ void OutputFile::Write(std::string text, Reply& reply) const
     }
 }
 
-void OutputFile::Write(const MailDraft& mail, Reply& reply) const
+void OutputFile::Write(const MailDraft& mail, const std::string& plainText, Reply& reply) const
 {
     std::string text;
     try {
-        text = GMimeDraftWriter().Text(mail);
+        text = GMimeDraftWriter().Text(mail, plainText);
     } catch (const Failure& failure) {
         throw CommandError(Path() + " couldn't be written: "
             + (failure.Is(Error::CannotCreateObject)

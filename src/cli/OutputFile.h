@@ -33,8 +33,8 @@ public:
     /// Puts an answer there, and into the reply what is said of that for people, or the answer itself where that goes
     /// to standard output. Fails with a `CommandError`.
     void Write(std::string text, Reply& reply) const;
-    /// The same with a mail.
-    void Write(const MailDraft& mail, Reply& reply) const;
+    /// The same with a mail, and a plain text for readers that don't show its page unless that is empty.
+    void Write(const MailDraft& mail, const std::string& plainText, Reply& reply) const;
 
 private:
     std::optional<std::string> mPath;

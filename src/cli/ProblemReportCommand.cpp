@@ -65,7 +65,7 @@ public:
         if (mIsListed) {
             reply.text = Listing(mail);
         } else {
-            mOut.Write(mail, reply);
+            mOut.Write(mail, "", reply);
         }
         auto names = JsonValue::Array();
         auto files = JsonValue::Array();

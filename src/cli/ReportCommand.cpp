@@ -69,14 +69,20 @@ public:
         const bool isText = mIsText || form == "txt" || (isShown && !mIsHtml);
         const Interruption interruption;
         ConnectedRun run(options);
-        const bool hasText = !Interruption::IsRequested()
-            && run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, !mHasNoCsv, !isText, mIsWorkWeek);
-        auto mail = run.TakeShownMail();
+        const auto create = [&](bool hasCsv, bool isHtml) {
+            const bool hasText = !Interruption::IsRequested()
+                && run.AddIn().CreateReport(days.first, days.last, type, !mHasNoDetails, hasCsv, isHtml, mIsWorkWeek);
+            auto mail = run.TakeShownMail();
+            return hasText ? std::move(mail) : MailDraft();
+        };
+        auto mail = create(!mHasNoCsv, !isText);
+        const bool hasBoth = form == "eml" && !isText;
+        const auto plainText = hasBoth ? create(false, false).body : "";
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
             return reply;
         }
-        if (!hasText || mail.body.empty() || !HasTable(mail, run)) {
+        if (mail.body.empty() || plainText.empty() == hasBoth || !HasTable(mail, run)) {
             reply.status = ExitStatus::NotDone;
             reply.complaints.emplace_back(
                 "the report isn't whole and isn't given: see the trace with \"tempodial trace\"");
@@ -89,7 +95,7 @@ public:
             reply.document = Document(mail);
         }
         if (isFile) {
-            Write(mail, form, reply);
+            Write(mail, plainText, form, reply);
         } else {
             reply.content = std::move(mail.body);
         }
@@ -120,10 +126,10 @@ private:
         return form;
     }
 
-    void Write(const MailDraft& mail, const std::string& form, Reply& reply) const
+    void Write(const MailDraft& mail, const std::string& plainText, const std::string& form, Reply& reply) const
     {
         if (form == "eml") {
-            mOut.Write(mail, reply);
+            mOut.Write(mail, plainText, reply);
         } else if (form == "csv") {
             mOut.Write(mail.attachments.front().content, reply);
         } else {

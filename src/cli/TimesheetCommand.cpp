@@ -193,7 +193,7 @@ private:
             mail.subject = TimesheetTitle(sheet);
             mail.body = TimesheetPage(sheet, author, mCurrency);
             mail.isHtml = true;
-            mOut.Write(mail, reply);
+            mOut.Write(mail, Text(sheet, author), reply);
         } else if (form == "html") {
             mOut.Write(TimesheetPage(sheet, author, mCurrency), reply);
         } else if (form == "csv") {

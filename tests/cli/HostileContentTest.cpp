@@ -283,7 +283,8 @@ TEST_F(HostileContentTest, Mail_Captions_StayInTheBodyAndTheTable)
         EXPECT_EQ(
             mail.at("headers").size(), read.at("text.eml").at("headers").size() + (name == "problem.eml" ? 1 : 0));
     }
-    EXPECT_EQ(read.at("html.eml").at("types"), (nlohmann::json { "text/html", "text/csv" }));
+    EXPECT_EQ(read.at("html.eml").at("types"), (nlohmann::json { "text/plain", "text/html", "text/csv" }));
+    EXPECT_TRUE(read.at("html.eml").at("plain") == read.at("text.eml").at("body"));
     EXPECT_EQ(read.at("text.eml").at("types"), (nlohmann::json { "text/plain", "text/csv" }));
     const auto page = read.at("html.eml").at("page").at("text").get<std::string>();
     const auto& rows = read.at("html.eml").at("tables").at(0);

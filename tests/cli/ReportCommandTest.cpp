@@ -190,7 +190,9 @@ TEST_F(ReportCommandTest, Report_Mail_IsReadBackWithoutDefects)
     const auto lines = Split(ReadBack("host/system/read_mail.py", path), "\n");
     EXPECT_THAT(lines, Contains("subject: Tempodial Report (By Application) Tuesday, October 10, 2006"));
     EXPECT_THAT(lines, Contains("to: None"));
+    EXPECT_THAT(lines, Contains("alternatives: text/plain, text/html")) << "readers prefer the last";
     EXPECT_THAT(lines, Contains("part: text/html utf-8 None None"));
+    EXPECT_THAT(lines, Contains("part: text/plain utf-8 None None"));
     EXPECT_THAT(lines, Contains("part: text/csv utf-8 attachment Tempodial Tuesday, October 10, 2006.csv"));
     EXPECT_THAT(lines, Contains("bare line ends: 0"));
     EXPECT_THAT(lines, Contains("defects: []"));

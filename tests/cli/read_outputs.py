@@ -62,8 +62,9 @@ def Mail(raw):
         "headers": sorted(message.keys()),
         "subject": message["Subject"],
         "types": [part.get_content_type() for part in parts],
-        "body": parts[0].get_content(),
-        "tables": [Rows(part.get_content()) for part in parts[1:] if part.get_content_type() == "text/csv"],
+        "body": message.get_body(("html", "plain")).get_content(),
+        "plain": message.get_body(("plain",)).get_content(),
+        "tables": [Rows(part.get_content()) for part in parts if part.get_content_type() == "text/csv"],
         "defects": [type(defect).__name__ for part in message.walk() for defect in part.defects],
         "bare line ends": bare.count(b"\r") + bare.count(b"\n"),
         "longest line": max(map(len, raw.split(b"\r\n"))),
@@ -83,7 +84,7 @@ def Main(folder):
             read[name] = Page(raw.decode("utf-8")).Read()
         elif name.endswith(".eml"):
             mail = read[name] = Mail(raw)
-            if mail["types"][0] == "text/html":
+            if "text/html" in mail["types"]:
                 mail["page"] = Page(mail["body"]).Read()
     json.dump(read, sys.stdout)
 

@@ -13,11 +13,11 @@ GMimeDraftWriter::GMimeDraftWriter(std::string modulePath)
 {
 }
 
-std::string GMimeDraftWriter::Text(const MailDraft& draft)
+std::string GMimeDraftWriter::Text(const MailDraft& draft, const std::string& plainText)
 {
     const auto writeMessage = mModule.Get<MimeMessageWriter>(MimeMessageWriterName);
     const MemoryFile file;
-    if (const auto error = writeMessage(draft, file.Descriptor()); error != 0) {
+    if (const auto error = writeMessage(draft, plainText, file.Descriptor()); error != 0) {
         throw SystemFailure(error);
     }
     return file.Text();

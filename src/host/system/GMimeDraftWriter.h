@@ -16,9 +16,9 @@ public:
     /// Takes the path of the module, which else is the program's own.
     explicit GMimeDraftWriter(std::string modulePath = ProgramModule::PathOf(MimeMessageModule));
 
-    /// The text of a draft's file. Fails (429) when the module can't be loaded, and when there isn't enough memory
-    /// (7, 61).
-    std::string Text(const MailDraft& draft);
+    /// The text of a draft's file, with a plain text for readers that don't show its page unless that is empty. Fails
+    /// (429) when the module can't be loaded, and when there isn't enough memory (7, 61).
+    std::string Text(const MailDraft& draft, const std::string& plainText = "");
     /// Fails also as `Text` does.
     void Write(const MailDraft& draft, const std::string& path) override;
 

@@ -19,8 +19,9 @@ namespace tempodial {
 
 namespace {
 
-/// No line of an encoded part can hold "=_", so the boundary needs no chance to be unique.
+/// No line of an encoded part can hold "=_", so the boundaries need no chance to be unique.
 constexpr auto Boundary = "=_Tempodial_1.2";
+constexpr auto BodyBoundary = "=_Tempodial_Body_1.2";
 /// Characters of a piece of an encoded parameter; with its name a piece stays within 78.
 constexpr std::size_t LongestPiece = 54;
 
@@ -143,19 +144,31 @@ int Write(GMimeMessage* message, int descriptor)
     return isWritten ? 0 : errno != 0 ? errno : EIO;
 }
 
-int WriteDraft(const MailDraft& draft, int descriptor)
+Owned<GMimeMultipart> Multipart(const char* kind, const char* boundary)
+{
+    Owned<GMimeMultipart> parts(g_mime_multipart_new_with_subtype(kind));
+    g_mime_multipart_set_boundary(parts.get(), boundary);
+    return parts;
+}
+
+int WriteDraft(const MailDraft& draft, const std::string& plainText, int descriptor)
 {
     static const bool isReady = (g_mime_init(), true);
     static_cast<void>(isReady);
 
-    const auto* type = draft.isHtml ? "text/html; charset=utf-8" : "text/plain; charset=utf-8";
-    Part body(draft.body, type, GMIME_CONTENT_ENCODING_QUOTEDPRINTABLE);
+    const Part plain(
+        draft.isHtml ? plainText : draft.body, "text/plain; charset=utf-8", GMIME_CONTENT_ENCODING_QUOTEDPRINTABLE);
+    const Part page(draft.body, "text/html; charset=utf-8", GMIME_CONTENT_ENCODING_QUOTEDPRINTABLE);
+    // Readers show the last of the forms that they know.
+    const auto both = Multipart("alternative", BodyBoundary);
+    g_mime_multipart_add(both.get(), plain.Object());
+    g_mime_multipart_add(both.get(), page.Object());
+    auto* const body = !draft.isHtml ? plain.Object() : plainText.empty() ? page.Object() : GMIME_OBJECT(both.get());
     if (draft.attachments.empty()) {
-        return Write(MessageOf(draft, body.Object()).get(), descriptor);
+        return Write(MessageOf(draft, body).get(), descriptor);
     }
-    const Owned<GMimeMultipart> parts(g_mime_multipart_new_with_subtype("mixed"));
-    g_mime_multipart_set_boundary(parts.get(), Boundary);
-    g_mime_multipart_add(parts.get(), body.Object());
+    const auto parts = Multipart("mixed", Boundary);
+    g_mime_multipart_add(parts.get(), body);
     std::list<Part> attachments;
     for (const auto& attachment : draft.attachments) {
         const auto known = attachment.type.empty() ? std::string("application/octet-stream") : attachment.type;
@@ -177,13 +190,13 @@ bool IsTooLarge(const std::string& content)
 }
 
 extern "C" __attribute__((visibility("default"))) int TempodialWriteMimeMessage(
-    const tempodial::MailDraft& draft, int descriptor)
+    const tempodial::MailDraft& draft, const std::string& plainText, int descriptor)
 {
     try {
-        const bool isTooLarge = tempodial::IsTooLarge(draft.body)
+        const bool isTooLarge = tempodial::IsTooLarge(draft.body) || tempodial::IsTooLarge(plainText)
             || std::any_of(draft.attachments.begin(), draft.attachments.end(),
                 [](const auto& attachment) { return tempodial::IsTooLarge(attachment.content); });
-        return isTooLarge ? EFBIG : tempodial::WriteDraft(draft, descriptor);
+        return isTooLarge ? EFBIG : tempodial::WriteDraft(draft, plainText, descriptor);
     } catch (const std::bad_alloc&) {
         return ENOMEM;
     }

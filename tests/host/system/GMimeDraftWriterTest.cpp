@@ -40,9 +40,9 @@ class GMimeDraftWriterTest : public testing::Test
 {
 protected:
     /// What Python's email package reads in a draft.
-    std::vector<std::string> Read(const MailDraft& draft)
+    std::vector<std::string> Read(const MailDraft& draft, const std::string& plainText = "")
     {
-        mWriter.Write(draft, mFolder.Path("draft.eml"));
+        static_cast<void>(mFolder.Write("draft.eml", mWriter.Text(draft, plainText)));
         const auto command = "python3 -B " TEMPODIAL_SOURCE_DIR "/tests/host/system/read_mail.py "
             + mFolder.Path("draft.eml") + " 2>&1";
         const std::unique_ptr<FILE, decltype(&::pclose)> output(::popen(command.c_str(), "r"), &::pclose);
@@ -79,6 +79,24 @@ TEST_F(GMimeDraftWriterTest, Write_HtmlWithAttachments_KeepsTheirBytes)
             Hex("\"a\",1\r\n"), "part: application/octet-stream None attachment b", Hex(bytes),
             "part: text/plain utf-8 attachment empty.out", "", "bare line ends: 0", "longest line: short",
             "defects: []"));
+}
+
+TEST_F(GMimeDraftWriterTest, Text_PageWithPlainText_HasBothBesideTheAttachments)
+{
+    const std::string end = "--=_Tempodial_Body_1.2--\r\n--=_Tempodial_1.2\r\n";
+    const auto alone = Read({ {}, "s", "<p>x</p>", true }, "x\r\n" + end);
+    EXPECT_THAT(alone,
+        ElementsAre("headers: X-Unsent, Subject, MIME-Version, Content-Type", "subject: s", "to: None", "unsent: 1",
+            "alternatives: text/plain, text/html", "part: text/plain utf-8 None None", Hex("x\r\n" + end),
+            "part: text/html utf-8 None None", Hex("<p>x</p>"), "bare line ends: 0", "longest line: short",
+            "defects: []"));
+    const auto attached = Read({ {}, "s", "<p>x</p>", true, { { "a.csv", "1\r\n", "text/csv" } } }, "x\r\n");
+    EXPECT_THAT(attached,
+        ElementsAre("headers: X-Unsent, Subject, MIME-Version, Content-Type", "subject: s", "to: None", "unsent: 1",
+            "alternatives: text/plain, text/html", "part: text/plain utf-8 None None", Hex("x\r\n"),
+            "part: text/html utf-8 None None", Hex("<p>x</p>"), "part: text/csv None attachment a.csv", Hex("1\r\n"),
+            "bare line ends: 0", "longest line: short", "defects: []"));
+    EXPECT_EQ(Read({ {}, "s", "y", false }, "x"), Read({ {}, "s", "y", false })) << "a plain mail has one text";
 }
 
 struct WordsCase

@@ -24,6 +24,8 @@ def Main(path):
     print("to:", message["To"])
     print("unsent:", message["X-Unsent"])
     for part in message.walk():
+        if part.get_content_type() == "multipart/alternative":
+            print("alternatives:", ", ".join(each.get_content_type() for each in part.iter_parts()))
         if not part.is_multipart():
             print("part:", part.get_content_type(), part.get_content_charset(), part.get_content_disposition(),
                   part.get_filename())
