@@ -92,18 +92,39 @@ TEST_F(TerminalRunTest, List_OutputClosed_IsToldAndHarmsNothing)
     EXPECT_EQ(Json({ "list" }).size(), 10U);
 }
 
-TEST_F(TerminalRunTest, AnyCommand_ReaderGone_EndsInSilenceWithItsChangesMade)
+TEST_F(TerminalRunTest, AnyCommand_ReaderGone_EndsInSilence)
 {
-    WriteLongDay("20061010", 10);
-    for (const auto& arguments :
-        { Arguments { "sync" }, Arguments { "list" }, Arguments { "report" }, Arguments { "--help" },
-            Arguments { "export", "--format", "csv", "--out", "-" }, Arguments { "projects", "set", "Plan" } }) {
+    auto commands = OneOfEachCommand();
+    for (const auto& arguments : { Arguments { "--help" }, Arguments { "list", "--json" }, Arguments { "--version" },
+             Arguments { "report", "--text" }, Arguments { "export", "--format", "csv", "--out", "-" } }) {
+        commands.push_back(arguments);
+    }
+    for (auto& arguments : commands) {
+        std::filesystem::remove_all(mProfile);
+        if (arguments.front() != "demo") {
+            WriteLongDay("20061010", 10);
+            Json({ "sync" });
+        }
+        if (arguments.front() == "problem-report") {
+            arguments.back() = "-";
+        }
         StartedProgram program(Whole(arguments), { .hasNoReader = true });
-        EXPECT_EQ(program.End(), 128 + SIGPIPE) << arguments.front();
+        EXPECT_EQ(program.End(), 128 + SIGPIPE) << testing::PrintToString(arguments);
         EXPECT_EQ(program.Shown().find("tempodial:"), std::string::npos) << program.Shown();
     }
-    EXPECT_EQ(Json({ "list" }).size(), 10U);
+}
+
+TEST_F(TerminalRunTest, AnyCommand_ReaderGone_HasMadeItsChanges)
+{
+    WriteLongDay("20061010", 10);
+    for (const auto& arguments : { Arguments { "sync" }, Arguments { "projects", "set", "Plan", "--subject", "word" },
+             Arguments { "apply", "Plan" }, Arguments { "registry", "set", "HKCU", "", "A", "b" } }) {
+        StartedProgram program(Whole(arguments), { .hasNoReader = true });
+        EXPECT_EQ(program.End(), 128 + SIGPIPE) << arguments.front();
+    }
+    EXPECT_EQ(Json({ "list", "--project", "Plan" }).size(), 10U);
     EXPECT_EQ(Json({ "projects" }).size(), 6U);
+    EXPECT_EQ(Json({ "registry", "get", "HKCU", "", "A" }).at("text"), "b");
 }
 
 TEST_F(TerminalRunTest, List_FullDisk_IsTold)
