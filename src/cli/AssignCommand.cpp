@@ -5,6 +5,7 @@
 #include "cli/ProjectNames.h"
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 namespace tempodial {
@@ -56,7 +57,7 @@ public:
         const bool isNew = !wasListed && KnownProject::IsListed(addIn, name);
         auto reply = run.ConcludedWithChanges(changes);
         if (isNew) {
-            reply.notes.push_back("Added: the project " + name);
+            reply.notes.push_back("Added: the project " + IsolatedLine(name));
         }
         return reply;
     }

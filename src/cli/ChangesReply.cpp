@@ -2,6 +2,7 @@
 
 #include "cli/TextTable.h"
 #include "review/TimeText.h"
+#include "terminal/TerminalText.h"
 
 namespace tempodial {
 
@@ -60,9 +61,9 @@ void TellDisputed(const RulePreview& preview, const Options& options)
         return;
     }
     for (const auto& move : preview.disputed.LargestFirst()) {
-        options.warn(Counted(move.activities) + " (" + HourText(move.minutes) + ") of \"" + move.to + "\""
-            + (move.activities == 1 ? " belongs to " : " belong to ") + "\"" + move.from
-            + "\" by precedence: see \"tempodial apply --all\" for what all rules give together");
+        options.warn(Counted(move.activities) + " (" + HourText(move.minutes) + ") of " + InQuotes(move.to)
+            + (move.activities == 1 ? " belongs to " : " belong to ") + InQuotes(move.from)
+            + " by precedence: see \"tempodial apply --all\" for what all rules give together");
     }
 }
 

@@ -5,6 +5,8 @@
 #include "cli/ProgressLine.h"
 #include "faults/ProblemRecorder.h"
 #include "faults/Wrapped.h"
+#include "terminal/Screen.h"
+#include "terminal/TerminalText.h"
 
 #include <memory>
 #include <unistd.h>
@@ -58,7 +60,7 @@ MailDraft ConnectedRun::TakeShownMail() const
 Reply ConnectedRun::Concluded(Reply reply)
 {
     for (const auto& save : Saves().failed) {
-        mProblems->Note("the activity \"" + save.subject + "\" couldn't be saved: " + save.message
+        mProblems->Note("the activity " + InQuotes(save.subject) + " couldn't be saved: " + save.message
             + ": see to the profile's disk and run the command again");
     }
     mSession.End();

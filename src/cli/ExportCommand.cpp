@@ -7,6 +7,7 @@
 #include "cli/ProjectArgument.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -87,7 +88,7 @@ private:
     {
         const std::vector<std::string> formats { "ics", "csv", "json" };
         if (mFormat && std::find(formats.begin(), formats.end(), *mFormat) == formats.end()) {
-            throw UsageError("--format can't be \"" + *mFormat + "\": give ics, csv or json");
+            throw UsageError("--format can't be " + InQuotes(*mFormat) + ": give ics, csv or json");
         }
         const bool hasEnd = isFile && !(mFormat && mOut.End().empty());
         const auto form = hasEnd ? mOut.Form(formats) : "";
@@ -96,7 +97,7 @@ private:
         }
         if (mFormat && !form.empty() && form != *mFormat) {
             throw UsageError(
-                "--format " + *mFormat + " isn't what \"" + mOut.Path() + "\" ends in: leave one of them out");
+                "--format " + *mFormat + " isn't what " + InQuotes(mOut.Path()) + " ends in: leave one of them out");
         }
         return mFormat.value_or(form);
     }

@@ -41,7 +41,7 @@ void RequireReadable(const std::string& text, const std::string& what)
     });
     if (hasControl || text.find("\uFFFE") != std::string::npos || text.find("\uFFFF") != std::string::npos) {
         throw CommandError(what + " can't hold control characters, since the list of projects couldn't be read back: "
-            + "leave them out of \"" + HarmlessLine(text) + "\"");
+            + "leave them out of " + InQuotes(text));
     }
 }
 
@@ -92,8 +92,8 @@ void KnownProject::RequireReadableRule(const std::string& rule)
 {
     if (rule.find('|') != std::string::npos) {
         throw CommandError(
-            R"(a rule can't hold "|", since the list of projects couldn't be read back: leave it out of ")" + rule
-            + "\"");
+            R"(a rule can't hold "|", since the list of projects couldn't be read back: leave it out of )"
+            + InQuotes(rule));
     }
     RequireReadable(rule, "a rule");
 }

@@ -9,6 +9,7 @@
 #include "host/system/GMimeDraftWriter.h"
 #include "session/ProductFacts.h"
 #include "terminal/ProgramRun.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -63,14 +64,14 @@ OutputTarget TargetAt(const std::string& path)
 {
     OutputTarget target(path);
     if (target.WhatItIs() == Kind::Folder) {
-        throw CommandError(path + " couldn't be written: it is a folder: name a file in it");
+        throw CommandError(IsolatedLine(path) + " couldn't be written: it is a folder: name a file in it");
     }
     const bool isFile = target.WhatItIs() == Kind::File || target.WhatItIs() == Kind::Absent;
     if (isFile && IsDatabase(target.Path())) {
-        throw CommandError(path + " is a mailbox or another database: give another file");
+        throw CommandError(IsolatedLine(path) + " is a mailbox or another database: give another file");
     }
     if (isFile && BelongsToAProfile(target.Path())) {
-        throw CommandError(path + " is a file of a profile: give another file");
+        throw CommandError(IsolatedLine(path) + " is a file of a profile: give another file");
     }
     return target;
 }
@@ -130,7 +131,7 @@ std::string OutputFile::Form(const std::vector<std::string>& forms) const
     for (const auto& form : forms) {
         ends += (ends.empty() ? "." : &form == &forms.back() ? " or ." : ", .") + form;
     }
-    throw UsageError("--out can't be \"" + Path() + "\": give a name that ends in " + ends);
+    throw UsageError("--out can't be " + InQuotes(Path()) + ": give a name that ends in " + ends);
 }
 
 void OutputFile::Write(std::string text, Reply& reply) const
@@ -146,10 +147,10 @@ void OutputFile::Write(std::string text, Reply& reply) const
             EndWithReader();
         }
         target.Write(text);
-        reply.summary += (target.WhatItIs() == Kind::File ? "Replaced: " : "Written: ") + Path() + "\n";
+        reply.summary += (target.WhatItIs() == Kind::File ? "Replaced: " : "Written: ") + IsolatedLine(Path()) + "\n";
     } catch (const Failure& failure) {
-        throw CommandError(
-            Path() + " couldn't be written: " + failure.Description() + ": see to its folder and its disk");
+        throw CommandError(IsolatedLine(Path()) + " couldn't be written: " + failure.Description()
+            + ": see to its folder and its disk");
     }
 }
 
@@ -159,7 +160,7 @@ void OutputFile::Write(const MailDraft& mail, const std::string& plainText, Repl
     try {
         text = GMimeDraftWriter().Text(mail, plainText);
     } catch (const Failure& failure) {
-        throw CommandError(Path() + " couldn't be written: "
+        throw CommandError(IsolatedLine(Path()) + " couldn't be written: "
             + (failure.Is(Error::CannotCreateObject)
                     ? "the program's part for mails can't be loaded: install the program again"
                     : failure.Description() + ": close other programs and run the command again"));

@@ -4,6 +4,7 @@
 #include "host/system/HostClock.h"
 #include "session/ProfileSettings.h"
 #include "terminal/Arguments.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ std::optional<Period> PeriodNamed(const std::string& text, const Options& option
 
 [[noreturn]] void RefuseDays(const std::string& name, const std::string& text, const std::string& advice)
 {
-    throw UsageError(name + " can't be \"" + text + "\": give " + advice);
+    throw UsageError(name + " can't be " + InQuotes(text) + ": give " + advice);
 }
 
 }
@@ -45,7 +46,7 @@ void PeriodArguments::Take(const std::string& range)
 {
     if (mRange) {
         throw UsageError(
-            "RANGE is given twice, as \"" + range + "\" and as \"" + *mRange + "\": leave one of them out");
+            "RANGE is given twice, as " + InQuotes(range) + " and as " + InQuotes(*mRange) + ": leave one of them out");
     }
     mRange = range;
 }
@@ -53,7 +54,7 @@ void PeriodArguments::Take(const std::string& range)
 Period PeriodArguments::Days(const Options& options, const std::string& usual) const
 {
     if (mRange && (mFrom || mTo)) {
-        throw UsageError("RANGE \"" + *mRange + "\" stands beside --from or --to: leave one of them out");
+        throw UsageError("RANGE " + InQuotes(*mRange) + " stands beside --from or --to: leave one of them out");
     }
     if (mRange) {
         return ToPeriod("RANGE", *mRange, options);

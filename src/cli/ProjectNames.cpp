@@ -62,8 +62,8 @@ void RequireProjectName(const std::string& name)
     for (std::size_t i = 0; i < name.size();) {
         const auto character = DecodeUtf8(name, i);
         if (IsControl(character.code)) {
-            throw UsageError("the name of a project can't hold control characters: leave them out of \""
-                + HarmlessLine(name) + "\"");
+            throw UsageError(
+                "the name of a project can't hold control characters: leave them out of " + InQuotes(name));
         }
         isBlank = isBlank && IsBlank(character.code);
         i += character.size;
@@ -75,7 +75,7 @@ void RequireProjectName(const std::string& name)
 
 CommandError UnknownProject(const std::string& name, const std::vector<std::string>& known)
 {
-    return CommandError("there is no project \"" + name + "\""
+    return CommandError("there is no project " + InQuotes(name)
         + NearestAdvice(name, known, R"(see "tempodial projects" for those there are)"));
 }
 

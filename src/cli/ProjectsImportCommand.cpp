@@ -8,6 +8,7 @@
 #include "cli/ProjectNames.h"
 #include "host/files/FileDescriptor.h"
 #include "host/system/TomlRecords.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -75,7 +76,7 @@ private:
             const auto first = std::find_if(records.begin(), records.end(),
                 [&](const auto& other) { return EqualIgnoringCase(NameIn(other), name); });
             if (&*first != &records[i]) {
-                Refuse(records[i], "the project \"" + name + "\" stands in the file a second time",
+                Refuse(records[i], "the project " + InQuotes(name) + " stands in the file a second time",
                     "leave one of them out");
             }
         }
@@ -117,7 +118,7 @@ private:
         const std::vector<std::string> known { "name", "precedence", "subject", "not-subject", "people" };
         for (const auto& [name, text] : record.texts) {
             if (std::find(known.begin(), known.end(), name) == known.end()) {
-                Refuse(record, "a project has no \"" + name + "\"",
+                Refuse(record, "a project has no " + InQuotes(name),
                     "give name, precedence, subject, not-subject or people");
             }
         }

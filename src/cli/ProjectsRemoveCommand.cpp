@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/KnownProject.h"
+#include "terminal/TerminalText.h"
 
 namespace tempodial {
 
@@ -26,7 +27,7 @@ public:
         run.AddIn().DeleteProject(name);
         Reply reply;
         reply.document.Set("removed", name);
-        reply.summary = "The project " + name + " is removed.\n";
+        reply.summary = "The project " + IsolatedLine(name) + " is removed.\n";
         return run.Concluded(std::move(reply));
     }
 

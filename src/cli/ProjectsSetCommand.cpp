@@ -9,6 +9,7 @@
 #include "engine/core/ProjectFacts.h"
 #include "review/ActivityReader.h"
 #include "review/RuleTerms.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -87,18 +88,18 @@ private:
         for (const auto& term : mRemoved) {
             if (!terms.Has(term)) {
                 throw CommandError(
-                    "the subject rule has no term \"" + term + "\": see \"tempodial projects\" for those it has");
+                    "the subject rule has no term " + InQuotes(term) + ": see \"tempodial projects\" for those it has");
             }
             if (!terms.Remove(term)) {
-                throw CommandError("the subject rule couldn't be read without \"" + term
-                    + "\" as its other terms are: give the whole rule with --subject");
+                throw CommandError("the subject rule couldn't be read without " + InQuotes(term)
+                    + " as its other terms are: give the whole rule with --subject");
             }
         }
         for (const auto& term : mAdded) {
             KnownProject::RequireReadableRule(term);
             if (!terms.Add(term)) {
-                throw UsageError("--add-subject can't be \"" + term
-                    + "\": give one term that isn't blank, in quotes that are closed");
+                throw UsageError("--add-subject can't be " + InQuotes(term)
+                    + ": give one term that isn't blank, in quotes that are closed");
             }
         }
         return terms.Rule();
@@ -112,7 +113,7 @@ private:
             throw CommandError(refusal);
         }
         Reply reply { .document = KnownProject::Read(addIn, project.name).ToJson() };
-        reply.summary = "The project " + project.name + " is kept.\n";
+        reply.summary = "The project " + IsolatedLine(project.name) + " is kept.\n";
         return reply;
     }
 
@@ -143,11 +144,11 @@ private:
         bool hasSemicolon = false;
         for (const auto& term : SubjectTerms(rule)) {
             hasSemicolon |= term.front() != '"' && term.find(';') != std::string::npos;
-            terms += (terms.empty() ? "" : " | ") + term;
+            terms += (terms.empty() ? "" : " | ") + IsolatedLine(term);
         }
         if (isNew && hasSemicolon) {
-            reply.warnings.push_back("in the rule \"" + rule
-                + "\" commas part the terms, and semicolons belong to them: it is read as " + terms);
+            reply.warnings.push_back("in the rule " + InQuotes(rule)
+                + " commas part the terms, and semicolons belong to them: it is read as " + terms);
         }
     }
 

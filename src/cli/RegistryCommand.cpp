@@ -3,6 +3,7 @@
 #include "session/OpenProfile.h"
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <optional>
@@ -41,11 +42,11 @@ public:
         const auto hive = ToHive(mHive);
         const bool sets = mAction == "set";
         if (!sets && mAction != "get" && mAction != "delete") {
-            throw UsageError("registry can't \"" + mAction + "\": give get, set or delete");
+            throw UsageError("registry can't " + InQuotes(mAction) + ": give get, set or delete");
         }
         if (sets != mText.has_value()) {
             throw UsageError(sets ? "registry set needs the text to set: give it behind the value's name"
-                                  : "registry " + mAction + " takes no text: leave \"" + *mText + "\" out");
+                                  : "registry " + mAction + " takes no text: leave " + InQuotes(*mText) + " out");
         }
         const auto key = mKey.empty() ? ProductKey : mKey;
         const auto profile = mAction == "get" ? ReadProfile(options) : OpenProfile(options);
@@ -55,7 +56,7 @@ public:
         }
         const auto value = registry->Get(hive, key, mValue);
         if (value.IsEmpty()) {
-            throw CommandError("there is no value \"" + mValue + "\" under " + mHive + "\\" + key
+            throw CommandError("there is no value " + InQuotes(mValue) + " under " + mHive + "\\" + key
                 + ": see to the names of hive, key and value");
         }
         if (mAction == "delete") {

@@ -4,6 +4,7 @@
 #include "cli/Interruption.h"
 #include "cli/OutputFile.h"
 #include "cli/PeriodArguments.h"
+#include "cli/ReportIsolation.h"
 #include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
@@ -77,7 +78,7 @@ public:
         };
         auto mail = create(!mHasNoCsv, !isText);
         const bool hasBoth = form == "eml" && !isText;
-        const auto plainText = hasBoth ? create(false, false).body : "";
+        const auto plainText = hasBoth ? IsolatedReportText(create(false, false).body) : "";
         auto reply = run.Concluded({});
         if (reply.status == ExitStatus::Interrupted) {
             return reply;
@@ -94,6 +95,7 @@ public:
         if (options.json) {
             reply.document = Document(mail);
         }
+        mail.body = mail.isHtml ? IsolatedReportPage(std::move(mail.body)) : IsolatedReportText(std::move(mail.body));
         if (isFile) {
             Write(mail, plainText, form, reply);
         } else {
@@ -107,7 +109,7 @@ private:
     {
         const auto* const found = std::find(TypeNames.begin(), TypeNames.end(), mBy);
         if (found == TypeNames.end()) {
-            throw UsageError("--by can't be \"" + mBy + "\": give project, application, description or date");
+            throw UsageError("--by can't be " + InQuotes(mBy) + ": give project, application, description or date");
         }
         return static_cast<std::int32_t>(found - TypeNames.begin()) + 1;
     }

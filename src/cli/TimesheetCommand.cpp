@@ -130,8 +130,8 @@ private:
         if (mRate) {
             terms.rate = HourlyRate::Read(*mRate);
             if (!terms.rate) {
-                throw UsageError("--rate can't be \"" + *mRate
-                    + "\": give what an hour costs, from 0 to 1000000, with up to four decimals behind a point");
+                throw UsageError("--rate can't be " + InQuotes(*mRate)
+                    + ": give what an hour costs, from 0 to 1000000, with up to four decimals behind a point");
             }
         }
         return terms;

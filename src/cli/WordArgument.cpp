@@ -1,5 +1,6 @@
 #include "cli/WordArgument.h"
 
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ std::size_t PlaceOfWord(const std::string& name, const std::string& text, const 
         for (const auto& word : words) {
             advice += (advice.empty() ? "" : &word == &words.back() ? " or " : ", ") + word;
         }
-        throw UsageError(name + " can't be \"" + text + "\": give " + advice);
+        throw UsageError(name + " can't be " + InQuotes(text) + ": give " + advice);
     }
     return static_cast<std::size_t>(found - words.begin());
 }

@@ -4,6 +4,7 @@
 #include "base/Utf8.h"
 #include "session/ProductFacts.h"
 #include "terminal/NearestName.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <CLI/CLI.hpp>
@@ -95,14 +96,14 @@ std::string UnexpectedArgument(const CLI::App& app)
     const auto& chosen = ChosenApp(app);
     if (IsOption(argument)) {
         const auto name = argument.substr(0, argument.find('='));
-        return "\"" + argument + "\" isn't expected here" + NearestAdvice(name, OptionNames(chosen), SeeHelp(app));
+        return InQuotes(argument) + " isn't expected here" + NearestAdvice(name, OptionNames(chosen), SeeHelp(app));
     }
     const auto commands = CommandNames(chosen);
     if (!commands.empty() && chosen.get_parent() == nullptr) {
-        return "there is no command \"" + argument + "\""
+        return "there is no command " + InQuotes(argument)
             + NearestAdvice(argument, commands, SeeHelp(app) + " for the commands");
     }
-    return "\"" + argument + "\" isn't expected here" + NearestAdvice(argument, commands, SeeHelp(app));
+    return InQuotes(argument) + " isn't expected here" + NearestAdvice(argument, commands, SeeHelp(app));
 }
 
 ArgumentOutline OutlineOf(const CLI::Option& option)

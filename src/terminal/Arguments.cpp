@@ -1,6 +1,7 @@
 #include "terminal/Arguments.h"
 
 #include "base/Text.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 #include <charconv>
@@ -56,7 +57,7 @@ std::optional<Date> Read(std::string_view text, std::string_view form)
 
 [[noreturn]] void Refuse(std::string_view name, std::string_view text, std::string_view advice)
 {
-    throw UsageError(std::string(name) + " can't be \"" + std::string(text) + "\": " + std::string(advice));
+    throw UsageError(std::string(name) + " can't be " + InQuotes(text) + ": " + std::string(advice));
 }
 
 }
@@ -98,7 +99,7 @@ Hive ToHive(std::string_view text)
     if (EqualIgnoringCase(text, "HKLM")) {
         return Hive::LocalMachine;
     }
-    throw UsageError("there is no hive \"" + std::string(text) + "\": give HKCU or HKLM");
+    throw UsageError("there is no hive " + InQuotes(text) + ": give HKCU or HKLM");
 }
 
 }

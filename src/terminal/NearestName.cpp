@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "base/Utf8.h"
+#include "terminal/TerminalText.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -72,7 +73,7 @@ std::string NearestName(std::string_view typed, const std::vector<std::string>& 
 std::string NearestAdvice(std::string_view typed, const std::vector<std::string>& names, const std::string& advice)
 {
     const auto nearest = NearestName(typed, names);
-    return ": " + (nearest.empty() ? advice : "did you mean \"" + nearest + "\"? Else " + advice);
+    return ": " + (nearest.empty() ? advice : "did you mean " + InQuotes(nearest) + "? Else " + advice);
 }
 
 }

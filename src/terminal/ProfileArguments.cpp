@@ -2,6 +2,7 @@
 
 #include "session/KnownLocale.h"
 #include "terminal/Arguments.h"
+#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
 namespace tempodial {
@@ -23,7 +24,7 @@ ProfileOptions ProfileArguments::Options() const
         throw UsageError("--profile names no folder: give the path of one");
     }
     if (mLocale && !IsKnownLocale(*mLocale)) {
-        throw UsageError("there is no locale \"" + *mLocale + "\": give one such as en_US or de_DE");
+        throw UsageError("there is no locale " + InQuotes(*mLocale) + ": give one such as en_US or de_DE");
     }
     if (mNow) {
         options.now = ToMomentWithSeconds("--now", *mNow);

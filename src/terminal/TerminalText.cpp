@@ -169,24 +169,32 @@ std::string HarmlessLine(std::string_view text)
     return Harmless(line);
 }
 
+bool TurnsDirection(std::string_view text)
+{
+    bool turns = false;
+    ForEach(text, [&turns](const Utf8Character& character, std::string_view) {
+        turns |= character.isValid && (IsIn(Directions, character.code) || IsIn(RightToLeft, character.code));
+    });
+    return turns;
+}
+
+std::string Isolated(std::string_view text)
+{
+    if (!TurnsDirection(text)) {
+        return std::string(text);
+    }
+    std::string isolated;
+    AppendUtf8(isolated, Isolate);
+    ForEach(text, [&isolated](const Utf8Character& character, std::string_view bytes) {
+        isolated += character.isValid && IsIn(Directions, character.code) ? std::string_view() : bytes;
+    });
+    AppendUtf8(isolated, EndOfIsolate);
+    return isolated;
+}
+
 std::string IsolatedLine(std::string_view text)
 {
-    bool hasDirection = false;
-    std::string straight;
-    ForEach(text, [&](const Utf8Character& character, std::string_view bytes) {
-        const bool isMark = character.isValid && IsIn(Directions, character.code);
-        hasDirection |= isMark || (character.isValid && IsIn(RightToLeft, character.code));
-        straight += isMark ? std::string_view() : bytes;
-    });
-    auto line = HarmlessLine(straight);
-    if (hasDirection) {
-        std::string isolated;
-        AppendUtf8(isolated, Isolate);
-        isolated += line;
-        AppendUtf8(isolated, EndOfIsolate);
-        return isolated;
-    }
-    return line;
+    return HarmlessLine(Isolated(text));
 }
 
 std::string InQuotes(std::string_view text)

@@ -11,8 +11,12 @@ namespace tempodial {
 std::string Harmless(std::string_view text);
 /// The same as one line: line ends and tabs become a blank.
 std::string HarmlessLine(std::string_view text);
-/// The same for a text of somebody else's that stands beside others in a line: one that holds letters written from
-/// right to left, or marks of direction, is isolated, so that it doesn't turn what stands beside it.
+/// True for a text that holds letters written from right to left, or marks of direction.
+bool TurnsDirection(std::string_view text);
+/// A text of somebody else's that stands beside others in a line: isolated when it turns the direction, so that it
+/// doesn't turn what stands beside it.
+std::string Isolated(std::string_view text);
+/// The same as one harmless line.
 std::string IsolatedLine(std::string_view text);
 /// The same between quotes, for messages.
 std::string InQuotes(std::string_view text);

@@ -29,7 +29,7 @@ class Page(html.parser.HTMLParser):
             self.hidden += 1
         if tag == "a":
             self.links.append(dict(attrs).get("href"))
-        else:
+        elif tag != "bdi":
             self.tags.append(" ".join([tag] + sorted(name for name, _ in attrs)))
 
     def handle_endtag(self, tag):

@@ -42,6 +42,14 @@ TEST(TerminalTextTest, IsolatedLine_RightToLeftOrMarks_IsIsolated)
     EXPECT_EQ(Harmless(IsolatedLine("שלום") + "\n"), "\u2068שלום\u2069\n");
 }
 
+TEST(TerminalTextTest, Isolated_RightToLeftOrMarks_KeepsTheOtherBytes)
+{
+    EXPECT_EQ(Isolated("a\x01\t\xff"), "a\x01\t\xff");
+    EXPECT_EQ(Isolated("a\x01\t\xff\u202Eש"), "\u2068a\x01\t\xffש\u2069");
+    EXPECT_TRUE(TurnsDirection("aש") && TurnsDirection("\u200E"));
+    EXPECT_FALSE(TurnsDirection("") || TurnsDirection("売上 é \xff"));
+}
+
 TEST(TerminalTextTest, Harmless_BytesThatAreNoUtf8_AreReplacedOneByOne)
 {
     EXPECT_EQ(Harmless("M\xfcller"), "M\uFFFDller");
