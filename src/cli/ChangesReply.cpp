@@ -1,8 +1,11 @@
 #include "cli/ChangesReply.h"
 
+#include "cli/ProjectStyle.h"
 #include "cli/TextTable.h"
 #include "review/TimeText.h"
 #include "terminal/TerminalText.h"
+
+#include <utility>
 
 namespace tempodial {
 
@@ -36,14 +39,15 @@ Reply PreviewReply(const RulePreview& preview)
 {
     using enum TextTable::Side;
     TextTable table({ Left, Left, Right, Right });
-    table.Add({ "FROM", "TO", "ACTIVITIES", "TIME" });
+    table.AddHeading({ "FROM", "TO", "ACTIVITIES", "TIME" });
     const auto moves = preview.moves.LargestFirst();
     for (const auto& move : moves) {
-        table.Add({ move.from, move.to, std::to_string(move.activities), HourText(move.minutes) });
+        table.AddStyled({ { move.from, ProjectStyle(move.from) }, { move.to, ProjectStyle(move.to) },
+            { std::to_string(move.activities), {} }, { HourText(move.minutes), {} } });
     }
     Reply reply { .document = ChangesJson(preview.moves, preview.keptByHand) };
     if (!moves.empty()) {
-        reply.text = table.Text();
+        reply.text = std::move(table);
         reply.summary = "\n";
     }
     reply.summary += Counted(preview.moves.Activities()) + " would change\n" + KeptByHandSum(preview.keptByHand);

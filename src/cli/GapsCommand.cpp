@@ -52,7 +52,7 @@ public:
     }
 
 private:
-    static std::string Table(const std::vector<Gap>& gaps, bool hasDays)
+    static TextTable Table(const std::vector<Gap>& gaps, bool hasDays)
     {
         using enum TextTable::Side;
         TextTable table(hasDays ? std::vector { Left, Left, Right } : std::vector { Left, Right });
@@ -63,7 +63,7 @@ private:
             }
             table.Add(cells);
         }
-        return table.Text();
+        return table;
     }
 
     std::string Sum(const std::vector<Gap>& gaps) const

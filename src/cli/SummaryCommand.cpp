@@ -2,6 +2,7 @@
 #include "cli/ChosenProjects.h"
 #include "cli/Commands.h"
 #include "cli/PeriodArguments.h"
+#include "cli/ProjectStyle.h"
 #include "cli/TextTable.h"
 #include "cli/WordArgument.h"
 #include "review/ActivityReader.h"
@@ -84,8 +85,9 @@ public:
         } else if (totals.rows.empty()) {
             reply.summary = "No activities.\n";
         } else {
-            reply.text = IsoDay(days.first) + (days.first == days.last ? "" : " to " + IsoDay(days.last)) + "\n\n"
-                + Table(columns, size, totals);
+            reply.text.AddHeading(IsoDay(days.first) + (days.first == days.last ? "" : " to " + IsoDay(days.last)));
+            reply.text += "\n";
+            reply.text += Table(columns, size, totals);
         }
         return reply;
     }
@@ -147,7 +149,7 @@ private:
         return csv + CsvLine("total", totals.minutes, totals.total);
     }
 
-    std::string Table(const std::vector<Period>& columns, ColumnSize size, const Totals& totals) const
+    TextTable Table(const std::vector<Period>& columns, ColumnSize size, const Totals& totals) const
     {
         std::vector<TextTable::Side> sides(columns.size() + 3, TextTable::Side::Right);
         sides.front() = TextTable::Side::Left;
@@ -159,12 +161,13 @@ private:
             heading.push_back(ColumnHeading(column, size, columns.size()));
         }
         heading.insert(heading.end(), { "TOTAL", "SHARE" });
-        table.Add(heading);
+        table.AddHeading(heading);
         for (const auto& row : totals.rows) {
-            table.Add(Cells(row.name, row.minutes, row.total, totals.total));
+            table.Add(Cells(row.name, row.minutes, row.total, totals.total),
+                mRows == "project" ? ProjectStyle(row.name) : TextStyle());
         }
-        table.Add(Cells("TOTAL", totals.minutes, totals.total, totals.total));
-        return table.Text();
+        table.AddHeading(Cells("TOTAL", totals.minutes, totals.total, totals.total));
+        return table;
     }
 
     std::vector<std::string> Cells(

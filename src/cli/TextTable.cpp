@@ -29,16 +29,6 @@ std::string WithoutLastBlanks(std::string text)
 
 }
 
-void TextTable::Add(const std::vector<std::string>& cells)
-{
-    Add(cells, {});
-}
-
-void TextTable::AddHeading(const std::vector<std::string>& cells)
-{
-    Add(cells, TextStyle::Heading());
-}
-
 void TextTable::AddStyled(const std::vector<Cell>& cells)
 {
     auto& row = mRows.emplace_back(mColumns.size());

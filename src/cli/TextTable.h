@@ -30,8 +30,8 @@ public:
     }
 
     /// Adds a row; each cell is brought into a harmless line that doesn't turn the others.
-    void Add(const std::vector<std::string>& cells);
-    void AddHeading(const std::vector<std::string>& cells);
+    void Add(const std::vector<std::string>& cells, const TextStyle& style = {});
+    void AddHeading(const std::vector<std::string>& cells) { Add(cells, TextStyle::Heading()); }
     void AddStyled(const std::vector<Cell>& cells);
     /// The rows, each with a line feed behind it.
     std::string Text(const TextLayout& layout = {}) const;
@@ -39,7 +39,6 @@ public:
 private:
     using Row = std::vector<Cell>;
 
-    void Add(const std::vector<std::string>& cells, const TextStyle& style);
     std::vector<int> Widths(std::optional<int> limit) const;
     std::string Line(const Row& row, const std::vector<int>& widths, std::optional<int> limit, bool hasColors) const;
 

@@ -18,6 +18,7 @@
 #include "terminal/UsageError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tempodial {
 
@@ -164,21 +165,23 @@ private:
         return csv;
     }
 
-    std::string Text(const Timesheet& sheet, const std::string& author) const
+    ShownText Text(const Timesheet& sheet, const std::string& author) const
     {
         using enum TextTable::Side;
-        auto text = IsolatedLine(sheet.project) + TimesheetTitle(sheet).substr(sheet.project.size()) + "\n";
+        ShownText text;
+        text.AddHeading(IsolatedLine(sheet.project) + TimesheetTitle(sheet).substr(sheet.project.size()));
         if (!author.empty()) {
             text += IsolatedLine(author) + "\n";
         }
         TextTable table({ Left, Right, Right, Left });
-        table.Add({ "DAY", "MEASURED", "BILLED", mWhat == "none" ? "" : "WHAT" });
+        table.AddHeading({ "DAY", "MEASURED", "BILLED", mWhat == "none" ? "" : "WHAT" });
         for (const auto& day : sheet.days) {
             table.Add(
                 { IsoDay(day.date), HourText(day.minutes), HourText(day.billedMinutes), Joined(ShownTexts(day)) });
         }
-        table.Add({ "TOTAL", HourText(sheet.minutes), HourText(sheet.billedMinutes), "" });
-        text += "\n" + table.Text();
+        table.AddHeading({ "TOTAL", HourText(sheet.minutes), HourText(sheet.billedMinutes), "" });
+        text += "\n";
+        text += std::move(table);
         if (sheet.amount) {
             text += "\nAmount: " + sheet.amount->Text() + (mCurrency.empty() ? "" : " " + IsolatedLine(mCurrency))
                 + "\n";
@@ -193,7 +196,7 @@ private:
             mail.subject = TimesheetTitle(sheet);
             mail.body = TimesheetPage(sheet, author, mCurrency);
             mail.isHtml = true;
-            mOut.Write(mail, Text(sheet, author), reply);
+            mOut.Write(mail, Text(sheet, author).Text(), reply);
         } else if (form == "html") {
             mOut.Write(TimesheetPage(sheet, author, mCurrency), reply);
         } else if (form == "csv") {
@@ -201,7 +204,7 @@ private:
         } else if (form == "json") {
             mOut.Write(Document(sheet).Text() + "\n", reply);
         } else {
-            mOut.Write(Text(sheet, author), reply);
+            mOut.Write(Text(sheet, author).Text(), reply);
         }
     }
 

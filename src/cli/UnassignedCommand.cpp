@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <utility>
 
 namespace tempodial {
 
@@ -59,7 +60,8 @@ public:
         } else if (groups.empty()) {
             reply.summary = "No time without a project.\n";
         } else {
-            reply.text = GroupTable(groups, static_cast<std::size_t>(rows)) + WordTable(words);
+            reply.text = GroupTable(groups, static_cast<std::size_t>(rows));
+            AddWords(words, reply.text);
             reply.summary = "\n" + HourText(unassigned) + " of " + HourText(all) + " belong to no project.\n";
         }
         return reply;
@@ -85,29 +87,34 @@ private:
         return json;
     }
 
-    static std::string GroupTable(const std::vector<ActivityGroup>& groups, std::size_t rows)
+    static ShownText GroupTable(const std::vector<ActivityGroup>& groups, std::size_t rows)
     {
         using enum TextTable::Side;
         TextTable table({ Right, Right, Left, Left, Left });
-        table.Add({ "TIME", "TIMES", "LAST", "APPLICATION", "DESCRIPTION" });
+        table.AddHeading({ "TIME", "TIMES", "LAST", "APPLICATION", "DESCRIPTION" });
         for (std::size_t i = 0; i < std::min(rows, groups.size()); ++i) {
             const auto& group = groups[i];
             table.Add({ HourText(group.minutes), std::to_string(group.times), IsoDay(group.last), group.application,
                 group.description });
         }
         const auto others = groups.size() - std::min(rows, groups.size());
-        return table.Text() + (others == 0 ? "" : "… and " + std::to_string(others) + " more (--rows)\n");
+        ShownText text(std::move(table));
+        text += others == 0 ? "" : "… and " + std::to_string(others) + " more (--rows)\n";
+        return text;
     }
 
-    static std::string WordTable(const std::vector<SubjectWord>& words)
+    static void AddWords(const std::vector<SubjectWord>& words, ShownText& text)
     {
         using enum TextTable::Side;
         TextTable table({ Right, Left });
-        table.Add({ "TIME", "WORD" });
+        table.AddHeading({ "TIME", "WORD" });
         for (const auto& word : words) {
             table.Add({ HourText(word.minutes), word.word });
         }
-        return words.empty() ? "" : "\n" + table.Text();
+        if (!words.empty()) {
+            text += "\n";
+            text += std::move(table);
+        }
     }
 
     PeriodArguments mDays;

@@ -128,6 +128,21 @@ TEST_F(ShownOnATerminalTest, Table_WiderThanTheTerminal_IsCut)
     EXPECT_GT(LongestLine(Run({ "list" }).out), 100);
 }
 
+TEST_F(ShownOnATerminalTest, Reviews_OnATerminal_AreCutAndDrawn)
+{
+    mColumns = 50;
+    for (const auto& arguments : { Arguments { "summary", "2006-10" }, Arguments { "unassigned", "2006-10" },
+             Arguments { "timesheet", "Plan", "2006-10" }, Arguments { "gaps", "2006-10", "--longer", "0" } }) {
+        auto plain = arguments;
+        plain.insert(plain.begin(), "--color=never");
+        EXPECT_LE(LongestLine(Shown(plain)), mColumns) << arguments.front();
+        EXPECT_EQ(HasColors(arguments), arguments.front() != "gaps") << arguments.front();
+        plain.insert(plain.begin(), "--wide");
+        EXPECT_EQ(Shown(plain), Run(arguments).out) << arguments.front();
+    }
+    EXPECT_THAT(Shown({ "--wide", "summary", "2006-10" }), HasSubstr("\n\x1b[2mNo Project\x1b[0m"));
+}
+
 TEST_F(ShownOnATerminalTest, Report_OnATerminal_IsTextUnlessAskedFor)
 {
     const auto text = Replace(Run({ "report", "--text" }).out, "\r\n", "\n");
