@@ -3,6 +3,7 @@
 #include "base/Number.h"
 #include "base/Text.h"
 #include "cli/ProjectStyle.h"
+#include "host/store/StoreItem.h"
 #include "platform/objectmodel/Items.h"
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
@@ -59,7 +60,7 @@ std::vector<Ref<AppointmentItem>> ActivitiesOf(
 }
 
 ShownText ActivityTable(const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats,
-    const Period& days, bool hasTotals)
+    const Period& days, bool hasTotals, Numbers numbers)
 {
     using enum TextTable::Side;
     const bool hasHeadings = days.first != days.last;
@@ -71,7 +72,8 @@ ShownText ActivityTable(const std::vector<Ref<AppointmentItem>>& activities, con
         for (; i < activities.size() && activities[i]->Start().Day() == day; ++i) {
             const auto& item = activities[i];
             const auto duration = item->Duration();
-            table.AddStyled({ { item->Start().HourMinute() + "–" + item->End().HourMinute(), {} },
+            const auto number = numbers == Numbers::Shown ? "@" + std::to_string(item.As<StoreItem>()->Number()) + " " : "";
+            table.AddStyled({ { number + item->Start().HourMinute() + "–" + item->End().HourMinute(), {} },
                 { DurationText(duration), {} }, { item->Subject(), ProjectStyle(ProjectOf(item)) } });
             minutes += duration;
         }

@@ -25,10 +25,13 @@ std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, c
 std::vector<Ref<AppointmentItem>> ActivitiesOf(
     const Profile& profile, const Period& days, const std::optional<std::string>& project);
 
+/// Whether a table shows the numbers of the activities.
+enum class Numbers { Hidden, Shown };
+
 /// The activities as a table for people, under a heading for each day when the range has several, which may tell its
 /// total.
 ShownText ActivityTable(const std::vector<Ref<AppointmentItem>>& activities, const Ref<LocaleFormats>& formats,
-    const Period& days, bool hasTotals);
+    const Period& days, bool hasTotals, Numbers numbers = Numbers::Hidden);
 
 /// What stands below the table: how many there are, and how long they took in all.
 std::string ActivityTotal(const std::vector<Ref<AppointmentItem>>& activities);

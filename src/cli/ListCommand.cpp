@@ -20,6 +20,7 @@ public:
                 + "\n"
                   "  tempodial list\n"
                   "  tempodial list --from 2006-10-02 --to 2006-10-06 --project Riverside\n"
+                  "  tempodial list --ids\n"
                   "  tempodial list last-week --json" })
     {
     }
@@ -28,6 +29,7 @@ public:
     {
         mDays.Declare(arguments);
         mProject.Declare(arguments);
+        arguments.Flag("--ids", mIds, "Show the number of each activity, such as @12");
     }
 
     Reply Run(const Options& options) override
@@ -42,7 +44,8 @@ public:
                 reply.document.Append(ItemJson(activity));
             }
         } else {
-            reply.text = ActivityTable(activities, profile.Surroundings().formats, days, options.screen.isTerminal);
+            reply.text = ActivityTable(activities, profile.Surroundings().formats, days, options.screen.isTerminal,
+                mIds ? Numbers::Shown : Numbers::Hidden);
             reply.summary = ActivityTotal(activities);
         }
         return reply;
@@ -51,6 +54,7 @@ public:
 private:
     PeriodArguments mDays;
     ProjectArgument mProject;
+    bool mIds = false;
 };
 
 }

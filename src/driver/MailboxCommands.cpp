@@ -244,6 +244,7 @@ Json MailboxCommands::StoredJson(const Ref<StoreItem>& item) const
 {
     const auto& mailbox = mHost.Mailbox();
     auto json = ItemJson(mailbox->NewItem(item->Parent(), mailbox->Stored(item))).Value();
+    json["id"] = item->Number();
     json["entryId"] = item->EntryID();
     return json;
 }

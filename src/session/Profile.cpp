@@ -69,6 +69,7 @@ Profile::Profile(std::unique_ptr<ProfileFolder> lock, std::string path, const st
     } catch (const MailboxError& error) {
         throw ProfileError(error.what());
     }
+    mMailbox->SetClock([clock = mClock] { return clock->UniversalNow(); });
     mPlatform.fileSystem = MakeRef<HostFileSystem>(mPath);
     mPlatform.registry = MakeRef<InstalledRegistry>(
         mRegistry, InstalledRegistry::Place { ProductKey, InstallFolderValue }, InProgramFolder("share/tempodial"));

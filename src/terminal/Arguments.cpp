@@ -7,6 +7,7 @@
 #include <charconv>
 #include <chrono>
 #include <optional>
+#include <system_error>
 
 namespace tempodial {
 
@@ -89,6 +90,20 @@ std::int32_t ToCount(std::string_view name, std::string_view text, std::int32_t 
         Refuse(name, text, "give a whole number from " + std::to_string(least) + " to " + std::to_string(most));
     }
     return count;
+}
+
+std::int64_t ToActivityNumber(std::string_view text)
+{
+    std::int64_t number = 0;
+    const auto* const end = text.data() + text.size();
+    if (text.starts_with('@') && text.size() > 1 && IsDigit(text[1])) {
+        const auto [stop, problem] = std::from_chars(text.data() + 1, end, number);
+        if (stop == end && problem == std::errc()) {
+            return number;
+        }
+    }
+    throw UsageError("\"" + std::string(text) + "\" names no activity: give its number, such as @12, which "
+        + "\"tempodial list --ids\" shows");
 }
 
 Hive ToHive(std::string_view text)

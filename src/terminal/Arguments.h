@@ -20,6 +20,9 @@ Date ToMomentWithSeconds(std::string_view name, std::string_view text);
 /// A whole number between two bounds, both included.
 std::int32_t ToCount(std::string_view name, std::string_view text, std::int32_t least, std::int32_t most);
 
+/// The number of an activity, `@12`.
+std::int64_t ToActivityNumber(std::string_view text);
+
 /// A hive of the registry: `HKCU` or `HKLM`, in any case.
 Hive ToHive(std::string_view text);
 

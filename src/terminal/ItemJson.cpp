@@ -1,5 +1,6 @@
 #include "terminal/ItemJson.h"
 
+#include "host/store/StoreItem.h"
 #include "terminal/Arguments.h"
 
 #include <array>
@@ -39,9 +40,12 @@ JsonValue ItemJson(const Ref<AppointmentItem>& item)
             properties.Set(name, ValueJson(value));
         }
     }
-    return { { "entryId", item->EntryID() }, { "messageClass", item->MessageClass() }, { "subject", item->Subject() },
-        { "start", IsoMoment(item->Start()) }, { "end", IsoMoment(item->End()) }, { "duration", item->Duration() },
-        { "body", item->Body() }, { "mileage", item->Mileage() }, { "billingInformation", item->BillingInformation() },
+    const auto stored = item.As<StoreItem>();
+    const auto number = stored ? stored->Number() : 0;
+    return { { "id", number == 0 ? JsonValue() : JsonValue(number) }, { "entryId", item->EntryID() },
+        { "messageClass", item->MessageClass() }, { "subject", item->Subject() }, { "start", IsoMoment(item->Start()) },
+        { "end", IsoMoment(item->End()) }, { "duration", item->Duration() }, { "body", item->Body() },
+        { "mileage", item->Mileage() }, { "billingInformation", item->BillingInformation() },
         { "properties", std::move(properties) } };
 }
 

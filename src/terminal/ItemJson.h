@@ -5,7 +5,8 @@
 
 namespace tempodial {
 
-/// An item as JSON: its fields, and those of an activity's user properties that it has. Fails as the item does.
+/// An item as JSON: its number, null for one that isn't stored, its fields, and those of an activity's user properties
+/// that it has. Fails as the item does.
 JsonValue ItemJson(const Ref<AppointmentItem>& item);
 
 }

@@ -128,7 +128,7 @@ TEST_F(ListCommandTest, List_Item_HasItsFields)
     EXPECT_GE(item.at("entryId").get<std::string>().size(), 1U);
     item.erase("entryId");
     EXPECT_EQ(item, nlohmann::json::parse(R"({
-        "messageClass": "IPM.Appointment.TDActivity1", "subject": "[Plan] Microsoft Word, \"plan.doc\"",
+        "id": 1, "messageClass": "IPM.Appointment.TDActivity1", "subject": "[Plan] Microsoft Word, \"plan.doc\"",
         "start": "2006-10-10T10:00:00", "end": "2006-10-10T10:10:00", "duration": 10, "body": "",
         "mileage": "Plan", "billingInformation": "\"plan.doc\"",
         "properties": { "Type": "Microsoft Word", "Day": "2006-10-10T00:00:00", "StartTime": "10:00",
@@ -146,6 +146,24 @@ TEST_F(ListCommandTest, List_ForPeople_IsATable)
         "2 activities, 10 min\n");
     EXPECT_THAT(Run({ "list", "--from", "yesterday" }).out,
         testing::StartsWith("Monday, October 9, 2006\n09:00–09:05  5 min  Microsoft Word, \"y.doc\"\n\nTuesday, "));
+}
+
+TEST_F(ListCommandTest, List_Ids_StandBeforeTheLines)
+{
+    Import();
+    EXPECT_EQ(Run({ "list", "--ids" }).out,
+        "@1 09:00–09:05  5 min  Microsoft Word, \"a.doc\"\n"
+        "@2 09:05–09:10  5 min  [Plan] Microsoft Word, \"b.doc\"\n"
+        "\n"
+        "2 activities, 10 min\n");
+    const auto items = Json({ "list", "--from", "2006-10-07" });
+    std::vector<std::string> numbers;
+    for (const auto& item : items) {
+        numbers.push_back(item.at("id").dump() + " " + item.at("subject").get<std::string>());
+    }
+    EXPECT_THAT(numbers,
+        ElementsAre(std::string("4 ") + S, std::string("3 ") + Y, std::string("1 ") + A, std::string("2 ") + B));
+    EXPECT_EQ(Json({ "export", "--format", "json", "--from", "2006-10-07" }), items);
 }
 
 TEST_F(ListCommandTest, List_CaptionWithControlCharacters_IsHarmlessForPeopleAndWholeInJson)

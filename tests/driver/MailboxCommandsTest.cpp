@@ -93,7 +93,7 @@ TEST_F(MailboxCommandsTest, ItemCreate_Fields_AreSaved)
     const auto id = Create({ { "body", "b\r\nc" },
         { "properties",
             { { "Project", "Plan" }, { "ApplyPast", true }, { "Day", "2006-10-10T00:00:00" }, { "Foreign", "x" } } } });
-    const Json expected { { "entryId", id }, { "messageClass", "IPM.Appointment" }, { "subject", "a" },
+    const Json expected { { "id", 1 }, { "entryId", id }, { "messageClass", "IPM.Appointment" }, { "subject", "a" },
         { "start", "2006-10-10T09:00:00" }, { "end", "2006-10-10T09:05:00" }, { "duration", 5 }, { "body", "b\r\nc" },
         { "mileage", "" }, { "billingInformation", "" },
         { "properties", { { "Day", "2006-10-10T00:00:00" }, { "Project", "Plan" }, { "ApplyPast", true } } } };

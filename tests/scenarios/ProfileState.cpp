@@ -28,6 +28,7 @@ ProfileState StateOf(const std::filesystem::path& profile, const std::string& no
         throw std::runtime_error("list failed: " + list.error);
     }
     for (auto item : nlohmann::json::parse(list.out)) {
+        item.erase("id");
         item.erase("entryId");
         item["body"] = Replace(item["body"].get<std::string>(), "Your activities include: \r\n", "");
         state.items.push_back(item.dump());

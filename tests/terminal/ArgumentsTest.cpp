@@ -35,6 +35,20 @@ TEST(ArgumentsTest, ToMomentWithSeconds_Moment_IsRead)
     EXPECT_THROW(ToMomentWithSeconds("--now", "2006-10-10T09:05"), UsageError);
 }
 
+TEST(ArgumentsTest, ToActivityNumber_SignAndNumber_IsRead)
+{
+    EXPECT_EQ(ToActivityNumber("@1"), 1);
+    EXPECT_EQ(ToActivityNumber("@1234567890123"), 1'234'567'890'123);
+}
+
+TEST(ArgumentsTest, ToActivityNumber_OtherText_IsRefused)
+{
+    for (const auto* text : { "", "@", "1", "@x", "@1x", "@-1", "@+1", "@ 1", "@@1", "@99999999999999999999" }) {
+        EXPECT_THAT([&] { ToActivityNumber(text); }, ThrowsMessage<UsageError>(HasSubstr("names no activity: give")))
+            << text;
+    }
+}
+
 TEST(ArgumentsTest, ToCount_WholeNumberWithinBounds_IsRead)
 {
     EXPECT_EQ(ToCount("--days", "1", 1, 22), 1);

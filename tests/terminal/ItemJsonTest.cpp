@@ -34,7 +34,7 @@ TEST_F(ItemJsonTest, ItemJson_Activity_HasAllFieldsInTheirForms)
             { "Day", PropertyType::DateTime, Variant(At(0, 0, 0)) }, { "Project", PropertyType::Text, Variant("Plan") },
             { "People", PropertyType::Text, Variant("") }, { "ApplyPast", PropertyType::YesNo, Variant(false) },
             { "Foreign", PropertyType::Text, Variant("x") } } });
-    const nlohmann::ordered_json expected { { "entryId", item->EntryID() },
+    const nlohmann::ordered_json expected { { "id", 1 }, { "entryId", item->EntryID() },
         { "messageClass", "IPM.Appointment.TDActivity1" }, { "subject", "[Plan] Microsoft Word, \"plan.doc\"" },
         { "start", "2006-10-10T10:00:30" }, { "end", "2006-10-10T10:05:29" }, { "duration", 5 }, { "body", "a\r\nb" },
         { "mileage", "Plan" }, { "billingInformation", "\"plan.doc\"" },
@@ -48,6 +48,14 @@ TEST_F(ItemJsonTest, ItemJson_PlainAppointment_HasNoProperties)
 {
     const auto item = Saved({ .messageClass = "IPM.Appointment", .start = At(9, 0, 0), .end = At(9, 5, 0) });
     EXPECT_EQ(ItemJson(item).Value()["properties"].dump(), "{}");
+}
+
+TEST_F(ItemJsonTest, ItemJson_ItemThatIsNotStored_HasNoNumber)
+{
+    const auto item = NewTestItem(mMailbox, "new");
+    EXPECT_TRUE(ItemJson(item).Value()["id"].is_null());
+    item->Save();
+    EXPECT_EQ(ItemJson(item).Value()["id"], item->Number());
 }
 
 }

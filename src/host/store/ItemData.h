@@ -6,6 +6,7 @@
 #include "platform/objectmodel/UserProperties.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,8 @@ struct ItemData
     std::string mileage;
     std::string billingInformation;
     bool recurring = false;
+    /// A person chose the project.
+    bool isProjectByHand = false;
     std::vector<ItemProperty> properties;
 
     friend bool operator==(const ItemData&, const ItemData&) = default;
@@ -50,6 +53,8 @@ struct StoredItem
     /// The row of its folder.
     std::int64_t folder = 0;
     ItemData data;
+    /// When it was last saved, in UTC; nothing when that isn't known.
+    std::optional<Date> saved = std::nullopt;
 };
 
 }

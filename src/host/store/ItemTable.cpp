@@ -14,7 +14,8 @@ namespace tempodial {
 namespace {
 
 const std::string Columns = "item.id, item.folder, item.kind, item.message_class, item.starts, item.ends, "
-                            "item.recurring, item.subject, item.mileage, item.billing, item.properties, item.body";
+                            "item.recurring, item.subject, item.mileage, item.billing, item.properties, item.body, "
+                            "item.by_hand, item.saved";
 
 StoredItem Read(const Query& query)
 {
@@ -32,7 +33,16 @@ StoredItem Read(const Query& query)
     item.data.billingInformation = query.Text(column++);
     item.data.properties = PropertyCodec::Decode(query.Text(column++));
     item.data.body = query.Text(column++);
+    item.data.isProjectByHand = query.Int(column++) != 0;
+    if (!query.IsNull(column)) {
+        item.saved = Date::FromSeconds(query.Int(column));
+    }
     return item;
+}
+
+Query& BindMoment(Query& query, std::optional<Date> moment)
+{
+    return moment ? query.Bind(moment->Seconds()) : query.BindNull();
 }
 
 std::int64_t SpanOf(const ItemData& data)
@@ -83,17 +93,17 @@ ItemTable::ItemTable(MailboxDatabase& database)
 {
 }
 
-std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
+std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data, std::optional<Date> saved)
 {
-    mDatabase.CheckWhole();
     // Rows go up even over insertions that were undone, whose identity somebody may still hold.
     const auto row = EntryIds::Next(mLastRow);
+    BeginChange(row);
     mLastRow = row;
-    static const std::string sql
-        = "INSERT INTO item (id, folder, kind, message_class, starts, ends, span, recurring, "
-          "subject, mileage, billing, properties, body) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
-    Query(mDatabase, sql)
-        .Bind(row)
+    static const std::string sql = "INSERT INTO item (id, folder, kind, message_class, starts, ends, span, recurring, "
+                                   "subject, mileage, billing, properties, body, by_hand, saved) "
+                                   "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+    Query query(mDatabase, sql);
+    query.Bind(row)
         .Bind(folder)
         .Bind(static_cast<std::int64_t>(data.kind))
         .Bind(data.messageClass)
@@ -106,21 +116,22 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data)
         .Bind(data.billingInformation)
         .Bind(PropertyCodec::Encode(data.properties))
         .Bind(data.body)
-        .Run();
+        .Bind(std::int64_t { data.isProjectByHand });
+    BindMoment(query, saved).Run();
     ++mChanges;
     return row;
 }
 
-void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData& data)
+void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData& data, std::optional<Date> saved)
 {
     // An index is written anew when one of its columns is named, so those that stay aren't.
-    static const std::string others = "recurring = ?, subject = ?, mileage = ?, billing = ?, properties = ?, body = ? "
-                                      "WHERE id = ?";
+    static const std::string others = "recurring = ?, subject = ?, mileage = ?, billing = ?, properties = ?, body = ?, "
+                                      "by_hand = ?, saved = ?, revision = revision + 1 WHERE id = ?";
     static const std::string sameTimes = "UPDATE item SET " + others;
     static const std::string otherEnd = "UPDATE item SET ends = ?, " + others;
     static const std::string otherTimes = "UPDATE item SET starts = ?, ends = ?, span = ?, " + others;
 
-    mDatabase.CheckWhole();
+    BeginChange(row);
     const bool startStays = data.start == before.start && SpanOf(data) == SpanOf(before);
     const bool endStays = data.end == before.end;
     Query query(mDatabase, !startStays ? otherTimes : !endStays ? otherEnd : sameTimes);
@@ -139,21 +150,22 @@ void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData&
         .Bind(data.billingInformation)
         .Bind(PropertyCodec::Encode(data.properties))
         .Bind(data.body)
-        .Bind(row)
-        .Run();
+        .Bind(std::int64_t { data.isProjectByHand });
+    BindMoment(query, saved).Bind(row).Run();
     NoteChangedRow();
 }
 
 void ItemTable::Move(std::int64_t row, std::int64_t folder)
 {
-    mDatabase.CheckWhole();
-    Query(mDatabase, "UPDATE item SET folder = ? WHERE id = ?").Bind(folder).Bind(row).Run();
+    BeginChange(row);
+    Query(mDatabase, "UPDATE item SET folder = ?, revision = revision + 1 WHERE id = ?").Bind(folder).Bind(row).Run();
     NoteChangedRow();
 }
 
 void ItemTable::Delete(std::int64_t row)
 {
     mDatabase.Atomically([&] {
+        BeginChange(row);
         RetireRows();
         Query(mDatabase, "DELETE FROM item WHERE id = ?").Bind(row).Run();
     });
@@ -214,6 +226,14 @@ std::vector<std::int64_t> ItemTable::Sorted(std::span<const std::int64_t> rows, 
     query.Bind(JsonList(rows));
     BindOrder(query, order);
     return RowsOf(query);
+}
+
+void ItemTable::BeginChange(std::int64_t row)
+{
+    mDatabase.CheckWhole();
+    if (mWatcher) {
+        mWatcher(row);
+    }
 }
 
 void ItemTable::NoteChangedRow()

@@ -5,9 +5,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -27,14 +29,17 @@ class ItemTable
 public:
     explicit ItemTable(MailboxDatabase& database);
 
-    /// Stores a new item and answers its row, which no other item ever had.
-    std::int64_t Insert(std::int64_t folder, const ItemData& data);
+    /// Stores a new item, saved at that moment, and answers its row, which no other item ever had.
+    std::int64_t Insert(std::int64_t folder, const ItemData& data, std::optional<Date> saved);
     /// Stores what has changed since an item was stored; fails, as the next does, (-2147221233) when it is gone.
-    void Update(std::int64_t row, const ItemData& before, const ItemData& data);
+    void Update(std::int64_t row, const ItemData& before, const ItemData& data, std::optional<Date> saved);
     void Move(std::int64_t row, std::int64_t folder);
     void Delete(std::int64_t row);
     /// Keeps rows from being used again although their items are about to be deleted.
     void RetireRows();
+    /// Called before each change of a row, one that is about to be made included, but for those of a folder that is
+    /// deleted.
+    void SetWatcher(std::function<void(std::int64_t row)> watcher) { mWatcher = std::move(watcher); }
     /// Changes to stored items so far; what was read before the last change may be out of date.
     std::int64_t Changes() const { return mChanges; }
     /// Counts a change that this class didn't make.
@@ -55,6 +60,8 @@ public:
     std::vector<std::int64_t> Sorted(std::span<const std::int64_t> rows, const ItemOrder& order);
 
 private:
+    /// Says that a row is about to change; fails when nothing can be changed.
+    void BeginChange(std::int64_t row);
     /// Counts the change of a row; fails when there was none to change.
     void NoteChangedRow();
     std::vector<std::int64_t> Rows(std::int64_t folder, const FilterCondition& condition, const std::string& ending);
@@ -62,6 +69,7 @@ private:
     MailboxDatabase& mDatabase;
     std::int64_t mLastRow = 0;
     std::int64_t mChanges = 0;
+    std::function<void(std::int64_t row)> mWatcher;
 };
 
 }

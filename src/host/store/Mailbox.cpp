@@ -189,6 +189,23 @@ void Mailbox::MarkStatistics()
     mStore->MarkStatistics();
 }
 
+void Mailbox::SetClock(std::function<Date()> clock)
+{
+    mStore->SetClock(std::move(clock));
+}
+
+void Mailbox::ChoosingProjects(ProjectChoice choice, const std::function<void()>& work)
+{
+    const auto former = mStore->Choose(choice);
+    try {
+        work();
+    } catch (...) {
+        mStore->Choose(former);
+        throw;
+    }
+    mStore->Choose(former);
+}
+
 void Mailbox::SetDisplay(std::function<void(const Ref<StoreItem>& item)> display)
 {
     mStore->SetDisplay(std::move(display));

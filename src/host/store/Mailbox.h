@@ -4,6 +4,7 @@
 #include "host/store/DraftTable.h"
 #include "host/store/FormTemplate.h"
 #include "host/store/ItemData.h"
+#include "host/store/ProjectChoice.h"
 #include "host/store/SaveStatistics.h"
 #include "platform/objectmodel/NameSpace.h"
 #include "platform/objectmodel/Views.h"
@@ -69,6 +70,10 @@ public:
     const SaveStatistics& Statistics() const;
     /// Begins to count anew.
     void MarkStatistics();
+    /// Called to ask for the present moment in UTC at each save; without it no item knows when it was saved.
+    void SetClock(std::function<Date()> clock);
+    /// Does work in which the projects of saved items are chosen so; otherwise rules choose them.
+    void ChoosingProjects(ProjectChoice choice, const std::function<void()>& work);
     /// Called when an item is to be shown in a window of its own.
     void SetDisplay(std::function<void(const Ref<StoreItem>& item)> display);
     /// Makes durable what an import holds, with the position that it has reached, as is due when a person has saved

@@ -194,6 +194,15 @@ void MailboxDatabase::CommitHeld()
     mHeld = false;
 }
 
+void MailboxDatabase::DropHeld()
+{
+    mHeld = false;
+    RollBack();
+    if (mOnUndone) {
+        mOnUndone();
+    }
+}
+
 void MailboxDatabase::CheckWhole() const
 {
     if (mUndone) {
@@ -236,12 +245,8 @@ Failure MailboxDatabase::Failed(int code, const std::string& text)
 {
     auto failure = Described(code, text);
     if (mHeld) {
-        mHeld = false;
         mUndone = failure;
-        RollBack();
-        if (mOnUndone) {
-            mOnUndone();
-        }
+        DropHeld();
     }
     return failure;
 }

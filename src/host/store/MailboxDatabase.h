@@ -79,6 +79,8 @@ public:
     void Hold();
     /// Makes the held writes durable and ends the holding.
     void CommitHeld();
+    /// Undoes the held writes and ends the holding.
+    void DropHeld();
     /// Lets writes go on after held ones were undone.
     void Recover() { mUndone.reset(); }
     /// True while writes are held.

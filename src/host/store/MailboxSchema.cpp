@@ -150,11 +150,55 @@ std::string ReachedLines()
            "CREATE INDEX import_line_day ON import_line (day);\n";
 }
 
+/// What an item has besides its fields: when it was last saved, in UTC, nothing for those from before; whether a person
+/// chose its project; and a number for each of the states it was in. And the steps, what each command changed: an item
+/// as it was before, nothing where there was none, and the state in which the step left it, nothing where it left none.
+std::string StepsOfCommands()
+{
+    return R"(
+ALTER TABLE item ADD COLUMN saved INTEGER;
+ALTER TABLE item ADD COLUMN by_hand INTEGER NOT NULL DEFAULT 0 CHECK (by_hand IN (0, 1));
+ALTER TABLE item ADD COLUMN revision INTEGER NOT NULL DEFAULT 0;
+ALTER TABLE mailbox ADD COLUMN last_step INTEGER NOT NULL DEFAULT 0;
+CREATE TABLE step (
+    id INTEGER PRIMARY KEY,
+    moment INTEGER NOT NULL,
+    command TEXT NOT NULL,
+    undoes INTEGER,
+    is_taken_back INTEGER NOT NULL DEFAULT 0 CHECK (is_taken_back IN (0, 1)),
+    rules_before TEXT,
+    rules_after TEXT,
+    are_rules_due INTEGER NOT NULL DEFAULT 0 CHECK (are_rules_due IN (0, 1))
+) STRICT;
+CREATE TABLE step_item (
+    step INTEGER NOT NULL REFERENCES step (id) ON DELETE CASCADE,
+    item INTEGER NOT NULL,
+    left_revision INTEGER,
+    folder INTEGER,
+    kind INTEGER,
+    message_class TEXT,
+    starts INTEGER,
+    ends INTEGER,
+    span INTEGER,
+    recurring INTEGER,
+    subject TEXT,
+    mileage TEXT,
+    billing TEXT,
+    properties TEXT,
+    body TEXT,
+    by_hand INTEGER,
+    revision INTEGER,
+    PRIMARY KEY (step, item)
+) STRICT;
+)";
+}
+
 }
 
 const std::vector<std::string>& MailboxSchema::Steps()
 {
-    static const std::vector<std::string> steps = { Tables() + Contents(), UniqueNames(), ReachedLines() };
+    static const std::vector<std::string> steps
+        = { Tables() + Contents(), UniqueNames(), ReachedLines(), StepsOfCommands() };
     return steps;
 }
 

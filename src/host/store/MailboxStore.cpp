@@ -148,6 +148,7 @@ void MailboxStore::Save(StoreItem& item, bool refused)
         if (refused) {
             throw Failure(Error::Automation, "The save was refused");
         }
+        MarkChoice(item);
         Write(item);
     } catch (const Failure& failure) {
         mStatistics.failed.push_back({ item.Data().subject, failure.Description() });
@@ -171,6 +172,16 @@ void MailboxStore::Delete(StoreItem& item)
     // Its windows close first, while whoever watched them can still ask which item it was.
     item.RaiseLetGo();
     item.MarkDeleted();
+}
+
+void MailboxStore::Refresh(StoreItem& item)
+{
+    if (auto stored = mTable->Load(item.Row())) {
+        item.MarkRestored(std::move(*stored));
+    } else {
+        item.RaiseLetGo();
+        item.MarkDeleted();
+    }
 }
 
 void MailboxStore::Display(const Ref<StoreItem>& item)
@@ -226,23 +237,35 @@ void MailboxStore::MarkStatistics()
 
 void MailboxStore::Write(StoreItem& item)
 {
+    const auto saved = mClock ? std::optional(mClock()) : std::nullopt;
     if (item.Row() == 0) {
         mTree->Get(item.FolderRow());
-        item.MarkStored(mTable->Insert(item.FolderRow(), item.Data()));
+        item.MarkStored(mTable->Insert(item.FolderRow(), item.Data(), saved), saved);
         mLive[item.Row()] = item.shared_from_this();
         ++mStatistics.created;
         Announce(item.shared_from_this());
     } else {
         const auto* before = item.DataBefore();
-        if (before != nullptr && *before != item.Data()) {
-            mTable->Update(item.Row(), *before, item.Data());
+        const bool isChanged = before != nullptr && *before != item.Data();
+        if (isChanged) {
+            mTable->Update(item.Row(), *before, item.Data(), saved);
         } else {
             mDatabase->CheckWhole();
         }
-        ++(before != nullptr && before->end != item.Data().end ? mStatistics.extended : mStatistics.detailed);
-        item.MarkStored(item.Row());
+        ++(isChanged && before->end != item.Data().end ? mStatistics.extended : mStatistics.detailed);
+        item.MarkStored(item.Row(), isChanged ? saved : item.SavedAt());
     }
     Touch(item);
+}
+
+void MailboxStore::MarkChoice(StoreItem& item) const
+{
+    const auto* before = item.DataBefore();
+    if (mChoice == ProjectChoice::Person) {
+        item.SetProjectByHand(true);
+    } else if (mChoice == ProjectChoice::Rules && before != nullptr && before->mileage != item.Data().mileage) {
+        item.SetProjectByHand(false);
+    }
 }
 
 void MailboxStore::Announce(const Ref<StoreItem>& item)

@@ -6,6 +6,7 @@
 #include "host/store/FolderTree.h"
 #include "host/store/FormTable.h"
 #include "host/store/ItemTable.h"
+#include "host/store/ProjectChoice.h"
 #include "host/store/SaveStatistics.h"
 #include "host/store/ViewTable.h"
 #include "platform/system/LocaleFormats.h"
@@ -16,6 +17,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -63,8 +65,12 @@ public:
     void Forget(std::int64_t row);
     /// Writes an item, counting and announcing it; `refused` is true when a handler was against it, which fails.
     void Save(StoreItem& item, bool refused);
+    /// Sets who chooses the projects of items that are saved from now on; answers who did until now.
+    ProjectChoice Choose(ProjectChoice choice) { return std::exchange(mChoice, choice); }
     void Move(StoreItem& item, std::int64_t folder);
     void Delete(StoreItem& item);
+    /// Takes in that an item's row was changed by itself.
+    void Refresh(StoreItem& item);
     void Display(const Ref<StoreItem>& item);
     void SetDisplay(std::function<void(const Ref<StoreItem>& item)> display) { mDisplay = std::move(display); }
 
@@ -75,6 +81,8 @@ public:
 
     /// Asks whoever holds writes to commit them; does nothing when none are held.
     void CommitHeld();
+    /// Called to ask for the present moment in UTC at each save; without it no item knows when it was saved.
+    void SetClock(std::function<Date()> clock) { mClock = std::move(clock); }
     /// Called to commit what is held.
     void SetCommit(std::function<void()> commit) { mCommit = std::move(commit); }
     /// What is held was committed.
@@ -84,6 +92,7 @@ public:
 
 private:
     void Write(StoreItem& item);
+    void MarkChoice(StoreItem& item) const;
     void Announce(const Ref<StoreItem>& item);
     void Touch(StoreItem& item);
     void Undone();
@@ -102,8 +111,10 @@ private:
     std::vector<std::weak_ptr<StoreItem>> mTouched;
     std::function<void(const Ref<StoreItem>& item)> mDisplay;
     std::function<void()> mCommit;
+    std::function<Date()> mClock;
     SaveStatistics mStatistics;
     SaveStatistics mCommittedStatistics;
+    ProjectChoice mChoice = ProjectChoice::Rules;
     bool mDelivering = false;
 };
 

@@ -57,6 +57,12 @@ Query& Query::Bind(std::string&& text)
     return *this;
 }
 
+Query& Query::BindNull()
+{
+    Checked(0, [&] { mStatement.bind(++mBound); });
+    return *this;
+}
+
 Query& Query::BindBytes(std::string_view bytes)
 {
     Checked(bytes.size(), [&] { mStatement.bindNoCopy(++mBound, bytes.data(), static_cast<int>(bytes.size())); });

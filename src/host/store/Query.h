@@ -28,6 +28,7 @@ public:
     /// Binds a text that outlives the run.
     Query& Bind(const std::string& text);
     Query& Bind(std::string&& text);
+    Query& BindNull();
     /// Binds bytes that outlive the run.
     Query& BindBytes(std::string_view bytes);
     /// Goes to the next row; false when there is none.

@@ -32,10 +32,11 @@ void StoreImportJournal::Begin()
 {
     mUnread.clear();
     mStore->Database().Recover();
+    // What someone else holds is committed and then let go of; what this holds goes on.
+    mStore->CommitHeld();
     mStore->SetCommit([this] { Commit(); });
-    if (mStore->Database().IsHolding()) {
-        Commit();
-    } else {
+    mStore->Choose(ProjectChoice::Nobody);
+    if (!mStore->Database().IsHolding()) {
         Hold();
     }
 }
@@ -81,6 +82,7 @@ void StoreImportJournal::HistorySaved()
 
 void StoreImportJournal::End()
 {
+    mStore->Choose(ProjectChoice::Rules);
     try {
         Keep();
     } catch (...) {

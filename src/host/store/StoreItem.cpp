@@ -15,6 +15,7 @@ StoreItem::StoreItem(Ref<MailboxStore> store, StoredItem item)
     , mRow(item.row)
     , mFolder(item.folder)
     , mData(std::move(item.data))
+    , mSaved(item.saved)
 {
 }
 
@@ -217,6 +218,7 @@ bool StoreItem::RaiseOpen()
     CheckAlive();
     const auto self = shared_from_this();
     bool cancel = false;
+    mShownProject = mData.mileage;
     mEvents.Raise(&AppointmentItemEvents::Open, cancel);
     return !cancel;
 }
@@ -236,7 +238,15 @@ bool StoreItem::SaveAsPerson()
     if (!RaiseWrite()) {
         return false;
     }
-    mStore->Save(*this, false);
+    const auto& former = mBefore ? mBefore->mileage : mRow == 0 ? mShownProject : mData.mileage;
+    const auto choice = mStore->Choose(mData.mileage == former ? ProjectChoice::Nobody : ProjectChoice::Person);
+    try {
+        mStore->Save(*this, false);
+    } catch (...) {
+        mStore->Choose(choice);
+        throw;
+    }
+    mStore->Choose(choice);
     mStore->CommitHeld();
     return true;
 }
@@ -291,9 +301,10 @@ void StoreItem::Describe(const FormTemplate& form)
     mFormDescription = MakeRef<StoreFormDescription>(mStore, form);
 }
 
-void StoreItem::MarkStored(std::int64_t row)
+void StoreItem::MarkStored(std::int64_t row, std::optional<Date> saved)
 {
     mRow = row;
+    mSaved = saved;
     mBefore.reset();
 }
 
@@ -306,15 +317,25 @@ void StoreItem::MarkDeleted()
     mDeleted = true;
 }
 
+void StoreItem::MarkRestored(StoredItem stored)
+{
+    mFolder = stored.folder;
+    mData = std::move(stored.data);
+    mSaved = stored.saved;
+    mBefore.reset();
+}
+
 void StoreItem::MarkUndone(std::optional<StoredItem> stored)
 {
     if (!stored) {
         mStore->Forget(mRow);
         mRow = 0;
         mBefore.reset();
+        mSaved.reset();
         return;
     }
     mFolder = stored->folder;
+    mSaved = stored->saved;
     mBefore = std::move(stored->data);
 }
 

@@ -60,8 +60,8 @@ public:
     bool RaiseOpen();
     /// Raises `Close`, as a window about to close does; false when a handler refused it.
     bool RaiseClose();
-    /// A person saves it: `Write` is raised, and what is held is committed. False when a handler refused it; fails as
-    /// the store does.
+    /// A person saves it: `Write` is raised, another project is that person's choice, and what is held is committed.
+    /// False when a handler refused it; fails as the store does.
     bool SaveAsPerson();
     /// Drops what wasn't saved, telling nobody.
     void Discard();
@@ -69,6 +69,14 @@ public:
     Subscription SubscribeLetGo(std::function<void()> letGo);
     /// Tells the windows that show the item that this is over.
     void RaiseLetGo();
+    /// The number that it keeps for as long as it is, and that no other item of the mailbox ever has; 0 while it isn't
+    /// stored.
+    std::int64_t Number() const { return mRow; }
+    /// When it was last saved, in UTC; nothing when that isn't known.
+    std::optional<Date> SavedAt() const { return mSaved; }
+    /// True when a person chose its project.
+    bool IsProjectByHand() const { return Data().isProjectByHand; }
+    void SetProjectByHand(bool isByHand) { Change().isProjectByHand = isByHand; }
     /// True when something was changed since the last save, or nothing was ever saved.
     bool HasChanges() const;
     /// How texts, dates and numbers are read and written where the mailbox is.
@@ -89,9 +97,11 @@ public:
     /// True once the item is deleted.
     bool IsDeleted() const { return mDeleted; }
     void Describe(const FormTemplate& form);
-    void MarkStored(std::int64_t row);
+    void MarkStored(std::int64_t row, std::optional<Date> saved);
     void MarkMoved(std::int64_t folder) { mFolder = folder; }
     void MarkDeleted();
+    /// Takes the stored state in the place of what it held, when it was changed by itself; what wasn't saved is gone.
+    void MarkRestored(StoredItem stored);
     /// Takes the stored state after an undone commit: nothing when the item isn't stored any more.
     void MarkUndone(std::optional<StoredItem> stored);
 
@@ -111,6 +121,9 @@ private:
     std::int64_t mFolder;
     ItemData mData;
     std::optional<ItemData> mBefore;
+    std::optional<Date> mSaved;
+    /// The project of an item that was never stored, when a window showed it.
+    std::string mShownProject;
     bool mDeleted = false;
     EventSource<AppointmentItemEvents> mEvents;
     EventSource<WindowEvents> mWindowEvents;

@@ -19,6 +19,11 @@ Date HostClock::Now()
     return mLocalTime.At(std::time(nullptr));
 }
 
+Date HostClock::UniversalNow()
+{
+    return mStart ? LocalTime::UniversalOf(Now()) : LocalTime::UniversalAt(std::time(nullptr));
+}
+
 void HostClock::Set(Date now)
 {
     mStart = now;

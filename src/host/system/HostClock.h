@@ -16,6 +16,8 @@ public:
     explicit HostClock(std::optional<Date> start = std::nullopt);
 
     Date Now() override;
+    /// The present moment in UTC.
+    Date UniversalNow();
     /// Sets it to a moment, from which it goes on.
     void Set(Date now);
 

@@ -14,6 +14,10 @@ class LocalTime
 public:
     /// The local time of a moment in seconds since 1970 began in UTC.
     Date At(std::time_t moment);
+    /// The same moment in UTC.
+    static Date UniversalAt(std::time_t moment);
+    /// The moment in UTC of a local time; the local time itself when the system knows no such moment.
+    static Date UniversalOf(Date local);
 
 private:
     std::time_t mQuarter = std::numeric_limits<std::time_t>::min();

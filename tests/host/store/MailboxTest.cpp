@@ -52,6 +52,123 @@ TEST_F(MailboxTest, ItemById_UnknownIdentity_Fails)
     EXPECT_EQ(FailureNumber([&] { mMailbox->ItemById(id); }), NotFound);
 }
 
+TEST_F(MailboxTest, Number_CountsFromOneAndIsNeverGivenAgain)
+{
+    const auto first = NewTestItem(mMailbox, "a");
+    EXPECT_EQ(first->Number(), 0);
+    first->Save();
+    EXPECT_EQ(first->Number(), 1);
+    const auto second = NewTestItem(mMailbox, "b");
+    second->Save();
+    EXPECT_EQ(second->Number(), 2);
+    second->Delete();
+    const auto third = NewTestItem(mMailbox, "c");
+    third->Save();
+    EXPECT_EQ(third->Number(), 3);
+    third->Move(mMailbox->FolderByPath("Inbox"));
+    EXPECT_EQ(third->Number(), 3);
+}
+
+TEST_F(MailboxTest, SavedAt_IsTheMomentOfTheLastSaveThatChangedSomething)
+{
+    auto now = Date::FromParts({ 2006, 10, 10, 15, 0, 0 });
+    mMailbox->SetClock([&] { return now; });
+    auto item = NewTestItem(mMailbox, "a");
+    EXPECT_EQ(item->SavedAt(), std::nullopt);
+    item->Save();
+    EXPECT_EQ(item->SavedAt(), now);
+    const auto before = now;
+    now = now.AddMinutes(5);
+    item->Save();
+    item->SetSubject("a");
+    item->Save();
+    EXPECT_EQ(item->SavedAt(), before);
+    item->SetBody("b");
+    item->Save();
+    EXPECT_EQ(item->SavedAt(), now);
+    const auto id = item->EntryID();
+    item = nullptr;
+    EXPECT_EQ(mMailbox->ItemById(id)->SavedAt(), now);
+}
+
+TEST_F(MailboxTest, SavedAt_WithoutAClock_IsUnknown)
+{
+    auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    const auto id = item->EntryID();
+    item = nullptr;
+    EXPECT_EQ(mMailbox->ItemById(id)->SavedAt(), std::nullopt);
+}
+
+TEST_F(MailboxTest, SetProjectByHand_IsSavedWithTheItemAndCopied)
+{
+    auto item = NewTestItem(mMailbox, "a");
+    item->Save();
+    EXPECT_FALSE(item->IsProjectByHand());
+    item->SetProjectByHand(true);
+    EXPECT_TRUE(item->HasChanges());
+    item->Save();
+    EXPECT_TRUE(item->Copy().As<StoreItem>()->IsProjectByHand());
+    const auto id = item->EntryID();
+    item = nullptr;
+    EXPECT_TRUE(mMailbox->ItemById(id)->IsProjectByHand());
+}
+
+TEST_F(MailboxTest, ChoosingProjects_SaysWhoseChoiceTheSavedOnesAre)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->SetMileage("Plan");
+    item->Save();
+    EXPECT_FALSE(item->IsProjectByHand());
+    // A person's choice is one also when it changes nothing.
+    mMailbox->ChoosingProjects(ProjectChoice::Person, [&] { item->Save(); });
+    EXPECT_TRUE(item->IsProjectByHand());
+    item->SetSubject("b");
+    item->SetMileage("Plan");
+    item->Save();
+    EXPECT_TRUE(item->IsProjectByHand());
+    mMailbox->ChoosingProjects(ProjectChoice::Nobody, [&] {
+        item->SetMileage("Other");
+        item->Save();
+    });
+    EXPECT_TRUE(item->IsProjectByHand());
+    item->SetMileage("Plan");
+    item->Save();
+    EXPECT_FALSE(item->IsProjectByHand());
+}
+
+TEST_F(MailboxTest, ChoosingProjects_WorkFails_IsOver)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    EXPECT_THROW(mMailbox->ChoosingProjects(ProjectChoice::Person, [] { throw Failure(Error::InvalidCall); }), Failure);
+    item->Save();
+    EXPECT_FALSE(item->IsProjectByHand());
+}
+
+TEST_F(MailboxTest, SaveAsPerson_OtherProject_IsByHand)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->SetMileage("Plan");
+    item->RaiseOpen();
+    EXPECT_TRUE(item->SaveAsPerson());
+    EXPECT_FALSE(item->IsProjectByHand());
+    item->SetSubject("b");
+    EXPECT_TRUE(item->SaveAsPerson());
+    EXPECT_FALSE(item->IsProjectByHand());
+    item->SetMileage("No Project");
+    EXPECT_TRUE(item->SaveAsPerson());
+    EXPECT_TRUE(item->IsProjectByHand());
+    item->SetSubject("c");
+    EXPECT_TRUE(item->SaveAsPerson());
+    EXPECT_TRUE(item->IsProjectByHand());
+    const auto made = NewTestItem(mMailbox, "d");
+    made->SetMileage("No Project");
+    made->RaiseOpen();
+    made->SetMileage("Plan");
+    EXPECT_TRUE(made->SaveAsPerson());
+    EXPECT_TRUE(made->IsProjectByHand());
+}
+
 TEST_F(MailboxTest, NewItem_RecurringItem_StaysRecurring)
 {
     ItemData data;

@@ -88,6 +88,29 @@ TEST_F(HostClockTest, LocalTime_ClocksPutForwardAndBack_ShowsTheWall)
     EXPECT_EQ(TextOf(local.At(back)), "20061029 02:00:0");
 }
 
+TEST_F(HostClockTest, UniversalNow_IsTheSameMomentInUniversalTime)
+{
+    SetZone("TST-5:30");
+    HostClock system;
+    const auto ahead = SecondsBetween(system.UniversalNow(), system.Now());
+    EXPECT_GE(ahead, 19800);
+    EXPECT_LT(ahead, 19860);
+    HostClock fixed(Date::FromParts({ 2006, 10, 10, 2, 0, 0 }));
+    EXPECT_GE(fixed.UniversalNow(), Date::FromParts({ 2006, 10, 9, 20, 30, 0 }));
+    EXPECT_LT(fixed.UniversalNow(), Date::FromParts({ 2006, 10, 9, 20, 40, 0 }));
+}
+
+TEST_F(HostClockTest, UniversalOf_ClocksPutForwardAndBack_GoesByThem)
+{
+    SetZone("CET-1CEST,M3.5.0,M10.5.0/3");
+    EXPECT_EQ(TextOf(LocalTime::UniversalOf(Date::FromParts({ 2006, 7, 1, 12, 0, 5 }))), "20060701 10:00:5");
+    EXPECT_EQ(TextOf(LocalTime::UniversalOf(Date::FromParts({ 2006, 12, 1, 0, 30, 0 }))), "20061130 23:30:0");
+    // An hour that there isn't is one of those beside it.
+    const auto gap = LocalTime::UniversalOf(Date::FromParts({ 2006, 3, 26, 2, 30, 0 }));
+    EXPECT_GE(gap, Date::FromParts({ 2006, 3, 26, 0, 30, 0 }));
+    EXPECT_LE(gap, Date::FromParts({ 2006, 3, 26, 1, 30, 0 }));
+}
+
 TEST_F(HostClockTest, ManualClock_SetAndAdvance_StandsWhereItWasPut)
 {
     ManualClock clock(Date::FromYearMonthDay(2006, 10, 10));
