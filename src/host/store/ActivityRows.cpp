@@ -1,0 +1,107 @@
+#include "host/store/ActivityRows.h"
+
+#include "host/store/FilterSql.h"
+#include "host/store/ItemData.h"
+#include "host/store/ItemSpan.h"
+#include "host/store/Mailbox.h"
+#include "host/store/MailboxStore.h"
+#include "host/store/PropertyCodec.h"
+#include "host/store/Query.h"
+
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+const std::string RowColumns
+    = "item.id, item.subject, item.starts, item.ends, item.by_hand, item.saved, item.properties";
+const std::string ByNumber = " FROM item WHERE id = ? AND folder = ? AND message_class = ?";
+
+std::string PropertyText(const std::vector<ItemProperty>& properties, std::string_view name)
+{
+    const auto* property = FindProperty(properties, name);
+    return property == nullptr ? std::string() : property->value.ToText();
+}
+
+}
+
+ActivityRows::ActivityRows(const Ref<Mailbox>& mailbox, const Ref<MAPIFolder>& folder, std::string messageClass)
+    : mStore(mailbox->Store())
+    , mFolder(mStore->RowOf(folder))
+    , mMessageClass(std::move(messageClass))
+{
+}
+
+std::vector<ActivityRow> ActivityRows::StartingIn(Date from, Date until) const
+{
+    return List(from.Seconds(), -SecondsRange::Unbounded, until);
+}
+
+std::vector<ActivityRow> ActivityRows::Overlapping(Date from, Date until) const
+{
+    return List(-SecondsRange::Unbounded, from.Seconds(), until);
+}
+
+std::optional<ActivityRow> ActivityRows::Numbered(std::int64_t number) const
+{
+    static const std::string sql = "SELECT " + RowColumns + ByNumber;
+    Query query(mStore->Database(), sql);
+    query.Bind(number).Bind(mFolder).Bind(mMessageClass);
+    return query.Step() ? std::optional(Read(query)) : std::nullopt;
+}
+
+std::string ActivityRows::BodyOf(std::int64_t number) const
+{
+    static const std::string sql = "SELECT body" + ByNumber;
+    Query query(mStore->Database(), sql);
+    query.Bind(number).Bind(mFolder).Bind(mMessageClass);
+    return query.Step() ? query.Text(0) : std::string();
+}
+
+const std::string& ActivityRows::ListSql()
+{
+    // What ends behind a moment began within its class's reach before it. Without the index named, a condition on the
+    // end leads to that of the ends, through all items that end later.
+    static const std::string sql = "SELECT " + RowColumns + " FROM (VALUES " + ItemSpan::ClassRows()
+        + ") AS class CROSS JOIN item INDEXED BY item_span WHERE item.folder = ? AND item.span = class.column1 "
+          "AND item.starts >= max(?, ? - class.column2) AND item.starts < ? AND item.ends > ? "
+          "AND item.message_class = ? ORDER BY item.starts, item.id";
+    return sql;
+}
+
+std::vector<ActivityRow> ActivityRows::List(std::int64_t startsFrom, std::int64_t endsBehind, Date startsBefore) const
+{
+    std::vector<ActivityRow> rows;
+    Query query(mStore->Database(), ListSql());
+    query.Bind(mFolder).Bind(startsFrom).Bind(endsBehind).Bind(startsBefore.Seconds()).Bind(endsBehind);
+    query.Bind(mMessageClass);
+    while (query.Step()) {
+        rows.push_back(Read(query));
+    }
+    return rows;
+}
+
+ActivityRow ActivityRows::Read(const Query& query) const
+{
+    int column = 0;
+    ActivityRow row;
+    row.number = query.Int(column++);
+    row.entryId = mStore->Ids().OfItem(row.number);
+    row.subject = query.Text(column++);
+    row.start = Date::FromSeconds(query.Int(column++));
+    row.end = Date::FromSeconds(query.Int(column++));
+    row.duration = MinutesBetween(row.start, row.end);
+    row.isProjectByHand = query.Int(column++) != 0;
+    if (const auto saved = column++; !query.IsNull(saved)) {
+        row.saved = Date::FromSeconds(query.Int(saved));
+    }
+    const auto properties = PropertyCodec::Decode(query.Text(column));
+    row.project = PropertyText(properties, "Project");
+    row.type = PropertyText(properties, "Type");
+    row.description = PropertyText(properties, "Description");
+    row.people = PropertyText(properties, "People");
+    return row;
+}
+
+}
