@@ -80,8 +80,9 @@ void AddEvent(CalendarText& calendar, const ActivityRecord& activity)
 {
     calendar.Add("BEGIN", "VEVENT");
     calendar.AddText("UID", activity.entryId + "@tempodial");
-    // The stamp must be in universal time; with the figures of the end it is the same at each export.
-    calendar.Add("DTSTAMP", WallClock(activity.end) + "Z");
+    // A later save is a later version for whoever took the calendar in before; the export itself is none.
+    calendar.Add("DTSTAMP", WallClock(activity.saved) + "Z");
+    calendar.Add("LAST-MODIFIED", WallClock(activity.saved) + "Z");
     calendar.Add("DTSTART", WallClock(activity.start));
     // An end at the start isn't allowed; without one the event is of no length.
     if (activity.end > activity.start) {
@@ -107,6 +108,7 @@ std::string ActivityCalendar(const std::vector<ActivityRecord>& activities)
     calendar.Add("BEGIN", "VCALENDAR");
     calendar.Add("VERSION", "2.0");
     calendar.Add("PRODID", std::string("-//Tempodial//Tempodial ") + ProductVersion + "//EN");
+    calendar.Add("X-WR-CALNAME", ProductName);
     for (const auto& activity : activities) {
         AddEvent(calendar, activity);
     }

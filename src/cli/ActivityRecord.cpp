@@ -1,5 +1,8 @@
 #include "cli/ActivityRecord.h"
 
+#include "host/store/StoreItem.h"
+#include "host/system/LocalTime.h"
+
 namespace tempodial {
 
 ActivityRecord ReadActivity(const Ref<AppointmentItem>& item)
@@ -9,6 +12,8 @@ ActivityRecord ReadActivity(const Ref<AppointmentItem>& item)
         const auto property = properties->Item(name);
         return property ? property->Value().ToText() : std::string();
     };
+    const auto stored = item.As<StoreItem>();
+    const auto saved = stored ? stored->SavedAt() : std::nullopt;
     return { .entryId = item->EntryID(),
         .start = item->Start(),
         .end = item->End(),
@@ -18,7 +23,8 @@ ActivityRecord ReadActivity(const Ref<AppointmentItem>& item)
         .description = text("Description"),
         .people = text("People"),
         .subject = item->Subject(),
-        .body = item->Body() };
+        .body = item->Body(),
+        .saved = saved ? *saved : LocalTime::UniversalOf(item->End()) };
 }
 
 }

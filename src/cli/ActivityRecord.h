@@ -24,6 +24,8 @@ struct ActivityRecord
     std::string people;
     std::string subject;
     std::string body;
+    /// When it was last saved, in UTC; for one from before that was noted, its end.
+    Date saved;
 };
 
 /// Reads an item; fails as the store does.

@@ -25,7 +25,8 @@ ActivityRecord Activity()
         .description = "\"plan.doc\"",
         .people = "a@b.example",
         .subject = "[Plan] Microsoft Word, \"plan.doc\"",
-        .body = "" };
+        .body = "",
+        .saved = Date::FromParts({ 2006, 10, 11, 6, 0, 1 }) };
 }
 
 class ActivityCalendarTest : public testing::Test
@@ -52,11 +53,13 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_Activity_HasItsProperties)
     const auto read = Read({ Activity() });
     EXPECT_EQ(read.at("version"), "2.0");
     EXPECT_EQ(read.at("prodid"), "-//Tempodial//Tempodial 1.2.0//EN");
+    EXPECT_EQ(read.at("name"), "Tempodial");
     EXPECT_EQ(read.at("events"), nlohmann::json::parse(R"([{
         "UID": "00AB@tempodial", "SUMMARY": "[Plan] Microsoft Word, \"plan.doc\"", "TRANSP": "TRANSPARENT",
         "X-TEMPODIAL-APPLICATION": "Microsoft Word", "X-TEMPODIAL-DESCRIPTION": "\"plan.doc\"",
         "X-TEMPODIAL-PEOPLE": "a@b.example", "CATEGORIES": ["Plan"],
-        "DTSTART": "2006-10-10T10:00:00", "DTEND": "2006-10-10T10:20:30", "DTSTAMP": "2006-10-10T10:20:30+00:00" }])"));
+        "DTSTART": "2006-10-10T10:00:00", "DTEND": "2006-10-10T10:20:30", "DTSTAMP": "2006-10-11T06:00:01+00:00",
+        "LAST-MODIFIED": "2006-10-11T06:00:01+00:00" }])"));
 }
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_SameActivities_GiveTheSameBytes)

@@ -1,5 +1,6 @@
 #include "cli/ReadBack.h"
 #include "support/ProgramFixture.h"
+#include "support/TestDatabase.h"
 
 #include <fstream>
 #include <sstream>
@@ -77,6 +78,40 @@ TEST_F(ExportCommandTest, Export_Ics_IsReadByAnotherProgram)
         EXPECT_EQ(event.at("DTEND"), list.at(i).at("end"));
     }
     EXPECT_EQ(mFolder.Read("a.ics"), Out({ "export", "--format", "ics", "--from", "yesterday" }));
+}
+
+TEST_F(ExportCommandTest, Export_Ics_TellsInUniversalTimeWhenEachWasSaved)
+{
+    auto environment = UsualEnvironment();
+    environment.back() = "TZ=TST-5:30";
+    const auto run = [&](const char* now, const Arguments& arguments) {
+        mNow = now;
+        const auto result = RunTempodial(Whole(arguments), environment);
+        EXPECT_EQ(result.status, 0) << result.error;
+        return result.out;
+    };
+    WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc"), WordSlot(32700, 33000, "b.doc") });
+    run("2006-10-10T12:00:00", { "sync" });
+    const auto before = run("2006-10-10T13:00:00", { "export", "--format", "ics", "2006-10-10" });
+    EXPECT_EQ(run("2006-10-10T14:00:00", { "export", "--format", "ics", "2006-10-10" }), before);
+    run("2006-10-11T03:00:00",
+        { "assign", "Wish", "--from", "2006-10-10T09:05", "--to", "2006-10-10T09:10", "--overwrite" });
+    const auto after = run("2006-10-11T04:00:00", { "export", "--format", "ics", "2006-10-10" });
+    EXPECT_THAT(before, HasSubstr("\r\nDTSTAMP:20061010T0630"));
+    EXPECT_THAT(before, testing::Not(HasSubstr("T2130")));
+    EXPECT_THAT(after, HasSubstr("\r\nDTSTAMP:20061010T0630"));
+    EXPECT_THAT(after, HasSubstr("\r\nDTSTAMP:20061010T2130"));
+    EXPECT_THAT(after, HasSubstr("\r\nLAST-MODIFIED:20061010T2130"));
+}
+
+TEST_F(ExportCommandTest, Export_ItemFromBeforeMomentsWereKept_GoesByItsEnd)
+{
+    Import();
+    {
+        const auto mailbox = OpenTestMailbox(mProfile + "/mailbox.db");
+        TestDatabase(mailbox).Execute("UPDATE item SET saved = NULL");
+    }
+    EXPECT_THAT(Out({ "export", "--format", "ics" }), HasSubstr("\r\nDTSTAMP:20061010T090500Z\r\n"));
 }
 
 TEST_F(ExportCommandTest, Export_NewProfile_IsEmptyInEachFormat)

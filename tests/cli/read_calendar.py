@@ -7,7 +7,7 @@ import icalendar
 
 TEXTS = ("UID", "SUMMARY", "DESCRIPTION", "TRANSP", "X-TEMPODIAL-APPLICATION", "X-TEMPODIAL-DESCRIPTION",
          "X-TEMPODIAL-PEOPLE")
-MOMENTS = ("DTSTART", "DTEND", "DTSTAMP")
+MOMENTS = ("DTSTART", "DTEND", "DTSTAMP", "LAST-MODIFIED")
 
 
 def Event(component):
@@ -34,6 +34,7 @@ def Main(path):
     json.dump({
         "version": str(calendar["VERSION"]),
         "prodid": str(calendar["PRODID"]),
+        "name": str(calendar["X-WR-CALNAME"]),
         "errors": [error for component in calendar.walk() for error in component.errors],
         "findings": Findings(raw),
         "events": [Event(component) for component in calendar.walk("VEVENT")],
