@@ -32,6 +32,11 @@ std::string ProjectOf(const Ref<AppointmentItem>& activity)
     return property ? property->Value().ToText() : "";
 }
 
+std::int64_t NumberOf(const Ref<AppointmentItem>& activity)
+{
+    return activity.As<StoreItem>()->Number();
+}
+
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,
     const Period& days, const std::optional<std::string>& project)
 {
@@ -72,7 +77,7 @@ ShownText ActivityTable(const std::vector<Ref<AppointmentItem>>& activities, con
         for (; i < activities.size() && activities[i]->Start().Day() == day; ++i) {
             const auto& item = activities[i];
             const auto duration = item->Duration();
-            const auto number = numbers == Numbers::Shown ? "@" + std::to_string(item.As<StoreItem>()->Number()) + " " : "";
+            const auto number = numbers == Numbers::Shown ? "@" + std::to_string(NumberOf(item)) + " " : "";
             table.AddStyled({ { number + item->Start().HourMinute() + "–" + item->End().HourMinute(), {} },
                 { DurationText(duration), {} }, { item->Subject(), ProjectStyle(ProjectOf(item)) } });
             minutes += duration;

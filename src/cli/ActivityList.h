@@ -16,6 +16,9 @@ namespace tempodial {
 /// The project of an activity, empty when it has none.
 std::string ProjectOf(const Ref<AppointmentItem>& activity);
 
+/// The number by which people name an activity.
+std::int64_t NumberOf(const Ref<AppointmentItem>& activity);
+
 /// The activities of a work log that start in the range, in order of start; with a project only those of that project,
 /// whatever the case of its letters. Fails as the store does.
 std::vector<Ref<AppointmentItem>> ActivitiesIn(const Ref<MAPIFolder>& workLog, const Ref<LocaleFormats>& formats,

@@ -1,5 +1,6 @@
 #include "cli/ActivityCalendar.h"
 #include "cli/ActivityCsv.h"
+#include "cli/ActivityList.h"
 #include "cli/ActivityRecord.h"
 #include "cli/Commands.h"
 #include "cli/OutputFile.h"
@@ -106,7 +107,7 @@ private:
     {
         auto items = JsonValue::Array();
         for (const auto& activity : activities) {
-            items.Append(ItemJson(activity));
+            items.Append(ItemJson(NumberOf(activity), activity));
         }
         return items;
     }

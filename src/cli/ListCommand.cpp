@@ -41,7 +41,7 @@ public:
         Reply reply { .document = JsonValue::Array() };
         if (options.json) {
             for (const auto& activity : activities) {
-                reply.document.Append(ItemJson(activity));
+                reply.document.Append(ItemJson(NumberOf(activity), activity));
             }
         } else {
             reply.text = ActivityTable(activities, profile.Surroundings().formats, days, options.screen.isTerminal,

@@ -243,8 +243,7 @@ Ref<StoreItem> MailboxCommands::Item(const Request& request) const
 Json MailboxCommands::StoredJson(const Ref<StoreItem>& item) const
 {
     const auto& mailbox = mHost.Mailbox();
-    auto json = ItemJson(mailbox->NewItem(item->Parent(), mailbox->Stored(item))).Value();
-    json["id"] = item->Number();
+    auto json = ItemJson(item->Number(), mailbox->NewItem(item->Parent(), mailbox->Stored(item))).Value();
     json["entryId"] = item->EntryID();
     return json;
 }

@@ -1,6 +1,5 @@
 #include "terminal/ItemJson.h"
 
-#include "host/store/StoreItem.h"
 #include "terminal/Arguments.h"
 
 #include <array>
@@ -29,7 +28,7 @@ JsonValue ValueJson(const Variant& value)
 
 }
 
-JsonValue ItemJson(const Ref<AppointmentItem>& item)
+JsonValue ItemJson(std::int64_t number, const Ref<AppointmentItem>& item)
 {
     auto properties = JsonValue::Object();
     const auto userProperties = item->UserProperties();
@@ -40,13 +39,10 @@ JsonValue ItemJson(const Ref<AppointmentItem>& item)
             properties.Set(name, ValueJson(value));
         }
     }
-    const auto stored = item.As<StoreItem>();
-    const auto number = stored ? stored->Number() : 0;
-    return { { "id", number == 0 ? JsonValue() : JsonValue(number) }, { "entryId", item->EntryID() },
-        { "messageClass", item->MessageClass() }, { "subject", item->Subject() }, { "start", IsoMoment(item->Start()) },
-        { "end", IsoMoment(item->End()) }, { "duration", item->Duration() }, { "body", item->Body() },
-        { "mileage", item->Mileage() }, { "billingInformation", item->BillingInformation() },
-        { "properties", std::move(properties) } };
+    return { { "id", number }, { "entryId", item->EntryID() }, { "messageClass", item->MessageClass() },
+        { "subject", item->Subject() }, { "start", IsoMoment(item->Start()) }, { "end", IsoMoment(item->End()) },
+        { "duration", item->Duration() }, { "body", item->Body() }, { "mileage", item->Mileage() },
+        { "billingInformation", item->BillingInformation() }, { "properties", std::move(properties) } };
 }
 
 }

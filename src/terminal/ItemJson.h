@@ -3,10 +3,12 @@
 #include "platform/objectmodel/AppointmentItem.h"
 #include "terminal/JsonValue.h"
 
+#include <cstdint>
+
 namespace tempodial {
 
-/// An item as JSON: its number, null for one that isn't stored, its fields, and those of an activity's user properties
-/// that it has. Fails as the item does.
-JsonValue ItemJson(const Ref<AppointmentItem>& item);
+/// An item of that number as JSON: its fields, and those of an activity's user properties that it has. Fails as the
+/// item does.
+JsonValue ItemJson(std::int64_t number, const Ref<AppointmentItem>& item);
 
 }
