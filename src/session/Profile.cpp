@@ -12,6 +12,7 @@
 #include "session/MailboxEventPump.h"
 #include "session/ProfileError.h"
 #include "session/ProfilePlace.h"
+#include "session/Steps.h"
 
 #include <utility>
 
@@ -36,6 +37,7 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
 {
     mJournal = MakeRef<StoreImportJournal>(mMailbox);
     mPlatform.importJournal = mJournal;
+    Steps(*this).Recover();
 }
 
 Profile Profile::ForReading(

@@ -244,6 +244,21 @@ void TomlRegistry::Together(const std::function<void()>& work)
     Release();
 }
 
+void TomlRegistry::AllOrNothing(const std::function<void()>& work)
+{
+    mIsHolding = true;
+    try {
+        work();
+    } catch (...) {
+        mIsHolding = false;
+        if (auto saved = std::exchange(mSaved, nullptr)) {
+            mTables = std::move(saved);
+        }
+        throw;
+    }
+    Release();
+}
+
 void TomlRegistry::Take(std::unique_ptr<Tables> changed)
 {
     if (!mIsHolding) {

@@ -46,6 +46,9 @@ public:
     /// Does work whose changes reach the file together, when it has ended in whatever way; that fails as `Write` does,
     /// and then none of them was made.
     void Together(const std::function<void()>& work);
+    /// Does work whose changes reach the file together when it has ended well, and are dropped when it fails; that
+    /// fails as `Write` does, and then none of them was made.
+    void AllOrNothing(const std::function<void()>& work);
 
 private:
     class Tables;

@@ -176,6 +176,33 @@ TEST_F(TomlRegistryTest, Together_WorkFails_KeepsWhatWasWritten)
     EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
 }
 
+TEST_F(TomlRegistryTest, AllOrNothing_WorkFails_DropsWhatWasWritten)
+{
+    auto registry = Open();
+    registry.Write(User, Key, "a", "old");
+    const auto work = [&] {
+        registry.Write(User, Key, "a", "new");
+        registry.Write(User, Key, "b", "new");
+        throw Failure(Error::InvalidCall);
+    };
+    EXPECT_EQ(FailureNumber([&] { registry.AllOrNothing(work); }), 5);
+    EXPECT_EQ(registry.Get(User, Key, "a"), Variant("old"));
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("old"));
+    EXPECT_TRUE(Reopened(User, Key, "b").IsEmpty());
+    registry.Write(User, Key, "b", "c");
+    EXPECT_EQ(Reopened(User, Key, "b"), Variant("c"));
+}
+
+TEST_F(TomlRegistryTest, AllOrNothing_WorkGoesWell_ReachesTheFileTogether)
+{
+    auto registry = Open();
+    registry.AllOrNothing([&] {
+        registry.Write(User, Key, "a", "b");
+        EXPECT_TRUE(Reopened(User, Key, "a").IsEmpty());
+    });
+    EXPECT_EQ(Reopened(User, Key, "a"), Variant("b"));
+}
+
 TEST_F(TomlRegistryTest, Together_NothingChanged_TouchesNoFile)
 {
     auto registry = Open();

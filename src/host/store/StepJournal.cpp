@@ -1,0 +1,130 @@
+#include "host/store/StepJournal.h"
+
+#include "host/store/Mailbox.h"
+#include "host/store/MailboxDatabase.h"
+#include "host/store/MailboxStore.h"
+#include "host/store/StoreItem.h"
+
+#include <utility>
+
+namespace tempodial {
+
+StepJournal::StepJournal(const Ref<Mailbox>& mailbox)
+    : mStore(mailbox->Store())
+    , mTable(mStore->Database())
+{
+}
+
+StepJournal::~StepJournal()
+{
+    Abandon();
+}
+
+void StepJournal::Begin(Date moment, const std::string& command, RulesReader rules)
+{
+    if (mStore->Database().IsHolding()) {
+        return;
+    }
+    mStore->Database().Hold();
+    mStep = Step { .moment = moment, .command = command, .rulesBefore = rules() };
+    mRules = std::move(rules);
+    mStore->SetCommit([this] { End(); });
+    mStore->Table().SetWatcher([this](std::int64_t item) { Keep(item); });
+}
+
+void StepJournal::End()
+{
+    if (!mStep) {
+        return;
+    }
+    auto& database = mStore->Database();
+    try {
+        database.CheckWhole();
+        mStep->rulesAfter = mRules();
+        if (mStep->rulesAfter == mStep->rulesBefore) {
+            mStep->rulesBefore.reset();
+            mStep->rulesAfter.reset();
+        } else if (mStep->number == 0) {
+            mStep->number = mTable.Begin(mStep->moment, mStep->command);
+        }
+        if (mStep->number != 0 && mTable.End(*mStep)) {
+            mTable.RemoveBefore(FirstKept(mStep->moment));
+        }
+        database.CommitHeld();
+    } catch (...) {
+        Abandon();
+        throw;
+    }
+    mStore->Committed();
+    Stop();
+}
+
+void StepJournal::Abandon()
+{
+    if (!mStep) {
+        return;
+    }
+    if (mStore->Database().IsHolding()) {
+        mStore->Database().DropHeld();
+    }
+    mStore->Database().Recover();
+    Stop();
+}
+
+StepItems StepJournal::TakeBack(const Step& step, Date saved)
+{
+    const auto items = mTable.Restorable(step.number);
+    if (mStep->number == 0) {
+        mStep->number = mTable.Begin(mStep->moment, mStep->command);
+    }
+    mStep->undoes = step.number;
+    mTable.Restore(step.number, mStep->number, saved);
+    mTable.SetTakenBack(step, true);
+    auto& table = mStore->Table();
+    table.RetireRows();
+    table.NoteChange();
+    for (const auto row : mTable.ItemsOf(mStep->number)) {
+        if (const auto item = mStore->Live(row)) {
+            mStore->Refresh(*item);
+        }
+    }
+    return items;
+}
+
+void StepJournal::NoteRulesReached()
+{
+    auto& database = mStore->Database();
+    const auto step = mTable.WithRulesDue();
+    if (!step) {
+        return;
+    }
+    database.Execute("PRAGMA synchronous = NORMAL");
+    mTable.NoteRulesReached(step->number);
+    database.Execute("PRAGMA synchronous = FULL");
+}
+
+Date StepJournal::FirstKept(Date now)
+{
+    return now.AddDays(-DaysKept);
+}
+
+void StepJournal::Keep(std::int64_t item)
+{
+    if (!mItems.insert(item).second) {
+        return;
+    }
+    if (mStep->number == 0) {
+        mStep->number = mTable.Begin(mStep->moment, mStep->command);
+    }
+    mTable.Keep(mStep->number, item);
+}
+
+void StepJournal::Stop()
+{
+    mStep.reset();
+    mItems.clear();
+    mStore->SetCommit({});
+    mStore->Table().SetWatcher({});
+}
+
+}
