@@ -7,6 +7,7 @@
 #include "forms/ComboBoxModel.h"
 #include "forms/OptionButtonModel.h"
 #include "forms/TextBoxModel.h"
+#include "session/FormClick.h"
 
 #include <nlohmann/json.hpp>
 
@@ -106,7 +107,7 @@ Json FormCommands::Click(const Request& request)
     if (!button) {
         RefuseKind(request, "button");
     }
-    button->Click();
+    ClickButton(mHost.Profile(), *Form(request), *button);
     return Json::object();
 }
 

@@ -1,3 +1,4 @@
+#include "session/Steps.h"
 #include "support/DriverFixture.h"
 
 namespace tempodial {
@@ -163,6 +164,27 @@ TEST_F(WindowCommandsTest, ExplorerSelect_Items_AreSelected)
     EXPECT_EQ(Do({ { "do", "items" } }).at("items")[0].at("properties").at("Project"), "Plan");
     EXPECT_THAT(
         Refused({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { "x" } } }), HasSubstr("no item"));
+}
+
+TEST_F(WindowCommandsTest, SetProjectDialog_ProjectsOfAPerson_AreAStep)
+{
+    const auto id = Activity();
+    Do({ { "do", "explorer.folder" }, { "explorer", 1 }, { "folder", LogPath } });
+    Do({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { id } } });
+    Do({ { "do", "command" }, { "explorer", 1 }, { "bar", "Menu Bar" },
+        { "path", { "&Tempodial", "Set Project for &Activities..." } } });
+    Do({ { "do", "form.type" }, { "form", "SetProjectForm" }, { "control", "ProjectComboBox" }, { "text", "Plan" } });
+    Do({ { "do", "form.click" }, { "form", "SetProjectForm" }, { "control", "Command1" } });
+    const auto& host = mDriver->Host();
+    EXPECT_TRUE(host.Mailbox()->ItemById(id)->IsProjectByHand());
+    Steps steps(host.Profile());
+    const auto newest = steps.Newest(10);
+    ASSERT_EQ(newest.size(), 1U);
+    EXPECT_EQ(newest[0].command, "Set Project For Selected Activities");
+    EXPECT_EQ(newest[0].items, 1);
+    steps.Undo(std::nullopt, "undo");
+    EXPECT_FALSE(host.Mailbox()->ItemById(id)->IsProjectByHand());
+    EXPECT_NE(Do({ { "do", "items" } }).at("items")[0].at("properties").at("Project"), "Plan");
 }
 
 TEST_F(WindowCommandsTest, InspectorOpen_Activity_ShowsItsPageAndToolbar)
