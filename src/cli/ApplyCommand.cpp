@@ -2,6 +2,7 @@
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
 #include "cli/KnownProject.h"
+#include "cli/ProjectChanges.h"
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
@@ -40,9 +41,9 @@ public:
         const auto today = run.Host().clock->Now().Day();
         const ProjectChanges changes(run.Profile(), { today.AddDays(1 - days), today });
         if (!Interruption::IsRequested()) {
-            run.AddIn().ApplyProject(name, days);
+            run.AsStep([&] { run.AddIn().ApplyProject(name, days); });
         }
-        return run.ConcludedWithChanges(changes);
+        return run.ConcludedWithChanges(changes.Count());
     }
 
 private:

@@ -1,12 +1,17 @@
-#include "cli/CommandError.h"
 #include "cli/Commands.h"
-#include "cli/ConnectedRun.h"
-#include "cli/KnownProject.h"
+#include "cli/Correction.h"
+#include "cli/GivenProject.h"
 #include "cli/ProjectNames.h"
+#include "host/store/ActivityRows.h"
+#include "host/system/HostClock.h"
 #include "session/ProductFacts.h"
+#include "session/WorkLogFolder.h"
 #include "terminal/Arguments.h"
-#include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace tempodial {
 
@@ -16,56 +21,111 @@ class AssignCommand final : public Command
 {
 public:
     AssignCommand()
-        : Command({ "assign", "Set a project on the activities of a span of time",
-            "Sets the project on the activities that start in the span, the first moment\n"
-            "included and the last one not, whatever the rules say. A project that there\n"
-            "isn't yet comes into being. Activities that have a project keep it, unless\n"
-            "--overwrite is given; \"No Project\" takes it from them.\n"
+        : Command({ "assign", "Set a project on single activities or a span of time",
+            "Sets the project on the activities of those numbers, or on those that start in\n"
+            "the span, the first moment included and the last one not, whatever the rules\n"
+            "say. A project that there isn't yet comes into being. Activities that have a\n"
+            "project keep it, unless --overwrite is given; \"No Project\" takes it from them.\n"
+            "A time HH:MM is of today.\n"
             "\n"
+            "  tempodial assign Riverside @12 @13\n"
             "  tempodial assign Riverside --from 2006-10-10T09:00 --to 2006-10-10T12:30\n"
-            "  tempodial assign \"No Project\" --from 2006-10-10T09:00 --to 2006-10-10T12:30 \\\n"
-            "    --overwrite" })
+            "  tempodial assign \"No Project\" --from 09:00 --to 12:30 --overwrite" })
     {
     }
 
     void Declare(ArgumentList& arguments) override
     {
         arguments.Required("NAME", mName, "The project");
-        arguments.Required("--from YYYY-MM-DDTHH:MM", mFrom, "The first moment");
-        arguments.Required("--to YYYY-MM-DDTHH:MM", mTo, "The moment behind the last");
+        arguments.Rest("@N", mNumbers, "The activities");
+        arguments.Optional("--from TIME", mFrom, "The first moment: YYYY-MM-DDTHH:MM or HH:MM");
+        arguments.Optional("--to TIME", mTo, "The moment behind the last");
+        arguments.Flag("--touching", mIsTouching, "Take what merely overlaps the span as well");
         arguments.Flag("--overwrite", mOverwrite, "Also change activities that have a project");
     }
 
     Reply Run(const Options& options) override
     {
         RequireProjectName(mName);
-        const auto from = ToMoment("--from", mFrom);
-        const auto to = ToMoment("--to", mTo);
-        if (from >= to) {
-            throw UsageError(
-                "--from " + mFrom + " isn't earlier than --to " + mTo + ": give the earlier moment as --from");
+        const auto numbers = Correction::Numbers(mNumbers);
+        const auto today = HostClock(options.now).Now().Day();
+        const auto span = numbers.empty() ? std::optional(Span(today)) : std::nullopt;
+        if (!span && (mFrom || mTo || mIsTouching)) {
+            throw UsageError("activities and a span can't both be given: leave out --from, --to and --touching, or "
+                + mNumbers.front());
         }
-        ConnectedRun run(options);
-        auto& addIn = run.AddIn();
-        const auto name = KnownProject::NameOrNew(addIn, mName);
-        if (const auto refusal = addIn.ValidateProject(name); !IsNoProject(name) && !refusal.empty()) {
-            throw CommandError(refusal);
+        Correction correction(options);
+        const auto activities = span ? std::vector<Ref<StoreItem>>() : correction.Activities(numbers);
+        const GivenProject project(correction.AddIn(), mName);
+        const auto workLog = WorkLogOf(correction.Run().Profile());
+        const ActivityRows rows(correction.Run().Profile().Mailbox(), workLog, ActivityClass);
+        std::vector<ActivityRow> former;
+        for (const auto& activity : activities) {
+            former.push_back(rows.Numbered(activity->Number()).value());
         }
-        const bool wasListed = KnownProject::IsListed(addIn, name);
-        const ProjectChanges changes(run.Profile(), { from.Day(), to.Day() });
-        addIn.SetProjectForItems(name, false, true, from, to, mOverwrite);
-        const bool isNew = !wasListed && KnownProject::IsListed(addIn, name);
-        auto reply = run.ConcludedWithChanges(changes);
-        if (isNew) {
-            reply.notes.push_back("Added: the project " + IsolatedLine(name));
+        if (span) {
+            former = mIsTouching ? rows.Overlapping(span->from, span->to) : rows.StartingIn(span->from, span->to);
         }
+        correction.Run().AsStep(
+            [&] { correction.Choosing(true, [&] { Assign(correction, project.Name(), span, activities, former); }); });
+        Reply noted;
+        project.NoteIfAdded(noted);
+        auto reply = correction.Run().ConcludedWithChanges(
+            static_cast<std::size_t>(std::count_if(former.begin(), former.end(), [&](const ActivityRow& row) {
+                const auto now = rows.Numbered(row.number);
+                return now && now->project != row.project;
+            })));
+        reply.notes = std::move(noted.notes);
         return reply;
     }
 
 private:
+    struct Moments
+    {
+        Date from;
+        Date to;
+    };
+
+    Moments Span(Date today) const
+    {
+        if (mFrom.has_value() != mTo.has_value()) {
+            throw UsageError(std::string(mFrom ? "--to" : "--from") + " is required: give both ends of the span");
+        }
+        if (!mFrom) {
+            throw UsageError("no activities are named: give their numbers, such as @12, or --from and --to");
+        }
+        const Moments span { ToMomentOn(today, "--from", *mFrom), ToMomentOn(today, "--to", *mTo) };
+        if (span.from >= span.to) {
+            throw UsageError(
+                "--from " + *mFrom + " isn't earlier than --to " + *mTo + ": give the earlier moment as --from");
+        }
+        return span;
+    }
+
+    void Assign(const Correction& correction, const std::string& project, const std::optional<Moments>& span,
+        const std::vector<Ref<StoreItem>>& activities, const std::vector<ActivityRow>& rows) const
+    {
+        auto& addIn = correction.AddIn();
+        if (span && !mIsTouching) {
+            addIn.SetProjectForItems(project, false, true, span->from, span->to, mOverwrite);
+            return;
+        }
+        std::vector<Ref<OutlookItem>> selected(activities.begin(), activities.end());
+        if (span) {
+            const auto& mailbox = correction.Run().Profile().Mailbox();
+            for (const auto& row : rows) {
+                selected.emplace_back(mailbox->ItemById(row.entryId));
+            }
+        }
+        correction.Run().Select(std::move(selected));
+        addIn.SetProjectForItems(project, true, false, {}, {}, mOverwrite);
+    }
+
     std::string mName;
-    std::string mFrom;
-    std::string mTo;
+    std::vector<std::string> mNumbers;
+    std::optional<std::string> mFrom;
+    std::optional<std::string> mTo;
+    bool mIsTouching = false;
     bool mOverwrite = false;
 };
 

@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/ReplyPrinter.h"
+#include "cli/TypedCommand.h"
 #include "terminal/Arguments.h"
 #include "terminal/ProgramRun.h"
 #include "terminal/TerminalText.h"
@@ -104,7 +105,8 @@ ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
         options.screen = mScreen;
         return Print({ .text = help.str() }, options);
     }
-    const auto options = ReadOptions();
+    auto options = ReadOptions();
+    options.command = TypedCommand(arguments);
     return Print(Chosen().Run(options), options);
 }
 

@@ -1,10 +1,12 @@
 #include "cli/ConnectedRun.h"
 
+#include "base/Failure.h"
 #include "cli/CommandLineEventPump.h"
 #include "cli/Interruption.h"
 #include "cli/ProgressLine.h"
 #include "faults/ProblemRecorder.h"
 #include "faults/Wrapped.h"
+#include "session/Steps.h"
 #include "terminal/Screen.h"
 #include "terminal/TerminalText.h"
 
@@ -26,7 +28,8 @@ std::unique_ptr<ProgressLine> TerminalLine()
 }
 
 ConnectedRun::ConnectedRun(const Options& options)
-    : mSession(options)
+    : mCommand(options.command)
+    , mSession(options)
 {
     mSession.Start(Surroundings(options));
     mSession.Mailbox()->MarkStatistics();
@@ -57,6 +60,23 @@ MailDraft ConnectedRun::TakeShownMail() const
     return mail->TakeDraft();
 }
 
+void ConnectedRun::AsStep(const std::function<void()>& work)
+{
+    try {
+        Steps(Profile()).Record(mCommand, work);
+    } catch (const Failure&) {
+        // What couldn't be saved is told by its activities.
+        if (Saves().failed.empty()) {
+            throw;
+        }
+    }
+}
+
+void ConnectedRun::Select(std::vector<Ref<OutlookItem>> items) const
+{
+    mSession.Windows().OpenExplorers().front()->Select(std::move(items));
+}
+
 Reply ConnectedRun::Concluded(Reply reply)
 {
     for (const auto& save : Saves().failed) {
@@ -76,9 +96,8 @@ Reply ConnectedRun::Concluded(Reply reply)
     return reply;
 }
 
-Reply ConnectedRun::ConcludedWithChanges(const ProjectChanges& changes)
+Reply ConnectedRun::ConcludedWithChanges(std::size_t changed)
 {
-    const auto changed = changes.Count();
     Reply reply;
     reply.document.Set("changed", changed);
     reply.summary = std::to_string(changed) + (changed == 1 ? " activity changed\n" : " activities changed\n");

@@ -2,7 +2,6 @@
 
 #include "cli/Options.h"
 #include "cli/PrintingMessageBox.h"
-#include "cli/ProjectChanges.h"
 #include "cli/Reply.h"
 #include "engine/core/TempodialMain.h"
 #include "faults/Problems.h"
@@ -12,6 +11,8 @@
 #include "session/OpenProfile.h"
 #include "session/Session.h"
 
+#include <cstddef>
+#include <functional>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -56,14 +57,19 @@ public:
     void Complain(const std::string& message) { mProblems->Note(message); }
     /// True when something went wrong with the file of that path.
     bool HasProblemWith(const std::string& path) const { return mProblems->HasOneWith(path); }
+    /// Does work as one step of the log, by the name of the command. A failure undoes all of it and goes wrong.
+    void AsStep(const std::function<void()>& work);
+    /// Selects items in the window, as a person does.
+    void Select(std::vector<Ref<OutlookItem>> items) const;
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.
     Reply Concluded(Reply reply);
     /// The same for a reply that tells how many activities came to another project.
-    Reply ConcludedWithChanges(const ProjectChanges& changes);
+    Reply ConcludedWithChanges(std::size_t changed);
 
 private:
     Platform Surroundings(const Options& options) const;
 
+    std::string mCommand;
     Session mSession;
     Ref<Problems> mProblems = MakeRef<Problems>();
     Ref<PrintingMessageBox> mMessageBox = MakeRef<PrintingMessageBox>(std::cerr);

@@ -4,6 +4,8 @@
 #include "session/ProfileOptions.h"
 #include "terminal/Screen.h"
 
+#include <string>
+
 namespace tempodial {
 
 /// The options of every command.
@@ -17,6 +19,8 @@ struct Options : ProfileOptions
     Screen screen;
     /// How texts for people are laid out there.
     TextLayout layout;
+    /// The command as it was typed, as the log of steps shows it.
+    std::string command;
 };
 
 }

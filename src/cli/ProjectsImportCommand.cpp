@@ -52,7 +52,7 @@ public:
         }
         Reply reply { .document = JsonValue::Array() };
         // All of them reach the registry together or not at all.
-        run.Profile().Registry()->Together([&] {
+        run.AsStep([&] {
             for (const auto& project : projects) {
                 addIn.UpdateorAddProject(
                     project.name, project.subject, project.notSubject, project.people, project.precedence, false);

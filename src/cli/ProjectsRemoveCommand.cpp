@@ -24,7 +24,7 @@ public:
     {
         ConnectedRun run(options);
         const auto name = KnownProject::NameOf(run.AddIn(), mName);
-        run.AddIn().DeleteProject(name);
+        run.AsStep([&] { run.AddIn().DeleteProject(name); });
         Reply reply;
         reply.document.Set("removed", name);
         reply.summary = "The project " + IsolatedLine(name) + " is removed.\n";

@@ -74,7 +74,7 @@ public:
         project.notSubject = mNotSubject.value_or(project.notSubject);
         project.people = mPeople.value_or(project.people);
         project.precedence = precedence.value_or(project.precedence);
-        auto reply = mIsPreview ? Preview(run, project, span, options) : Set(addIn, project);
+        auto reply = mIsPreview ? Preview(run, project, span, options) : Set(run, project);
         WarnOfSemicolons(project.subject, mSubject || !mAdded.empty() || !mRemoved.empty(), reply);
         WarnOfSemicolons(project.notSubject, mNotSubject.has_value(), reply);
         return run.Concluded(std::move(reply));
@@ -105,10 +105,14 @@ private:
         return terms.Rule();
     }
 
-    static Reply Set(TempodialMain& addIn, const KnownProject& project)
+    static Reply Set(ConnectedRun& run, const KnownProject& project)
     {
-        const auto refusal = addIn.UpdateorAddProject(
-            project.name, project.subject, project.notSubject, project.people, project.precedence, false);
+        auto& addIn = run.AddIn();
+        std::string refusal;
+        run.AsStep([&] {
+            refusal = addIn.UpdateorAddProject(
+                project.name, project.subject, project.notSubject, project.people, project.precedence, false);
+        });
         if (!refusal.empty()) {
             throw CommandError(refusal);
         }

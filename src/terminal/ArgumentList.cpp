@@ -55,6 +55,16 @@ void ArgumentList::Repeated(const std::string& form, std::vector<std::string>& v
     Declared(form, [&](const std::string& name) { return mApp.add_option(name, take, help); }).take_all();
 }
 
+void ArgumentList::RequiredRest(const std::string& form, std::vector<std::string>& values, const std::string& help)
+{
+    Single(mApp, form, values, help).required();
+}
+
+void ArgumentList::Rest(const std::string& form, std::vector<std::string>& values, const std::string& help)
+{
+    Single(mApp, form, values, help);
+}
+
 void ArgumentList::Flag(const std::string& name, bool& value, const std::string& help)
 {
     mApp.add_flag(name, value, help);

@@ -29,6 +29,10 @@ public:
     void Optional(const std::string& form, std::optional<std::string>& value, const std::string& help);
     /// An option that may be given several times, each time with one value, which is taken as it is.
     void Repeated(const std::string& form, std::vector<std::string>& values, const std::string& help);
+    /// Arguments that are told by their place, as many as are given behind those declared before; at least one.
+    void RequiredRest(const std::string& form, std::vector<std::string>& values, const std::string& help);
+    /// The same, or none.
+    void Rest(const std::string& form, std::vector<std::string>& values, const std::string& help);
     /// An option without a value.
     void Flag(const std::string& name, bool& value, const std::string& help);
 

@@ -13,6 +13,7 @@ namespace tempodial {
 
 namespace {
 
+constexpr std::string_view TimeForm = "00:00";
 constexpr std::string_view MomentForm = "0000-00-00T00:00";
 constexpr std::string_view MomentWithSecondsForm = "0000-00-00T00:00:00";
 
@@ -68,6 +69,16 @@ Date ToMoment(std::string_view name, std::string_view text)
     const auto moment = Read(text, MomentForm);
     if (!moment) {
         Refuse(name, text, "give a moment as YYYY-MM-DDTHH:MM, such as 2006-10-10T09:05");
+    }
+    return *moment;
+}
+
+Date ToMomentOn(Date day, std::string_view name, std::string_view text)
+{
+    const auto moment
+        = Read(Fits(text, TimeForm) ? IsoDay(day) + "T" + std::string(text) : std::string(text), MomentForm);
+    if (!moment) {
+        Refuse(name, text, "give a moment as YYYY-MM-DDTHH:MM, such as 2006-10-10T09:05, or a time as HH:MM");
     }
     return *moment;
 }

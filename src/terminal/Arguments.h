@@ -15,6 +15,8 @@ namespace tempodial {
 
 /// A moment `YYYY-MM-DDTHH:MM`.
 Date ToMoment(std::string_view name, std::string_view text);
+/// A moment `YYYY-MM-DDTHH:MM`, or a time `HH:MM` of a day.
+Date ToMomentOn(Date day, std::string_view name, std::string_view text);
 /// A moment `YYYY-MM-DDTHH:MM:SS`.
 Date ToMomentWithSeconds(std::string_view name, std::string_view text);
 /// A whole number between two bounds, both included.

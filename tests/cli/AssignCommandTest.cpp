@@ -47,6 +47,39 @@ TEST_F(AssignCommandTest, Assign_Span_TakesItsBeginAndNotItsEnd)
     EXPECT_EQ(Json(Assign("Plan", "09T09:00", "10T09:10")), Changed(0));
 }
 
+TEST_F(AssignCommandTest, Assign_Numbers_TakesThoseWithoutAProject)
+{
+    EXPECT_EQ(Run({ "assign", "Plan", "@1", "@2", "@1" }).out, "1 activity changed\n");
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Other", "No Project"));
+    EXPECT_EQ(Json({ "assign", "plan", "@2", "@3", "--overwrite" }), Changed(2));
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Plan", "Plan"));
+    EXPECT_EQ(Json({ "assign", "no project", "@3", "--overwrite" }), Changed(1));
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Plan", "No Project"));
+}
+
+TEST_F(AssignCommandTest, Assign_Touching_TakesWhatOverlaps)
+{
+    EXPECT_EQ(Run({ "assign", "Plan", "--from", "09:04", "--to", "09:10" }).out, "0 activities changed\n");
+    EXPECT_EQ(Run({ "assign", "Plan", "--from", "09:04", "--to", "09:10", "--touching" }).out, "1 activity changed\n");
+    EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Other", "No Project"));
+    EXPECT_EQ(Json({ "assign", "Plan", "--from", "09:05", "--to", "09:10", "--touching", "--overwrite" }), Changed(1));
+    EXPECT_EQ(Json({ "assign", "Other", "--from", "2006-10-01T00:00", "--to", "2006-10-09T09:01", "--touching" }),
+        Changed(1));
+    EXPECT_EQ(Json({ "assign", "Other", "--from", "11:00", "--to", "12:00", "--touching" }), Changed(0));
+}
+
+TEST_F(AssignCommandTest, Assign_NumbersAndSpans_AreNotMixed)
+{
+    EXPECT_THAT(Refusal({ "assign", "Plan", "@1", "--from", "09:00", "--to", "10:00" }, 2), HasSubstr("can't both"));
+    Refusal({ "assign", "Plan", "@1", "--touching" }, 2);
+    Refusal({ "assign", "Plan", "@1", "--to", "10:00" }, 2);
+    Refusal({ "assign", "Plan", "1" }, 2);
+    EXPECT_THAT(Refusal({ "assign", "Plan" }, 2), HasSubstr("no activities are named"));
+    Refusal({ "assign", "Plan", "--from", "09:00" }, 2);
+    EXPECT_THAT(Refusal({ "assign", "Plan", "@1", "@99" }, 1), HasSubstr("there is no activity @99"));
+    EXPECT_EQ(Json({ "projects" }).size(), 5U) << "nothing came into being";
+}
+
 TEST_F(AssignCommandTest, Assign_Overwrite_ChangesThoseThatHaveAProject)
 {
     auto arguments = Assign("Plan", "10T09:00", "10T23:59");

@@ -28,6 +28,17 @@ TEST(ArgumentsTest, ToMoment_OtherText_IsRefused)
     }
 }
 
+TEST(ArgumentsTest, ToMomentOn_MomentOrTime_IsRead)
+{
+    const auto day = Date::FromYearMonthDay(2006, 10, 10);
+    EXPECT_EQ(ToMomentOn(day, "--at", "23:59"), Date::FromParts({ 2006, 10, 10, 23, 59, 0 }));
+    EXPECT_EQ(ToMomentOn(day.AddMinutes(90), "--at", "00:00"), day);
+    EXPECT_EQ(ToMomentOn(day, "--at", "2006-10-09T10:00"), Date::FromParts({ 2006, 10, 9, 10, 0, 0 }));
+    for (const auto* text : { "", "24:00", "9:00", "09:60", "09:00:00", "today", "2006-10-10" }) {
+        EXPECT_THROW(ToMomentOn(day, "--at", text), UsageError) << text;
+    }
+}
+
 TEST(ArgumentsTest, ToMomentWithSeconds_Moment_IsRead)
 {
     EXPECT_EQ(ToMomentWithSeconds("--now", "2006-10-10T09:05:59"), Date::FromParts({ 2006, 10, 10, 9, 5, 59 }));

@@ -1,5 +1,6 @@
 #include "host/store/StepJournal.h"
 
+#include "host/store/Query.h"
 #include "host/store/StoreImportJournal.h"
 #include "support/FailureNumber.h"
 #include "support/TestDatabase.h"

@@ -1,0 +1,69 @@
+#include "cli/Commands.h"
+#include "session/OpenProfile.h"
+#include "session/Steps.h"
+#include "terminal/Arguments.h"
+#include "terminal/TerminalText.h"
+
+#include <limits>
+#include <optional>
+
+namespace tempodial {
+
+namespace {
+
+class UndoCommand final : public Command
+{
+public:
+    UndoCommand()
+        : Command({ "undo", "Take a step back",
+            "Takes back the last step that changed the log or the projects, or step N of\n"
+            "\"log\". Activities that were changed again since stay as they are and are\n"
+            "counted. An undo is a step too: its number takes it back.\n"
+            "\n"
+            "  tempodial undo\n"
+            "  tempodial undo 12 --preview" })
+    {
+    }
+
+    void Declare(ArgumentList& arguments) override
+    {
+        arguments.Optional("N", mNumber, "The step; default the last one");
+        arguments.Flag("--preview", mIsPreview, "Only tell what would be taken back");
+    }
+
+    Reply Run(const Options& options) override
+    {
+        const auto number = mNumber
+            ? std::optional<std::int64_t>(ToCount("N", *mNumber, 1, std::numeric_limits<std::int32_t>::max()))
+            : std::nullopt;
+        const auto profile = OpenProfile(options);
+        Steps steps(profile);
+        const auto undone = mIsPreview ? steps.Preview(number) : steps.Undo(number, options.command);
+        Reply reply;
+        reply.document = { { "step", undone.step.number }, { "command", undone.step.command },
+            { "restored", undone.items.restored }, { "kept", undone.items.kept } };
+        reply.summary = (mIsPreview ? "Would take back step " : "Taken back: step ")
+            + std::to_string(undone.step.number) + ", " + IsolatedLine(undone.step.command) + "\n"
+            + Count(undone.items.restored) + " restored"
+            + (undone.items.kept == 0 ? "" : ", " + Count(undone.items.kept) + " changed since and kept") + "\n";
+        return reply;
+    }
+
+private:
+    static std::string Count(std::int64_t activities)
+    {
+        return std::to_string(activities) + (activities == 1 ? " activity" : " activities");
+    }
+
+    std::optional<std::string> mNumber;
+    bool mIsPreview = false;
+};
+
+}
+
+std::unique_ptr<Command> MakeUndoCommand()
+{
+    return std::make_unique<UndoCommand>();
+}
+
+}
