@@ -1,35 +1,34 @@
 #include "cli/ProjectChanges.h"
 
-#include "cli/ActivityList.h"
+#include "review/ActivityReader.h"
 
-#include <algorithm>
-#include <optional>
+#include <cstdint>
+#include <string>
+#include <unordered_map>
 
 namespace tempodial {
 
 ProjectChanges::ProjectChanges(const Profile& profile, const Period& days)
     : mProfile(profile)
     , mDays(days)
-    , mFormer(Projects())
+    , mFormer(ActivitiesStartingIn(profile, days))
 {
 }
 
-std::size_t ProjectChanges::Count() const
+ProjectMoves ProjectChanges::Moves() const
 {
-    const auto projects = Projects();
-    return static_cast<std::size_t>(std::count_if(projects.begin(), projects.end(), [this](const auto& entry) {
-        const auto former = mFormer.find(entry.first);
-        return former != mFormer.end() && former->second != entry.second;
-    }));
-}
-
-std::unordered_map<std::string, std::string> ProjectChanges::Projects() const
-{
-    std::unordered_map<std::string, std::string> projects;
-    for (const auto& activity : ActivitiesOf(mProfile, mDays, std::nullopt)) {
-        projects.emplace(activity->EntryID(), ProjectOf(activity));
+    std::unordered_map<std::int64_t, std::string> projects;
+    for (const auto& activity : ActivitiesStartingIn(mProfile, mDays)) {
+        projects.emplace(activity.number, ProjectNameOf(activity));
     }
-    return projects;
+    ProjectMoves moves;
+    for (const auto& activity : mFormer) {
+        const auto now = projects.find(activity.number);
+        if (now != projects.end() && now->second != ProjectNameOf(activity)) {
+            moves.Add(ProjectNameOf(activity), now->second, activity.duration);
+        }
+    }
+    return moves;
 }
 
 }

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "review/Activity.h"
 #include "review/Period.h"
+#include "review/ProjectMoves.h"
 #include "session/Profile.h"
 
 #include <cstddef>
-#include <string>
-#include <unordered_map>
+#include <vector>
 
 namespace tempodial {
 
@@ -17,15 +18,14 @@ public:
     ProjectChanges(const Profile& profile, const Period& days);
 
     /// The activities whose project is now another. Fails as the store does.
-    std::size_t Count() const;
+    std::size_t Count() const { return static_cast<std::size_t>(Moves().Activities()); }
+    /// The same, counted by the projects. Fails as the store does.
+    ProjectMoves Moves() const;
 
 private:
-    /// The projects of the activities, by the activities' identities.
-    std::unordered_map<std::string, std::string> Projects() const;
-
     const Profile& mProfile;
     Period mDays;
-    std::unordered_map<std::string, std::string> mFormer;
+    std::vector<Activity> mFormer;
 };
 
 }

@@ -2,8 +2,8 @@
 
 #include "base/Text.h"
 #include "base/Utf8.h"
-#include "cli/ActivityList.h"
 #include "engine/core/ProjectFacts.h"
+#include "review/ActivityReader.h"
 #include "session/ProductFacts.h"
 #include "terminal/NearestName.h"
 #include "terminal/TerminalText.h"
@@ -11,8 +11,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
-#include <optional>
 #include <string_view>
 
 namespace tempodial {
@@ -35,11 +33,10 @@ bool IsBlank(char32_t character)
 /// The projects that the profile's activities have, each once for each activity.
 std::vector<std::string> ProjectsOfActivities(const Profile& profile)
 {
-    const Period allDays { Date::FromYearMonthDay(100, 1, 1), Date::FromYearMonthDay(9999, 12, 31) };
-    const auto activities = ActivitiesOf(profile, allDays, std::nullopt);
     std::vector<std::string> projects;
-    projects.reserve(activities.size());
-    std::transform(activities.begin(), activities.end(), std::back_inserter(projects), ProjectOf);
+    for (const auto& activity : ActivitiesStartingIn(profile, Period::Always())) {
+        projects.push_back(activity.project);
+    }
     return projects;
 }
 

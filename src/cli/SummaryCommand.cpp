@@ -71,8 +71,8 @@ public:
         const auto kind = ToValue<RowKind>("--rows", mRows, { "project", "application", "description" });
         const auto size = ToValue<ColumnSize>("--columns", mColumns, { "day", "week", "month", "none" });
         mProjects.RequireUsable();
-        RequireFewDays(days, size);
         const auto columns = ColumnsOf(days, size, PeriodArguments::WeekStart(options));
+        RequireFew(columns);
         const auto profile = ReadProfile(options);
         auto activities = ActivitiesStartingIn(profile, days);
         mProjects.Choose(profile, activities);
@@ -93,12 +93,12 @@ public:
     }
 
 private:
-    static void RequireFewDays(const Period& days, ColumnSize size)
+    static void RequireFew(const std::vector<Period>& columns)
     {
-        constexpr std::int32_t MostColumns = 40'000;
-        if (size == ColumnSize::Day && DaysBetween(days.first, days.last) >= MostColumns) {
-            throw UsageError("a table can't have a column for each of more than " + std::to_string(MostColumns)
-                + " days: give fewer days, or --columns month or none");
+        constexpr std::size_t MostColumns = 40'000;
+        if (columns.size() > MostColumns) {
+            throw UsageError("a table can't have more than " + std::to_string(MostColumns)
+                + " columns: give fewer days, or larger columns, such as --columns month");
         }
     }
 

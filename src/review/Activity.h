@@ -1,32 +1,18 @@
 #pragma once
 
-#include "base/Date.h"
+#include "host/store/ActivityRows.h"
 
-#include <cstdint>
 #include <string>
 
 namespace tempodial {
 
-/// An activity of a work log, as far as people ask about it. A property that an item lacks is empty.
-struct Activity
-{
-    std::int64_t number = 0;
-    std::string entryId;
-    Date start;
-    Date end;
-    /// Minute boundaries from start to end.
-    std::int32_t duration = 0;
-    /// As stored; "No Project" for none.
-    std::string project;
-    std::string type;
-    std::string description;
-    std::string people;
-    /// A person chose the project.
-    bool isProjectByHand = false;
-};
+/// An activity of a work log, as far as people ask about it.
+using Activity = ActivityRow;
 
 /// The project of an activity, "No Project" for one that lacks it.
 const std::string& ProjectNameOf(const Activity& activity);
+/// The subject of an activity without its project, by which rules find it.
+std::string RuledSubject(const Activity& activity);
 /// True for an activity that belongs to no project.
 bool IsUnassigned(const Activity& activity);
 

@@ -1,7 +1,6 @@
 #include "review/ActivityReader.h"
 
-#include "platform/objectmodel/AppointmentItem.h"
-#include "platform/objectmodel/Items.h"
+#include "host/store/ActivityRows.h"
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 
@@ -9,47 +8,37 @@ namespace tempodial {
 
 namespace {
 
-Activity ReadItem(const Ref<AppointmentItem>& item)
+std::optional<ActivityRows> RowsOf(const Profile& profile)
 {
-    const auto properties = item->UserProperties();
-    const auto text = [&properties](const char* name) {
-        const auto property = properties->Item(name);
-        return property ? property->Value().ToText() : std::string();
-    };
-    return { .start = item->Start(),
-        .end = item->End(),
-        .duration = item->Duration(),
-        .project = text("Project"),
-        .type = text("Type"),
-        .description = text("Description"),
-        .people = text("People") };
+    const auto workLog = WorkLogOf(profile);
+    return workLog ? std::optional(ActivityRows(profile.Mailbox(), workLog, ActivityClass)) : std::nullopt;
 }
 
 }
 
 std::vector<Activity> ActivitiesStartingIn(const Profile& profile, const Period& days)
 {
-    constexpr std::int64_t LastMinute = 24 * 60 - 1;
-    const auto workLog = WorkLogOf(profile);
-    if (!workLog) {
-        return {};
-    }
-    const auto& formats = profile.Surroundings().formats;
-    const auto items = workLog->Items()->Restrict("[Start] >= \"" + formats->Moment(days.first) + "\" and [Start] <= \""
-        + formats->Moment(days.last.AddMinutes(LastMinute)) + "\"");
-    items->Sort("[Start]", false);
-    std::vector<Activity> activities;
-    for (std::int32_t i = 1; i <= items->Count(); ++i) {
-        if (const auto item = items->Item(i).As<AppointmentItem>(); item && item->MessageClass() == ActivityClass) {
-            activities.push_back(ReadItem(item));
-        }
-    }
-    return activities;
+    const auto rows = RowsOf(profile);
+    return rows ? rows->StartingIn(days.first, days.last.AddDays(1)) : std::vector<Activity>();
 }
 
 std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& days)
 {
-    return ActivitiesStartingIn(profile, { days.first.AddDays(-1), days.last });
+    const auto rows = RowsOf(profile);
+    return rows ? rows->Overlapping(days.first, days.last.AddDays(1)) : std::vector<Activity>();
+}
+
+std::optional<Activity> ActivityNumbered(const Profile& profile, std::int64_t number)
+{
+    const auto rows = RowsOf(profile);
+    return rows ? rows->Numbered(number) : std::nullopt;
+}
+
+std::optional<Activity> ActivityAt(const Profile& profile, Date moment)
+{
+    const auto rows = RowsOf(profile);
+    auto found = rows ? rows->Overlapping(moment, moment.AddSeconds(1)) : std::vector<Activity>();
+    return found.empty() ? std::nullopt : std::optional(std::move(found.back()));
 }
 
 }

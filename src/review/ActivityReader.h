@@ -4,14 +4,22 @@
 #include "review/Period.h"
 #include "session/Profile.h"
 
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace tempodial {
 
-/// The activities of a profile's work log that start in a span of days, in order of start; none when there is no work
-/// log. Fails as the store does.
+/// Reads activities of a profile's work log, as rows and without changing anything; there are none when there is no
+/// work log. The lists are in order of start. Every function fails as the store does.
+
+/// Those that start in a span of days.
 std::vector<Activity> ActivitiesStartingIn(const Profile& profile, const Period& days);
 /// Those that have some time in common with the span, wherever they start.
 std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& days);
+/// The one of that number.
+std::optional<Activity> ActivityNumbered(const Profile& profile, std::int64_t number);
+/// The one during which a moment is; of several the one that starts last.
+std::optional<Activity> ActivityAt(const Profile& profile, Date moment);
 
 }

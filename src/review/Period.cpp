@@ -135,6 +135,13 @@ std::optional<Period> Period::Named(std::string_view words, Date now, const Week
     return back ? back : OfNumbers(words);
 }
 
+Period Period::Always()
+{
+    constexpr int FirstYear = 100;
+    constexpr int LastYear = 9999;
+    return { YearOf(FirstYear).first, YearOf(LastYear).last };
+}
+
 Period Period::WeekOf(Date day, const WeekStart& weekStart)
 {
     return Days(day.Day().AddDays(-DaysBackTo(weekStart(), day)), DaysOfWeek);

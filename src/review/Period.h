@@ -22,6 +22,8 @@ struct Period
     /// many days up to today. Days yet to come are part of it. Nothing for another text, and outside the years 100 to
     /// 9999.
     static std::optional<Period> Named(std::string_view words, Date now, const WeekStart& weekStart);
+    /// All days that there are.
+    static Period Always();
     /// The seven days of a day's week.
     static Period WeekOf(Date day, const WeekStart& weekStart);
     /// The days of a day's month.

@@ -1,7 +1,5 @@
 #include "review/RulePreview.h"
 
-#include "engine/foundation/ActivitySubject.h"
-
 namespace tempodial {
 
 namespace {
@@ -10,7 +8,7 @@ namespace {
 struct TriedTexts
 {
     explicit TriedTexts(const Activity& activity)
-        : subject(ActivitySubject(activity.type, activity.description))
+        : subject(RuledSubject(activity))
         , people(activity.people)
     {
     }

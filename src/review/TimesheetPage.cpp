@@ -135,7 +135,7 @@ std::string Table(const Timesheet& sheet)
 {
     const bool hasWhat
         = std::any_of(sheet.days.begin(), sheet.days.end(), [](const auto& day) { return !day.what.empty(); });
-    const std::string what = hasWhat ? "<th scope=\"col\" class=\"what\">What</th>" : "";
+    const std::string what = hasWhat ? R"(<th scope="col" class="what">What</th>)" : "";
     auto table = "<table>\n<caption>Hours by day</caption>\n<thead>\n<tr><th scope=\"col\">Day</th><th scope=\"col\" "
                  "class=\"time\">Measured</th>"
                  "<th scope=\"col\" class=\"time\">Billed</th>"
@@ -143,7 +143,7 @@ std::string Table(const Timesheet& sheet)
     for (const auto& day : sheet.days) {
         table += Row(day, hasWhat);
     }
-    return table + "<tr class=\"total\"><th scope=\"row\">Total</th>" + TimeCell(sheet.minutes)
+    return table + R"(<tr class="total"><th scope="row">Total</th>)" + TimeCell(sheet.minutes)
         + TimeCell(sheet.billedMinutes) + (hasWhat ? "<td class=\"what\"></td>" : "") + "</tr>\n</tbody>\n</table>\n";
 }
 

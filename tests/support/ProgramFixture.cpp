@@ -65,16 +65,18 @@ std::vector<std::string> ProgramFixture::Subjects(const nlohmann::json& items) c
 std::vector<std::vector<std::string>> OneOfEachReader()
 {
     return { { "list" }, { "export", "--format", "csv" }, { "summary" }, { "timesheet", "No Project" },
-        { "unassigned" }, { "gaps" }, { "trace" }, { "registry", "get", "HKCU", "", "CurrentVersion" } };
+        { "unassigned" }, { "gaps" }, { "why", "--subject", "a" }, { "trace" },
+        { "registry", "get", "HKCU", "", "CurrentVersion" } };
 }
 
 std::vector<std::vector<std::string>> OneOfEachWriter()
 {
     return { { "sync" }, { "projects" }, { "projects", "set", "A" }, { "projects", "remove", "Wish" },
-        { "projects", "match", "a" }, { "projects", "export" }, { "apply", "Wish" },
-        { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" }, { "report" },
-        { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" }, { "demo" },
-        { "registry", "set", "HKCU", "", "A", "b" }, { "registry", "delete", "HKCU", "", "CurrentVersion" } };
+        { "projects", "match", "a" }, { "projects", "rename", "Wish", "B" }, { "projects", "export" },
+        { "apply", "Wish" }, { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" },
+        { "report" }, { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" },
+        { "demo" }, { "registry", "set", "HKCU", "", "A", "b" },
+        { "registry", "delete", "HKCU", "", "CurrentVersion" } };
 }
 
 std::vector<std::vector<std::string>> OneOfEachCommand()
