@@ -87,6 +87,19 @@ class CompletionTest(shells.Shells):
                                    "tempodial", "--profile", "~/other\\ one", "apply", "E"), ["Elsewhere"])
         self.assertEqual(self.Bash("tempodial apply E"), [])
 
+    def test_Activities_AreAskedOfTheProgram(self):
+        self.Program("--quiet", "demo", "--days", "2")
+        self.Program("--quiet", "sync")
+        numbers = [line.split(" ")[0] for line in self.Program("list", "--ids", "-7d").splitlines() if line[:1] == "@"]
+        self.assertTrue(numbers)
+        for name, way in self.Ways():
+            if name != "bash":
+                self.assertEqual(sorted(way("tempodial edit @")), sorted(numbers), name)
+        # What stands before the sign and the sign itself aren't replaced in bash.
+        self.assertEqual(sorted(self.Bash("tempodial edit @", "tempodial", "edit", "@")),
+                         sorted(number[1:] for number in numbers))
+        self.assertEqual(sorted(self.Bash("tempodial delete @1 ", "tempodial", "delete", "@", "1", "")), sorted(numbers))
+
     def test_NoProfile_MakesNone(self):
         self.assertEqual(self.Bash("tempodial apply "), [r"No\ Project"])
         self.assertEqual(list(self.folder.iterdir()), [])
