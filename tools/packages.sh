@@ -2,7 +2,8 @@
 
 # What the product is built with and from.
 build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev libexpat1-dev libicu-dev
-    libtomlplusplus-dev libcli11-dev nlohmann-json3-dev libgsf-1-dev libgmime-3.0-dev)
+    libtomlplusplus-dev libcli11-dev nlohmann-json3-dev libgsf-1-dev libgmime-3.0-dev
+    libical-dev)
 
 # What the tests and lints need besides.
 check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix

@@ -7,6 +7,7 @@
 #include "cli/WaitingLines.h"
 #include "cli/WordArgument.h"
 #include "host/files/ProgramFolder.h"
+#include "host/files/ProgramModule.h"
 #include "host/system/HostClock.h"
 #include "host/system/IcuTimeZone.h"
 #include "host/system/TomlSettings.h"
@@ -33,6 +34,13 @@ namespace {
 
 constexpr auto ImportedProgramsFile = "/programs.toml";
 constexpr auto PrivacyRulesFile = "/track.toml";
+
+/// Reads a calendar by the module that can.
+bool ReadCalendar(const std::string& text, std::int64_t until, CalendarContent& content)
+{
+    const ProgramModule module(ProgramModule::PathOf(CalendarModule));
+    return module.Get<CalendarTextReader>(CalendarTextReaderName)(text, until, content);
+}
 
 /// What has become of an import's plan.
 struct ImportOutcome
@@ -96,7 +104,7 @@ public:
         const auto profile = PathOfProfile(options);
         const auto views = Views(profile);
         SourceFile file(*mFile);
-        const SourceSettings settings { *zone, range.now, dates, asSightings, DecodedLine };
+        const SourceSettings settings { *zone, range.now, dates, asSightings, DecodedLine, ReadCalendar };
         ImportPlan plan(range, views);
         TakeSource(source, file, settings, plan);
         return mIsDryRun ? Preview(options, plan) : Import(options, plan);

@@ -1,5 +1,6 @@
 #include "slots/PrivacyRules.h"
 
+#include "base/Text.h"
 #include "slots/ProgramTable.h"
 
 #include <algorithm>
@@ -65,13 +66,31 @@ PrivacyRules::PrivacyRules(std::vector<PrivacyRule> own)
 
 const PrivacyRule* PrivacyRules::Find(const Sighting& sighting, const Program& program) const
 {
-    for (const auto& rule : mRules) {
-        if ((!rule.program || IsProgram(*rule.program, sighting, program))
-            && (!rule.title || rule.title->Matches(sighting.title))) {
+    const auto folded = Fold(sighting.title);
+    for (const auto index : RulesOf(sighting, program)) {
+        const auto& rule = mRules[index];
+        if (!rule.title || rule.title->Matches(sighting.title, folded)) {
             return &rule;
         }
     }
     return nullptr;
+}
+
+const std::vector<std::size_t>& PrivacyRules::RulesOf(const Sighting& sighting, const Program& program) const
+{
+    constexpr char Between = '\x1f';
+    constexpr std::size_t MostPrograms = 1000;
+    if (mByProgram.size() > MostPrograms) {
+        mByProgram.clear();
+    }
+    const auto key = sighting.program + Between + sighting.programName + Between + program.name;
+    const auto [found, isNew] = mByProgram.try_emplace(key);
+    for (std::size_t i = 0; isNew && i < mRules.size(); ++i) {
+        if (!mRules[i].program || IsProgram(*mRules[i].program, sighting, program)) {
+            found->second.push_back(i);
+        }
+    }
+    return found->second;
 }
 
 }

@@ -4,8 +4,10 @@
 #include "slots/Sighting.h"
 #include "slots/TextPattern.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace tempodial {
@@ -36,7 +38,12 @@ public:
     const PrivacyRule* Find(const Sighting& sighting, const Program& program) const;
 
 private:
+    /// The rules, by their place, that a program's windows are looked at by.
+    const std::vector<std::size_t>& RulesOf(const Sighting& sighting, const Program& program) const;
+
     std::vector<PrivacyRule> mRules;
+    /// The same for the programs that were asked for.
+    mutable std::unordered_map<std::string, std::vector<std::size_t>> mByProgram;
 };
 
 }

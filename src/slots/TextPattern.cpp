@@ -78,10 +78,23 @@ TextPattern::TextPattern(std::string_view pattern)
 
 bool TextPattern::Matches(std::string_view text) const
 {
+    return Matches(text, mExpression ? std::string() : Fold(text));
+}
+
+bool TextPattern::Matches(std::string_view text, std::string_view folded) const
+{
     if (mExpression) {
         return std::regex_search(Wide(text), mExpression->regex, std::regex_constants::match_continuous);
     }
-    return MatchesWords(Fold(text), mWords);
+    constexpr std::string_view Anything = "*";
+    const std::string_view words = mWords;
+    if (words.size() > 1 && words.starts_with(Anything) && words.ends_with(Anything)) {
+        const auto middle = words.substr(1, words.size() - 2);
+        if (middle.find_first_of("*?") == std::string_view::npos) {
+            return folded.find(middle) != std::string_view::npos;
+        }
+    }
+    return MatchesWords(folded, words);
 }
 
 bool TextPattern::MatchesWords(std::string_view text, std::string_view words)

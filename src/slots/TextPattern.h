@@ -15,6 +15,8 @@ public:
     explicit TextPattern(std::string_view pattern);
 
     bool Matches(std::string_view text) const;
+    /// The same for a text of which the folded form is known already.
+    bool Matches(std::string_view text, std::string_view folded) const;
 
 private:
     struct Expression;

@@ -41,9 +41,23 @@ std::string ProjectText(std::string_view name)
     return EqualIgnoringCase(project, NoProjectText) ? "" : project;
 }
 
+const Program& ViewMaker::ProgramOf(const Sighting& sighting) const
+{
+    constexpr char Between = '\x1f';
+    constexpr std::size_t MostPrograms = 1000;
+    if (mKnown.size() > MostPrograms) {
+        mKnown.clear();
+    }
+    const auto [found, isNew] = mKnown.try_emplace(sighting.program + Between + sighting.programName);
+    if (isNew) {
+        found->second = mPrograms.Find(sighting.program, sighting.programName);
+    }
+    return found->second;
+}
+
 Seen ViewMaker::Make(const Sighting& sighting) const
 {
-    const auto program = mPrograms.Find(sighting.program, sighting.programName);
+    const auto& program = ProgramOf(sighting);
     if (program.sort == ProgramSort::Lock) {
         return { Seen::Kind::Locked, {} };
     }

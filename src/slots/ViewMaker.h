@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace tempodial {
@@ -46,8 +47,12 @@ private:
     static SlotView NameOnly(const Program& program);
     static SlotView Titled(const Program& program, const TitleCleaner::Cleaned& cleaned, const std::string& host);
 
+    const Program& ProgramOf(const Sighting& sighting) const;
+
     ProgramTable mPrograms;
     PrivacyRules mRules;
+    /// The programs that were looked up.
+    mutable std::unordered_map<std::string, Program> mKnown;
 };
 
 /// A project's name as a tracker's file takes it: plain and not too long; empty when it stands for none.

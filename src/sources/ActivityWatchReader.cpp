@@ -147,7 +147,8 @@ SourceData ActivityWatchReader::Read(std::istream& stream, const SourceSettings&
     ExportListener listener(settings, data);
     ReadJson(stream, listener, data.skipped);
     if (!listener.IsExport()) {
-        throw WrongSource("this is no export of ActivityWatch, which begins with {\"buckets\":");
+        throw WrongSource(
+            "this is no export of ActivityWatch, which begins with {\"buckets\": export all buckets as JSON");
     }
     listener.Finish();
     return data;

@@ -236,9 +236,14 @@ std::optional<std::int64_t> ReadLength(std::string_view text)
     return *hours * SecondsOfHour + *minutes * SecondsOfMinute + *seconds;
 }
 
+std::int64_t WallSeconds(std::int64_t seconds)
+{
+    return seconds + SecondsTo1970;
+}
+
 std::int64_t LocalSeconds(TimeZone& zone, std::int64_t moment)
 {
-    return moment + zone.OffsetAt(moment) + SecondsTo1970;
+    return WallSeconds(moment + zone.OffsetAt(moment));
 }
 
 }

@@ -36,6 +36,8 @@ std::optional<std::int64_t> ReadTime(std::string_view text);
 /// Seconds of a length such as 01:30:00; nothing for another text.
 std::optional<std::int64_t> ReadLength(std::string_view text);
 
+/// Seconds since 1970 began, as seconds of `Date`.
+std::int64_t WallSeconds(std::int64_t seconds);
 /// A moment in UTC as local time of a zone, in seconds as those of `Date`.
 std::int64_t LocalSeconds(TimeZone& zone, std::int64_t moment);
 /// Calls back with the local times of what lies between two moments: one, or two where the clock is put forward or

@@ -36,7 +36,9 @@ SourceData RescueTimeReader::Read(std::istream& stream, const SourceSettings& se
     const auto seconds = records.Column({ "Time Spent (seconds)" });
     const auto activity = records.Column({ "Activity" });
     if (!seconds || !activity) {
-        throw WrongSource("the first line must name the columns Date, Time Spent (seconds) and Activity");
+        throw WrongSource(
+            "the first line must name the columns Date, Time Spent (seconds) and Activity: export the rows "
+            "as CSV");
     }
     if (!date) {
         throw WrongSource(NotFiveMinutes);

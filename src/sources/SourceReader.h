@@ -3,11 +3,13 @@
 #include "base/Date.h"
 #include "platform/system/TimeZone.h"
 #include "sources/SourceData.h"
+#include "sources/calendar/CalendarModule.h"
 
 #include <cstdint>
 #include <functional>
 #include <istream>
 #include <string>
+#include <type_traits>
 
 namespace tempodial {
 
@@ -26,6 +28,8 @@ struct SourceSettings
     bool asSightings = false;
     /// Makes UTF-8 of a text in whatever encoding.
     std::function<std::string(std::string text)> decode;
+    /// Reads the text of a calendar.
+    std::function<std::remove_pointer_t<CalendarTextReader>> readCalendar = nullptr;
 };
 
 /// Reads what another program exports.

@@ -4,6 +4,7 @@
 #include "base/Utf8.h"
 #include "sources/ActivityWatchReader.h"
 #include "sources/ArbttReader.h"
+#include "sources/CalendarReader.h"
 #include "sources/EntryTable.h"
 #include "sources/RescueTimeReader.h"
 
@@ -30,6 +31,7 @@ constexpr std::array Known {
     Source { "arbtt", "arbtt's dump (arbtt-dump -t json)", false, true, Made<ArbttReader> },
     Source { "toggl", "Toggl's detailed report (CSV)", true, false, MadeTable<EntryTableKind::Toggl> },
     Source { "clockify", "Clockify's detailed report (CSV)", true, false, MadeTable<EntryTableKind::Clockify> },
+    Source { "ics", "a calendar; meetings come only into free time", true, false, Made<CalendarReader> },
     Source { "csv", "a table with the columns start, end, program, and title, project, url if you have them", true,
         true, MadeTable<EntryTableKind::Csv> },
 };

@@ -204,6 +204,34 @@ TEST_F(ImportCommandTest, Import_NothingInTheFile_IsDone)
     EXPECT_EQ(Import("arbtt", "[]").at("created"), 0);
 }
 
+TEST_F(ImportCommandTest, Import_Calendar_FillsFreeTimeWithMeetings)
+{
+    const auto event = [](const std::string& lines) { return "BEGIN:VEVENT\r\n" + lines + "\r\nEND:VEVENT\r\n"; };
+    const auto calendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n"
+        + event("UID:1\r\nDTSTART:20061002T090000Z\r\nDTEND:20061002T093000Z\r\nSUMMARY:Weekly\r\n"
+                "RRULE:FREQ=DAILY;COUNT=4\r\nEXDATE:20061003T090000Z")
+        + event("UID:1\r\nRECURRENCE-ID:20061004T090000Z\r\nDTSTART:20061004T140000Z\r\nDURATION:PT45M\r\n"
+                "SUMMARY:Weekly\\, moved")
+        + event("UID:2\r\nDTSTART;VALUE=DATE:20061002\r\nSUMMARY:Holiday")
+        + event("UID:3\r\nDTSTART:20061002T100000\r\nDTEND:20061002T110000\r\nTRANSP:TRANSPARENT")
+        + event("UID:4\r\nDTSTART:20061002T100000\r\nDTEND:20061002T110000\r\nSTATUS:CANCELLED")
+        + event("UID:5\r\nDTSTART:20061002T100000\r\nDTEND:20061002T110000\r\n"
+                "ATTENDEE;PARTSTAT=DECLINED:mailto:ann@example.com")
+        + event("UID:6\r\nDTSTART:20061002T120000\r\nDTEND:20061002T123000\r\nSUMMARY:Lunch\r\n  talk")
+        + "END:VCALENDAR\r\n";
+    const auto answer = Import("ics", calendar, { "--zone", "Europe/Zurich" });
+    EXPECT_EQ(answer.at("skipped"), json::parse(R"({"allDay":1,"cancelled":1,"declined":1,"transparent":1})"));
+    std::vector<std::string> told;
+    for (const auto& item : All()) {
+        told.push_back(item.at("start").get<std::string>() + " " + item.at("subject").get<std::string>());
+    }
+    EXPECT_EQ(told,
+        (std::vector<std::string> { "2006-10-02T11:00:00 Meeting, \"Weekly\"",
+            "2006-10-02T12:00:00 Meeting, \"Lunch talk\"", "2006-10-04T16:00:00 Meeting, \"Weekly, moved\"",
+            "2006-10-05T11:00:00 Meeting, \"Weekly\"" }));
+    EXPECT_THAT(RefusalOf("ics", "x"), HasSubstr("BEGIN:VCALENDAR"));
+}
+
 TEST_F(ImportCommandTest, Import_List_NamesTheSources)
 {
     const auto sources = Json({ "import", "--list" });
