@@ -1,0 +1,127 @@
+#include "support/LongTests.h"
+#include "support/ProgramFixture.h"
+
+#include <array>
+#include <cstdio>
+#include <map>
+
+namespace tempodial {
+
+namespace {
+
+using nlohmann::json;
+using testing::HasSubstr;
+using testing::Not;
+
+/// What a shell command writes.
+std::string OutputOf(const std::string& command)
+{
+    std::string output;
+    std::array<char, 65536> piece {};
+    auto* const pipe = ::popen(command.c_str(), "r");
+    while (const auto size = std::fread(piece.data(), 1, piece.size(), pipe)) {
+        output.append(piece.data(), size);
+    }
+    EXPECT_EQ(::pclose(pipe), 0) << command;
+    return output;
+}
+
+class ImportTest : public ProgramFixture
+{
+protected:
+    /// An invented export of days that end yesterday; its seconds of presence by day come to `present`.
+    std::string Export(int days, json& present) const
+    {
+        const auto told = mFolder.Path("present");
+        const auto text = OutputOf("/usr/bin/python3 " TEMPODIAL_SOURCE_DIR "/tests/sources/data/make-export "
+            + std::to_string(days) + " 2>" + told);
+        present = json::parse(mFolder.Read("present"));
+        return mFolder.Write("export" + std::to_string(days) + ".json", text);
+    }
+    json Log() const { return Json({ "list", "--from", "2006-01-01", "--to", "2006-12-31" }); }
+    /// Start, end and subject of all activities.
+    std::vector<std::string> Activities() const
+    {
+        std::vector<std::string> told;
+        for (const auto& item : Log()) {
+            told.push_back(item.at("start").get<std::string>() + " " + item.at("end").get<std::string>() + " "
+                + item.at("subject").get<std::string>());
+        }
+        return told;
+    }
+};
+
+}
+
+TEST_F(ImportTest, Import_ExportWithEveryFault_KeepsThePresenceOfEachDay)
+{
+    json present;
+    const auto file = Export(60, present);
+    const auto answer = Json({ "import", "activitywatch", file });
+    EXPECT_EQ(answer.at("skipped").at("bucket"), 1);
+    EXPECT_GT(answer.at("skipped").at("duplicate"), 0);
+    std::map<std::string, int> minutes;
+    for (const auto& item : Log()) {
+        minutes[item.at("start").get<std::string>().substr(0, 10)] += item.at("duration").get<int>();
+        const auto subject = item.at("subject").get<std::string>();
+        if (item.at("duration") > 5) {
+            EXPECT_THAT(subject, Not(HasSubstr("including: ")));
+        }
+        EXPECT_THAT(subject, Not(HasSubstr("Train")));
+        EXPECT_THAT(subject, Not(HasSubstr("secret")));
+        EXPECT_THAT(subject, Not(HasSubstr("Ann Berger")));
+    }
+    double sum = 0;
+    double log = 0;
+    for (const auto& [day, seconds] : present.items()) {
+        const auto expected = seconds.get<double>() / 60;
+        sum += expected;
+        log += minutes[day];
+        // Each of up to six stretches has two edges.
+        EXPECT_NEAR(minutes[day], expected, std::max(expected * 0.02, 12 * 2.5)) << day;
+    }
+    EXPECT_NEAR(log, sum, sum * 0.02);
+}
+
+TEST_F(ImportTest, Import_InPieces_EndsAsAllAtOnce)
+{
+    json present;
+    const auto file = Export(35, present);
+    Json({ "import", "activitywatch", file });
+    const auto atOnce = Activities();
+    std::filesystem::remove_all(mProfile);
+    Json({ "import", "activitywatch", file, "--from", "2006-09-15", "--to", "2006-10-01" });
+    Json({ "import", "activitywatch", file, "--from", "2006-09-20", "--to", "2006-10-02" });
+    Json({ "import", "activitywatch", file });
+    Json({ "import", "activitywatch", file, "--to", "2006-09-20" });
+    EXPECT_EQ(Activities(), atOnce);
+}
+
+TEST_F(ImportTest, Import_KilledAnywhere_EndsAsAnUndisturbedOne)
+{
+    std::string text = "start,end,program,title,project\n";
+    for (int day = 1; day <= 28; ++day) {
+        const auto date = "2006-08-" + std::string(day < 10 ? "0" : "") + std::to_string(day);
+        text += date + "T09:00," + date + "T09:17,atlas,map,Riverside\n";
+    }
+    const auto file = mFolder.Write("table.csv", text);
+    const Arguments import { "import", "csv", file, "--quiet" };
+    const auto counted = RunTempodialKilledAt(Whole(import), 0);
+    if (!counted) {
+        GTEST_SKIP() << "this system forbids observation";
+    }
+    const auto undisturbed = Activities();
+    ASSERT_EQ(undisturbed.size(), 28U);
+    const auto points = ShortOrLong(12, 200);
+    for (int point = 1; point <= points; ++point) {
+        const auto call = counted->systemCalls * point / (points + 1);
+        SCOPED_TRACE("killed at system call " + std::to_string(call));
+        std::filesystem::remove_all(mProfile);
+        RunTempodialKilledAt(Whole(import), call);
+        EXPECT_EQ(Run(import).status, 0);
+        EXPECT_EQ(Activities(), undisturbed);
+        EXPECT_EQ(Json(import).at("created"), 0);
+    }
+}
+
+}
