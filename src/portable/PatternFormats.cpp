@@ -15,6 +15,17 @@ constexpr int HoursOfHalfDay = 12;
 /// Understood in every locale.
 const std::array<std::string, 2> PlainDayHalves = { "AM", "PM" };
 
+/// Every year of a short date has four digits.
+std::string WithWholeYears(const std::string& pattern)
+{
+    const auto first = pattern.find('y');
+    if (first == std::string::npos) {
+        return pattern;
+    }
+    const auto last = pattern.find_first_not_of('y', first);
+    return pattern.substr(0, first) + "yyyy" + (last == std::string::npos ? "" : pattern.substr(last));
+}
+
 /// The day of the fields; nothing when there is no such day.
 std::optional<Date> DayOf(const DateFields& fields)
 {
@@ -63,12 +74,15 @@ std::string WithPlainBlanks(std::string text)
 
 PatternFormats::PatternFormats(LocalePatterns patterns)
     : mNames(std::move(patterns.names))
-    , mShortDate(patterns.shortDate, mNames)
+    , mShortDate(WithWholeYears(patterns.shortDate), mNames)
     , mLongDate(patterns.longDate, mNames)
     , mMediumDate("dd-LLL-yy", mNames)
     , mShortTime(patterns.shortTime, mNames)
     , mLongTime(patterns.longTime, mNames)
 {
+    for (const auto& pattern : patterns.furtherDates) {
+        mFurtherDates.emplace_back(pattern, mNames);
+    }
 }
 
 std::string PatternFormats::MonthAbbreviation(int month)
@@ -88,18 +102,27 @@ Date PatternFormats::Parse(const std::string& text)
         return Date().AddSeconds(*seconds);
     }
     for (const auto* pattern : { &mShortDate, &mLongDate, &mMediumDate }) {
-        auto rest = whole;
-        DateFields fields;
-        const auto day = pattern->TakeOff(rest, fields) ? DayOf(fields) : std::nullopt;
-        if (day && rest.empty()) {
-            return *day;
+        if (const auto moment = MomentOf(whole, *pattern)) {
+            return *moment;
         }
-        const auto seconds = day && rest.starts_with(' ') ? SecondOfDay(WithoutBlanks(rest)) : std::nullopt;
-        if (seconds) {
-            return day->AddSeconds(*seconds);
+    }
+    for (const auto& pattern : mFurtherDates) {
+        if (const auto moment = MomentOf(whole, pattern)) {
+            return *moment;
         }
     }
     throw Failure(Error::TypeMismatch);
+}
+
+std::optional<Date> PatternFormats::MomentOf(std::string_view text, const DatePattern& pattern) const
+{
+    DateFields fields;
+    const auto day = pattern.TakeOff(text, fields) ? DayOf(fields) : std::nullopt;
+    if (!day || text.empty()) {
+        return day;
+    }
+    const auto seconds = text.starts_with(' ') ? SecondOfDay(WithoutBlanks(text)) : std::nullopt;
+    return seconds ? std::optional(day->AddSeconds(*seconds)) : std::nullopt;
 }
 
 std::optional<std::int64_t> PatternFormats::SecondOfDay(std::string_view text) const

@@ -7,10 +7,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tempodial {
 
-/// The forms of a locale as data: its words, and patterns in the notation of `DatePattern` with years of four digits.
+/// The forms of a locale as data: its words, and patterns in the notation of `DatePattern`.
 struct LocalePatterns
 {
     DateNames names;
@@ -18,9 +19,11 @@ struct LocalePatterns
     std::string longDate;
     std::string shortTime;
     std::string longTime;
+    /// Dates that are read as well, and never written.
+    std::vector<std::string> furtherDates {};
 };
 
-/// The forms of a locale by their patterns.
+/// The forms of a locale by their patterns; years of short dates have four digits.
 class PatternFormats : public LocaleFormats
 {
 public:
@@ -37,6 +40,8 @@ public:
     Date Parse(const std::string& text) override;
 
 private:
+    /// The moment of a text that begins with a date in a form; nothing when it is none.
+    std::optional<Date> MomentOf(std::string_view text, const DatePattern& pattern) const;
     /// The seconds of a time of day that is all of a text; nothing when it is no time.
     std::optional<std::int64_t> SecondOfDay(std::string_view text) const;
 
@@ -46,6 +51,7 @@ private:
     DatePattern mMediumDate;
     DatePattern mShortTime;
     DatePattern mLongTime;
+    std::vector<DatePattern> mFurtherDates;
 };
 
 /// The blanks that don't break and the narrow ones become plain blanks, as people type them.

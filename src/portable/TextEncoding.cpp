@@ -15,6 +15,8 @@ constexpr char16_t UpperControls[] = { 0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0
     0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178 };
 
+}
+
 std::string FromWindows1252(std::string_view bytes)
 {
     std::string text;
@@ -27,14 +29,12 @@ std::string FromWindows1252(std::string_view bytes)
     return text;
 }
 
-}
-
-std::string DecodedLine(std::string bytes)
+std::string DecodedLine(std::string bytes, TextDecoder decoder)
 {
-    return IsUtf8(bytes) ? std::move(bytes) : FromWindows1252(bytes);
+    return IsUtf8(bytes) ? std::move(bytes) : decoder(bytes);
 }
 
-std::string DecodedLines(std::string bytes)
+std::string DecodedLines(std::string bytes, TextDecoder decoder)
 {
     if (IsUtf8(bytes)) {
         return bytes;
@@ -44,7 +44,7 @@ std::string DecodedLines(std::string bytes)
     while (start < bytes.size()) {
         const auto lineEnd = bytes.find('\n', start);
         const auto next = lineEnd == std::string::npos ? bytes.size() : lineEnd + 1;
-        text += DecodedLine(bytes.substr(start, next - start));
+        text += DecodedLine(bytes.substr(start, next - start), decoder);
         start = next;
     }
     return text;

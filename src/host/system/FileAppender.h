@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/files/FileDescriptor.h"
-#include "host/system/WritingStream.h"
+#include "portable/WritingStream.h"
 
 #include <memory>
 #include <string>

@@ -1,71 +1,12 @@
 #include "host/system/FileReader.h"
 
-#include "portable/TextEncoding.h"
-
-#include <cstring>
-#include <utility>
-
 namespace tempodial {
-
-namespace {
-
-constexpr std::size_t BufferSize = 65536;
-constexpr std::size_t LongestLine = std::size_t { 1 } << 20;
-constexpr std::size_t LongestText = std::size_t { 64 } << 20;
-
-}
 
 FileReader::FileReader(const NativePath& path, bool create)
     : mFile(path, create ? Opening::ReadingOrNew : Opening::Reading)
-    , mBuffer(new char[BufferSize])
+    , mText([this](char* buffer, std::size_t size) { return mFile.Read(buffer, size); }, FromWindows1252)
 {
     mFile.RequireUnlocked();
-}
-
-std::string FileReader::ReadLine()
-{
-    if (!Fill()) {
-        throw Failure(Error::InputPastEnd);
-    }
-    std::string line;
-    bool isTooLong = false;
-    bool isEnded = false;
-    while (!isEnded && Fill()) {
-        const auto* start = mBuffer.get() + mNext;
-        const auto* lineEnd = static_cast<const char*>(std::memchr(start, '\n', mEnd - mNext));
-        isEnded = lineEnd != nullptr;
-        const auto length = isEnded ? static_cast<std::size_t>(lineEnd - start) : mEnd - mNext;
-        isTooLong = isTooLong || line.size() + length > LongestLine + 1;
-        if (!isTooLong) {
-            line.append(start, length);
-        }
-        mNext += length + (isEnded ? 1 : 0);
-    }
-    if (isEnded && line.ends_with('\r')) {
-        line.pop_back();
-    }
-    mLastLine = isEnded ? LineKind::Whole : LineKind::Unended;
-    if (isTooLong || line.size() > LongestLine) {
-        mLastLine = isEnded ? LineKind::TooLong : LineKind::Unended;
-        return {};
-    }
-    return DecodedLine(std::move(line));
-}
-
-std::string FileReader::ReadAll()
-{
-    if (!Fill()) {
-        throw Failure(Error::InputPastEnd);
-    }
-    std::string text;
-    while (Fill()) {
-        if (text.size() + (mEnd - mNext) > LongestText) {
-            throw Failure(Error::OutOfMemory);
-        }
-        text.append(mBuffer.get() + mNext, mEnd - mNext);
-        mNext = mEnd;
-    }
-    return DecodedLines(std::move(text));
 }
 
 void FileReader::Write(const std::string&)
@@ -80,18 +21,8 @@ void FileReader::WriteLine(const std::string&)
 
 void FileReader::Close()
 {
-    mNext = mEnd = 0;
+    mText.Drop();
     mFile.Close();
-}
-
-bool FileReader::Fill()
-{
-    if (mNext == mEnd) {
-        mNext = 0;
-        mEnd = 0;
-        mEnd = mFile.Read(mBuffer.get(), BufferSize);
-    }
-    return mNext != mEnd;
 }
 
 }

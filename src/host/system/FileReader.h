@@ -2,9 +2,8 @@
 
 #include "host/files/FileDescriptor.h"
 #include "platform/system/TextStream.h"
+#include "portable/TextReader.h"
 
-#include <cstddef>
-#include <memory>
 #include <string>
 
 namespace tempodial {
@@ -16,25 +15,21 @@ class FileReader : public TextStream
 public:
     /// Opens a file, made empty when it is absent and may be; a locked one fails (70).
     FileReader(const NativePath& path, bool create);
+    FileReader(const FileReader&) = delete;
+    FileReader& operator=(const FileReader&) = delete;
 
     /// A line of more than 1 MiB is given as an empty one.
-    std::string ReadLine() override;
-    LineKind LastLine() const override { return mLastLine; }
+    std::string ReadLine() override { return mText.ReadLine(); }
+    LineKind LastLine() const override { return mText.LastLine(); }
     /// More than 64 MiB fail (7).
-    std::string ReadAll() override;
+    std::string ReadAll() override { return mText.ReadAll(); }
     void Write(const std::string& text) override;
     void WriteLine(const std::string& text) override;
     void Close() override;
 
 private:
-    /// True when there are bytes in the buffer, read now if need be.
-    bool Fill();
-
     FileDescriptor mFile;
-    std::unique_ptr<char[]> mBuffer;
-    std::size_t mNext = 0;
-    std::size_t mEnd = 0;
-    LineKind mLastLine = LineKind::Whole;
+    TextReader mText;
 };
 
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/files/ReplacementFile.h"
-#include "host/system/WritingStream.h"
+#include "portable/WritingStream.h"
 
 #include <optional>
 #include <string>

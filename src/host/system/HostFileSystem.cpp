@@ -6,6 +6,7 @@
 #include "host/system/FileAppender.h"
 #include "host/system/FileReader.h"
 #include "host/system/FileReplacer.h"
+#include "portable/JoinedPath.h"
 
 #include <algorithm>
 #include <array>
@@ -14,11 +15,6 @@
 namespace tempodial {
 
 namespace {
-
-bool IsSeparator(char character)
-{
-    return character == '/' || character == '\\';
-}
 
 /// What stands at a path itself, not behind a link; fails as a file operation does when nothing does or a folder.
 FileStatus StatusOfFile(const NativePath& path)
@@ -44,16 +40,7 @@ std::string HostFileSystem::GetSpecialFolder(SpecialFolder)
 
 std::string HostFileSystem::BuildPath(const std::string& path, const std::string& name)
 {
-    if (path.empty() || name.empty()) {
-        return path + name;
-    }
-    const bool pathEnds = IsSeparator(path.back());
-    const bool nameBegins = IsSeparator(name.front());
-    if (pathEnds || nameBegins) {
-        return path + (pathEnds && nameBegins ? name.substr(1) : name);
-    }
-    const auto last = path.find_last_of("/\\");
-    return path + (last == std::string::npos ? '/' : path[last]) + name;
+    return JoinedPath(path, name, '/');
 }
 
 bool HostFileSystem::FolderExists(const std::string& path)

@@ -41,17 +41,6 @@ void CheckIcu(UErrorCode status)
     }
 }
 
-/// Every year of a short date has four digits.
-std::string WithWholeYears(const std::string& pattern)
-{
-    const auto first = pattern.find('y');
-    if (first == std::string::npos) {
-        return pattern;
-    }
-    const auto last = pattern.find_first_not_of('y', first);
-    return pattern.substr(0, first) + "yyyy" + (last == std::string::npos ? "" : pattern.substr(last));
-}
-
 template <std::size_t Size> void Fill(std::array<std::string, Size>& names, const icu::UnicodeString* first)
 {
     std::transform(first, first + Size, names.begin(), TextOf);
@@ -121,7 +110,7 @@ icu::Locale LocaleOf(const std::string& name)
 LocalePatterns PatternsOf(const icu::Locale& locale)
 {
     return { .names = NamesOf(locale),
-        .shortDate = WithWholeYears(DatePatternOf(locale, icu::DateFormat::kShort)),
+        .shortDate = DatePatternOf(locale, icu::DateFormat::kShort),
         .longDate = DatePatternOf(locale, icu::DateFormat::kFull),
         .shortTime = TimePatternOf(locale, icu::DateFormat::kShort),
         .longTime = TimePatternOf(locale, icu::DateFormat::kMedium) };

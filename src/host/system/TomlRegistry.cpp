@@ -165,6 +165,22 @@ public:
             }
         }
     }
+    std::vector<RegistryEntry> Entries() const
+    {
+        std::vector<RegistryEntry> entries;
+        for (const auto hive : { Hive::CurrentUser, Hive::LocalMachine }) {
+            const auto* keys = mRoot[SpelledIn(mRoot, NameOf(hive))].as_table();
+            for (const auto& [key, values] : keys == nullptr ? toml::table() : *keys) {
+                for (const auto& [value, node] : values.is_table() ? *values.as_table() : toml::table()) {
+                    auto data = Get(hive, key.str(), value.str());
+                    if (!data.IsEmpty()) {
+                        entries.push_back({ hive, std::string(key.str()), std::string(value.str()), std::move(data) });
+                    }
+                }
+            }
+        }
+        return entries;
+    }
     std::string ToText() const { return RegistryText(mRoot); }
 
 private:
@@ -208,6 +224,11 @@ void TomlRegistry::Write(Hive hive, const std::string& key, const std::string& v
 void TomlRegistry::RequireSound(const std::string& key, const std::vector<std::string>& texts) const
 {
     mTables->RequireSound(mPath, key, texts);
+}
+
+std::vector<RegistryEntry> TomlRegistry::Entries() const
+{
+    return mTables->Entries();
 }
 
 Variant TomlRegistry::Get(Hive hive, const std::string& key, const std::string& value) const

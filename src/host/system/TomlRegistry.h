@@ -18,6 +18,16 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A value of the registry.
+struct RegistryEntry
+{
+    Hive hive;
+    std::string key;
+    std::string value;
+    /// A text or a number.
+    Variant data;
+};
+
 /// The registry in one file, with both hives, that can be read and edited by hand. Keys and values are found in any
 /// case. Changes replace the file as a whole; what doesn't change anything isn't written.
 class TomlRegistry : public Registry
@@ -39,6 +49,8 @@ public:
     void RequireSound(const std::string& key, const std::vector<std::string>& texts) const;
     /// A text or a number, nothing when there is none; makes no key.
     Variant Get(Hive hive, const std::string& key, const std::string& value) const;
+    /// All texts and numbers of both hives.
+    std::vector<RegistryEntry> Entries() const;
     /// Writes a number, making the key; fails as `Write` does.
     void WriteNumber(Hive hive, const std::string& key, const std::string& value, std::int32_t number);
     /// Deletes a value; false when there was none. Fails as `Write` does.
