@@ -56,8 +56,8 @@ Json RefusalOfCurrentException()
 
 }
 
-Driver::Driver(const ProfileOptions& options)
-    : mHost(options)
+Driver::Driver(const ProfileOptions& options, const std::string& addInFolder)
+    : mHost(options, addInFolder)
 {
     mHostCommands.AddTo(mCommands);
     mMailboxCommands.AddTo(mCommands);

@@ -17,8 +17,9 @@ namespace tempodial {
 class Driver
 {
 public:
-    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`.
-    explicit Driver(const ProfileOptions& options);
+    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The folder is that of the add-in for Windows,
+    /// empty for the one in this program.
+    explicit Driver(const ProfileOptions& options, const std::string& addInFolder = {});
     ~Driver();
     Driver(const Driver&) = delete;
     Driver& operator=(const Driver&) = delete;

@@ -2,12 +2,18 @@
 
 #include "driver/RequestError.h"
 #include "faults/Wrapped.h"
+#include "host/files/ProgramFolder.h"
 #include "host/system/HostShell.h"
+#include "host/system/IcuLocaleFormats.h"
+
+#include <utility>
 
 namespace tempodial {
 
-DriverHost::DriverHost(const ProfileOptions& options)
+DriverHost::DriverHost(const ProfileOptions& options, std::string addInFolder)
     : mSession(options)
+    , mAddInFolder(std::move(addInFolder))
+    , mLocale(options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment())
 {
 }
 
@@ -17,13 +23,66 @@ void DriverHost::Start(HostSettings settings)
         throw RequestError("the host is started already: stop it first");
     }
     settings.seen = [faults = mFaults](const Ref<Application>& application) { return Wrapped(application, faults); };
-    mSession.Start(Surroundings(settings.imports), settings);
+    const auto surroundings = Surroundings(settings.imports);
+    if (!mAddInFolder.empty()) {
+        if (settings.imports == Imports::ByLines) {
+            throw RequestError("the add-in for Windows can't remember what it has imported: leave out \"remember\"");
+        }
+        settings.load = [&] { return LoadRemote(surroundings); };
+    }
+    mSession.Start(Wrapped(surroundings, mFaults), settings);
 }
 
 void DriverHost::Stop()
 {
     RequireStarted();
     mSession.Stop();
+    mRemote = nullptr;
+}
+
+Ref<LoadedAddIn> DriverHost::LoadRemote(const Platform& surroundings)
+{
+    const auto& folder = surroundings.fileSystem->GetSpecialFolder(SpecialFolder::Temporary);
+    const auto remote = MakeRef<RemoteAddIn>(RemoteSettings { .programs = mAddInFolder,
+                                                 .profile = folder,
+                                                 .installFolder = InProgramFolder("share/tempodial"),
+                                                 .locale = mLocale },
+        surroundings, Profile().Registry());
+    for (const auto& fault : std::exchange(mPlanned, {})) {
+        remote->Add(fault);
+    }
+    mRemote = remote;
+    return remote;
+}
+
+void DriverHost::Add(const FaultPlan::Fault& fault)
+{
+    // The calls of the object model are made here, all others there.
+    mFaults->Add(fault);
+    if (mRemote) {
+        mRemote->Add(fault);
+    } else if (!mAddInFolder.empty()) {
+        mPlanned.push_back(fault);
+    }
+}
+
+Variant DriverHost::RegistryValue(Hive hive, const std::string& key, const std::string& value) const
+{
+    return mRemote ? mRemote->RegistryValue(hive, key, value) : Profile().Registry()->Get(hive, key, value);
+}
+
+void DriverHost::SetRegistryValue(Hive hive, const std::string& key, const std::string& value, const Variant& data)
+{
+    const auto& registry = Profile().Registry();
+    if (mRemote) {
+        mRemote->SetRegistryValue(hive, key, value, data);
+    } else if (const auto* number = data.If<std::int32_t>()) {
+        registry->WriteNumber(hive, key, value, *number);
+    } else if (data.IsEmpty()) {
+        registry->Delete(hive, key, value);
+    } else {
+        registry->Write(hive, key, value, data.ToText());
+    }
 }
 
 HostApplication& DriverHost::Windows() const
@@ -57,7 +116,7 @@ Platform DriverHost::Surroundings(Imports imports) const
     surroundings.eventPump = mEventPump;
     surroundings.shell
         = MakeRef<HostShell>([opened = mOpened](const std::string& document) { opened->push_back(document); });
-    return Wrapped(surroundings, mFaults);
+    return surroundings;
 }
 
 void DriverHost::RequireStarted() const

@@ -3,8 +3,9 @@
 #include "base/Ref.h"
 #include "driver/DriverEventPump.h"
 #include "driver/DriverMessageBox.h"
+#include "driver/remote/RemoteAddIn.h"
 #include "faults/FaultPlan.h"
-#include "forms/FormModelFactory.h"
+#include "forms/ModelHands.h"
 #include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
 #include "host/windows/HostApplication.h"
@@ -23,8 +24,9 @@ namespace tempodial {
 class DriverHost
 {
 public:
-    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`.
-    explicit DriverHost(const ProfileOptions& options);
+    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The folder is that of the add-in for Windows,
+    /// which takes the place of the one in this program; empty for that one.
+    explicit DriverHost(const ProfileOptions& options, std::string addInFolder = {});
 
     /// Starts a host in which the add-in sees what may fail; fails with `RequestError` when one is connected already.
     void Start(HostSettings settings);
@@ -41,21 +43,38 @@ public:
     tempodial::Session& Session() { return mSession; }
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mSession.Mailbox(); }
-    FormModelFactory& Forms() { return *mSession.Forms(); }
+    /// A person at the add-in's forms.
+    FormHands& Forms() { return mRemote ? static_cast<FormHands&>(*mRemote) : mHands; }
+    /// The calls that are made in this program, and which of them are to fail.
+    FaultPlan& Faults() { return *mFaults; }
+    /// Lets calls of the add-in fail, wherever it runs.
+    void Add(const FaultPlan::Fault& fault);
+    /// A value of the add-in's registry, nothing when there is none.
+    Variant RegistryValue(Hive hive, const std::string& key, const std::string& value) const;
+    /// Sets a value of the add-in's registry to a text or a number, or deletes it for nothing.
+    void SetRegistryValue(Hive hive, const std::string& key, const std::string& value, const Variant& data);
     DriverMessageBox& MessageBox() { return *mMessageBox; }
     DriverEventPump& EventPump() { return *mEventPump; }
-    FaultPlan& Faults() { return *mFaults; }
     /// The documents and addresses opened so far.
     const std::vector<std::string>& Opened() const { return *mOpened; }
 
 private:
     Platform Surroundings(Imports imports) const;
+    /// Loads the add-in for Windows, with what was planned of faults.
+    Ref<LoadedAddIn> LoadRemote(const Platform& surroundings);
     void RequireStarted() const;
 
     tempodial::Session mSession;
     Ref<DriverMessageBox> mMessageBox = MakeRef<DriverMessageBox>(Mailbox());
     Ref<DriverEventPump> mEventPump = MakeRef<DriverEventPump>(Profile().Surroundings().eventPump);
     Ref<FaultPlan> mFaults = MakeRef<FaultPlan>();
+    ModelHands mHands { *mSession.Forms() };
+    std::string mAddInFolder;
+    std::string mLocale;
+    /// The add-in for Windows while it is connected.
+    Ref<RemoteAddIn> mRemote;
+    /// Faults that were planned while none was.
+    std::vector<FaultPlan::Fault> mPlanned;
     Ref<std::vector<std::string>> mOpened = MakeRef<std::vector<std::string>>();
 };
 

@@ -2,11 +2,15 @@
 
 #include "driver/Driver.h"
 #include "driver/LineReader.h"
+#include "host/files/ProgramFolder.h"
 #include "terminal/ArgumentParser.h"
 #include "terminal/ProfileArguments.h"
 #include "terminal/ProgramRun.h"
+#include "terminal/UsageError.h"
 
 #include <cstddef>
+#include <cstdlib>
+#include <optional>
 
 namespace tempodial {
 
@@ -26,6 +30,16 @@ constexpr auto Footer = "An example:\n"
                         "Exit status: 0 done; 1 not done; 2 unusable arguments; 3 the profile is in use by\n"
                         "another process.";
 
+/// The folder of the add-in that is named.
+std::string AddInFolder(const std::string& addIn)
+{
+    if (addIn != "wine") {
+        throw UsageError("there is no add-in \"" + addIn + "\": give wine");
+    }
+    const auto* folder = std::getenv("TEMPODIAL_ADDIN_DIR");
+    return folder != nullptr && *folder != '\0' ? folder : InProgramFolder("lib/tempodial/windows");
+}
+
 }
 
 ExitStatus DriverProgram::Run(const std::vector<std::string>& arguments) noexcept
@@ -37,14 +51,17 @@ ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
 {
     const ArgumentParser parser({ Name, Description, Footer });
     ProfileArguments profile;
+    std::optional<std::string> addIn;
     auto list = parser.Arguments();
     profile.Declare(list);
+    list.Optional(
+        "--addin WHERE", addIn, "\"wine\" for the add-in for Windows, run by Wine; else the one in this program");
     if (!parser.Parse(arguments, mOut)) {
         return ExitStatus::Done;
     }
     auto options = profile.Options();
     options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
-    Driver driver(options);
+    Driver driver(options, addIn ? AddInFolder(*addIn) : std::string());
     LineReader lines(mInput, LongestLine);
     for (auto line = lines.Next(); line && mOut; line = lines.Next()) {
         mOut << (line->isTooLong ? driver.Refuse("the line is too long") : driver.Answer(line->text)) << '\n';

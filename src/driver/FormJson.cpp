@@ -1,13 +1,5 @@
 #include "driver/FormJson.h"
 
-#include "forms/ComboBoxModel.h"
-#include "platform/controls/Button.h"
-#include "platform/controls/CheckBox.h"
-#include "platform/controls/Label.h"
-#include "platform/controls/OptionButton.h"
-#include "platform/controls/ProgressBar.h"
-#include "platform/controls/TextBox.h"
-
 #include <nlohmann/json.hpp>
 
 namespace tempodial {
@@ -35,49 +27,40 @@ const char* Word(ControlKind kind)
     return "progress";
 }
 
-Json ControlJson(const Ref<Control>& control, const ControlDefinition& definition)
+Json ControlJson(const ControlSnapshot& control)
 {
-    Json json { { "kind", Word(definition.kind) } };
-    if (const auto label = control.As<Label>()) {
-        json["text"] = label->Caption();
-    } else if (const auto button = control.As<Button>()) {
-        json["text"] = button->Caption();
-    } else if (const auto box = control.As<TextBox>()) {
-        json["text"] = box->Text();
-    } else if (const auto combo = control.As<ComboBoxModel>()) {
-        json["text"] = combo->Text();
-        json["list"] = combo->List();
-        json["index"] = combo->ListIndex();
-    } else if (const auto check = control.As<CheckBox>()) {
-        json["text"] = check->Caption();
-        json["checked"] = check->Value();
-    } else if (const auto option = control.As<OptionButton>()) {
-        json["text"] = option->Caption();
-        json["checked"] = option->Value();
+    Json json { { "kind", Word(control.kind) } };
+    if (control.kind != ControlKind::ProgressBar) {
+        json["text"] = control.text;
     }
-    json["enabled"] = control->Enabled();
-    json["visible"] = control->Visible() && definition.onForm;
-    json["tip"] = definition.toolTip;
-    if (const auto bar = control.As<ProgressBar>()) {
-        json["min"] = bar->Min();
-        json["max"] = bar->Max();
-        json["value"] = bar->Value();
+    if (control.kind == ControlKind::ComboBox) {
+        json["list"] = control.list;
+        json["index"] = control.index;
+    }
+    if (control.kind == ControlKind::CheckBox || control.kind == ControlKind::OptionButton) {
+        json["checked"] = control.checked;
+    }
+    json["enabled"] = control.enabled;
+    json["visible"] = control.visible;
+    json["tip"] = control.tip;
+    if (control.kind == ControlKind::ProgressBar) {
+        json["min"] = control.min;
+        json["max"] = control.max;
+        json["value"] = control.value;
     }
     return json;
 }
 
 }
 
-Json FormJson(FormModel& form)
+Json FormJson(const FormSnapshot& form)
 {
     auto controls = Json::object();
-    for (const auto& row : form.Definition().rows) {
-        for (const auto& definition : row) {
-            controls[definition.name] = ControlJson(form.Control(definition.name), definition);
-        }
+    for (const auto& control : form.controls) {
+        controls[control.name] = ControlJson(control);
     }
-    return { { "form", form.Number() }, { "class", form.Definition().className }, { "title", form.Caption() },
-        { "visible", form.Visible() }, { "controls", controls } };
+    return { { "form", form.number }, { "class", form.className }, { "title", form.title }, { "visible", form.visible },
+        { "controls", controls } };
 }
 
 }

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "driver/Json.h"
-#include "forms/FormModel.h"
+#include "forms/FormSnapshot.h"
 
 namespace tempodial {
 
 /// A form with its controls as a person sees them.
-Json FormJson(FormModel& form);
+Json FormJson(const FormSnapshot& form);
 
 }

@@ -87,7 +87,7 @@ Json HostCommands::Fail(const Request& request)
         throw RequestError("the call \"" + call + "\" names no member: give one such as AppointmentItem.Save");
     }
     const auto number = request.Number("number", static_cast<std::int32_t>(Error::Automation));
-    mHost.Faults().Add({ .call = call,
+    mHost.Add({ .call = call,
         .skip = request.NumberFrom(0, "skip", 0),
         .times = request.NumberFrom(0, "times", 1),
         .failure = Failure(number, request.Text("text", std::string(ErrorText(number)))) });
@@ -116,25 +116,24 @@ Json HostCommands::Registry(const Request& request)
     const auto given = request.Text("key", "");
     const auto key = given.empty() ? ProductKey : given;
     const auto value = request.Text("value");
-    const auto& registry = mHost.Profile().Registry();
     auto answer = Json::object();
     if (action == "get") {
-        const auto found = registry->Get(hive, key, value);
+        const auto found = mHost.RegistryValue(hive, key, value);
         if (const auto* number = found.If<std::int32_t>()) {
             answer["number"] = *number;
         } else if (!found.IsEmpty()) {
             answer["text"] = found.ToText();
         }
     } else if (action == "delete") {
-        registry->Delete(hive, key, value);
+        mHost.SetRegistryValue(hive, key, value, {});
     } else if (action != "set") {
         throw RequestError("registry can't \"" + action + "\": give get, set or delete");
     } else if (request.Has("text") == request.Has("number")) {
         throw RequestError(R"(give either the field "text" or the field "number" to set)");
     } else if (request.Has("text")) {
-        registry->Write(hive, key, value, request.Text("text"));
+        mHost.SetRegistryValue(hive, key, value, request.Text("text"));
     } else {
-        registry->WriteNumber(hive, key, value, request.Number("number"));
+        mHost.SetRegistryValue(hive, key, value, request.Number("number"));
     }
     return answer;
 }

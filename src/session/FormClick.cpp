@@ -11,16 +11,16 @@ constexpr auto ProjectSettingsFormClass = "ProjectSettingsForm";
 
 }
 
-void ClickButton(const Profile& profile, const FormModel& form, ButtonModel& button)
+void ClickAsStep(
+    const Profile& profile, const std::string& className, const std::string& title, const std::function<void()>& click)
 {
-    const auto definition = form.Definition();
-    if (definition.className == SetProjectFormClass) {
-        Steps(profile).Record(definition.title,
-            [&] { profile.Mailbox()->ChoosingProjects(ProjectChoice::Person, [&] { button.Click(); }); });
-    } else if (definition.className == ProjectSettingsFormClass) {
-        Steps(profile).Record(definition.title, [&] { button.Click(); });
+    if (className == SetProjectFormClass) {
+        Steps(profile).Record(
+            title, [&] { profile.Mailbox()->ChoosingProjects(ProjectChoice::Person, [&] { click(); }); });
+    } else if (className == ProjectSettingsFormClass) {
+        Steps(profile).Record(title, click);
     } else {
-        button.Click();
+        click();
     }
 }
 

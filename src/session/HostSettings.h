@@ -5,6 +5,7 @@
 #include "platform/objectmodel/Application.h"
 #include "platform/objectmodel/MAPIFolder.h"
 #include "session/Imports.h"
+#include "session/LoadedAddIn.h"
 
 #include <cstdint>
 #include <functional>
@@ -25,6 +26,8 @@ struct HostSettings
     Imports imports = Imports::ByHistory;
     /// Makes what the add-in gets in the place of the application, nothing for the application itself.
     std::function<Ref<Application>(const Ref<Application>& application)> seen = nullptr;
+    /// Loads the add-in from elsewhere, nothing for the one in this program.
+    std::function<Ref<LoadedAddIn>()> load = nullptr;
 };
 
 }

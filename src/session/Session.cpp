@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "session/OpenProfile.h"
+#include "session/OwnAddIn.h"
 
 #include <utility>
 
@@ -27,6 +28,8 @@ Platform Session::Surroundings(Imports imports) const
 
 void Session::Start(Platform surroundings, const HostSettings& settings)
 {
+    const auto addIn = settings.load ? settings.load()
+                                     : Ref<LoadedAddIn>(MakeRef<OwnAddIn>(MakeRef<Platform>(std::move(surroundings))));
     const auto application = MakeRef<HostApplication>(Mailbox(), settings.version);
     const auto folder
         = settings.folder ? settings.folder : Mailbox()->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox);
@@ -36,7 +39,7 @@ void Session::Start(Platform surroundings, const HostSettings& settings)
     if (mHost) {
         mReplaced.push_back(mHost);
     }
-    const auto host = MakeRef<StartedHost>(application, MakeRef<Platform>(std::move(surroundings)));
+    const auto host = MakeRef<StartedHost>(application, addIn);
     mHost = host;
     // What the add-in takes for its first run must not be over in the file before all is there that it writes then.
     try {

@@ -51,7 +51,8 @@ public:
     bool IsConnected() const { return mHost && mHost->IsConnected(); }
     /// The windows of the host that was last started; fails with `Failure` when there is none.
     HostApplication& Windows() const { return mHost->Windows(); }
-    /// The add-in's own members; fails with `Failure` while it isn't connected, and when it stays dormant.
+    /// The add-in's own members; fails with `Failure` while it isn't connected, when it stays dormant, and when it runs
+    /// elsewhere.
     TempodialMain& AddIn() const { return mHost->AddIn(); }
     /// The mail that came last to the screen, nothing when there is none.
     Ref<HostMail> ShownMail() const;

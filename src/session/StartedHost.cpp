@@ -1,7 +1,5 @@
 #include "session/StartedHost.h"
 
-#include "session/ProductFacts.h"
-
 #include <algorithm>
 
 namespace tempodial {
@@ -9,15 +7,13 @@ namespace tempodial {
 void StartedHost::Connect(const Ref<Application>& application)
 {
     mConnected = true;
-    mConnect.OnConnection(application, ConnectProgId);
-    mConnect.OnStartupComplete();
+    mAddIn->Connect(application);
 }
 
 void StartedHost::Disconnect()
 {
     mConnected = false;
-    mConnect.OnBeginShutdown();
-    mConnect.OnDisconnection();
+    mAddIn->Disconnect();
 }
 
 void StartedHost::CloseWindows()

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "base/Ref.h"
-#include "engine/core/Connect.h"
 #include "engine/core/TempodialMain.h"
 #include "host/windows/HostApplication.h"
-#include "platform/Platform.h"
 #include "platform/objectmodel/Application.h"
+#include "session/LoadedAddIn.h"
 
 #include <utility>
 
@@ -15,9 +14,9 @@ namespace tempodial {
 class StartedHost
 {
 public:
-    StartedHost(Ref<HostApplication> application, Ref<const Platform> platform)
+    StartedHost(Ref<HostApplication> application, Ref<LoadedAddIn> addIn)
         : mApplication(std::move(application))
-        , mConnect(std::move(platform))
+        , mAddIn(std::move(addIn))
     {
     }
 
@@ -32,12 +31,13 @@ public:
     bool IsConnected() const { return mConnected; }
     /// The application with its windows.
     HostApplication& Windows() const { return *mApplication; }
-    /// The add-in's own members; fails with `Failure` while it isn't connected, and when it stays dormant.
-    TempodialMain& AddIn() const { return *mConnect.Main(); }
+    /// The add-in's own members; fails with `Failure` while it isn't connected, when it stays dormant, and when it runs
+    /// elsewhere.
+    TempodialMain& AddIn() const { return mAddIn->Members(); }
 
 private:
     Ref<HostApplication> mApplication;
-    tempodial::Connect mConnect;
+    Ref<LoadedAddIn> mAddIn;
     bool mConnected = false;
 };
 

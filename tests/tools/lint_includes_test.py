@@ -138,8 +138,9 @@ class LibraryTest(unittest.TestCase):
         self.Refuses("host/store/A.h", "unicode/locid.h")
         self.Allows("driver/A.h", "nlohmann/json.hpp")
         self.Refuses("host/system/A.h", "nlohmann/json.hpp")
-        self.Allows("addin/com/A.h", "windows.h")
+        self.Allows("addin/base/A.h", "windows.h")
         self.Refuses("host/system/A.h", "windows.h")
+        self.Refuses("addin/com/A.h", "windows.h")
         self.Allows("host/system/A.h", "unistd.h")
 
 
