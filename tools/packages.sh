@@ -6,7 +6,7 @@ build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev li
     libical-dev)
 
 # What the tests and lints need besides.
-check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix
+check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64
     libemail-outlook-message-perl libemail-address-perl python3-olefile python3-icalendar)
 
 # What ./check --browser needs besides.

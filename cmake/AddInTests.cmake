@@ -1,0 +1,39 @@
+# The tests of the add-in, which Wine runs: one program for each folder of tests/addin, and the cases of tests/rig, which
+# are compared with the driver of the preset dev.
+
+include(GoogleTest)
+
+# Debian has GoogleTest for other systems as sources only.
+set(googletest /usr/src/googletest)
+add_library(addin_googletest STATIC EXCLUDE_FROM_ALL "${googletest}/googletest/src/gtest-all.cc"
+    "${googletest}/googlemock/src/gmock-all.cc" "${googletest}/googlemock/src/gmock_main.cc")
+target_include_directories(addin_googletest SYSTEM PUBLIC "${googletest}/googletest/include"
+    "${googletest}/googlemock/include")
+target_include_directories(addin_googletest PRIVATE "${googletest}/googletest" "${googletest}/googlemock")
+set_target_properties(addin_googletest PROPERTIES UNITY_BUILD OFF)
+
+set(tests "${PROJECT_SOURCE_DIR}/tests")
+foreach(part base com win32 dll)
+    file(GLOB sources CONFIGURE_DEPENDS "${tests}/addin/${part}/*.cpp")
+    if(part STREQUAL "dll")
+        list(APPEND sources "${tests}/addin/com/FakeObject.cpp")
+    endif()
+    if(NOT sources)
+        continue()
+    endif()
+    set(program addin_${part}_tests)
+    add_executable(${program} ${sources})
+    target_include_directories(${program} PRIVATE "${tests}")
+    target_link_libraries(${program} PRIVATE tempodial_options addin_${part} addin_googletest)
+    target_compile_options(${program} PRIVATE -Wno-subobject-linkage)
+    set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    gtest_discover_tests(${program} TEST_PREFIX "addin/${part}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+        NO_PRETTY_VALUES PROPERTIES TIMEOUT 60 LABELS addin)
+endforeach()
+
+file(GLOB cases CONFIGURE_DEPENDS "${tests}/rig/cases/*.jsonl")
+foreach(case IN LISTS cases)
+    cmake_path(GET case STEM name)
+    add_test(NAME rig/${name} COMMAND "${tests}/rig/compare-all" "${case}")
+    set_tests_properties(rig/${name} PROPERTIES TIMEOUT 600 LABELS rig)
+endforeach()

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "addin/win32/FileText.h"
+#include "platform/Platform.h"
+#include "portable/InstalledRegistry.h"
+#include "portable/PatternFormats.h"
+
+#include <string>
+
+namespace tempodial {
+
+/// What differs between the modules of the add-in.
+struct Win32Options
+{
+    FileText text = FileText::OfSystem();
+    /// The title of message boxes.
+    std::string title;
+    /// Where the install folder is set, and which one it is when it isn't.
+    InstalledRegistry::Place installPlace;
+    std::string installFolder;
+    LocalePatterns locale;
+};
+
+/// The surroundings that the system gives, but for forms.
+Platform Win32Surroundings(Win32Options options);
+
+}

@@ -1,0 +1,95 @@
+#include "standin/StandIn.h"
+
+#include "addin/base/SystemText.h"
+#include "standin/StandInObject.h"
+#include "wire/WireFailure.h"
+
+namespace tempodial {
+
+StandIn::StandIn()
+    : mHost(mChannel, [this](FrameType type, FrameReader& body) { return Serve(type, body); })
+{
+    using Arguments = std::vector<WireValue>;
+    mWorks["environment"] = [](const Arguments& arguments) {
+        SetEnvironmentVariableW(Wide(arguments.at(0).text).c_str(), Wide(arguments.at(1).text).c_str());
+        return WireValue();
+    };
+    mWorks["hives"] = [this](const Arguments&) {
+        mRegistry.emplace();
+        return WireValue();
+    };
+    mWorks["registry.set"] = [](const Arguments& arguments) {
+        PrivateRegistry::Set(arguments);
+        return WireValue();
+    };
+    mWorks["registry.get"] = [](const Arguments& arguments) { return PrivateRegistry::Get(arguments); };
+    mWorks["registry.list"] = [](const Arguments& arguments) { return PrivateRegistry::List(arguments); };
+    mWorks["load"] = [this](const Arguments& arguments) {
+        mModule.emplace(arguments.at(0).text, mHost);
+        return WireValue();
+    };
+    mWorks["connect"] = [this](const Arguments& arguments) {
+        Module().Connect(mObjects.Object(arguments.at(0).number, arguments.at(0).text));
+        return WireValue();
+    };
+    mWorks["startup"] = [this](const Arguments&) {
+        Module().CompleteStartup();
+        return WireValue();
+    };
+    mWorks["disconnect"] = [this](const Arguments&) {
+        const auto canUnload = Module().Disconnect();
+        return WireValue::List(
+            { WireValue::Flag(canUnload), WireValue::Number(static_cast<std::int64_t>(mObjects.Count())) });
+    };
+}
+
+void StandIn::Run()
+{
+    while (mHost.ServeNext()) { }
+}
+
+WireValue StandIn::Serve(FrameType type, FrameReader& body)
+{
+    try {
+        if (type == FrameType::Event) {
+            return Raise(body);
+        }
+        if (type == FrameType::Do) {
+            return Do(body);
+        }
+    } catch (const WireFailure&) {
+        throw;
+    } catch (const WireBroken&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw WireFailure(WireFailure::Refused, error.what());
+    }
+    throw WireBroken("the host has sent a frame that isn't meant for this end");
+}
+
+WireValue StandIn::Raise(FrameReader& body)
+{
+    const auto number = body.Number();
+    const auto event = static_cast<DISPID>(body.Number());
+    const auto arguments = body.Values();
+    const auto object = mObjects.Find(number);
+    return WireValue::Flag(object && object->Raise(event, arguments));
+}
+
+WireValue StandIn::Do(FrameReader& body)
+{
+    const auto word = body.Text();
+    const auto arguments = body.Values();
+    const auto found = mWorks.find(word);
+    return found == mWorks.end() ? Module().Do(word, arguments) : found->second(arguments);
+}
+
+AddInModule& StandIn::Module()
+{
+    if (!mModule) {
+        throw WireFailure(WireFailure::Refused, "no add-in is loaded");
+    }
+    return *mModule;
+}
+
+}

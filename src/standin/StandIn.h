@@ -1,0 +1,43 @@
+#pragma once
+
+#include "standin/AddInModule.h"
+#include "standin/ObjectTable.h"
+#include "standin/PrivateRegistry.h"
+#include "standin/StandardChannel.h"
+#include "wire/Conversation.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// The program that stands in for Outlook around the real add-in: what the host asks for, it does.
+class StandIn
+{
+public:
+    StandIn();
+
+    /// Serves the host until it closes.
+    void Run();
+
+private:
+    /// What is done by a word.
+    using Work = std::function<WireValue(const std::vector<WireValue>& arguments)>;
+
+    WireValue Serve(FrameType type, FrameReader& body);
+    WireValue Raise(FrameReader& body);
+    WireValue Do(FrameReader& body);
+    AddInModule& Module();
+
+    StandardChannel mChannel;
+    Conversation mHost;
+    ObjectTable mObjects { mHost };
+    std::optional<PrivateRegistry> mRegistry;
+    std::optional<AddInModule> mModule;
+    std::map<std::string, Work> mWorks;
+};
+
+}
