@@ -5,6 +5,7 @@
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 
+#include <optional>
 #include <stdexcept>
 
 namespace tempodial {
@@ -35,7 +36,8 @@ void WorkLogFiller::Fill(Date last, std::int64_t days)
                 const auto midnight = last.AddDays(1 - day);
                 Activities activities(static_cast<std::uint32_t>(DaysBetween(Date(), midnight)));
                 for (std::int64_t item = 0; item < ItemsOfDay; ++item) {
-                    store.Table().Insert(folder, Item(activities, midnight.AddMinutes(item * ItemMinutes)));
+                    store.Table().Insert(
+                        folder, Item(activities, midnight.AddMinutes(item * ItemMinutes)), std::nullopt);
                 }
             }
         });
