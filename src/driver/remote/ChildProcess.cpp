@@ -47,6 +47,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments, std::chron
 {
     auto texts = arguments;
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (auto& text : texts) {
         pointers.push_back(text.data());
     }
