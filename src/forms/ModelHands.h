@@ -30,7 +30,7 @@ public:
 private:
     Ref<FormModel> Form(const FormKey& key) const;
     /// The control that can be worked now; one that isn't there, or can't be worked, fails.
-    Ref<Control> WorkableControl(const FormKey& form, const std::string& name) const;
+    Ref<Control> WorkableControl(const FormKey& key, const std::string& name) const;
 
     const FormModelFactory& mForms;
 };

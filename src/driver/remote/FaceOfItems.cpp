@@ -30,12 +30,6 @@ std::map<std::string_view, typename FaceClass<Interface>::Member> WithItemMember
     return members;
 }
 
-/// Raises an event that a handler can refuse.
-std::function<void(bool& cancel)> Asking(const FaceRaiser& raise, std::int32_t event)
-{
-    return [raise, event](bool& cancel) { cancel = raise.Refused(event) || cancel; };
-}
-
 WireValue AddAttachment(Attachments& attachments, const FaceCall& call)
 {
     if (call.Take<std::int32_t>(1) != AttachmentByValue) {
@@ -88,9 +82,11 @@ template <> const FaceClass<AppointmentItem>& FaceOf()
             { "Delete", Members::Method(&Item::Delete) }, { "Copy", Members::Method(&Item::Copy) },
             { "Move", Members::Method(&Item::Move) } }),
         [](const Ref<Item>& item, const FaceRaiser& raise) {
-            return item->Subscribe({ .Open = Asking(raise, OpenEvent),
-                .Write = Asking(raise, WriteEvent),
-                .Close = Asking(raise, CloseEvent) });
+            const auto asking = [&raise](std::int32_t event) {
+                return [raise, event](bool& cancel) { cancel = raise.Refused(event) || cancel; };
+            };
+            return item->Subscribe(
+                { .Open = asking(OpenEvent), .Write = asking(WriteEvent), .Close = asking(CloseEvent) });
         } };
     return face;
 }
