@@ -3,6 +3,7 @@
 #include "wire/WireFailure.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace tempodial {
@@ -78,10 +79,9 @@ std::string Conversation::NextFrame()
     if (!Take(LengthOfLength, length)) {
         return {};
     }
-    std::size_t size = 0;
-    for (auto byte = length.rbegin(); byte != length.rend(); ++byte) {
-        size = size * 256 + static_cast<unsigned char>(*byte);
-    }
+    constexpr std::size_t ByteValues = 256;
+    const auto size = std::accumulate(length.rbegin(), length.rend(), std::size_t { 0 },
+        [](std::size_t sum, char byte) { return sum * ByteValues + static_cast<unsigned char>(byte); });
     std::string frame;
     if (size == 0 || size > LongestFrame || !Take(size, frame)) {
         throw WireBroken("what came over the wire is no frame");
