@@ -6,10 +6,13 @@
 #include "cli/ProgressLine.h"
 #include "faults/ProblemRecorder.h"
 #include "faults/Wrapped.h"
+#include "host/store/MailboxTrouble.h"
+#include "session/InstalledForm.h"
 #include "session/Steps.h"
 #include "terminal/Screen.h"
 #include "terminal/TerminalText.h"
 
+#include <iostream>
 #include <memory>
 #include <unistd.h>
 #include <utility>
@@ -29,10 +32,21 @@ std::unique_ptr<ProgressLine> TerminalLine()
 
 ConnectedRun::ConnectedRun(const Options& options)
     : mCommand(options.command)
-    , mSession(options)
+    , mSession(RequireForm(options))
 {
     mSession.Start(Surroundings(options));
     mSession.Mailbox()->MarkStatistics();
+}
+
+ConnectedRun::~ConnectedRun()
+{
+    mSession.End();
+    try {
+        RequireNoTrouble(mSession.Mailbox());
+        PrintMessages();
+    } catch (const Failure&) {
+        // What is told is the trouble alone.
+    }
 }
 
 Platform ConnectedRun::Surroundings(const Options& options) const
@@ -84,6 +98,9 @@ Reply ConnectedRun::Concluded(Reply reply)
             + ": see to the profile's disk and run the command again");
     }
     mSession.End();
+    // What the add-in answered then isn't all that there is.
+    RequireNoTrouble(mSession.Mailbox());
+    PrintMessages();
     reply.complaints = mProblems->Messages();
     for (const auto& path : KeptFiles()) {
         reply.warnings.push_back("a tracker file is too old and wasn't imported as a whole: it is kept as " + path);
@@ -102,6 +119,13 @@ Reply ConnectedRun::ConcludedWithChanges(std::size_t changed)
     reply.document.Set("changed", changed);
     reply.summary = std::to_string(changed) + (changed == 1 ? " activity changed\n" : " activities changed\n");
     return Concluded(std::move(reply));
+}
+
+void ConnectedRun::PrintMessages()
+{
+    std::cerr << mMessages.str();
+    std::cerr.flush();
+    mMessages.str("");
 }
 
 }

@@ -13,7 +13,7 @@
 
 #include <cstddef>
 #include <functional>
-#include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -23,10 +23,10 @@ namespace tempodial {
 class ConnectedRun
 {
 public:
-    /// Fails with `ProfileInUse` or `ProfileError`.
+    /// Fails with `ProfileInUse` or `ProfileError`, also when the program isn't installed as a whole.
     explicit ConnectedRun(const Options& options);
-    /// Disconnects the add-in.
-    ~ConnectedRun() { mSession.End(); }
+    /// Disconnects the add-in, and prints its messages unless they may not be told.
+    ~ConnectedRun();
     ConnectedRun(const ConnectedRun&) = delete;
     ConnectedRun& operator=(const ConnectedRun&) = delete;
 
@@ -62,17 +62,21 @@ public:
     /// Selects items in the window, as a person does.
     void Select(std::vector<Ref<OutlookItem>> items) const;
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.
+    /// Fails with `Failure` when nothing may be answered, since a read met damage or a failing disk, or memory was
+    /// wanting.
     Reply Concluded(Reply reply);
     /// The same for a reply that tells how many activities came to another project.
     Reply ConcludedWithChanges(std::size_t changed);
 
 private:
     Platform Surroundings(const Options& options) const;
+    void PrintMessages();
 
     std::string mCommand;
     Session mSession;
     Ref<Problems> mProblems = MakeRef<Problems>();
-    Ref<PrintingMessageBox> mMessageBox = MakeRef<PrintingMessageBox>(std::cerr);
+    std::ostringstream mMessages;
+    Ref<PrintingMessageBox> mMessageBox = MakeRef<PrintingMessageBox>(mMessages);
 };
 
 }

@@ -1,17 +1,14 @@
-#include "base/Failure.h"
-#include "cli/CommandError.h"
 #include "cli/Commands.h"
+#include "cli/DemoFiles.h"
 #include "cli/DemoProjects.h"
-#include "cli/DemoTracker.h"
 #include "host/system/HostClock.h"
+#include "session/InstalledForm.h"
 #include "session/OpenProfile.h"
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 
-#include <algorithm>
 #include <limits>
 #include <string>
-#include <vector>
 
 namespace tempodial {
 
@@ -44,66 +41,18 @@ public:
         constexpr auto MostSeed = std::numeric_limits<std::int32_t>::max();
         const auto days = ToCount("--days", mDays, 1, SavedDataDays + 1);
         const auto seed = static_cast<std::uint32_t>(ToCount("--seed", mSeed, 0, MostSeed));
+        RequireForm(options);
         const auto profile = OpenProfile(options);
-        const auto files = DemoTracker(seed, HostClock(options.now).Now()).Files(days);
-        RequireNoTrackerFiles(*profile.Surroundings().fileSystem, profile.DataFolder());
-        const auto lines = WriteAll(profile, files);
+        const auto written = DemoFiles(profile).Write({ seed, days, HostClock(options.now).Now() });
         AddDemoProjects(profile);
         Reply reply;
-        reply.document.Set("files", files.size());
-        reply.document.Set("lines", lines);
-        reply.summary = std::to_string(files.size()) + " tracker files with " + std::to_string(lines) + " slots in "
-            + profile.DataFolder() + "\n\"tempodial sync\" makes activities of them.\n";
+        reply.document = { { "files", written.files }, { "lines", written.lines } };
+        reply.summary = std::to_string(written.files) + " tracker files with " + std::to_string(written.lines)
+            + " slots in " + profile.DataFolder() + "\n\"tempodial sync\" makes activities of them.\n";
         return reply;
     }
 
 private:
-    static void RequireNoTrackerFiles(FileSystemObject& fileSystem, const std::string& folder)
-    {
-        if (!fileSystem.FolderExists(folder)) {
-            fileSystem.CreateFolder(folder);
-        }
-        const auto files = fileSystem.GetFolder(folder).files;
-        const auto found = std::find_if(
-            files.begin(), files.end(), [](const auto& file) { return file.name.starts_with(TrackerFilePrefix); });
-        if (found != files.end()) {
-            throw CommandError(
-                "there are tracker files already, such as " + found->path + ": name an empty profile with --profile");
-        }
-    }
-
-    /// Writes all files, or none when one of them can't be written; the number of slots in them.
-    static std::size_t WriteAll(const Profile& profile, const std::vector<DemoFile>& files)
-    {
-        auto& fileSystem = *profile.Surroundings().fileSystem;
-        std::size_t lines = 0;
-        std::vector<std::string> written;
-        for (const auto& file : files) {
-            const auto path = DataPath(profile, file.name);
-            try {
-                Write(fileSystem, path, file.lines);
-            } catch (const Failure& failure) {
-                for (const auto& other : written) {
-                    fileSystem.DeleteFile(other, true);
-                }
-                throw CommandError(path + " couldn't be written: " + failure.Description()
-                    + ": see to the profile's folder and its disk");
-            }
-            written.push_back(path);
-            lines += file.lines.size() - 1;
-        }
-        return lines;
-    }
-
-    static void Write(FileSystemObject& fileSystem, const std::string& path, const std::vector<std::string>& lines)
-    {
-        const auto stream = fileSystem.OpenTextFile(path, OpenMode::Writing, true);
-        for (const auto& line : lines) {
-            stream->WriteLine(line);
-        }
-        stream->Close();
-    }
-
     std::string mDays = "21";
     std::string mSeed = "1";
 };

@@ -8,6 +8,7 @@
 #include "cli/ProjectArgument.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
+#include "terminal/JsonListText.h"
 #include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
@@ -69,7 +70,7 @@ public:
         const auto activities = mProject.ActivitiesOf(profile, days);
         Reply reply;
         if (options.json && !isFile && format == "json") {
-            reply.document = Items(activities);
+            reply.documentText = Items(activities);
             return reply;
         }
         auto document = Document(activities, format);
@@ -103,13 +104,13 @@ private:
         return mFormat.value_or(form);
     }
 
-    static JsonValue Items(const Activities& activities)
+    static std::string Items(const Activities& activities)
     {
-        auto items = JsonValue::Array();
+        JsonListText items;
         for (const auto& activity : activities) {
             items.Append(ItemJson(NumberOf(activity), activity));
         }
-        return items;
+        return items.Take();
     }
 
     static std::string Document(const Activities& activities, const std::string& format)
@@ -120,7 +121,7 @@ private:
         if (format == "csv") {
             return ActivityCsv(Records(activities));
         }
-        return Items(activities).Text() + "\n";
+        return Items(activities) + "\n";
     }
 
     PeriodArguments mDays;

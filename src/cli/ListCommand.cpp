@@ -4,6 +4,7 @@
 #include "cli/ProjectArgument.h"
 #include "session/OpenProfile.h"
 #include "terminal/ItemJson.h"
+#include "terminal/JsonListText.h"
 
 namespace tempodial {
 
@@ -38,11 +39,13 @@ public:
         mProject.RequireUsable();
         const auto profile = ReadProfile(options);
         const auto activities = mProject.ActivitiesOf(profile, days);
-        Reply reply { .document = JsonValue::Array() };
+        Reply reply;
         if (options.json) {
+            JsonListText list;
             for (const auto& activity : activities) {
-                reply.document.Append(ItemJson(NumberOf(activity), activity));
+                list.Append(ItemJson(NumberOf(activity), activity));
             }
+            reply.documentText = list.Take();
         } else {
             reply.text = ActivityTable(activities, profile.Surroundings().formats, days, options.screen.isTerminal,
                 mIds ? Numbers::Shown : Numbers::Hidden);

@@ -1,6 +1,7 @@
 #include "cli/OutputFile.h"
 
 #include "base/Failure.h"
+#include "base/MemoryShortage.h"
 #include "base/Text.h"
 #include "cli/CommandError.h"
 #include "host/files/FileDescriptor.h"
@@ -13,6 +14,7 @@
 #include "terminal/UsageError.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -47,7 +49,9 @@ bool BelongsToAProfile(const NativePath& path)
 {
     auto name = path.Name();
     name.erase(0, name.find_first_not_of('.'));
-    if ((name.starts_with(MailboxFileName) || name.starts_with(RegistryFileName)) && IsProfile(path.Folder())) {
+    const bool isOurs
+        = name.starts_with(MailboxFileName) || name.starts_with(RegistryFileName) || name.starts_with(LastSyncFileName);
+    if (isOurs && IsProfile(path.Folder())) {
         return true;
     }
     for (auto level = NativePath::Exactly(path.Folder()); level.Text().size() > 1;
@@ -136,6 +140,7 @@ std::string OutputFile::Form(const std::vector<std::string>& forms) const
 
 void OutputFile::Write(std::string text, Reply& reply) const
 {
+    MemoryShortage::RequireNone();
     try {
         const auto target = TargetAt(Path());
         if (target.WhatItIs() == Kind::StandardOutput) {
@@ -156,6 +161,13 @@ void OutputFile::Write(std::string text, Reply& reply) const
 
 void OutputFile::Write(const MailDraft& mail, const std::string& plainText, Reply& reply) const
 {
+    constexpr std::size_t Usual = std::size_t { 4 } << 20;
+    constexpr std::size_t Copies = 8;
+    auto size = mail.body.size();
+    for (const auto& attachment : mail.attachments) {
+        size += attachment.content.size();
+    }
+    MemoryShortage::Require(Usual + Copies * size);
     std::string text;
     try {
         text = GMimeDraftWriter().Text(mail, plainText);

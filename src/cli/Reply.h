@@ -14,6 +14,8 @@ struct Reply
 {
     /// The machine-readable answer; null when there is none, and then nothing is printed.
     JsonValue document;
+    /// The same as text, without a line feed behind it, where it is too large to be held twice; printed in its place.
+    std::string documentText;
     /// An answer for other programs as well, printed byte for byte before the text. On a terminal it is made harmless.
     std::string content;
     /// True when the content goes where the user told it to, and not to a pager.

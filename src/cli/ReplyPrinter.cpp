@@ -38,6 +38,8 @@ ExitStatus ReplyPrinter::Print(const Reply& reply, const Options& options)
     EndWithReader();
     if (!options.json) {
         PrintText(reply, options);
+    } else if (!reply.documentText.empty()) {
+        mOut << reply.documentText << "\n";
     } else if (!reply.document.IsNull()) {
         mOut << reply.document.Text() << "\n";
     }

@@ -79,7 +79,8 @@ public:
         arguments.Required("PROJECT", mProject, "The project");
         mDays.Declare(arguments);
         arguments.Optional("--round MIN", mRound, "Round billed time up to whole steps of that many minutes");
-        arguments.Optional("--round-by WHAT", mRoundBy, "What is rounded: day, entry or total; default day");
+        arguments.Optional(
+            "--round-by WHAT", mRoundBy, "What is rounded: each day, each entry or the total; default day");
         arguments.Optional("--rate N", mRate, "What an hour costs, such as 95 or 82.50");
         arguments.Optional("--currency TEXT", mCurrency, "What stands behind the amount, such as EUR");
         arguments.Optional("--what WHAT", mWhat,

@@ -3,8 +3,8 @@
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "host/files/PathOperations.h"
-#include "host/store/LineMemory.h"
 #include "session/ProductFacts.h"
+#include "session/ReachedFile.h"
 #include "session/TrackerDay.h"
 
 #include <utility>
@@ -25,32 +25,10 @@ void KeepingFileSystem::DeleteFile(const std::string& path, bool force)
     // By force goes what was imported just now; what is read-only stays in any case.
     const bool isInQuestion
         = !force && !dayKey.empty() && status && status->kind == FileStatus::Kind::File && status->isWritable;
-    if (isInQuestion && !WasReadWhole(path, dayKey)) {
+    if (isInQuestion && !ReachedFile::Of(*this, mMailbox, path, dayKey).IsWhole()) {
         Keep(path);
     } else {
         HostFileSystem::DeleteFile(path, force);
-    }
-}
-
-bool KeepingFileSystem::WasReadWhole(const std::string& path, const std::string& dayKey)
-{
-    LineMemory memory(mMailbox);
-    bool hasLines = false;
-    try {
-        memory.BeginDay(dayKey, 0);
-        const auto file = OpenTextFile(path, OpenMode::Reading, false);
-        file->ReadLine();
-        for (;;) {
-            const auto line = file->ReadLine();
-            const bool isBlank = IsBlank(line) && file->LastLine() != LineKind::TooLong;
-            if (!isBlank && !memory.IsKnown(line)) {
-                return false;
-            }
-            hasLines = hasLines || !isBlank;
-        }
-    } catch (const Failure& failure) {
-        // A file without lines may be one whose line ends nobody knows.
-        return hasLines && failure.Is(Error::InputPastEnd);
     }
 }
 

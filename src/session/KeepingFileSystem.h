@@ -23,8 +23,6 @@ public:
     const std::vector<std::string>& Kept() const { return mKept; }
 
 private:
-    /// True when imports have reached each line of a day's file.
-    bool WasReadWhole(const std::string& path, const std::string& dayKey);
     void Keep(const std::string& path);
 
     Ref<Mailbox> mMailbox;

@@ -2,6 +2,7 @@
 
 #include "host/system/IcuLocaleFormats.h"
 #include "session/ProfileFolder.h"
+#include "session/ProfilePlace.h"
 
 namespace tempodial {
 
@@ -27,6 +28,11 @@ Profile OpenProfile(const ProfileOptions& options)
 Profile ReadProfile(const ProfileOptions& options)
 {
     return Profile::ForReading(FolderOf(options), LocaleOf(options), options.now, options.warn);
+}
+
+std::string ProfilePath(const ProfileOptions& options)
+{
+    return ProfilePlace::UsablePath(FolderOf(options));
 }
 
 std::string DataPath(const Profile& profile, const std::string& name)

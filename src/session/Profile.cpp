@@ -1,8 +1,10 @@
 #include "session/Profile.h"
 
 #include "host/files/ProgramFolder.h"
+#include "host/files/ReplacementFile.h"
 #include "host/store/MailboxError.h"
 #include "host/store/MailboxReading.h"
+#include "host/store/MailboxTrouble.h"
 #include "host/system/BitmapLoader.h"
 #include "host/system/ExpatXml.h"
 #include "host/system/HostFileSystem.h"
@@ -37,6 +39,7 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
 {
     mJournal = MakeRef<StoreImportJournal>(mMailbox);
     mPlatform.importJournal = mJournal;
+    ReplacementFile::DiscardLeftovers(NativePath::Exactly(DataFolder()));
     Steps(*this).Recover();
 }
 
@@ -49,9 +52,12 @@ Profile Profile::ForReading(
     } else if (warn && place.IsWritableByOthers()) {
         warn(ProfilePlace::WarningOfWriters(place.Path()));
     }
-    return { nullptr, place.Path(), locale, now, [&](const auto& path, const auto& formats, const auto& xml) {
-                return OpenMailboxForReading(path, formats, xml, place.IsHeld());
-            } };
+    Profile profile(nullptr, place.Path(), locale, now, [&](const auto& path, const auto& formats, const auto& xml) {
+        return OpenMailboxForReading(path, formats, xml, place.IsHeld());
+    });
+    profile.mIsThere = place.HasProfile();
+    profile.mIsHeld = place.IsHeld();
+    return profile;
 }
 
 Profile::Profile(std::unique_ptr<ProfileFolder> lock, std::string path, const std::string& locale,
@@ -72,9 +78,12 @@ Profile::Profile(std::unique_ptr<ProfileFolder> lock, std::string path, const st
         throw ProfileError(error.what());
     }
     mMailbox->SetClock([clock = mClock] { return clock->UniversalNow(); });
-    mPlatform.fileSystem = MakeRef<HostFileSystem>(mPath);
+    mRegistry->mBeforeChange = [mailbox = mMailbox] { RequireNoTrouble(mailbox); };
+    const auto fileSystem = MakeRef<HostFileSystem>(mPath);
+    fileSystem->mBeforeChange = mRegistry->mBeforeChange;
+    mPlatform.fileSystem = fileSystem;
     mPlatform.registry = MakeRef<InstalledRegistry>(
-        mRegistry, InstalledRegistry::Place { ProductKey, InstallFolderValue }, InProgramFolder("share/tempodial"));
+        mRegistry, InstalledRegistry::Place { ProductKey, InstallFolderValue }, InProgramFolder(TemplatesFolderName));
     mPlatform.shell = MakeRef<HostShell>();
     mPlatform.clock = mClock;
     mPlatform.pictures = MakeRef<BitmapLoader>();

@@ -37,6 +37,10 @@ public:
     static Profile ForReading(
         const std::string& folder, const std::string& locale, std::optional<Date> now, const Warn& warn = nullptr);
 
+    /// True unless it is open for reading and isn't there.
+    bool IsThere() const { return mIsThere; }
+    /// True when a process holds it: this one, or another beside which it is read.
+    bool IsHeld() const { return mIsHeld; }
     /// The absolute path of its folder.
     const std::string& Path() const { return mPath; }
     /// The folder of the tracker's files, the history and the trace; it may be absent.
@@ -60,6 +64,8 @@ private:
 
     /// Nothing when it is open for reading.
     std::unique_ptr<ProfileFolder> mLock;
+    bool mIsThere = true;
+    bool mIsHeld = true;
     std::string mPath;
     Ref<TomlRegistry> mRegistry;
     Ref<tempodial::Mailbox> mMailbox;

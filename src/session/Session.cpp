@@ -13,6 +13,7 @@ Session::Session(const ProfileOptions& options)
     , mFiles(MakeRef<KeepingFileSystem>(
           mProfile.Surroundings().fileSystem->GetSpecialFolder(SpecialFolder::Temporary), mProfile.Mailbox()))
 {
+    mFiles->mBeforeChange = mProfile.Registry()->mBeforeChange;
 }
 
 Platform Session::Surroundings(Imports imports) const

@@ -1,6 +1,7 @@
 #include "terminal/ProgramRun.h"
 
 #include "base/Failure.h"
+#include "base/MemoryShortage.h"
 #include "session/ProfileError.h"
 #include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
@@ -19,12 +20,14 @@ namespace {
 /// Bytes from which on a block of memory is the system's again as soon as it is let go of. By itself the library raises
 /// this to 32 MiB, and a long report's texts leave holes then.
 constexpr int LargeBlock = 4 << 20;
+constexpr auto NoMemory = "there isn't enough memory: close other programs and run the command again";
 
 }
 
 void PrepareProcess()
 {
     ::mallopt(M_MMAP_THRESHOLD, LargeBlock);
+    MemoryShortage::Watch();
     for (const int stream : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO }) {
         if (::fcntl(stream, F_GETFD) < 0) {
             // Writing to it fails, as it would have.
@@ -57,9 +60,12 @@ ExitStatus RunProgram(const std::string& program, std::ostream& error, const std
         Complain(error, program, inUse.what());
         return ExitStatus::ProfileInUse;
     } catch (const Failure& failure) {
-        Complain(error, program, failure.Description() + ": see to the profile's folder and its disk");
+        Complain(error, program,
+            failure.Is(Error::OutOfMemory) ? NoMemory
+                                           : failure.Description()
+                    + ": see to the profile's folder and its disk, or put a good copy in the place of what is damaged");
     } catch (const std::bad_alloc&) {
-        Complain(error, program, "there isn't enough memory: close other programs and run the command again");
+        Complain(error, program, NoMemory);
     } catch (const std::exception& other) {
         Complain(error, program, other.what());
     }

@@ -10,7 +10,7 @@ namespace tempodial {
 
 /// Prepares the process of a program: standard streams that the caller has closed are opened, so that no file of ours
 /// takes their place, and a reader that goes away early, or a file that may not grow, is noticed by the write that
-/// fails. Large blocks of memory go back to the system at once.
+/// fails. Large blocks of memory go back to the system at once, and a want of memory is noted.
 void PrepareProcess();
 
 /// From here on a reader that goes away ends the process in silence, by the system's own signal: for the moment from

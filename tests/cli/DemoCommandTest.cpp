@@ -1,5 +1,6 @@
 #include "support/ProgramFixture.h"
 
+#include <map>
 #include <set>
 #include <sys/stat.h>
 
@@ -19,6 +20,16 @@ protected:
             count += entry.path().filename().string().starts_with("tracker_granules") ? 1 : 0;
         }
         return count;
+    }
+    /// The names and contents of the data folder.
+    std::map<std::string, std::string> Contents() const
+    {
+        std::map<std::string, std::string> contents;
+        for (const auto& entry : std::filesystem::directory_iterator(mProfile + "/Tempodial")) {
+            const auto name = entry.path().filename().string();
+            contents[name] = mFolder.Read("profile/Tempodial/" + name);
+        }
+        return contents;
     }
     static mode_t Mode(const std::string& path)
     {
@@ -112,6 +123,64 @@ TEST_F(DemoCommandTest, Demo_BadNumbers_AreUsageErrors)
         EXPECT_THAT(Refusal({ "demo", "--days", days }, 2), HasSubstr("from 1 to 22"));
     }
     EXPECT_THAT(Refusal({ "demo", "--seed", "x" }, 2), HasSubstr("--seed can't be"));
+}
+
+TEST_F(DemoCommandTest, Demo_KilledAtAnyPoint_IsMadeGoodByTheNext)
+{
+    Json({ "projects" });
+    std::filesystem::remove_all(mProfile + "/Tempodial");
+    const auto empty = mFolder.Path("empty");
+    std::filesystem::copy(mProfile, empty, std::filesystem::copy_options::recursive);
+    const auto calls = RunTempodialKilledAt(Whole({ "demo", "--days", "6" }), 0);
+    if (!calls) {
+        GTEST_SKIP() << "this system forbids observation";
+    }
+    const auto expected = Contents();
+    constexpr int Points = 12;
+    int unfinished = 0;
+    for (int point = 1; point < Points; ++point) {
+        SCOPED_TRACE(point);
+        std::filesystem::remove_all(mProfile);
+        std::filesystem::copy(empty, mProfile, std::filesystem::copy_options::recursive);
+        RunTempodialKilledAt(Whole({ "demo", "--days", "6" }), calls->systemCalls * point / Points);
+        unfinished += std::filesystem::exists(DataPath("demo-unfinished.txt")) && Files() > 0 ? 1 : 0;
+        const auto next = Run({ "demo", "--days", "6" });
+        if (next.status != 0) {
+            EXPECT_EQ(Contents(), expected) << "it was over";
+            continue;
+        }
+        EXPECT_EQ(Contents(), expected);
+    }
+    EXPECT_GT(unfinished, 0);
+}
+
+TEST_F(DemoCommandTest, Demo_StrangersFileBesideAnUnfinishedOne_IsRefusedAndStays)
+{
+    Json({ "demo", "--days", "1" });
+    const auto own = mFolder.Read("profile/Tempodial/tracker_granules20061010.out");
+    for (const auto* note : { "1 1 2006-10-10T17:00:00\r\n", "nonsense", "" }) {
+        WriteData("demo-unfinished.txt", note);
+        WriteData("tracker_granules20061010.out", own + "<slot/>\r\n");
+        EXPECT_THAT(Refusal({ "demo" }, 1), HasSubstr("tracker_granules20061010.out"));
+        EXPECT_EQ(mFolder.Read("profile/Tempodial/tracker_granules20061010.out"), own + "<slot/>\r\n");
+    }
+}
+
+TEST_F(DemoCommandTest, Commands_ProgramMovedAwayFromItsTemplates_SayWhatToDoAndWriteNothing)
+{
+    const auto program = mFolder.Path("bin/tempodial");
+    std::filesystem::create_directory(mFolder.Path("bin"));
+    std::filesystem::copy(TEMPODIAL_EXECUTABLE, program);
+    for (const auto& arguments : { Arguments { "demo" }, Arguments { "sync" }, Arguments { "projects" } }) {
+        const auto result = RunTempodialWith({ .executable = program }, Whole(arguments));
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.error, testing::MatchesRegex(MessageForm));
+        EXPECT_THAT(result.error, HasSubstr("install"));
+        EXPECT_FALSE(std::filesystem::exists(mProfile));
+    }
+    Json({ "registry", "set", "HKLM", "", "Install Directory", TEMPODIAL_SOURCE_DIR "/resources" });
+    EXPECT_EQ(RunTempodialWith({ .executable = program }, Whole({ "demo" })).status, 0);
 }
 
 }

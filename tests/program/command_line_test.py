@@ -74,8 +74,6 @@ class CommandLinePageTest(shells.Shells):
         self.Program(*SURROUNDINGS, "projects", "set", "Riverside", "--subject", "riverside")
         self.Program(*SURROUNDINGS, "projects", "export", str(self.folder / "projects.toml"))
         self.Program(*SURROUNDINGS, "projects", "set", "Riverside", "--subject", "")
-        (self.folder / "mine.csv").write_text(
-            "start,end,program,title\n2006-10-06T09:00,2006-10-06T10:30,Word,plan.doc\n", encoding="utf-8")
         for name, section in Sections().items():
             examples = Examples(section)
             self.assertTrue(examples, name + " has no example")

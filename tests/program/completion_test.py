@@ -55,7 +55,6 @@ class CompletionTest(shells.Shells):
         self.Expect("tempodial report --by p", "project")
         self.Expect("tempodial report --text --by d", "description", "date")
         self.Expect("tempodial export --format ", "ics", "csv", "json")
-        self.Expect("tempodial timesheet Riverside --round-by ", "day", "entry", "total")
         self.Expect("tempodial completion ", "bash", "zsh", "fish")
 
     def test_ValueBehindAnEqualsSign_IsOffered(self):

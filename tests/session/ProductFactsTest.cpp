@@ -18,6 +18,7 @@ TEST_F(ProductFactsTest, Words_AreTheAddInsOwn)
     EXPECT_EQ(strings.mFolderName, DataFolderName);
     EXPECT_EQ(strings.mNoProject, NoProject);
     EXPECT_EQ(strings.mFormClass, ActivityClass);
+    EXPECT_EQ(strings.mFormName, FormFileName);
     EXPECT_EQ(strings.mRegistryValueInstall, InstallFolderValue);
     EXPECT_EQ(strings.mRegistryValueOLFolderID, WorkLogIdValue);
     EXPECT_EQ(strings.mRegistryValueProjectXML, ProjectsValue);

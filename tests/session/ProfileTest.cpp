@@ -78,4 +78,17 @@ TEST(ProfileTest, ProjectsOfAnotherKindThanTexts_AreDamageAndStay)
     }
 }
 
+TEST(ProfileTest, LeftoversOfKilledRuns_GoWithTheNextThatHoldsIt)
+{
+    const TempFolder folder;
+    fs::create_directory(folder.Path("Tempodial"));
+    folder.Write("Tempodial/.2006.csv.new", "x");
+    folder.Write("Tempodial/2006.csv", "x");
+    static_cast<void>(Profile::ForReading(folder.Path(), "en_US", std::nullopt));
+    EXPECT_TRUE(folder.Has("Tempodial/.2006.csv.new"));
+    static_cast<void>(Profile(folder.Path(), "en_US", std::nullopt));
+    EXPECT_FALSE(folder.Has("Tempodial/.2006.csv.new"));
+    EXPECT_TRUE(folder.Has("Tempodial/2006.csv"));
+}
+
 }

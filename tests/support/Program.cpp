@@ -52,9 +52,9 @@ std::vector<char*> Pointers(std::vector<std::string>& words)
 }
 
 [[noreturn]] void BecomeTempodial(const std::vector<std::string>& arguments, std::vector<std::string> environment,
-    const Pipe& out, const Pipe& error, bool observed)
+    const Pipe& out, const Pipe& error, bool observed, const RunSettings& settings = {})
 {
-    std::vector<std::string> words { TEMPODIAL_EXECUTABLE };
+    std::vector<std::string> words { settings.executable.empty() ? TEMPODIAL_EXECUTABLE : settings.executable };
     words.insert(words.end(), arguments.begin(), arguments.end());
     if (observed) {
         // A leak check can't look into a process that is observed already.
@@ -66,6 +66,10 @@ std::vector<char*> Pointers(std::vector<std::string>& words)
     ::dup2(error.ends[1], STDERR_FILENO);
     if (observed && ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
         ::_exit(125);
+    }
+    if (settings.memory != RLIM_INFINITY) {
+        const rlimit memory { settings.memory, settings.memory };
+        ::setrlimit(RLIMIT_AS, &memory);
     }
     ::execve(words.front().c_str(), Pointers(words).data(), Pointers(environment).data());
     ::_exit(126);
@@ -148,14 +152,17 @@ std::vector<std::string> UsualEnvironment()
     return { "PATH=/usr/bin:/bin", "LC_ALL=en_US.UTF-8", "HOME=/nonexistent", "TZ=UTC" };
 }
 
-ProgramResult RunTempodial(const std::vector<std::string>& arguments, const std::vector<std::string>& environment)
+namespace {
+
+ProgramResult RunToItsEnd(
+    const std::vector<std::string>& arguments, const std::vector<std::string>& environment, const RunSettings& settings)
 {
     ProgramResult result;
     Pipe out;
     Pipe error;
     const auto child = ::fork();
     if (child == 0) {
-        BecomeTempodial(arguments, environment, out, error, false);
+        BecomeTempodial(arguments, environment, out, error, false, settings);
     }
     out.CloseWriting();
     error.CloseWriting();
@@ -164,6 +171,18 @@ ProgramResult RunTempodial(const std::vector<std::string>& arguments, const std:
     ::waitpid(child, &wait, 0);
     result.status = StatusOf(wait);
     return result;
+}
+
+}
+
+ProgramResult RunTempodial(const std::vector<std::string>& arguments, const std::vector<std::string>& environment)
+{
+    return RunToItsEnd(arguments, environment, {});
+}
+
+ProgramResult RunTempodialWith(const RunSettings& settings, const std::vector<std::string>& arguments)
+{
+    return RunToItsEnd(arguments, UsualEnvironment(), settings);
 }
 
 std::optional<ProgramResult> RunTempodialObserved(

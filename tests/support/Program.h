@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <sys/resource.h>
 #include <vector>
 
 namespace tempodial {
@@ -25,6 +26,18 @@ std::vector<std::string> UsualEnvironment();
 /// Runs the built program with arguments, and with an environment of "NAME=value".
 ProgramResult RunTempodial(
     const std::vector<std::string>& arguments, const std::vector<std::string>& environment = UsualEnvironment());
+
+/// How the program is run otherwise than usual.
+struct RunSettings
+{
+    /// Where it lies, "" for where it was built.
+    std::string executable;
+    /// Bytes of memory that it may have.
+    rlim_t memory = RLIM_INFINITY;
+};
+
+/// Runs it so.
+ProgramResult RunTempodialWith(const RunSettings& settings, const std::vector<std::string>& arguments);
 
 /// What a test does while it observes a run.
 struct RunObserver

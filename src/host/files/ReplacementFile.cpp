@@ -10,6 +10,10 @@ namespace tempodial {
 
 namespace {
 
+/// What the names of new content begin and end with.
+constexpr char Prefix = '.';
+constexpr std::string_view Suffix = ".new";
+
 NativePath Replaceable(const NativePath& path, ReplacementFile::Old old)
 {
     try {
@@ -27,7 +31,7 @@ NativePath Replaceable(const NativePath& path, ReplacementFile::Old old)
 /// The place of the new content: a hidden name, which nothing takes for a file of its own.
 NativePath NewPath(const NativePath& path)
 {
-    auto newPath = path.Beside("." + path.Name() + ".new");
+    auto newPath = path.Beside(Prefix + path.Name() + std::string(Suffix));
     Discard(newPath); // left over from a run that was killed
     return newPath;
 }
@@ -80,14 +84,38 @@ void ReplacementFile::TakeUsualMode() const
 
 void ReplacementFile::Commit()
 {
-    if (mFailure) {
-        throw Failure(*mFailure);
-    }
+    RequireWhole();
     mFile.Sync();
+    TakePlace();
+    FolderDescriptor(NativePath::Exactly(mPath.Folder())).Sync();
+}
+
+void ReplacementFile::TakePlace()
+{
+    RequireWhole();
     mFile.Close();
     Rename(mNewPath, mPath);
     mHasTakenPlace = true;
-    FolderDescriptor(NativePath::Exactly(mPath.Folder())).Sync();
+}
+
+void ReplacementFile::RequireWhole() const
+{
+    if (mFailure) {
+        throw Failure(*mFailure);
+    }
+}
+
+void ReplacementFile::DiscardLeftovers(const NativePath& folder) noexcept
+{
+    try {
+        for (const auto& entry : FolderDescriptor(folder).Files()) {
+            if (entry.name.front() == Prefix && entry.name.ends_with(Suffix)) {
+                Discard(NativePath::Exactly(folder.Text() + "/" + entry.name));
+            }
+        }
+    } catch (...) {
+        // Where nothing can be listed nothing is in the way either.
+    }
 }
 
 }

@@ -31,8 +31,16 @@ public:
     void SetModificationTime(const timespec& moment) { mFile.SetModificationTime(moment); }
     /// Takes the file's place, safe on disk when it returns; fails when the disk refuses it or refused a part (61, 57).
     void Commit();
+    /// Takes the file's place, sooner or later safe on disk; fails when the disk refused a part.
+    void TakePlace();
+
+    /// Removes what runs that were killed left of their replacements in a folder, if there is one.
+    static void DiscardLeftovers(const NativePath& folder) noexcept;
 
 private:
+    /// Fails when the disk has refused a part.
+    void RequireWhole() const;
+
     NativePath mPath;
     NativePath mNewPath;
     FileDescriptor mFile;

@@ -4,8 +4,8 @@
 #include "host/store/ItemData.h"
 #include "host/store/ItemSpan.h"
 #include "host/store/Mailbox.h"
+#include "host/store/MailboxDatabase.h"
 #include "host/store/MailboxStore.h"
-#include "host/store/PropertyCodec.h"
 #include "host/store/Query.h"
 
 #include <utility>

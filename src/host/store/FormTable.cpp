@@ -21,7 +21,7 @@ void FormTable::Load()
         auto messageClass = query.Text(0);
         auto key = Fold(messageClass);
         forms[std::move(key)]
-            = { std::move(messageClass), query.Text(1), PropertyCodec::Decode(query.Text(2)), query.Text(3) };
+            = { std::move(messageClass), query.Text(1), mDatabase.Properties(query.Text(2)), query.Text(3) };
     }
     mForms = std::move(forms);
 }

@@ -17,7 +17,7 @@ const std::string Columns = "item.id, item.folder, item.kind, item.message_class
                             "item.recurring, item.subject, item.mileage, item.billing, item.properties, item.body, "
                             "item.by_hand, item.saved";
 
-StoredItem Read(const Query& query)
+StoredItem Read(MailboxDatabase& database, const Query& query)
 {
     int column = 0;
     StoredItem item;
@@ -31,7 +31,7 @@ StoredItem Read(const Query& query)
     item.data.subject = query.Text(column++);
     item.data.mileage = query.Text(column++);
     item.data.billingInformation = query.Text(column++);
-    item.data.properties = PropertyCodec::Decode(query.Text(column++));
+    item.data.properties = database.Properties(query.Text(column++));
     item.data.body = query.Text(column++);
     item.data.isProjectByHand = query.Int(column++) != 0;
     if (!query.IsNull(column)) {
@@ -182,7 +182,7 @@ std::optional<StoredItem> ItemTable::Load(std::int64_t row)
     static const std::string sql = "SELECT " + Columns + " FROM item WHERE id = ?";
     Query query(mDatabase, sql);
     query.Bind(row);
-    return query.Step() ? std::optional(Read(query)) : std::nullopt;
+    return query.Step() ? std::optional(Read(mDatabase, query)) : std::nullopt;
 }
 
 std::vector<StoredItem> ItemTable::Load(std::span<const std::int64_t> rows)
@@ -194,7 +194,7 @@ std::vector<StoredItem> ItemTable::Load(std::span<const std::int64_t> rows)
     Query query(mDatabase, sql);
     query.Bind(JsonList(rows));
     while (query.Step()) {
-        items.push_back(Read(query));
+        items.push_back(Read(mDatabase, query));
     }
     return items;
 }

@@ -52,11 +52,13 @@ LineMemory::LineMemory(const Ref<Mailbox>& mailbox)
 
 void LineMemory::ForgetLines()
 {
+    mStore->Database().CheckWhole();
     Query(mStore->Database(), "DELETE FROM import_line WHERE NOT EXISTS (SELECT 1 FROM import_position)").Run();
 }
 
 void LineMemory::ForgetOldDays()
 {
+    mStore->Database().CheckWhole();
     // By the days themselves and not by the clock, which may be wrong for a run.
     Query(mStore->Database(),
         "DELETE FROM import_line WHERE day < (SELECT min(day) FROM (SELECT DISTINCT day FROM import_line "
@@ -75,6 +77,9 @@ std::int32_t LineMemory::BeginDay(const std::string& dayKey, std::int32_t lastCo
     while (query.Step()) {
         mLastCount = static_cast<std::int32_t>(query.Int(0));
         const auto hashes = query.Text(1);
+        if (hashes.size() % HashSize != 0) {
+            throw mStore->Database().Damaged("the lines that were imported of " + dayKey + " can't be read");
+        }
         for (std::string_view rest(hashes); rest.size() >= HashSize; rest.remove_prefix(HashSize)) {
             ++mKnown[HashAt(rest)];
         }

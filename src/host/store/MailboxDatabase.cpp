@@ -1,5 +1,6 @@
 #include "host/store/MailboxDatabase.h"
 
+#include "base/MemoryShortage.h"
 #include "base/Text.h"
 #include "host/store/JournalVfs.h"
 #include "host/store/PropertyCodec.h"
@@ -36,6 +37,8 @@ template <class Body> void Guarded(sqlite3_context* context, Body&& body)
 {
     try {
         body();
+    } catch (const std::bad_alloc&) {
+        sqlite3_result_error_nomem(context);
     } catch (const std::exception& problem) {
         sqlite3_result_error(context, problem.what(), -1);
     }
@@ -53,7 +56,8 @@ void FoldText(sqlite3_context* context, int, sqlite3_value** arguments)
 void ItemPropertyOf(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     Guarded(context, [&] {
-        const auto properties = PropertyCodec::Decode(TextOf(arguments[0]));
+        auto* const database = static_cast<MailboxDatabase*>(sqlite3_user_data(context));
+        const auto properties = database->Properties(TextOf(arguments[0]));
         const auto* property = FindProperty(properties, TextOf(arguments[1]));
         if (property == nullptr) {
             return;
@@ -71,6 +75,17 @@ void ItemPropertyOf(sqlite3_context* context, int, sqlite3_value** arguments)
 void MinuteOf(sqlite3_context* context, int, sqlite3_value** arguments)
 {
     sqlite3_result_int64(context, Date::FromSeconds(sqlite3_value_int64(arguments[0])).Minute().Seconds() / 60);
+}
+
+/// True for what leaves nothing that can be relied on: damage, no memory, and a disk that doesn't give back what it
+/// has.
+bool IsTrouble(int code)
+{
+    constexpr int primary = 0xff;
+    const int kind = code & primary;
+    return kind == SQLITE_CORRUPT || kind == SQLITE_NOTADB || kind == SQLITE_NOMEM || code == SQLITE_IOERR_NOMEM
+        || code == SQLITE_IOERR_READ || code == SQLITE_IOERR_SHORT_READ || code == SQLITE_IOERR_FSTAT
+        || code == SQLITE_IOERR_MMAP || code == SQLITE_IOERR_DATA || code == SQLITE_IOERR_CORRUPTFS;
 }
 
 /// The address of a file for SQLite that nobody changes.
@@ -205,8 +220,32 @@ void MailboxDatabase::DropHeld()
 
 void MailboxDatabase::CheckWhole() const
 {
+    if (const auto trouble = Trouble()) {
+        throw Failure(*trouble);
+    }
     if (mUndone) {
         throw Failure(*mUndone);
+    }
+}
+
+std::optional<Failure> MailboxDatabase::Trouble() const
+{
+    return mTrouble || !MemoryShortage::HasCome() ? mTrouble : Failure(Error::OutOfMemory);
+}
+
+Failure MailboxDatabase::Damaged(const std::string& what)
+{
+    Failure failure(Error::Automation, "The mailbox " + mPath + " is damaged: " + what);
+    Note(failure);
+    return failure;
+}
+
+std::vector<ItemProperty> MailboxDatabase::Properties(std::string_view json)
+{
+    try {
+        return PropertyCodec::Decode(json);
+    } catch (const Failure& failure) {
+        throw Damaged(failure.Description());
     }
 }
 
@@ -230,7 +269,7 @@ void MailboxDatabase::AddFunctions()
     constexpr int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
     auto* handle = mConnection->getHandle();
     sqlite3_create_function_v2(handle, "fold_text", 1, flags, nullptr, FoldText, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(handle, "item_property", 2, flags, nullptr, ItemPropertyOf, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, "item_property", 2, flags, this, ItemPropertyOf, nullptr, nullptr, nullptr);
     sqlite3_create_function_v2(handle, "minute_of", 1, flags, nullptr, MinuteOf, nullptr, nullptr, nullptr);
 }
 
@@ -244,11 +283,24 @@ void MailboxDatabase::RollBack()
 Failure MailboxDatabase::Failed(int code, const std::string& text)
 {
     auto failure = Described(code, text);
+    if (IsTrouble(code)) {
+        Note(failure);
+    }
     if (mHeld) {
         mUndone = failure;
         DropHeld();
     }
     return failure;
+}
+
+void MailboxDatabase::Note(const Failure& trouble)
+{
+    if (!mTrouble) {
+        mTrouble = trouble;
+    }
+    if (mConnection) {
+        sqlite3_db_config(mConnection->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    }
 }
 
 bool MailboxDatabase::IsDiskFull() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Failure.h"
+#include "host/store/ItemData.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace SQLite { // NOLINT(readability-identifier-naming): the library names it so
 class Database;
@@ -85,8 +87,15 @@ public:
     void Recover() { mUndone.reset(); }
     /// True while writes are held.
     bool IsHolding() const { return mHeld; }
-    /// Fails again when held writes were undone.
+    /// Fails when nothing may be written: again when held writes were undone, and after trouble for good.
     void CheckWhole() const;
+
+    /// What leaves nothing to be told or written any more: damage, a failing disk, too little memory.
+    std::optional<Failure> Trouble() const;
+    /// Takes notice of damage in what was read; the failure for it.
+    Failure Damaged(const std::string& what);
+    /// The user properties that a text of the mailbox stands for; one that can't be read is damage.
+    std::vector<ItemProperty> Properties(std::string_view json);
 
 private:
     friend class Query;
@@ -98,6 +107,8 @@ private:
     bool IsDiskFull() const;
     Failure Described(int code, const std::string& text) const;
     Failure Failed(int code, const std::string& text);
+    /// Takes notice of trouble, after which even closing writes nothing.
+    void Note(const Failure& trouble);
 
     std::string mPath;
     std::unique_ptr<SQLite::Database> mConnection;
@@ -105,6 +116,7 @@ private:
     std::size_t mRunning = 0;
     bool mHeld = false;
     std::optional<Failure> mUndone;
+    std::optional<Failure> mTrouble;
 };
 
 }

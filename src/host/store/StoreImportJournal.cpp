@@ -72,6 +72,7 @@ std::optional<ImportJournal::Position> StoreImportJournal::Committed(const std::
 
 void StoreImportJournal::HistorySaved()
 {
+    mStore->Database().CheckWhole();
     mPositions.clear();
     Query(mStore->Database(), "DELETE FROM import_position").Run();
     mMemory.ForgetOldDays();

@@ -1,8 +1,10 @@
 #include "host/system/ExpatParser.h"
 
 #include "base/Failure.h"
+#include "base/MemoryShortage.h"
 
 #include <cstddef>
+#include <new>
 #include <random>
 #include <utility>
 
@@ -32,6 +34,10 @@ bool ExpatParser::Read(std::string_view text, XmlTree& tree)
     const bool isWellFormed = XML_Parse(parser, text.data(), static_cast<int>(text.size()), XML_TRUE) == XML_STATUS_OK;
     if (mThrown) {
         std::rethrow_exception(std::exchange(mThrown, nullptr));
+    }
+    if (!isWellFormed && XML_GetErrorCode(parser) == XML_ERROR_NO_MEMORY) {
+        MemoryShortage::Note();
+        throw std::bad_alloc();
     }
     return isWellFormed;
 }

@@ -12,8 +12,9 @@ constexpr std::size_t KeptBytes = 65536;
 
 }
 
-FileReplacer::FileReplacer(const NativePath& path, bool create)
+FileReplacer::FileReplacer(const NativePath& path, bool create, std::function<void()> beforeChange)
     : mReplacement(std::in_place, path, create ? ReplacementFile::Old::MayBeAbsent : ReplacementFile::Old::MustExist)
+    , mBeforeChange(std::move(beforeChange))
     , mExceptions(std::uncaught_exceptions())
 {
 }
@@ -48,6 +49,9 @@ void FileReplacer::Close()
     }
     try {
         Flush();
+        if (mBeforeChange) {
+            mBeforeChange();
+        }
         mReplacement->Commit();
     } catch (...) {
         mReplacement.reset();

@@ -3,6 +3,7 @@
 #include "host/files/ReplacementFile.h"
 #include "portable/WritingStream.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -14,7 +15,8 @@ class FileReplacer : public WritingStream
 {
 public:
     /// Begins with no content; an absent file that may not be made fails (53), a link, a read-only or locked file (70).
-    FileReplacer(const NativePath& path, bool create);
+    /// `beforeChange` is called before the file is replaced, and when it fails, it isn't.
+    FileReplacer(const NativePath& path, bool create, std::function<void()> beforeChange = nullptr);
     ~FileReplacer() override;
     FileReplacer(const FileReplacer&) = delete;
     FileReplacer& operator=(const FileReplacer&) = delete;
@@ -27,6 +29,7 @@ private:
 
     std::optional<ReplacementFile> mReplacement;
     std::string mBuffer;
+    std::function<void()> mBeforeChange;
     /// The exceptions under way when it was opened.
     int mExceptions;
 };

@@ -85,6 +85,7 @@ File HostFileSystem::GetFile(const std::string& path)
 
 void HostFileSystem::MoveFile(const std::string& source, const std::string& target)
 {
+    RequireChangeable();
     mAppended.Forget();
     const NativePath from(source);
     StatusOfFile(from);
@@ -93,6 +94,7 @@ void HostFileSystem::MoveFile(const std::string& source, const std::string& targ
 
 void HostFileSystem::CopyFile(const std::string& source, const std::string& target, bool overwrite)
 {
+    RequireChangeable();
     mAppended.Forget();
     const FileDescriptor from(NativePath(source), Opening::Reading);
     from.RequireUnlocked();
@@ -112,6 +114,7 @@ void HostFileSystem::CopyFile(const std::string& source, const std::string& targ
 
 void HostFileSystem::DeleteFile(const std::string& path, bool force)
 {
+    RequireChangeable();
     mAppended.Forget();
     const NativePath native(path);
     const auto status = StatusOfFile(native);
@@ -129,11 +132,19 @@ Ref<TextStream> HostFileSystem::OpenTextFile(const std::string& path, OpenMode m
         return MakeRef<FileReader>(native, create);
     case OpenMode::Writing:
         mAppended.Forget();
-        return MakeRef<FileReplacer>(native, create);
+        RequireChangeable();
+        return MakeRef<FileReplacer>(native, create, mBeforeChange);
     case OpenMode::Appending:
         return MakeRef<FileAppender>(mAppended.Open(path, native, create));
     }
     throw Failure(Error::InvalidCall);
+}
+
+void HostFileSystem::RequireChangeable() const
+{
+    if (mBeforeChange) {
+        mBeforeChange();
+    }
 }
 
 }

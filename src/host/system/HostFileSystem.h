@@ -4,6 +4,7 @@
 #include "host/system/LocalTime.h"
 #include "platform/system/FileSystemObject.h"
 
+#include <functional>
 #include <string>
 
 namespace tempodial {
@@ -13,6 +14,10 @@ namespace tempodial {
 class HostFileSystem : public FileSystemObject
 {
 public:
+    /// Called, when it is set, before anything is changed but for what is appended to a file; when it fails, so does
+    /// the change.
+    std::function<void()> mBeforeChange;
+
     /// Takes the folder that stands in for the temporary folder.
     explicit HostFileSystem(std::string temporaryFolder);
 
@@ -30,6 +35,8 @@ public:
     Ref<TextStream> OpenTextFile(const std::string& path, OpenMode mode, bool create) override;
 
 private:
+    void RequireChangeable() const;
+
     std::string mTemporaryFolder;
     LocalTime mLocalTime;
     AppendedFile mAppended;

@@ -331,6 +331,9 @@ void TomlRegistry::Set(Hive hive, const std::string& key, const std::string& val
 
 void TomlRegistry::Save(const Tables& tables) const
 {
+    if (mBeforeChange) {
+        mBeforeChange();
+    }
     ReplacementFile file(NativePath::Exactly(mPath));
     file.Write(tables.ToText());
     file.Commit();

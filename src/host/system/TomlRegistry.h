@@ -33,6 +33,9 @@ struct RegistryEntry
 class TomlRegistry : public Registry
 {
 public:
+    /// Called, when it is set, before the file is replaced; when it fails, so does the change.
+    std::function<void()> mBeforeChange;
+
     /// Reads the file, or begins with nothing when it is absent. A file that is damaged throws a `RegistryFileError`.
     explicit TomlRegistry(std::string path);
     ~TomlRegistry() override;

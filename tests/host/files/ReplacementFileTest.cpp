@@ -64,4 +64,22 @@ TEST_F(ReplacementFileTest, Commit_NameThatHoldsABackslash_IsReplacedInItsFolder
     EXPECT_EQ(mFolder.Read(R"(a\b)"), "new");
 }
 
+TEST_F(ReplacementFileTest, DiscardLeftovers_TakesWhatKilledRunsLeftAndNothingElse)
+{
+    for (const auto* name : { ".2006.csv.new", ".a.new" }) {
+        mFolder.Write(name, "x");
+    }
+    for (const auto* name : { "2006.csv", "a.new", ".hidden" }) {
+        mFolder.Write(name, "x");
+    }
+    fs::create_directory(mFolder.Path(".folder.new"));
+    fs::create_symlink("2006.csv", mFolder.Path(".link.new"));
+    ReplacementFile::DiscardLeftovers(NativePath::Exactly(mFolder.Path()));
+    ReplacementFile::DiscardLeftovers(NativePath::Exactly(mFolder.Path("absent")));
+    EXPECT_FALSE(mFolder.Has(".2006.csv.new") || mFolder.Has(".a.new"));
+    for (const auto* name : { "2006.csv", "a.new", ".hidden", ".folder.new", ".link.new" }) {
+        EXPECT_TRUE(mFolder.Has(name)) << name;
+    }
+}
+
 }

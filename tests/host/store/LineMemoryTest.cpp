@@ -1,6 +1,7 @@
 #include "host/store/LineMemory.h"
 
 #include "base/Date.h"
+#include "support/FailureNumber.h"
 #include "support/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -96,11 +97,12 @@ TEST_F(LineMemoryTest, ForgetOldDays_KeepsTheNewestSixty)
     EXPECT_TRUE(Knows("20061010", "c"));
 }
 
-TEST_F(LineMemoryTest, BeginDay_DamagedHashes_AreReadAsFarAsTheyAre)
+TEST_F(LineMemoryTest, BeginDay_DamagedHashes_AreDamage)
 {
     Remember("20061010", { "a" });
     TestDatabase(mMailbox).Execute("INSERT INTO import_line VALUES ('20061010', -1, x'0102')");
-    EXPECT_TRUE(Knows("20061010", "a"));
+    EXPECT_EQ(FailureNumber([&] { Knows("20061010", "a"); }), 440);
+    EXPECT_TRUE(TestDatabase(mMailbox).Trouble().has_value());
 }
 
 }
