@@ -1,5 +1,6 @@
 #include "cli/CommandLine.h"
 
+#include "base/MemoryShortage.h"
 #include "cli/ReplyPrinter.h"
 #include "cli/TypedCommand.h"
 #include "terminal/Arguments.h"
@@ -17,6 +18,8 @@ namespace tempodial {
 namespace {
 
 constexpr auto Name = "tempodial";
+/// What is done when no command is named.
+constexpr auto UsualCommand = "status";
 
 /// Seconds to wait for a profile that another process holds.
 constexpr std::int32_t UsualWait = 5;
@@ -107,7 +110,9 @@ ExitStatus CommandLine::Execute(const std::vector<std::string>& arguments)
     }
     auto options = ReadOptions();
     options.command = TypedCommand(arguments);
-    return Print(Chosen().Run(options), options);
+    const auto reply = Chosen().Run(options);
+    MemoryShortage::RequireNone();
+    return Print(reply, options);
 }
 
 Options CommandLine::ReadOptions() const
@@ -122,8 +127,12 @@ Options CommandLine::ReadOptions() const
 
 Command& CommandLine::Chosen() const
 {
-    const auto found = std::find_if(mCommands.begin(), mCommands.end(),
-        [name = mParser.ChosenCommand()](const auto& command) { return command->About().name == name; });
+    auto name = mParser.ChosenCommand();
+    if (name.empty()) {
+        name = UsualCommand;
+    }
+    const auto found = std::find_if(
+        mCommands.begin(), mCommands.end(), [&name](const auto& command) { return command->About().name == name; });
     if (found == mCommands.end()) {
         throw UsageError("no command is given: see \"tempodial --help\" for the commands");
     }

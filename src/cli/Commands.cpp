@@ -8,6 +8,7 @@ std::vector<std::unique_ptr<Command>> AllCommands()
 {
     std::unique_ptr<Command> commands[] {
         MakeSyncCommand(),
+        MakeStatusCommand(),
         MakeListCommand(),
         MakeProjectsCommand(),
         MakeProjectsSetCommand(),
@@ -36,6 +37,7 @@ std::vector<std::unique_ptr<Command>> AllCommands()
         MakeWhyCommand(),
         MakeDemoCommand(),
         MakeTraceCommand(),
+        MakeDoctorCommand(),
         MakeRegistryCommand(),
         MakeCompletionCommand(),
     };

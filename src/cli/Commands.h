@@ -12,6 +12,7 @@ std::vector<std::unique_ptr<Command>> AllCommands();
 
 /// The makers of the commands; each stands in the file of its command.
 std::unique_ptr<Command> MakeSyncCommand();
+std::unique_ptr<Command> MakeStatusCommand();
 std::unique_ptr<Command> MakeListCommand();
 std::unique_ptr<Command> MakeProjectsCommand();
 std::unique_ptr<Command> MakeProjectsSetCommand();
@@ -40,6 +41,7 @@ std::unique_ptr<Command> MakeImportCommand();
 std::unique_ptr<Command> MakeWhyCommand();
 std::unique_ptr<Command> MakeDemoCommand();
 std::unique_ptr<Command> MakeTraceCommand();
+std::unique_ptr<Command> MakeDoctorCommand();
 std::unique_ptr<Command> MakeRegistryCommand();
 std::unique_ptr<Command> MakeCompletionCommand();
 

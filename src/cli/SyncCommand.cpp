@@ -2,8 +2,9 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
+#include "session/LastSync.h"
 #include "session/ProductFacts.h"
-#include "session/TrackerDay.h"
+#include "session/TrackerFiles.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -35,19 +36,12 @@ std::string Listed(const std::vector<std::string>& texts)
 /// The tracker files that are too old for an import, by name.
 std::vector<std::string> TooOldFiles(const ConnectedRun& run)
 {
-    std::vector<std::string> names;
-    const auto firstDay = run.Host().clock->Now().AddDays(-SavedDataDays).DayKey();
     try {
-        for (const auto& file : run.Host().fileSystem->GetFolder(run.DataFolder()).files) {
-            const auto day = TrackerDay(file.name);
-            if (!day.empty() && day < firstDay) {
-                names.push_back(file.name);
-            }
-        }
+        return TooOldFiles(*run.Host().fileSystem, run.DataFolder(), run.Host().clock->Now());
     } catch (const Failure&) {
-        // No folder, no files; one that can't be read the import has told of.
+        // A folder that can't be read the import has told of.
+        return {};
     }
-    return names;
 }
 
 /// The same together with those that the run has put aside.
@@ -123,6 +117,8 @@ public:
     {
         const Interruption interruption;
         ConnectedRun run(options);
+        // As long as nothing else is kept it was interrupted, by whatever it was.
+        LastSync { .when = run.Host().clock->Now(), .outcome = "interrupted" }.Keep(run.Profile());
         if (!Interruption::IsRequested()) {
             run.AddIn().SyncData(SavedDataDays, true);
         }
@@ -130,10 +126,25 @@ public:
             run.Complain("no new activity can be made, since the form of activities can't be used: install the program "
                          "again");
         }
-        return run.Concluded(Answer(run));
+        auto reply = run.Concluded(Answer(run));
+        Keep(run, reply);
+        return reply;
     }
 
 private:
+    static void Keep(const ConnectedRun& run, const Reply& reply)
+    {
+        const auto& saves = run.Saves();
+        const bool hasSaved = saves.created + saves.extended + saves.detailed > 0;
+        const auto* outcome = reply.status == ExitStatus::Done ? "whole"
+            : reply.status == ExitStatus::Interrupted          ? "interrupted"
+            : hasSaved                                         ? "partly"
+                                                               : "failed";
+        LastSync { run.Host().clock->Now(), outcome, saves.created, saves.extended, saves.detailed,
+            static_cast<std::int32_t>(run.UnreadLines().size()) }
+            .Keep(run.Profile());
+    }
+
     static Reply Answer(const ConnectedRun& run)
     {
         const bool cancelled = Interruption::IsRequested();

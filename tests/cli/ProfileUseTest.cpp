@@ -107,9 +107,9 @@ TEST_F(ProgramTest, Help_ListsTheCommands)
     EXPECT_FALSE(std::filesystem::exists(mProfile));
 }
 
-TEST_F(ProgramTest, NoCommand_IsAUsageError)
+TEST_F(ProgramTest, NoCommand_IsStatusAndAnUnknownOneIsAUsageError)
 {
-    EXPECT_THAT(Refusal({}, 2), HasSubstr("no command is given"));
+    EXPECT_EQ(Run({}).out, Run({ "status" }).out);
     EXPECT_THAT(Refusal({ "unknown" }, 2), HasSubstr("there is no command \"unknown\""));
     EXPECT_THAT(Refusal({ "projects", "unknown" }, 2), HasSubstr("\"unknown\" isn't expected here"));
 }

@@ -56,12 +56,24 @@ protected:
         return contents;
     }
     /// What the command answers where nothing is.
-    static int StatusOfNothing() { return GetParam().front() == "registry" ? 1 : 0; }
+    static int StatusOfNothing()
+    {
+        const auto& name = GetParam().front();
+        return name == "registry" || name == "status" || name == "doctor" ? 1 : 0;
+    }
 };
 
 class ReadingTest : public ProgramFixture
 {
 };
+
+/// Those that refuse a damaged profile, and the one that tells what is wrong with it.
+std::vector<std::vector<std::string>> Readers()
+{
+    auto readers = OneOfEachReader();
+    readers.push_back({ "doctor" });
+    return readers;
+}
 
 std::string NameOfReader(const testing::TestParamInfo<std::vector<std::string>>& info)
 {
@@ -88,9 +100,10 @@ TEST_P(ReaderTest, AnyMoment_ChangesNoByte)
     Import();
     fs::permissions(mProfile, fs::perms::all);
     const auto before = Contents();
+    const auto status = Run(GetParam()).status;
     for (const auto* now : { "2006-10-10T17:00:00", "2036-10-10T17:00:00" }) {
         mNow = now;
-        EXPECT_EQ(Run(GetParam()).status, 0);
+        EXPECT_EQ(Run(GetParam()).status, status);
         EXPECT_TRUE(Contents() == before) << now;
     }
     EXPECT_EQ(fs::status(mProfile).permissions(), fs::perms::all);
@@ -104,7 +117,7 @@ TEST_P(ReaderTest, ProfileThatIsHeld_IsReadAtOnce)
     arguments.insert(arguments.begin(), { "--wait", "0" });
     const Profile holder(mProfile, "en_US", std::nullopt);
     const auto result = Run(arguments);
-    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.status, expected.status);
     EXPECT_EQ(result.out, expected.out);
     EXPECT_EQ(result.error, "");
 }
@@ -120,7 +133,10 @@ TEST_P(ReaderTest, RunKilledBefore_IsReadAndLeftAsItIs)
         { WordSlot(32400, 32700, "a.doc"), WordSlot(33000, 33300, "new.doc"), WordSlot(33300, 33600, "newer.doc") });
     ASSERT_EQ(RunTempodialKilledAt(Whole({ "sync", "--quiet" }), calls->systemCalls * 3 / 4)->status, 137);
     const auto before = Contents();
-    EXPECT_EQ(Run(GetParam()).status, 0);
+    const auto result = Run(GetParam());
+    EXPECT_THAT(
+        result.status, testing::AnyOf(0, GetParam().front() == "status" || GetParam().front() == "doctor" ? 1 : 0));
+    EXPECT_NE(result.out, "");
     EXPECT_TRUE(Contents() == before);
     EXPECT_EQ(Run({ "sync" }).status, 0);
 }
@@ -133,7 +149,7 @@ TEST_P(ReaderTest, FolderThatTakesNoFile_IsRead)
     }
     mProfile = mFolder.Path("disk/profile");
     Import();
-    const auto expected = Run(GetParam()).out;
+    const auto expected = Run(GetParam());
     for (const bool hasJournal : { true, false }) {
         disk.MakeWritable();
         fs::remove(mProfile + "/mailbox.db-shm");
@@ -142,12 +158,14 @@ TEST_P(ReaderTest, FolderThatTakesNoFile_IsRead)
         }
         disk.MakeReadOnly();
         const auto result = Run(GetParam());
-        EXPECT_EQ(result.status, 0) << result.error;
-        EXPECT_EQ(result.out, expected);
+        EXPECT_EQ(result.status, expected.status) << result.error;
+        if (GetParam().front() != "status" && GetParam().front() != "doctor") { // which tell of sizes
+            EXPECT_EQ(result.out, expected.out);
+        }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Commands, ReaderTest, testing::ValuesIn(OneOfEachReader()), NameOfReader);
+INSTANTIATE_TEST_SUITE_P(Commands, ReaderTest, testing::ValuesIn(Readers()), NameOfReader);
 
 TEST_F(ReadingTest, List_BesideASync_NeverWaitsAndNeverFails)
 {

@@ -66,7 +66,7 @@ std::vector<std::vector<std::string>> OneOfEachReader()
 {
     return { { "list" }, { "export", "--format", "csv" }, { "summary" }, { "timesheet", "No Project" },
         { "unassigned" }, { "gaps" }, { "why", "--subject", "a" }, { "trace" },
-        { "registry", "get", "HKCU", "", "CurrentVersion" } };
+        { "registry", "get", "HKCU", "", "CurrentVersion" }, { "status" } };
 }
 
 std::vector<std::vector<std::string>> OneOfEachWriter()

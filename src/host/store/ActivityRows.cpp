@@ -96,7 +96,7 @@ ActivityRow ActivityRows::Read(const Query& query) const
     if (const auto saved = column++; !query.IsNull(saved)) {
         row.saved = Date::FromSeconds(query.Int(saved));
     }
-    const auto properties = PropertyCodec::Decode(query.Text(column));
+    const auto properties = mStore->Database().Properties(query.Text(column));
     row.project = PropertyText(properties, "Project");
     row.type = PropertyText(properties, "Type");
     row.description = PropertyText(properties, "Description");
