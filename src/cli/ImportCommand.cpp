@@ -26,6 +26,7 @@
 #include <optional>
 #include <string>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -104,7 +105,8 @@ public:
         const auto profile = PathOfProfile(options);
         const auto views = Views(profile);
         SourceFile file(*mFile);
-        const SourceSettings settings { *zone, range.now, dates, asSightings, DecodedLine, ReadCalendar };
+        const auto decoded = [](std::string line) { return DecodedLine(std::move(line)); };
+        const SourceSettings settings { *zone, range.now, dates, asSightings, decoded, ReadCalendar };
         ImportPlan plan(range, views);
         TakeSource(source, file, settings, plan);
         return mIsDryRun ? Preview(options, plan) : Import(options, plan);
