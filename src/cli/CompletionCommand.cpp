@@ -75,7 +75,8 @@ public:
             return { .document = std::move(document), .content = std::move(content) };
         }
         auto script = Script(outline);
-        return { .document = { { "script", script } }, .content = std::move(script) };
+        JsonValue document { { "script", script } };
+        return { .document = std::move(document), .content = std::move(script) };
     }
 
 private:

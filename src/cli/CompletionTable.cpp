@@ -48,7 +48,9 @@ void AddTakings(const CommandOutline& command, const std::string& name, std::vec
             takings.push_back({ name + ":" + argument.names.back(), std::move(values) });
         } else {
             const auto number = argument.isRepeated ? "[0-9]*" : std::to_string(++place);
-            takings.push_back({ name + ":" + number, std::move(values) });
+            auto pattern = name + ":";
+            pattern += number;
+            takings.push_back({ std::move(pattern), std::move(values) });
         }
     }
 }

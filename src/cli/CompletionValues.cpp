@@ -41,7 +41,7 @@ Words ListedInHelp(const std::string& help)
 {
     for (const auto& part : Split(help, ";")) {
         const auto colon = part.rfind(": ");
-        const auto words = ListedIn(colon == std::string::npos ? part : part.substr(colon + 2));
+        auto words = ListedIn(colon == std::string::npos ? part : part.substr(colon + 2));
         if (!words.empty()) {
             return words;
         }

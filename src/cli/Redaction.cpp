@@ -47,7 +47,7 @@ std::string RedactedSlot(std::string_view line)
         const bool isTag = line.front() == '<' && end != std::string_view::npos;
         if (isTag) {
             const auto name = line.substr(line.starts_with("</") ? 2 : 1, end - (line.starts_with("</") ? 2 : 1));
-            const auto known = std::find(SlotElements.begin(), SlotElements.end(), name);
+            const auto* const known = std::find(SlotElements.begin(), SlotElements.end(), name);
             if (known != SlotElements.end()) {
                 isNumberAllowed = line[1] != '/' && known - SlotElements.begin() < NumberElements;
                 redacted += line.substr(0, end + 1);
