@@ -47,12 +47,12 @@ class Browser:
         self._profile = tempfile.mkdtemp(prefix="browser-check-")
         commandsOut, self._in = os.pipe()
         self._out, answersIn = os.pipe()
-        # The shell puts the pipes where the browser looks for them.
+        # The shell puts the pipes, of whatever number, where the browser looks for them.
         place = f'exec "$0" "$@" {COMMANDS}<&{commandsOut} {ANSWERS}>&{answersIn}'
         flags = list(FLAGS) + ["--user-data-dir=" + self._profile]
         if os.geteuid() == 0:
             flags.append("--no-sandbox")
-        self._process = subprocess.Popen(["sh", "-c", place, Find()] + flags, stdin=subprocess.DEVNULL,
+        self._process = subprocess.Popen(["bash", "-c", place, Find()] + flags, stdin=subprocess.DEVNULL,
                                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                                          pass_fds=(commandsOut, answersIn))
         os.close(commandsOut)

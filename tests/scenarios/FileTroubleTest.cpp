@@ -234,13 +234,16 @@ TEST_F(FileTroubleTest, Sync_SecondProcessAtAnyTime_IsToldAndHarmsNothing)
     WriteDays();
     int refused = 0;
     const auto first = RunTempodialDisturbedAt(SyncArguments(), whole->systemCalls * 2 / 3, [&] {
-        for (auto arguments : OneOfEachCommand()) {
+        for (auto arguments : OneOfEachWriter()) {
             arguments.insert(arguments.end(), { "--wait", "0" });
             refused += Run(arguments).status == 3 ? 1 : 0;
         }
+        for (const auto& arguments : OneOfEachReader()) {
+            EXPECT_NE(Run(arguments).status, 3) << arguments.front();
+        }
     });
     EXPECT_EQ(first->status, 0) << first->error;
-    EXPECT_EQ(refused, static_cast<int>(OneOfEachCommand().size()));
+    EXPECT_EQ(refused, static_cast<int>(OneOfEachWriter().size()));
     ExpectNextSyncCompletes();
 }
 

@@ -107,7 +107,7 @@ TEST_F(SurroundingsTroubleTest, EachCommand_NoUsableHome_IsToldAndMakesNothing)
              { "HOME=" + file + "/home" }, { "HOME=/proc/nowhere" }, { "HOME=/dev/null" },
              { "HOME=" + mFolder.Path("home"), "XDG_DATA_HOME=/proc/nowhere" },
              { "HOME=" + mFolder.Path("home"), "TEMPODIAL_PROFILE=" + file } }) {
-        for (const auto& arguments : { Arguments { "sync" }, Arguments { "list" }, Arguments { "demo" } }) {
+        for (const auto& arguments : { Arguments { "sync" }, Arguments { "projects" }, Arguments { "demo" } }) {
             const auto result = RunIn(environment, arguments);
             EXPECT_EQ(result.status, 1) << testing::PrintToString(environment);
             EXPECT_EQ(result.out, "");
@@ -122,12 +122,12 @@ TEST_F(SurroundingsTroubleTest, EachCommand_NoUsableHome_IsToldAndMakesNothing)
 TEST_F(SurroundingsTroubleTest, EachCommand_HomeOfAnyKind_HoldsTheProfile)
 {
     const auto home = mFolder.Path("home");
-    EXPECT_EQ(RunIn({ "HOME=" + home, "XDG_DATA_HOME=" }, { "list" }).status, 0);
+    EXPECT_EQ(RunIn({ "HOME=" + home, "XDG_DATA_HOME=" }, { "projects" }).status, 0);
     EXPECT_TRUE(fs::exists(home + "/.local/share/tempodial/mailbox.db"));
     // A base folder that isn't absolute doesn't count.
-    EXPECT_EQ(RunIn({ "HOME=" + home + "2", "XDG_DATA_HOME=relative" }, { "list" }).status, 0);
+    EXPECT_EQ(RunIn({ "HOME=" + home + "2", "XDG_DATA_HOME=relative" }, { "projects" }).status, 0);
     EXPECT_TRUE(fs::exists(home + "2/.local/share/tempodial/mailbox.db"));
-    EXPECT_EQ(RunIn({ "HOME=" + home, "XDG_DATA_HOME=" + home + "3" }, { "list" }).status, 0);
+    EXPECT_EQ(RunIn({ "HOME=" + home, "XDG_DATA_HOME=" + home + "3" }, { "projects" }).status, 0);
     EXPECT_TRUE(fs::exists(home + "3/tempodial/mailbox.db"));
 }
 
