@@ -9,6 +9,7 @@
 #include "sources/Sources.h"
 
 #include <sstream>
+#include <utility>
 
 namespace tempodial {
 
@@ -22,7 +23,10 @@ void PlanAs(const Source& source, std::string_view input, bool asSightings)
     std::istringstream stream { std::string(input) };
     ImportPlan plan({ std::string(source.name), std::nullopt, std::nullopt, now }, views);
     try {
-        plan.Take(source.makeReader()->Read(stream, { zone, now, DateOrder::FromTheFile, asSightings, DecodedLine }));
+        plan.Take(
+            source.makeReader()->Read(stream, { zone, now, DateOrder::FromTheFile, asSightings, [](std::string line) {
+                                                   return DecodedLine(std::move(line));
+                                               } }));
     } catch (const WrongSource&) {
         return;
     } catch (const BrokenSource&) {
