@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 const fs::path Scenarios = fs::path(TEMPODIAL_SOURCE_DIR) / "tests/scenarios/data";
 
 /// The words of a line: blanks part them, double quotes hold them together.
-std::vector<std::string> Words(const std::string& line)
+std::vector<std::string> WordsOf(const std::string& line)
 {
     std::vector<std::string> words;
     std::istringstream stream(line);
@@ -55,7 +55,7 @@ std::string RunAll(const fs::path& scenario, const fs::path& profile)
     std::ifstream commands(scenario / "commands");
     for (std::string line; std::getline(commands, line);) {
         std::vector<std::string> arguments { "--profile", profile.string(), "--locale", "en_US" };
-        const auto words = Words(line);
+        const auto words = WordsOf(line);
         arguments.insert(arguments.end(), words.begin(), words.end());
         const auto result = RunTempodial(arguments);
         output << "$ tempodial " << line << "\n"
