@@ -8,14 +8,14 @@ namespace tempodial {
 
 namespace {
 
-using Words = std::vector<std::string>;
+using ValueWords = std::vector<std::string>;
 
-Words DayWords()
+ValueWords DayWords()
 {
     return { "today", "yesterday", "monday", "tuesday", "wednesday", "thursday", "friday", "saturday", "sunday" };
 }
 
-Words SpanWords()
+ValueWords SpanWords()
 {
     auto words = DayWords();
     for (const auto* word : { "week", "last-week", "month", "last-month", "year", "last-year", "-7d", "-30d" }) {
@@ -25,7 +25,7 @@ Words SpanWords()
 }
 
 /// The words of a list such as "high, medium or low"; none when the text is something else.
-Words ListedIn(const std::string& text)
+ValueWords ListedIn(const std::string& text)
 {
     if (text.find(" or ") == std::string::npos) {
         return {};
@@ -33,11 +33,11 @@ Words ListedIn(const std::string& text)
     auto words = Split(Replace(text, " or ", ", "), ", ");
     const bool isList = std::none_of(words.begin(), words.end(),
         [](const auto& word) { return word.empty() || word.find_first_of(" \"'()") != std::string::npos; });
-    return isList ? words : Words();
+    return isList ? words : ValueWords();
 }
 
 /// The words of the first such list that is a part of a help by itself.
-Words ListedInHelp(const std::string& help)
+ValueWords ListedInHelp(const std::string& help)
 {
     for (const auto& part : Split(help, ";")) {
         const auto colon = part.rfind(": ");

@@ -23,7 +23,7 @@ constexpr int At(int hour, int minute = 0)
 }
 
 /// A stretch of the day that is spent at the PC.
-struct Session
+struct DemoSession
 {
     int begin, end;
 };
@@ -39,7 +39,7 @@ public:
     {
     }
 
-    DemoFile File(const std::vector<Session>& sessions)
+    DemoFile File(const std::vector<DemoSession>& sessions)
     {
         DemoFile file { TrackerFileName(mDay.DayKey()), { DayFile::Heading(mDay, 0) } };
         // The day begins with another kind of application each time, so that all of them occur.
@@ -58,7 +58,7 @@ public:
     }
 
     /// The sessions of a day that is over, none when it was free.
-    std::vector<Session> WholeDay()
+    std::vector<DemoSession> WholeDay()
     {
         constexpr int Saturday = 7;
         constexpr int DaysOfTwoWeeks = 14;
@@ -74,7 +74,7 @@ public:
     }
 
     /// The sessions of a day that has come to this slot: work up to now, whatever the hour.
-    std::vector<Session> DayUpTo(int now)
+    std::vector<DemoSession> DayUpTo(int now)
     {
         auto sessions = WholeDay();
         if (sessions.empty()) {
@@ -97,19 +97,19 @@ private:
     }
     bool OneIn(int times) { return Between(1, times) == 1; }
 
-    std::vector<Session> MorningAtHome()
+    std::vector<DemoSession> MorningAtHome()
     {
         const auto begin = Between(At(9), At(10, 30));
         return { { begin, begin + Between(At(1), At(2, 30)) } };
     }
 
-    std::vector<Session> WorkDay()
+    std::vector<DemoSession> WorkDay()
     {
         const auto begin = Between(At(8), At(9, 15));
         const auto coffee = Between(At(10), At(10, 30));
         const auto lunch = Between(At(12), At(12, 45));
         const auto afternoon = lunch + Between(At(0, 30), At(1, 15));
-        std::vector<Session> sessions { { begin, coffee }, { coffee + Between(1, 4), lunch },
+        std::vector<DemoSession> sessions { { begin, coffee }, { coffee + Between(1, 4), lunch },
             { afternoon, Between(At(16, 30), At(18, 30)) } };
         if (OneIn(6)) {
             const auto evening = Between(At(20), At(21));

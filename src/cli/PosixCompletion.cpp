@@ -54,7 +54,7 @@ std::string CommandsFunction(const CompletionTable& table, WordForm form)
 }
 
 /// The pattern with all but its wildcards in quotes.
-std::string Quoted(const std::string& pattern)
+std::string ShellQuoted(const std::string& pattern)
 {
     std::string text = pattern;
     std::string head;
@@ -78,7 +78,7 @@ std::string ValuesFunction(const CompletionTable& table)
                        "{\n"
                        "    case $1:$2 in\n";
     for (const auto& taking : table.takings) {
-        text += "    " + Quoted(taking.pattern) + ") kind=" + CompletionValues::NameOf(taking.values.kind);
+        text += "    " + ShellQuoted(taking.pattern) + ") kind=" + CompletionValues::NameOf(taking.values.kind);
         std::string values;
         for (const auto& word : taking.values.words) {
             values += (values.empty() ? "" : " ") + word;

@@ -11,14 +11,14 @@ namespace tempodial {
 namespace {
 
 /// Blanks between two columns.
-constexpr int Gap = 2;
+constexpr int ColumnGap = 2;
 /// A column of texts gives way down to this width.
 constexpr int NarrowestText = 12;
 
 /// Columns of the terminal that a line of columns of these widths takes.
 int WholeWidth(const std::vector<int>& widths)
 {
-    return std::accumulate(widths.begin(), widths.end(), Gap * (static_cast<int>(widths.size()) - 1));
+    return std::accumulate(widths.begin(), widths.end(), ColumnGap * (static_cast<int>(widths.size()) - 1));
 }
 
 std::string WithoutLastBlanks(std::string text)
@@ -93,7 +93,7 @@ std::string TextTable::Line(
         text = WithoutLastBlanks(std::move(text));
         const auto width = DisplayWidth(text);
         const auto filling = widths[i] - width;
-        blanks += (i == 0 ? 0 : Gap) + (mColumns[i] == Side::Right ? filling : 0);
+        blanks += (i == 0 ? 0 : ColumnGap) + (mColumns[i] == Side::Right ? filling : 0);
         if (!text.empty()) {
             if (blanks > room) {
                 return line + "…";

@@ -101,7 +101,7 @@ bool IsDirectory(std::string_view text)
 }
 
 /// The program that a command line runs, without its folder and its arguments.
-std::string ProgramOf(std::string_view command)
+std::string CalledProgram(std::string_view command)
 {
     return LastFolder(command.substr(0, command.find(' ')));
 }
@@ -125,7 +125,7 @@ Placed OfDirectory(std::string_view title)
     constexpr std::string_view Runs = " : ";
     const auto runs = title.find(Runs);
     const auto first = title.substr(0, runs);
-    auto text = IsDirectory(first) ? std::string(first) : ProgramOf(first);
+    auto text = IsDirectory(first) ? std::string(first) : CalledProgram(first);
     if (!host.empty()) {
         text = text.empty() ? host : host + ": " + text;
     }

@@ -18,7 +18,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr double Milliseconds = 1000;
+constexpr double MillisecondsOfSecond = 1000;
 
 /// Hears the dump, sample by sample.
 class DumpListener final : public JsonListener
@@ -120,7 +120,7 @@ private:
 
     void EndSample()
     {
-        constexpr double LongestRate = 3600 * Milliseconds;
+        constexpr double LongestRate = 3600 * MillisecondsOfSecond;
         constexpr double LongestInactive = 1e12;
         if (!mSample.moment || !(mSample.rate > 0) || mSample.rate > LongestRate || !(mSample.inactive >= 0)
             || mSample.inactive > LongestInactive) {
@@ -132,8 +132,8 @@ private:
         }
         // Dates of a dump are in UTC also where they don't say so.
         const auto end = mSample.moment->Moment();
-        const auto begin = end - std::llround(mSample.rate / Milliseconds);
-        const auto inactive = std::llround(mSample.inactive / Milliseconds);
+        const auto begin = end - std::llround(mSample.rate / MillisecondsOfSecond);
+        const auto inactive = std::llround(mSample.inactive / MillisecondsOfSecond);
         const bool isAway = inactive > IdleLimit(ProgramSort::Other);
         ForLocalTimes(mSettings.zone, isAway ? end - inactive : begin, end, [&](std::int64_t from, std::int64_t to) {
             (isAway ? mAway : mData.computers.front().presence).Add(from, to);

@@ -14,7 +14,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::int64_t SecondsOfMinute = 60;
+constexpr std::int64_t SecondsInMinute = 60;
 constexpr auto NoDescription = "(no description)";
 
 Date DayOfSeconds(std::int64_t seconds)
@@ -103,7 +103,7 @@ void ImportPlan::AddPresence(const Presence& presence)
         }
     }
     for (const auto& [day, sum] : seconds) {
-        mDays[day] += (sum + SecondsOfMinute / 2) / SecondsOfMinute;
+        mDays[day] += (sum + SecondsInMinute / 2) / SecondsInMinute;
     }
 }
 
@@ -183,7 +183,7 @@ ImportPlan::Days ImportPlan::Make(const Presence& taken, const ImportLedger& led
             }
             files[date].Add(slot);
             ++day->second.slots;
-            day->second.minutesWritten += SlotSeconds / SecondsOfMinute;
+            day->second.minutesWritten += SlotSeconds / SecondsInMinute;
             day->second.written.slots.set(index);
         }
     }

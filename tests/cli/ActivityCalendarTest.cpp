@@ -14,7 +14,7 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-ActivityRecord Activity()
+ActivityRecord PlainActivity()
 {
     return { .entryId = "00AB",
         .start = Date::FromParts({ 2006, 10, 10, 10, 0, 0 }),
@@ -50,7 +50,7 @@ protected:
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_Activity_HasItsProperties)
 {
-    const auto read = Read({ Activity() });
+    const auto read = Read({ PlainActivity() });
     EXPECT_EQ(read.at("version"), "2.0");
     EXPECT_EQ(read.at("prodid"), "-//Tempodial//Tempodial 1.2.0//EN");
     EXPECT_EQ(read.at("name"), "Tempodial");
@@ -64,13 +64,14 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_Activity_HasItsProperties)
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_SameActivities_GiveTheSameBytes)
 {
-    EXPECT_EQ(ActivityCalendar({ Activity(), Activity() }), ActivityCalendar({ Activity(), Activity() }));
+    EXPECT_EQ(
+        ActivityCalendar({ PlainActivity(), PlainActivity() }), ActivityCalendar({ PlainActivity(), PlainActivity() }));
 }
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_NoProject_HasNoCategory)
 {
     for (const auto* project : { "No Project", "" }) {
-        auto activity = Activity();
+        auto activity = PlainActivity();
         activity.project = project;
         EXPECT_FALSE(ReadOne(activity).contains("CATEGORIES")) << project;
     }
@@ -78,7 +79,7 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_NoProject_HasNoCategory)
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_ProjectWithMarks_IsOneCategory)
 {
-    auto activity = Activity();
+    auto activity = PlainActivity();
     activity.project = "Sales, EMEA; a\\b \"c\": d";
     EXPECT_THAT(ActivityCalendar({ activity }), HasSubstr("\r\nCATEGORIES:Sales\\, EMEA\\; a\\\\b \"c\": d\r\n"));
     ReadOne(activity);
@@ -86,14 +87,14 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_ProjectWithMarks_IsOneCategory)
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_Body_KeepsItsLines)
 {
-    auto activity = Activity();
+    auto activity = PlainActivity();
     activity.body = "Other activities:\r\n10:05, a; b\r\n\r\nend\tof\x01\x7f it";
     EXPECT_EQ(ReadOne(activity).at("DESCRIPTION"), "Other activities:\n10:05, a; b\n\nend of it");
 }
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_Backslash_IsNoEscape)
 {
-    auto activity = Activity();
+    auto activity = PlainActivity();
     activity.body = activity.people = "C:\\new";
     const auto calendar = ActivityCalendar({ activity });
     EXPECT_THAT(calendar, HasSubstr("\r\nDESCRIPTION:C:\\\\new\r\n"));
@@ -102,7 +103,7 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_Backslash_IsNoEscape)
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_LongText_IsFoldedBetweenCharacters)
 {
-    auto activity = Activity();
+    auto activity = PlainActivity();
     activity.subject.clear();
     for (int i = 0; i < 100; ++i) {
         activity.subject += "\u00e4\U0001F600b,";
@@ -113,7 +114,7 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_LongText_IsFoldedBetweenCharacters
 TEST_F(ActivityCalendarTest, ActivityCalendar_TextWithLineEnd_AddsNoProperty)
 {
     for (const auto* end : { "\r\n", "\n", "\r" }) {
-        auto activity = Activity();
+        auto activity = PlainActivity();
         activity.subject = std::string("a") + end + "ATTENDEE:mailto:x@y.example";
         activity.project = activity.subject;
         activity.people = activity.subject + end + "END:VEVENT";
@@ -124,7 +125,7 @@ TEST_F(ActivityCalendarTest, ActivityCalendar_TextWithLineEnd_AddsNoProperty)
 
 TEST_F(ActivityCalendarTest, ActivityCalendar_NoLength_HasNoEnd)
 {
-    auto activity = Activity();
+    auto activity = PlainActivity();
     activity.end = activity.start;
     const auto event = ReadOne(activity);
     EXPECT_FALSE(event.contains("DTEND"));

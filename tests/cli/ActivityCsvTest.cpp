@@ -9,7 +9,7 @@ namespace {
 constexpr auto Header = "start,end,duration,project,application,description,people,subject\r\n";
 constexpr auto Times = "2006-10-10T10:00:00,2006-10-10T10:20:30,20";
 
-ActivityRecord Activity(const std::string& subject)
+ActivityRecord ActivityOf(const std::string& subject)
 {
     return { .start = Date::FromParts({ 2006, 10, 10, 10, 0, 0 }),
         .end = Date::FromParts({ 2006, 10, 10, 10, 20, 30 }),
@@ -19,7 +19,7 @@ ActivityRecord Activity(const std::string& subject)
 
 std::string SubjectField(const std::string& subject)
 {
-    const auto csv = ActivityCsv({ Activity(subject) });
+    const auto csv = ActivityCsv({ ActivityOf(subject) });
     const auto before = std::string(Header) + Times + ",,,,,";
     EXPECT_TRUE(csv.starts_with(before) && csv.ends_with("\r\n"));
     return csv.substr(before.size(), csv.size() - before.size() - 2);
@@ -34,14 +34,14 @@ TEST(ActivityCsvTest, ActivityCsv_None_IsTheHeader)
 
 TEST(ActivityCsvTest, ActivityCsv_Columns_StandInTheirOrder)
 {
-    auto activity = Activity("s");
+    auto activity = ActivityOf("s");
     activity.project = "p";
     activity.application = "a";
     activity.description = "d";
     activity.people = "x@y.example; z";
     activity.entryId = "unused";
     activity.body = "unused";
-    EXPECT_EQ(ActivityCsv({ activity, Activity("t") }),
+    EXPECT_EQ(ActivityCsv({ activity, ActivityOf("t") }),
         std::string(Header) + Times + ",p,a,d,x@y.example; z,s\r\n" + Times + ",,,,,t\r\n");
 }
 

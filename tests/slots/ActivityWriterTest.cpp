@@ -26,7 +26,7 @@ std::vector<SlotTimes> Growing()
         Slot(290, { { "A", "c", 300, "p" } }), Slot(291, { { "C", "k", 100 }, { "C", "l", 99 }, { "C", "m", 101 } }) };
 }
 
-std::vector<std::string> Texts(const std::vector<FiledSlot>& slots)
+std::vector<std::string> TextsOf(const std::vector<FiledSlot>& slots)
 {
     std::vector<std::string> texts;
     for (const auto& filed : slots) {
@@ -51,7 +51,7 @@ TEST(ActivityWriterTest, GrowingActivities_Words_GrowWithTheActivity)
     EXPECT_EQ(filed.size(), 3U);
     filed.push_back(activities.End().value());
     EXPECT_FALSE(activities.End());
-    EXPECT_EQ(Texts(filed), (Lines { "a", "+b", "+p", "m, k, l" }));
+    EXPECT_EQ(TextsOf(filed), (Lines { "a", "+b", "+p", "m, k, l" }));
     EXPECT_EQ(filed[0].midnight, 86400);
     EXPECT_EQ(filed[0].slot.start, 0);
     EXPECT_EQ(filed[0].slot.end, 300);
@@ -63,7 +63,7 @@ TEST(ActivityWriterTest, GrowingActivities_Words_GrowWithTheActivity)
 TEST(ActivityWriterTest, WholeActivities_Words_AreTheLastOnesFromTheBeginning)
 {
     const auto filed = WholeActivities(Picked(Growing()));
-    EXPECT_EQ(Texts(filed), (Lines { "p", "+p", "+p", "m, k, l" }));
+    EXPECT_EQ(TextsOf(filed), (Lines { "p", "+p", "+p", "m, k, l" }));
     EXPECT_EQ(filed[0].slot.details, (Lines { "a", "B: x" }));
     EXPECT_EQ(filed[1].slot.details, Lines { "b" });
     EXPECT_TRUE(WholeActivities({}).empty());

@@ -10,7 +10,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-ActivitySlot Slot(int number, bool continues, const std::string& text, Lines details = {}, bool tellsAlone = false)
+ActivitySlot WrittenSlot(
+    int number, bool continues, const std::string& text, Lines details = {}, bool tellsAlone = false)
 {
     ActivitySlot slot;
     slot.start = number * SlotSeconds;
@@ -54,37 +55,37 @@ TEST(DayFileTest, Heading_Zones_StandAsInMoments)
 TEST(DayFileTest, Add_Details_StandBeforeTheContinuationAndBehindTheOwnWords)
 {
     DayFile file;
-    file.Add(Slot(0, false, "a", { "x" }));
-    file.Add(Slot(1, true, "a", { "y" }));
-    file.Add(Slot(2, true, "a"));
-    file.Add(Slot(3, false, "b"));
+    file.Add(WrittenSlot(0, false, "a", { "x" }));
+    file.Add(WrittenSlot(1, true, "a", { "y" }));
+    file.Add(WrittenSlot(2, true, "a"));
+    file.Add(WrittenSlot(3, false, "b"));
     EXPECT_EQ(Short(file.TakeLines()), (Lines { "1 a", "1 - a", "1 - x", "1 - y", "2 + a", "3 + a", "4 b" }));
 }
 
 TEST(DayFileTest, Add_SingleSlot_TellsItsDetailsOnlyWhenItSaysLittle)
 {
     DayFile file;
-    file.Add(Slot(0, false, "a", { "x" }));
-    file.Add(Slot(1, false, "b", { "y" }, true));
-    file.Add(Slot(2, false, "c", { "z" }, true));
+    file.Add(WrittenSlot(0, false, "a", { "x" }));
+    file.Add(WrittenSlot(1, false, "b", { "y" }, true));
+    file.Add(WrittenSlot(2, false, "c", { "z" }, true));
     EXPECT_EQ(Short(file.TakeLines()), (Lines { "1 a", "2 b", "2 - b", "2 - y", "3 c" }));
 }
 
 TEST(DayFileTest, Add_FirstLineAndBehindAGap_AreNew)
 {
     DayFile file;
-    file.Add(Slot(4, true, "a"));
-    file.Add(Slot(5, true, "a"));
-    file.Add(Slot(7, true, "a"));
+    file.Add(WrittenSlot(4, true, "a"));
+    file.Add(WrittenSlot(5, true, "a"));
+    file.Add(WrittenSlot(7, true, "a"));
     EXPECT_EQ(Short(file.TakeLines()), (Lines { "5 a", "6 + a", "8 a" }));
 }
 
 TEST(DayFileTest, Add_EndsNoLaterThanTheLast_IsNotWritten)
 {
     DayFile file(3 * SlotSeconds);
-    EXPECT_FALSE(file.Add(Slot(1, false, "a")));
-    EXPECT_FALSE(file.Add(Slot(2, false, "a")));
-    EXPECT_TRUE(file.Add(Slot(3, true, "a")));
+    EXPECT_FALSE(file.Add(WrittenSlot(1, false, "a")));
+    EXPECT_FALSE(file.Add(WrittenSlot(2, false, "a")));
+    EXPECT_TRUE(file.Add(WrittenSlot(3, true, "a")));
     EXPECT_EQ(Short(file.TakeLines()), (Lines { "4 a" }));
     EXPECT_EQ(file.LastEnd(), 4 * SlotSeconds);
 }
@@ -106,7 +107,7 @@ TEST(DayFileTest, AddExact_AnyLength_IsOneLine)
 TEST(DayFileTest, TakeLines_AnyText_IsAscii)
 {
     DayFile file;
-    file.Add(Slot(0, false, "\u202e\u58f2\u4e0a \U0001F600 <&>" + std::string(10000, 'x')));
+    file.Add(WrittenSlot(0, false, "\u202e\u58f2\u4e0a \U0001F600 <&>" + std::string(10000, 'x')));
     for (const auto& line : file.TakeLines()) {
         EXPECT_TRUE(IsAscii(line)) << line;
         EXPECT_LT(line.size(), 2000U);

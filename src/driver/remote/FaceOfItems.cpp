@@ -39,7 +39,7 @@ WireValue AddAttachment(Attachments& attachments, const FaceCall& call)
     return {};
 }
 
-WireValue FindProperty(UserProperties& properties, const FaceCall& call)
+WireValue FindCustomProperty(UserProperties& properties, const FaceCall& call)
 {
     // The host finds the item's own fields with the others, so none is left to be found by themselves.
     const bool custom = call.Take<std::optional<bool>>(1).value_or(true);
@@ -119,7 +119,7 @@ template <> const FaceClass<Recipients>& FaceOf()
 template <> const FaceClass<UserProperties>& FaceOf()
 {
     static const FaceClass<UserProperties> face { "UserProperties",
-        { { "Find", FindProperty }, { "Add", FaceMembers<UserProperties>::Method(&UserProperties::Add) } } };
+        { { "Find", FindCustomProperty }, { "Add", FaceMembers<UserProperties>::Method(&UserProperties::Add) } } };
     return face;
 }
 

@@ -9,8 +9,8 @@
 namespace tempodial {
 namespace {
 
-constexpr auto SlotLine = "<slot><StartTime>36000</StartTime><EndTime>36300</EndTime><AppType>2</AppType>"
-                          "<WordDocName>plan &amp; budget.doc</WordDocName><Project></Project></slot>";
+constexpr auto OneSlot = "<slot><StartTime>36000</StartTime><EndTime>36300</EndTime><AppType>2</AppType>"
+                         "<WordDocName>plan &amp; budget.doc</WordDocName><Project></Project></slot>";
 
 class ExpatXmlTest : public testing::Test
 {
@@ -46,9 +46,9 @@ TEST_F(ExpatXmlTest, NewDocument_NothingLoaded_IsEmpty)
 
 TEST_F(ExpatXmlTest, LoadXML_SlotLine_GivesItsNodes)
 {
-    ASSERT_TRUE(mDocument->LoadXML(SlotLine));
+    ASSERT_TRUE(mDocument->LoadXML(OneSlot));
     EXPECT_FALSE(mDocument->IsEmpty());
-    EXPECT_EQ(mDocument->Xml(), SlotLine);
+    EXPECT_EQ(mDocument->Xml(), OneSlot);
     EXPECT_EQ(TextAt("slot/StartTime"), "36000");
     EXPECT_EQ(TextAt("slot/WordDocName"), "plan & budget.doc");
     EXPECT_EQ(TextAt("slot/Project"), "");
@@ -132,13 +132,13 @@ TEST_F(ExpatXmlTest, LoadXML_NotWellFormed_IsRefused)
         { "an unclosed comment", "<slot/><!-- " },
     };
     for (const auto& row : rows) {
-        mDocument->LoadXML(SlotLine);
+        mDocument->LoadXML(OneSlot);
         EXPECT_FALSE(mDocument->LoadXML(row.text)) << row.name;
         EXPECT_TRUE(mDocument->IsEmpty()) << row.name;
         EXPECT_EQ(mDocument->Xml(), "") << row.name;
         EXPECT_FALSE(mDocument->SelectSingleNode("slot")) << row.name;
     }
-    EXPECT_TRUE(mDocument->LoadXML(SlotLine));
+    EXPECT_TRUE(mDocument->LoadXML(OneSlot));
 }
 
 TEST_F(ExpatXmlTest, LoadXML_UnusualButWellFormed_IsTaken)
