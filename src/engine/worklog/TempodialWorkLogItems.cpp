@@ -6,6 +6,22 @@
 
 namespace tempodial {
 
+namespace {
+
+/// Only hosts that keep such a mark have the property.
+constexpr auto ProjectByHandProperty = "ProjectByHand";
+
+/// True when the item says that a person chose its project, which imports then leave alone.
+bool IsProjectByHand(const Attempt& attempt, const Ref<UserProperties>& properties)
+{
+    return properties && attempt.Get([&] {
+        const auto mark = properties->Item(ProjectByHandProperty);
+        return mark && mark->Value().ToBoolean();
+    });
+}
+
+}
+
 Ref<AppointmentItem> TempodialWorkLog::CreateCalendarItem(const std::string& project, const std::string& newDescription,
     const std::string& newApplication, const std::string& newContacts, std::int32_t newDuration, Date newStart,
     Date newEnd, const std::string& body, bool display, bool saveIt)
@@ -71,7 +87,7 @@ std::int32_t TempodialWorkLog::UpdateCalendarItem(const Ref<AppointmentItem>& it
             // kept: the project that the item has wins, also an empty one
             attempt([&] {
                 auto present = properties->Item("Project")->Value().ToText();
-                if (present != mMain->mStrings->mNoProject) {
+                if (present != mMain->mStrings->mNoProject || IsProjectByHand(attempt, properties)) {
                     project = std::move(present);
                 }
             });
@@ -170,7 +186,9 @@ void TempodialWorkLog::ExtraCalendarItemInfo(const Ref<AppointmentItem>& item, c
         const auto subject = CreateSubject("", newApplication, newDescription);
         const auto project = newProject.empty() ? mMain->WhatProject(subject, "") : newProject;
         const auto projectProperty = attempt.Get([&] { return properties->Item("Project"); });
-        attempt([&] { projectProperty->SetValue(project); });
+        if (!IsProjectByHand(attempt, properties)) {
+            attempt([&] { projectProperty->SetValue(project); });
+        }
         attempt([&] { RefreshCalendarItem(item, projectProperty->Value().ToText(), including, false); });
     }
     Trace("save and close");

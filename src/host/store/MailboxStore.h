@@ -67,6 +67,9 @@ public:
     void Save(StoreItem& item, bool refused);
     /// Sets who chooses the projects of items that are saved from now on; answers who did until now.
     ProjectChoice Choose(ProjectChoice choice) { return std::exchange(mChoice, choice); }
+    /// Lets items show that a person chose their project, which they don't at first.
+    void ShowChoices(bool areShown) { mAreChoicesShown = areShown; }
+    bool AreChoicesShown() const { return mAreChoicesShown; }
     void Move(StoreItem& item, std::int64_t folder);
     void Delete(StoreItem& item);
     /// Takes in that an item's row was changed by itself.
@@ -115,6 +118,7 @@ private:
     SaveStatistics mStatistics;
     SaveStatistics mCommittedStatistics;
     ProjectChoice mChoice = ProjectChoice::Rules;
+    bool mAreChoicesShown = false;
     bool mDelivering = false;
 };
 

@@ -23,6 +23,9 @@ Variant StoreBuiltInProperty::Value() const
     if (mName == StartName) {
         return mItem->Start();
     }
+    if (mName == ProjectByHandName) {
+        return mItem->IsProjectByHand();
+    }
     return mItem->Duration();
 }
 
@@ -30,6 +33,8 @@ void StoreBuiltInProperty::SetValue(const Variant& value)
 {
     if (mName == DurationName) {
         mItem->SetDuration(value.ToInt32());
+    } else if (mName == ProjectByHandName) {
+        mItem->SetProjectByHand(value.ToBoolean());
     } else if (const auto* text = value.If<std::string>()) {
         mItem->SetStart(mItem->Formats().Parse(*text));
     } else {

@@ -10,14 +10,15 @@ namespace tempodial {
 
 class StoreItem;
 
-/// The start or the duration of an item in the shape of a user property.
+/// The start or the duration of an item, or that a person chose its project, in the shape of a user property.
 class StoreBuiltInProperty final : public UserProperty
 {
 public:
     static constexpr std::string_view StartName = "Start";
     static constexpr std::string_view DurationName = "Duration";
+    static constexpr std::string_view ProjectByHandName = "ProjectByHand";
 
-    /// The property is one of the two names above.
+    /// The property is one of the names above.
     StoreBuiltInProperty(Ref<StoreItem> item, std::string_view name);
 
     std::string Name() const override;

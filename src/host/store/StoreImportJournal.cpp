@@ -28,6 +28,12 @@ StoreImportJournal::~StoreImportJournal()
     mStore->SetCommit({});
 }
 
+void StoreImportJournal::SetRemembers(bool remembers)
+{
+    mRemembers = remembers;
+    mStore->ShowChoices(remembers);
+}
+
 void StoreImportJournal::Begin()
 {
     mUnread.clear();

@@ -46,8 +46,9 @@ public:
     bool IsKnown(const std::string& line) override { return mMemory.IsKnown(line); }
     void Reached(std::int64_t number, bool isReadable) override;
 
-    /// Lets imports go by the lines that were reached, or by the history alone, as they do at first.
-    void SetRemembers(bool remembers) { mRemembers = remembers; }
+    /// Lets imports go by the lines that were reached and by the projects that a person chose, or by the history alone,
+    /// as they do at first.
+    void SetRemembers(bool remembers);
     /// The lines that couldn't be read of those that the last sync reached first.
     const std::vector<UnreadLine>& Unread() const { return mUnread; }
 

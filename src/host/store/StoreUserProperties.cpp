@@ -32,6 +32,11 @@ Ref<UserProperty> StoreUserProperties::Item(const std::string& name)
             return MakeRef<StoreBuiltInProperty>(mItem, builtIn);
         }
     }
+    // Otherwise this is a host that has no such mark.
+    if (EqualIgnoringCase(name, StoreBuiltInProperty::ProjectByHandName) && mItem->IsProjectByHand()
+        && mItem->Owner()->AreChoicesShown()) {
+        return MakeRef<StoreBuiltInProperty>(mItem, StoreBuiltInProperty::ProjectByHandName);
+    }
     return nullptr;
 }
 

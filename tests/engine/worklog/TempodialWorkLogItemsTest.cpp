@@ -1,3 +1,4 @@
+#include "host/store/StoreItem.h"
 #include "support/WorkLogFixture.h"
 
 using testing::Contains;
@@ -128,6 +129,33 @@ TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_Continuation_KeepsAProjectO
         EXPECT_EQ(Update(item, given, "more"), 0);
         EXPECT_EQ(Property(item, "Project"), written);
         EXPECT_EQ(item->Mileage(), written);
+    }
+}
+
+TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ContinuationOfNoProjectByHand_KeepsItWhereImportsRemember)
+{
+    AddProject("R", "more");
+    for (const bool remembers : { true, false }) {
+        mHost.storeJournal->SetRemembers(remembers);
+        const auto item = Activity("No Project");
+        item.As<StoreItem>()->SetProjectByHand(true);
+        EXPECT_EQ(Update(item, "", "more"), 0);
+        EXPECT_EQ(Property(item, "Project"), remembers ? "No Project" : "R");
+        EXPECT_EQ(item->Mileage(), remembers ? "No Project" : "R");
+    }
+}
+
+TEST_F(TempodialWorkLogItemsTest, ExtraCalendarItemInfo_ProjectByHand_KeepsIt)
+{
+    mHost.storeJournal->SetRemembers(true);
+    AddProject("R", "detail");
+    for (const bool isByHand : { true, false }) {
+        const auto item = Activity("A");
+        item.As<StoreItem>()->SetProjectByHand(isByHand);
+        mWorkLog->ExtraCalendarItemInfo(item, "detail", "Notepad", "", "", At(9, 0), At(9, 5), "text");
+        EXPECT_EQ(Property(item, "Project"), isByHand ? "A" : "R");
+        EXPECT_EQ(item->Mileage(), isByHand ? "A" : "R");
+        EXPECT_THAT(item->Subject(), testing::StartsWith(isByHand ? "[A] Notepad" : "[R] Notepad"));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "host/store/MailboxDatabase.h"
 #include "host/store/StoreFolder.h"
+#include "host/store/StoreImportJournal.h"
 #include "platform/objectmodel/Views.h"
 #include "support/FailureNumber.h"
 #include "support/TempFolder.h"
@@ -134,6 +135,22 @@ TEST_F(MailboxTest, ChoosingProjects_SaysWhoseChoiceTheSavedOnesAre)
     EXPECT_TRUE(item->IsProjectByHand());
     item->SetMileage("Plan");
     item->Save();
+    EXPECT_FALSE(item->IsProjectByHand());
+}
+
+TEST_F(MailboxTest, ProjectByHand_IsAPropertyOfItemsThatHaveTheMark)
+{
+    const auto item = NewTestItem(mMailbox, "a");
+    item->SetProjectByHand(true);
+    EXPECT_FALSE(item->UserProperties()->Item("ProjectByHand"));
+    StoreImportJournal(mMailbox).SetRemembers(true);
+    item->SetProjectByHand(false);
+    EXPECT_FALSE(item->UserProperties()->Item("ProjectByHand"));
+    item->SetProjectByHand(true);
+    const auto mark = item->UserProperties()->Item("projectbyhand");
+    EXPECT_EQ(mark->Name(), "ProjectByHand");
+    EXPECT_EQ(mark->Value(), Variant(true));
+    mark->SetValue(false);
     EXPECT_FALSE(item->IsProjectByHand());
 }
 
