@@ -11,6 +11,13 @@
 #include <unistd.h>
 #include <vector>
 
+// The address sanitizer has its own memory, and ends the process where there is none.
+#if defined(__SANITIZE_ADDRESS__)
+#define SKIP_WHERE_MEMORY_IS_WATCHED() GTEST_SKIP() << "the sanitizer has its own memory"
+#else
+#define SKIP_WHERE_MEMORY_IS_WATCHED() static_cast<void>(0)
+#endif
+
 namespace tempodial {
 
 namespace {
@@ -52,6 +59,7 @@ TEST(MemoryShortageTest, Watch_EnoughMemory_NotesNothing)
 
 TEST(MemoryShortageTest, Watch_RequestThatNothingMeets_FailsAndIsNoted)
 {
+    SKIP_WHERE_MEMORY_IS_WATCHED();
     EXPECT_TRUE(HoldsAlone([] {
         MemoryShortage::Watch();
         try {
@@ -65,9 +73,7 @@ TEST(MemoryShortageTest, Watch_RequestThatNothingMeets_FailsAndIsNoted)
 
 TEST(MemoryShortageTest, Watch_MemoryRunsOut_SomeIsLeftForTheEnd)
 {
-#if defined(__SANITIZE_ADDRESS__)
-    GTEST_SKIP() << "the sanitizer has its own memory";
-#endif
+    SKIP_WHERE_MEMORY_IS_WATCHED();
     EXPECT_TRUE(HoldsAlone([] {
         constexpr std::size_t Piece = 4096;
         constexpr std::size_t Room = std::size_t { 64 } << 20;
@@ -97,6 +103,7 @@ TEST(MemoryShortageTest, Note_FromALibrary_IsKept)
 
 TEST(MemoryShortageTest, Require_WhatIsThere_IsMetAndWhatIsNotFails)
 {
+    SKIP_WHERE_MEMORY_IS_WATCHED();
     EXPECT_TRUE(HoldsAlone([] {
         MemoryShortage::Watch();
         MemoryShortage::Require(1000);
