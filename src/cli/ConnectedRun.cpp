@@ -86,6 +86,12 @@ void ConnectedRun::AsStep(const std::function<void()>& work)
     }
 }
 
+void ConnectedRun::Reconnect(const Options& options)
+{
+    mSession.End();
+    mSession.Start(Surroundings(options));
+}
+
 void ConnectedRun::Select(std::vector<Ref<OutlookItem>> items) const
 {
     mSession.Windows().OpenExplorers().front()->Select(std::move(items));

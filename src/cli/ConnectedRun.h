@@ -59,6 +59,8 @@ public:
     bool HasProblemWith(const std::string& path) const { return mProblems->HasOneWith(path); }
     /// Does work as one step of the log, by the name of the command. A failure undoes all of it and goes wrong.
     void AsStep(const std::function<void()>& work);
+    /// Connects the add-in anew, which looks for old files then as whenever it starts.
+    void Reconnect(const Options& options);
     /// Selects items in the window, as a person does.
     void Select(std::vector<Ref<OutlookItem>> items) const;
     /// Disconnects the add-in, and adds to a reply what went wrong in the run and the status that follows from it.

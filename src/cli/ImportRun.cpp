@@ -22,14 +22,6 @@ constexpr auto HeadingMark = ", imported";
 /// A day's file before it has its name.
 constexpr auto UnfinishedName = "imported-day.tmp";
 
-Date DayOfKey(const std::string& key)
-{
-    constexpr std::size_t YearDigits = 4;
-    constexpr std::size_t MonthDigits = 2;
-    return Date::FromTexts(key.substr(0, YearDigits), std::stoi(key.substr(YearDigits, MonthDigits)),
-        key.substr(YearDigits + MonthDigits));
-}
-
 /// Minutes by which local time is before UTC at noon of a day.
 int OffsetOf(Date day)
 {

@@ -2,6 +2,9 @@
 #include "cli/Commands.h"
 #include "cli/ConnectedRun.h"
 #include "cli/Interruption.h"
+#include "cli/OlderDays.h"
+#include "cli/PeriodArguments.h"
+#include "host/system/HostClock.h"
 #include "session/LastSync.h"
 #include "session/ProductFacts.h"
 #include "session/TrackerFiles.h"
@@ -9,6 +12,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,19 +60,12 @@ std::vector<std::string> LeftOut(const ConnectedRun& run)
 }
 
 /// The numbers of the lines that couldn't be read, by the name of their file.
-std::map<std::string, std::vector<std::int64_t>> UnreadLines(const ConnectedRun& run)
-{
-    std::map<std::string, std::vector<std::int64_t>> lines;
-    for (const auto& line : run.UnreadLines()) {
-        lines[TrackerFileName(line.day)].push_back(line.number);
-    }
-    return lines;
-}
+using NumbersOfFiles = std::map<std::string, std::vector<std::int64_t>>;
 
-JsonValue UnreadJson(const ConnectedRun& run)
+JsonValue UnreadJson(const NumbersOfFiles& lines)
 {
     auto unread = JsonValue::Array();
-    for (const auto& [file, numbers] : UnreadLines(run)) {
+    for (const auto& [file, numbers] : lines) {
         for (const auto number : numbers) {
             unread.Append({ { "file", file }, { "line", number } });
         }
@@ -77,10 +74,10 @@ JsonValue UnreadJson(const ConnectedRun& run)
 }
 
 /// What is told of files and lines that were left out.
-std::vector<std::string> Remarks(const ConnectedRun& run)
+std::vector<std::string> Remarks(const ConnectedRun& run, const NumbersOfFiles& unread)
 {
     std::vector<std::string> remarks;
-    for (const auto& [file, numbers] : UnreadLines(run)) {
+    for (const auto& [file, numbers] : unread) {
         std::vector<std::string> shown;
         for (std::size_t i = 0; i < std::min(numbers.size(), NumbersShown); ++i) {
             shown.push_back(std::to_string(numbers[i]));
@@ -106,21 +103,44 @@ public:
             "kept under its finished name. Files that are older and lines that can't be\n"
             "read are named. Ctrl-C stops it; the next sync goes on from there.\n"
             "\n"
+            "--since takes older files too, day by day, oldest first, also those that were\n"
+            "kept for being too old.\n"
+            "\n"
             "  tempodial sync\n"
+            "  tempodial sync --since 2006-08-01\n"
             "  tempodial sync --quiet --json" })
     {
     }
 
-    void Declare(ArgumentList&) override { }
+    void Declare(ArgumentList& arguments) override
+    {
+        arguments.Optional("--since DAY", mSince,
+            "Take older days too, from that one on, or from the\nfirst day of a word for several");
+    }
 
     Reply Run(const Options& options) override
     {
+        HostClock clock(options.now);
+        const auto now = clock.Now();
+        const auto since = mSince ? PeriodArguments::ToPeriod("--since", *mSince, options).first : now;
         const Interruption interruption;
-        ConnectedRun run(options);
+        const OlderDays older(options, since, now);
+        ConnectedRun run(older.Started(options));
+        if (!older.AreNone()) {
+            run.Profile().Clock()->Set(clock.Now());
+        }
         // As long as nothing else is kept it was interrupted, by whatever it was.
         LastSync { .when = run.Host().clock->Now(), .outcome = "interrupted" }.Keep(run.Profile());
+        if (!older.AreNone()) {
+            older.Import(run, [&](std::int32_t days) { Sync(run, days); });
+            run.Profile().Clock()->Set(clock.Now());
+        }
         if (!Interruption::IsRequested()) {
-            run.AddIn().SyncData(SavedDataDays, true);
+            Sync(run, SavedDataDays);
+        }
+        if (!older.AreNone() && !Interruption::IsRequested()) {
+            // What is left of older files is looked for only now.
+            run.Reconnect(options);
         }
         if (run.WasAddInRefusing()) {
             run.Complain("no new activity can be made, since the form of activities can't be used: install the program "
@@ -132,7 +152,25 @@ public:
     }
 
 private:
-    static void Keep(const ConnectedRun& run, const Reply& reply)
+    /// Imports what a sync of that many days back from the clock's day does.
+    void Sync(const ConnectedRun& run, std::int32_t days)
+    {
+        run.AddIn().SyncData(days, true);
+        for (const auto& line : run.UnreadLines()) {
+            mUnread[TrackerFileName(line.day)].push_back(line.number);
+        }
+    }
+
+    std::int32_t UnreadCount() const
+    {
+        std::size_t count = 0;
+        for (const auto& [file, numbers] : mUnread) {
+            count += numbers.size();
+        }
+        return static_cast<std::int32_t>(count);
+    }
+
+    void Keep(const ConnectedRun& run, const Reply& reply) const
     {
         const auto& saves = run.Saves();
         const bool hasSaved = saves.created + saves.extended + saves.detailed > 0;
@@ -140,23 +178,25 @@ private:
             : reply.status == ExitStatus::Interrupted          ? "interrupted"
             : hasSaved                                         ? "partly"
                                                                : "failed";
-        LastSync { run.Host().clock->Now(), outcome, saves.created, saves.extended, saves.detailed,
-            static_cast<std::int32_t>(run.UnreadLines().size()) }
+        LastSync { run.Host().clock->Now(), outcome, saves.created, saves.extended, saves.detailed, UnreadCount() }
             .Keep(run.Profile());
     }
 
-    static Reply Answer(const ConnectedRun& run)
+    Reply Answer(const ConnectedRun& run) const
     {
         const bool cancelled = Interruption::IsRequested();
         const auto& saves = run.Saves();
         Reply reply;
         reply.document = { { "created", saves.created }, { "extended", saves.extended }, { "detailed", saves.detailed },
-            { "cancelled", cancelled }, { "leftOut", LeftOut(run) }, { "unread", UnreadJson(run) } };
+            { "cancelled", cancelled }, { "leftOut", LeftOut(run) }, { "unread", UnreadJson(mUnread) } };
         reply.summary = std::to_string(saves.created) + " created, " + std::to_string(saves.extended) + " extended, "
             + std::to_string(saves.detailed) + " detailed" + (cancelled ? ", then interrupted" : "") + "\n";
-        reply.remarks = Remarks(run);
+        reply.remarks = Remarks(run, mUnread);
         return reply;
     }
+
+    std::optional<std::string> mSince;
+    NumbersOfFiles mUnread;
 };
 
 }

@@ -20,4 +20,12 @@ std::string TrackerDay(const std::string& fileName)
     return isKey && fileName == TrackerFileName(key) ? key : std::string();
 }
 
+Date DayOfKey(const std::string& key)
+{
+    constexpr std::size_t YearDigits = 4;
+    constexpr std::size_t MonthDigits = 2;
+    return Date::FromTexts(key.substr(0, YearDigits), std::stoi(key.substr(YearDigits, MonthDigits)),
+        key.substr(YearDigits + MonthDigits));
+}
+
 }

@@ -81,7 +81,9 @@ void StoreImportJournal::HistorySaved()
     mStore->Database().CheckWhole();
     mPositions.clear();
     Query(mStore->Database(), "DELETE FROM import_position").Run();
-    mMemory.ForgetOldDays();
+    if (mForgets) {
+        mMemory.ForgetOldDays();
+    }
     if (mStore->Database().IsHolding()) {
         Commit();
     }

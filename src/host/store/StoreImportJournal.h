@@ -49,6 +49,8 @@ public:
     /// Lets imports go by the lines that were reached and by the projects that a person chose, or by the history alone,
     /// as they do at first.
     void SetRemembers(bool remembers);
+    /// Lets days go that are older than the newest 60, as it does at first, or keeps them.
+    void SetForgets(bool forgets) { mForgets = forgets; }
     /// The lines that couldn't be read of those that the last sync reached first.
     const std::vector<UnreadLine>& Unread() const { return mUnread; }
 
@@ -60,6 +62,7 @@ private:
     Ref<MailboxStore> mStore;
     LineMemory mMemory;
     bool mRemembers = false;
+    bool mForgets = true;
     std::string mDay;
     std::vector<UnreadLine> mUnread;
     std::map<std::string, Position> mPositions;
