@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -23,6 +24,7 @@ using testing::HasSubstr;
 class RemoteAddInTest : public testing::Test
 {
 protected:
+    RemoteAddInTest() { (void)std::signal(SIGPIPE, SIG_IGN); } // as every program does at its start
     ~RemoteAddInTest() override { ::setenv("PATH", mPath.c_str(), 1); }
 
     /// What the driver answers when Wine does that.
