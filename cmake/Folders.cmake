@@ -1,15 +1,15 @@
-# tempodial_folder(NAME FOLDER [OBJECT] [EXCEPT FILE] [LINK TARGET...] [USES TARGET...])
+# tempodial_folder(NAME FOLDER [OBJECT] [EXCEPT PATH...] [LINK TARGET...] [USES TARGET...])
 #
-# A library of all sources in FOLDER and below. It passes on what it links, but not the libraries that it uses: those
+# A library of all sources in FOLDER and below, but not of the files and folders that are excepted. It passes on what it links, but not the libraries that it uses: those
 # stay in the folder. A folder that doesn't exist yet, or has only headers, gives a target
 # that passes on its links. OBJECT makes an object library, for parts that know each other; such parts are linked
 # through the target that tempodial_collect makes of them.
 function(tempodial_folder name folder)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "OBJECT" "EXCEPT" "LINK;USES")
+    cmake_parse_arguments(PARSE_ARGV 2 arg "OBJECT" "" "EXCEPT;LINK;USES")
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.cpp")
-    if(arg_EXCEPT)
-        list(REMOVE_ITEM sources "${PROJECT_SOURCE_DIR}/${folder}/${arg_EXCEPT}")
-    endif()
+    foreach(path IN LISTS arg_EXCEPT)
+        list(FILTER sources EXCLUDE REGEX "^${PROJECT_SOURCE_DIR}/${folder}/${path}(/|$)")
+    endforeach()
     if(NOT sources)
         add_library(${name} INTERFACE)
         target_link_libraries(${name} INTERFACE tempodial_options ${arg_LINK})
@@ -61,11 +61,13 @@ function(tempodial_program name main)
     endif()
 endfunction()
 
-# tempodial_module(NAME SOURCE [LINK TARGET...]): a module that the programs load while they run, from lib/tempodial
-# beside their own folder.
-function(tempodial_module name source)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LINK")
-    add_library(${name} MODULE "${PROJECT_SOURCE_DIR}/${source}")
+# tempodial_module(NAME SOURCES... [LINK TARGET...]): a module that the programs load while they run, from lib/tempodial
+# beside their own folder. Sources are files, or patterns of their names.
+function(tempodial_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINK")
+    list(TRANSFORM arg_UNPARSED_ARGUMENTS PREPEND "${PROJECT_SOURCE_DIR}/")
+    file(GLOB sources CONFIGURE_DEPENDS ${arg_UNPARSED_ARGUMENTS})
+    add_library(${name} MODULE ${sources})
     target_link_libraries(${name} PRIVATE tempodial_options ${arg_LINK})
     set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib/tempodial"
         CXX_VISIBILITY_PRESET hidden)
