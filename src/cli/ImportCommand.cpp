@@ -267,6 +267,7 @@ private:
         }
         auto reply = Answer(outcome, plan.LeftOut());
         reply.document.Set("dryRun", true);
+        reply.remarks = plan.Remarks();
         AddTrouble(reply, plan.LeftOut());
         if (!reply.complaints.empty()) {
             reply.status = ExitStatus::NotDone;
@@ -293,7 +294,7 @@ private:
     Reply Imported(ImportRun& run, const ImportPlan& plan, const std::optional<std::pair<Date, Date>>& span) const
     {
         ImportOutcome outcome;
-        std::vector<std::string> remarks;
+        auto remarks = plan.Remarks();
         if (span) {
             if (mIsAgain) {
                 ForgetDays(run.Ledger(), *span);

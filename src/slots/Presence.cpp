@@ -66,14 +66,16 @@ const std::vector<Presence::Stretch>& Presence::Stretches() const
 
 std::int64_t Presence::Within(std::int64_t begin, std::int64_t end) const
 {
-    Unite();
     std::int64_t seconds = 0;
-    auto stretch = std::upper_bound(mStretches.begin(), mStretches.end(), begin,
-        [](std::int64_t moment, const Stretch& other) { return moment < other.end; });
-    for (; stretch != mStretches.end() && stretch->begin < end; ++stretch) {
-        seconds += std::min(stretch->end, end) - std::max(stretch->begin, begin);
-    }
+    ForEach(begin, end, [&seconds](std::int64_t from, std::int64_t to) { seconds += to - from; });
     return seconds;
+}
+
+std::vector<Presence::Stretch>::const_iterator Presence::FirstBehind(std::int64_t moment) const
+{
+    Unite();
+    return std::upper_bound(mStretches.begin(), mStretches.end(), moment,
+        [](std::int64_t at, const Stretch& other) { return at < other.end; });
 }
 
 std::int64_t Presence::Seconds() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -28,10 +29,19 @@ public:
     const std::vector<Stretch>& Stretches() const;
     /// Seconds of presence between two moments.
     std::int64_t Within(std::int64_t begin, std::int64_t end) const;
+    /// Calls back with the stretches between two moments, cut where those are.
+    template <class Callback> void ForEach(std::int64_t begin, std::int64_t end, Callback&& callback) const
+    {
+        for (auto stretch = FirstBehind(begin); stretch != mStretches.end() && stretch->begin < end; ++stretch) {
+            callback(std::max(stretch->begin, begin), std::min(stretch->end, end));
+        }
+    }
     /// Seconds of presence in all.
     std::int64_t Seconds() const;
 
 private:
+    /// The first stretch that ends behind a moment.
+    std::vector<Stretch>::const_iterator FirstBehind(std::int64_t moment) const;
     /// Brings what was added into order, in place.
     void Unite() const;
 

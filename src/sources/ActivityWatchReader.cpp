@@ -2,7 +2,6 @@
 
 #include "sources/JsonEvents.h"
 #include "sources/MomentText.h"
-#include "sources/SightingList.h"
 #include "sources/SourceProblem.h"
 #include "sources/WatchedBuckets.h"
 
@@ -37,6 +36,7 @@ public:
             mIsExport = !isArray;
         } else if (IsBucket(path)) {
             mBucket = {};
+            mBucket.name = path[1];
         } else if (IsEvent(path)) {
             mEvent = {};
         }
@@ -64,7 +64,7 @@ public:
         }
         if (path.size() == BucketMember && text != nullptr) {
             (path[2] == "type" ? mBucket.type : path[2] == "hostname" ? mBucket.host : mIgnored) = *text;
-        } else if (path.size() == EventMember && IsEvent({ path.begin(), path.end() - 1 })) {
+        } else if (path.size() == EventMember && path[2] == "events") {
             if (path.back() == "timestamp" && text != nullptr) {
                 mEvent.moment = ReadMoment(*text);
             } else if (path.back() == "duration") {

@@ -3,7 +3,6 @@
 #include "slots/Program.h"
 #include "sources/JsonEvents.h"
 #include "sources/MomentText.h"
-#include "sources/SightingList.h"
 #include "sources/SourceProblem.h"
 
 #include <cmath>
@@ -29,7 +28,6 @@ public:
     DumpListener(const SourceSettings& settings, SourceData& data)
         : mSettings(settings)
         , mData(data)
-        , mSightings(data.sightings)
     {
         mData.computers.emplace_back();
         mData.computers.front().isTold = true;
@@ -139,7 +137,7 @@ private:
             (isAway ? mAway : mData.computers.front().presence).Add(from, to);
         });
         if (mSample.active) {
-            const auto index = mSightings.Index(*mSample.active);
+            const auto index = mData.sightings.NumberOf(*mSample.active);
             ForLocalTimes(mSettings.zone, begin, end, [&](std::int64_t from, std::int64_t to) {
                 mData.windows.push_back({ from, to, 0, index });
             });
@@ -148,7 +146,6 @@ private:
 
     const SourceSettings& mSettings;
     SourceData& mData;
-    SightingList mSightings;
     Presence mAway;
     Sample mSample;
     Window mWindow;

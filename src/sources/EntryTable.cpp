@@ -4,7 +4,6 @@
 #include "slots/PlainText.h"
 #include "sources/CsvRecords.h"
 #include "sources/MomentText.h"
-#include "sources/SightingList.h"
 #include "sources/SourceProblem.h"
 
 #include <algorithm>
@@ -53,21 +52,23 @@ std::string TextOf(const std::string& description, const std::string& task)
     return text;
 }
 
+/// True when there are the dates of a row, read in that order.
+bool IsPossible(const DatedRow& row, DateOrder order)
+{
+    return ReadDay(row.startDate, order) && (row.endDate.empty() || ReadDay(row.endDate, order));
+}
+
 /// How many of the dates there aren't in that order.
 std::int64_t Impossible(const std::vector<DatedRow>& rows, DateOrder order)
 {
-    std::int64_t count = 0;
-    for (const auto& row : rows) {
-        count += ReadDay(row.startDate, order) && (row.endDate.empty() || ReadDay(row.endDate, order)) ? 0 : 1;
-    }
-    return count;
+    return std::count_if(rows.begin(), rows.end(), [order](const auto& row) { return !IsPossible(row, order); });
 }
 
 /// True when an order has a row that the other refuses.
 bool HasOwnRow(const std::vector<DatedRow>& rows, DateOrder order, DateOrder other)
 {
-    return std::any_of(rows.begin(), rows.end(),
-        [&](const auto& row) { return ReadDay(row.startDate, order) && !ReadDay(row.startDate, other); });
+    return std::any_of(
+        rows.begin(), rows.end(), [&](const auto& row) { return IsPossible(row, order) && !IsPossible(row, other); });
 }
 
 DateOrder OrderOf(const std::vector<DatedRow>& rows, DateOrder given)
@@ -99,7 +100,6 @@ public:
         : mSettings(settings)
         , mKind(kind)
         , mRecords(stream, settings, mData.skipped)
-        , mSightings(mData.sightings)
     {
     }
 
@@ -239,7 +239,7 @@ private:
         if (mData.computers.empty()) {
             mData.computers.emplace_back();
         }
-        mData.windows.push_back({ begin, end, 0, mSightings.Index(words) });
+        mData.windows.push_back({ begin, end, 0, mData.sightings.NumberOf(words) });
     }
 
     void Take(SourceEntry entry)
@@ -259,7 +259,6 @@ private:
     EntryTableKind mKind;
     SourceData mData;
     CsvRecords mRecords;
-    SightingList mSightings;
 };
 
 }

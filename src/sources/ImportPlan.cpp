@@ -7,6 +7,7 @@
 #include "sources/WindowTimeline.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -16,6 +17,11 @@ namespace {
 
 constexpr std::int64_t SecondsInMinute = 60;
 constexpr auto NoDescription = "(no description)";
+
+bool IsBefore1990(Date moment)
+{
+    return moment < Date::FromYearMonthDay(1990, 1, 1);
+}
 
 Date DayOfSeconds(std::int64_t seconds)
 {
@@ -38,13 +44,17 @@ bool ImportPlan::IsInRange(Date day) const
     return (!mRange.from || day >= *mRange.from) && (!mRange.to || day <= *mRange.to);
 }
 
+bool ImportPlan::IsInQuestion(Date day) const
+{
+    return IsInRange(day) && !IsBefore1990(day) && day < mRange.now.Day();
+}
+
 bool ImportPlan::MayBeTaken(std::int64_t start)
 {
     const auto moment = Date::FromSeconds(start);
-    const auto year1990 = Date::FromYearMonthDay(1990, 1, 1);
     if (moment > mRange.now) {
         mSkipped.Add(Skipped::Future);
-    } else if (moment < year1990) {
+    } else if (IsBefore1990(moment)) {
         mSkipped.Add(Skipped::Before1990);
     } else if (moment.Day() >= mRange.now.Day()) {
         mSkipped.Add(Skipped::Today);
@@ -57,6 +67,7 @@ bool ImportPlan::MayBeTaken(std::int64_t start)
 void ImportPlan::Take(SourceData data)
 {
     mSkipped = std::move(data.skipped);
+    mRemarks = std::move(data.remarks);
     TakeWindows(data);
     TakeEntries(data.entries);
     if (static_cast<std::int64_t>(mDays.size()) > MostSourceDays) {
@@ -81,30 +92,18 @@ void ImportPlan::TakeWindows(SourceData& data)
         }
         return false;
     });
-    WindowTimeline timeline(data, mViews);
-    timeline.Make(mSkipped);
-    AddPresence(timeline.Present());
-    mSlots = WholeActivities(timeline.TakeSlots());
-}
-
-void ImportPlan::AddPresence(const Presence& presence)
-{
-    std::map<Date, std::int64_t> seconds;
-    const auto first = Date::FromYearMonthDay(1990, 1, 1).Seconds();
-    for (const auto& stretch : presence.Stretches()) {
-        auto begin = std::max(stretch.begin, first);
-        while (begin < std::min(stretch.end, mRange.now.Day().Seconds())) {
-            const auto day = DayOfSeconds(begin);
-            const auto end = std::min(stretch.end, day.AddDays(1).Seconds());
-            if (IsInRange(day)) {
-                seconds[day] += end - begin;
-            }
-            begin = end;
+    WindowTimeline timeline(data, mViews, [this](Date day) { return IsInQuestion(day); });
+    timeline.Make(mSkipped, [this](WindowTimeline::Day day) {
+        if (!IsInQuestion(day.date)) {
+            return;
         }
-    }
-    for (const auto& [day, sum] : seconds) {
-        mDays[day] += (sum + SecondsInMinute / 2) / SecondsInMinute;
-    }
+        if (day.presence > 0) {
+            mDays[day.date] += (day.presence + SecondsInMinute / 2) / SecondsInMinute;
+        }
+        // Nothing goes on over midnight, so that a day's activities are known with it.
+        auto filed = WholeActivities(std::move(day.slots));
+        std::move(filed.begin(), filed.end(), std::back_inserter(mSlots));
+    });
 }
 
 void ImportPlan::TakeEntries(const std::vector<SourceEntry>& entries)
@@ -167,24 +166,21 @@ ImportPlan::Days ImportPlan::Make(const Presence& taken, const ImportLedger& led
     }
     for (const auto& filed : mSlots) {
         const auto date = Date::FromSeconds(filed.midnight);
-        const auto day = days.find(date);
-        if (day == days.end() || date >= mRange.now.Day()) {
-            continue;
-        }
+        auto& day = days[date];
         const auto index = static_cast<std::size_t>(filed.slot.start / SlotSeconds);
         if (ledger.Of(date).slots[index]) {
-            ++day->second.before;
+            ++day.before;
         } else if (taken.Within(filed.midnight + filed.slot.start, filed.midnight + filed.slot.end) > 0) {
-            ++day->second.taken;
+            ++day.taken;
         } else {
             auto slot = filed.slot;
             if (mRange.withoutProjects) {
                 slot.words.project.clear();
             }
             files[date].Add(slot);
-            ++day->second.slots;
-            day->second.minutesWritten += SlotSeconds / SecondsInMinute;
-            day->second.written.slots.set(index);
+            ++day.slots;
+            day.minutesWritten += SlotSeconds / SecondsInMinute;
+            day.written.slots.set(index);
         }
     }
     for (const auto& entry : mEntries) {

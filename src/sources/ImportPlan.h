@@ -73,6 +73,8 @@ public:
 
     /// What is left out, whatever is in the log.
     const Skipped& LeftOut() const { return mSkipped; }
+    /// What of that has a name, a message each.
+    const std::vector<std::string>& Remarks() const { return mRemarks; }
 
 private:
     /// An entry in the words of the log.
@@ -85,15 +87,17 @@ private:
     };
 
     bool IsInRange(Date day) const;
+    /// True for a day in the range that is over and not before all counting.
+    bool IsInQuestion(Date day) const;
     /// True for a time that may be taken by its start, which is counted otherwise.
     bool MayBeTaken(std::int64_t start);
     void TakeWindows(SourceData& data);
     void TakeEntries(const std::vector<SourceEntry>& entries);
-    void AddPresence(const Presence& presence);
 
     ImportRange mRange;
     const ViewMaker& mViews;
     Skipped mSkipped;
+    std::vector<std::string> mRemarks;
     /// Minutes of presence of each day in question.
     std::map<Date, std::int64_t> mDays;
     std::vector<FiledSlot> mSlots;

@@ -3,7 +3,6 @@
 #include "slots/SlotTimes.h"
 #include "sources/CsvRecords.h"
 #include "sources/MomentText.h"
-#include "sources/SightingList.h"
 #include "sources/SourceProblem.h"
 
 #include <algorithm>
@@ -45,7 +44,6 @@ SourceData RescueTimeReader::Read(std::istream& stream, const SourceSettings& se
     }
     const auto category = records.Column({ "Category" });
     const auto document = records.Column({ "Document" });
-    SightingList sightings(data.sightings);
     data.computers.emplace_back();
     data.computers.front().isTold = true;
     // Seconds of each slot that are given away already.
@@ -82,7 +80,7 @@ SourceData RescueTimeReader::Read(std::istream& stream, const SourceSettings& se
         if (sighting.title.empty() || sighting.title == "No Details") {
             sighting.title = records.Field(category);
         }
-        data.windows.push_back({ begin + taken, begin + taken + length, 0, sightings.Index(sighting) });
+        data.windows.push_back({ begin + taken, begin + taken + length, 0, data.sightings.NumberOf(sighting) });
         data.computers.front().presence.Add(begin + taken, begin + taken + length);
         taken += length;
     }

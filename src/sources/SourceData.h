@@ -2,6 +2,7 @@
 
 #include "slots/Presence.h"
 #include "slots/Sighting.h"
+#include "sources/SightingTable.h"
 #include "sources/Skipped.h"
 
 #include <cstddef>
@@ -45,12 +46,14 @@ struct SourceData
         bool isTold = false;
     };
 
-    /// What windows said, each once.
-    std::vector<Sighting> sightings;
+    /// What windows said.
+    SightingTable sightings;
     std::vector<SeenWindow> windows;
     std::vector<Computer> computers;
     std::vector<SourceEntry> entries;
     Skipped skipped;
+    /// What is left out and has a name, a message each.
+    std::vector<std::string> remarks;
 };
 
 }

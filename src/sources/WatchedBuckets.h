@@ -1,12 +1,11 @@
 #pragma once
 
-#include "sources/SightingList.h"
+#include "sources/NumberIndex.h"
 #include "sources/SourceReader.h"
 
 #include <cstdint>
 #include <map>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace tempodial {
@@ -33,16 +32,11 @@ public:
 
     struct Bucket
     {
-        std::string type, host;
+        std::string name, type, host;
         std::vector<Event> events;
     };
 
-    WatchedBuckets(const SourceSettings& settings, SourceData& data)
-        : mSettings(settings)
-        , mData(data)
-        , mSightings(data.sightings)
-    {
-    }
+    WatchedBuckets(const SourceSettings& settings, SourceData& data);
 
     /// Adds an event to a bucket; its times are milliseconds, counted since 1970 began in UTC.
     void AddEvent(Bucket& bucket, std::int64_t begin, std::int64_t length, const EventData& data);
@@ -59,15 +53,28 @@ private:
         bool hasIdle = false;
     };
 
+    /// An event's data in numbers of texts. Of an address only the site is kept, and what tells it from others.
+    struct Row
+    {
+        std::uint32_t app, title, status, host, rest;
+        bool isPrivate;
+
+        bool operator==(const Row&) const = default;
+    };
+
+    void LeaveOut(const Bucket& bucket);
+    void AddPresence(Host& host, SourceData::Computer& computer);
     void Straighten(std::vector<Event>& events);
     void AddWindow(const Event& event, const std::vector<Event>& pages, std::uint32_t computer);
+    std::string_view TitleOf(const Row& row) const { return mTexts.Text(row.title); }
 
     const SourceSettings& mSettings;
     SourceData& mData;
-    SightingList mSightings;
-    std::vector<EventData> mEventData;
-    std::unordered_map<std::string, std::uint32_t> mEventDataIndex;
+    TextPool& mTexts;
+    std::vector<Row> mRows;
+    NumberIndex mIndex;
     std::map<std::string, Host> mHosts;
+    std::int64_t mLeftOut = 0;
     /// For each page of the computer in hand where the pages up to it end at the latest.
     std::vector<std::int64_t> mLatestEnds;
 };

@@ -4,31 +4,94 @@
 #include "slots/SlotTimes.h"
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
+#include <tuple>
 #include <utility>
 
 namespace tempodial {
 
-void WindowTimeline::Make(Skipped& skipped)
+namespace {
+
+std::int64_t MidnightOf(std::int64_t seconds)
 {
-    mSeen.resize(mData.sightings.size());
-    std::vector<std::vector<SeenWindow>> windows(mData.computers.size());
-    for (const auto& window : mData.windows) {
-        if (window.end > window.begin) {
-            windows[window.computer].push_back(window);
+    return Date::FromSeconds(seconds).Day().Seconds();
+}
+
+}
+
+WindowTimeline::WindowTimeline(SourceData& data, const ViewMaker& views, std::function<bool(Date)> isInQuestion)
+    : mData(data)
+    , mViews(views)
+    , mIsInQuestion(std::move(isInQuestion))
+{
+    std::erase_if(mData.windows, [](const SeenWindow& window) { return window.end <= window.begin; });
+    // Of two that come at once the shorter one is in front.
+    std::sort(mData.windows.begin(), mData.windows.end(), [](const SeenWindow& a, const SeenWindow& b) {
+        return std::tuple(a.begin, b.end, a.sighting) < std::tuple(b.begin, a.end, b.sighting);
+    });
+}
+
+void WindowTimeline::Make(Skipped& skipped, const std::function<void(Day)>& take)
+{
+    FindPresence(skipped);
+    Presence all;
+    for (const auto& presence : mPresence) {
+        for (const auto& stretch : presence.Stretches()) {
+            all.Add(stretch.begin, stretch.end);
         }
     }
-    std::vector<Piece> pieces;
-    for (std::uint32_t computer = 0; computer < windows.size(); ++computer) {
-        auto own = OfComputer(computer, windows[computer], skipped);
-        windows[computer] = {};
-        pieces.insert(pieces.end(), own.begin(), own.end());
+    std::int64_t next = std::numeric_limits<std::int64_t>::min();
+    for (const auto& stretch : all.Stretches()) {
+        for (auto midnight = std::max(next, MidnightOf(stretch.begin)); midnight < stretch.end;
+             midnight += DaySeconds) {
+            next = midnight + DaySeconds;
+            GoOnTo(midnight);
+            Presence present;
+            std::vector<Piece> pieces;
+            for (std::uint32_t computer = 0; computer < mPresence.size(); ++computer) {
+                const auto own = OfComputer(computer, midnight, present, skipped);
+                pieces.insert(pieces.end(), own.begin(), own.end());
+            }
+            if (mPresence.size() > 1) {
+                pieces = InFront(std::move(pieces));
+            }
+            take(Picked(midnight, present, pieces, skipped));
+        }
     }
-    if (windows.size() > 1) {
-        pieces = InFront(std::move(pieces));
+}
+
+void WindowTimeline::FindPresence(Skipped& skipped)
+{
+    for (const auto& computer : mData.computers) {
+        mPresence.push_back(computer.presence);
     }
-    Pick(pieces, skipped);
+    for (const auto& window : mData.windows) {
+        if (!mData.computers[window.computer].isTold) {
+            mPresence[window.computer].Add(window.begin, window.end);
+        }
+    }
+    for (std::size_t i = 0; i < mPresence.size(); ++i) {
+        if (!mData.computers[i].isTold) {
+            mPresence[i].Bridge(IdleLimit(ProgramSort::Other));
+        }
+    }
+    for (const auto& window : mData.windows) {
+        const bool isOfNobody = mPresence[window.computer].Within(window.begin, window.end) == 0;
+        if (isOfNobody && mIsInQuestion(Date::FromSeconds(window.begin).Day())) {
+            skipped.Add(Skipped::NoPresence);
+        }
+    }
+}
+
+void WindowTimeline::GoOnTo(std::int64_t midnight)
+{
+    mSeen.clear();
+    std::erase_if(mOpen, [midnight](const SeenWindow& window) { return window.end <= midnight; });
+    for (; mNext < mData.windows.size() && mData.windows[mNext].begin < midnight + DaySeconds; ++mNext) {
+        if (mData.windows[mNext].end > midnight) {
+            mOpen.push_back(mData.windows[mNext]);
+        }
+    }
 }
 
 std::vector<WindowTimeline::Piece> WindowTimeline::InFront(std::vector<Piece> pieces)
@@ -64,70 +127,72 @@ std::vector<WindowTimeline::Piece> WindowTimeline::InFront(std::vector<Piece> pi
 
 const Seen& WindowTimeline::SeenAs(std::uint32_t sighting)
 {
-    auto& seen = mSeen[sighting];
-    if (!seen) {
-        seen = mViews.Make(mData.sightings[sighting]);
+    const auto [seen, isNew] = mSeen.try_emplace(sighting);
+    if (isNew) {
+        seen->second = mViews.Make(mData.sightings[sighting]);
     }
-    return *seen;
+    return seen->second;
 }
 
 std::vector<WindowTimeline::Piece> WindowTimeline::OfComputer(
-    std::uint32_t computer, const std::vector<SeenWindow>& windows, Skipped& skipped)
+    std::uint32_t computer, std::int64_t midnight, Presence& presence, Skipped& skipped)
 {
-    auto presence = mData.computers[computer].presence;
+    const auto end = midnight + DaySeconds;
     std::vector<Piece> whole;
-    whole.reserve(windows.size());
-    for (const auto& window : windows) {
-        whole.push_back({ window.begin, window.end, window.begin, window.sighting });
-        if (!mData.computers[computer].isTold) {
-            presence.Add(window.begin, window.end);
+    for (const auto& window : mOpen) {
+        if (window.computer == computer && mPresence[computer].Within(window.begin, window.end) > 0) {
+            whole.push_back(
+                { std::max(window.begin, midnight), std::min(window.end, end), window.begin, window.sighting });
+            CountDropped(window, midnight, skipped);
         }
     }
-    if (!mData.computers[computer].isTold) {
-        presence.Bridge(IdleLimit(ProgramSort::Other));
-    }
-    for (const auto& window : windows) {
-        skipped.Add(Skipped::NoPresence, presence.Within(window.begin, window.end) == 0 ? 1 : 0);
-    }
-    const auto front = InFront(std::move(whole));
+    Presence own;
+    mPresence[computer].ForEach(midnight, end, [&own](std::int64_t from, std::int64_t to) { own.Add(from, to); });
     Presence away;
+    const auto front = InFront(std::move(whole));
     for (const auto& piece : front) {
         const auto kind = SeenAs(piece.sighting).kind;
         if (kind == Seen::Kind::Locked || kind == Seen::Kind::Dropped) {
             away.Add(piece.begin, piece.end);
         }
-        skipped.Add(Skipped::Dropped, kind == Seen::Kind::Dropped ? 1 : 0);
     }
-    presence.Remove(away);
+    own.Remove(away);
     std::vector<Piece> pieces;
-    auto stretch = presence.Stretches().begin();
     for (const auto& piece : front) {
-        while (stretch != presence.Stretches().end() && stretch->end <= piece.begin) {
-            ++stretch;
-        }
-        for (auto next = stretch; next != presence.Stretches().end() && next->begin < piece.end; ++next) {
-            pieces.push_back(
-                { std::max(piece.begin, next->begin), std::min(piece.end, next->end), piece.came, piece.sighting });
-        }
+        own.ForEach(piece.begin, piece.end, [&pieces, &piece](std::int64_t from, std::int64_t to) {
+            pieces.push_back({ from, to, piece.came, piece.sighting });
+        });
     }
-    for (const auto& one : presence.Stretches()) {
-        mPresence.Add(one.begin, one.end);
+    for (const auto& stretch : own.Stretches()) {
+        presence.Add(stretch.begin, stretch.end);
     }
     return pieces;
 }
 
-void WindowTimeline::Pick(const std::vector<Piece>& pieces, Skipped& skipped)
+void WindowTimeline::CountDropped(const SeenWindow& window, std::int64_t midnight, Skipped& skipped)
 {
-    SlotPicker picker;
+    // A window over midnight counts on the first day that it is seen on.
+    if (mPresence[window.computer].Within(window.begin, midnight) == 0
+        && mIsInQuestion(Date::FromSeconds(window.begin).Day())
+        && SeenAs(window.sighting).kind == Seen::Kind::Dropped) {
+        skipped.Add(Skipped::Dropped);
+    }
+}
+
+WindowTimeline::Day WindowTimeline::Picked(
+    std::int64_t midnight, const Presence& presence, const std::vector<Piece>& pieces, Skipped& skipped)
+{
+    Day day { Date::FromSeconds(midnight), presence.Seconds(), {} };
+    const bool isInQuestion = mIsInQuestion(day.date);
     auto piece = pieces.begin();
-    std::int64_t next = 0;
-    for (const auto& stretch : mPresence.Stretches()) {
+    auto next = midnight;
+    for (const auto& stretch : presence.Stretches()) {
         // A slot in which one stretch ends and the next begins is one slot.
         auto start = std::max(next, stretch.begin - stretch.begin % SlotSeconds);
         for (; start < stretch.end; start += SlotSeconds) {
             SlotTimes times;
             times.start = start;
-            times.presence = mPresence.Within(start, start + SlotSeconds);
+            times.presence = presence.Within(start, start + SlotSeconds);
             while (piece != pieces.end() && piece->end <= start) {
                 ++piece;
             }
@@ -138,13 +203,16 @@ void WindowTimeline::Pick(const std::vector<Piece>& pieces, Skipped& skipped)
                     times.Add(seen.view, seconds);
                 }
             }
-            skipped.Add(Skipped::UnderHalf, Counts(times.presence) ? 0 : 1);
-            if (auto slot = picker.Pick(times)) {
-                mSlots.push_back(std::move(*slot));
+            if (isInQuestion && !Counts(times.presence)) {
+                skipped.Add(Skipped::UnderHalf);
+            }
+            if (auto slot = mPicker.Pick(times)) {
+                day.slots.push_back(std::move(*slot));
             }
         }
         next = start;
     }
+    return day;
 }
 
 }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "base/Date.h"
 #include "slots/SlotPicker.h"
 #include "slots/ViewMaker.h"
 #include "sources/SourceData.h"
 
 #include <cstdint>
-#include <optional>
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
 namespace tempodial {
@@ -15,19 +17,21 @@ namespace tempodial {
 class WindowTimeline
 {
 public:
-    WindowTimeline(const SourceData& data, const ViewMaker& views)
-        : mData(data)
-        , mViews(views)
+    /// What a day comes to.
+    struct Day
     {
-    }
+        Date date;
+        /// Seconds that somebody was there.
+        std::int64_t presence = 0;
+        /// The slots that count, in their order.
+        std::vector<PickedSlot> slots;
+    };
 
-    /// Makes the slots of all that the source holds. What comes to nothing is counted.
-    void Make(Skipped& skipped);
+    /// Takes what a source holds, and orders its windows; what comes to nothing is counted on the days in question.
+    WindowTimeline(SourceData& data, const ViewMaker& views, std::function<bool(Date)> isInQuestion);
 
-    /// The slots that count, in their order.
-    std::vector<PickedSlot> TakeSlots() { return std::move(mSlots); }
-    /// The times that somebody was there.
-    const Presence& Present() const { return mPresence; }
+    /// Makes the days on which somebody was there, one after the other and in their order.
+    void Make(Skipped& skipped, const std::function<void(Day)>& take);
 
 private:
     /// A window alone in front.
@@ -41,15 +45,25 @@ private:
 
     static std::vector<Piece> InFront(std::vector<Piece> pieces);
 
+    void FindPresence(Skipped& skipped);
+    /// Makes the windows that the day behind a midnight has a part of the open ones.
+    void GoOnTo(std::int64_t midnight);
     const Seen& SeenAs(std::uint32_t sighting);
-    std::vector<Piece> OfComputer(std::uint32_t computer, const std::vector<SeenWindow>& windows, Skipped& skipped);
-    void Pick(const std::vector<Piece>& pieces, Skipped& skipped);
+    /// What was in front of a computer's person on a day, of which the presence is what counts.
+    std::vector<Piece> OfComputer(std::uint32_t computer, std::int64_t midnight, Presence& presence, Skipped& skipped);
+    void CountDropped(const SeenWindow& window, std::int64_t midnight, Skipped& skipped);
+    Day Picked(std::int64_t midnight, const Presence& presence, const std::vector<Piece>& pieces, Skipped& skipped);
 
-    const SourceData& mData;
+    SourceData& mData;
     const ViewMaker& mViews;
-    std::vector<std::optional<Seen>> mSeen;
-    Presence mPresence;
-    std::vector<PickedSlot> mSlots;
+    std::function<bool(Date)> mIsInQuestion;
+    std::vector<Presence> mPresence;
+    /// The windows that have begun and may reach into the day in hand, in their order, and the next one that begins.
+    std::vector<SeenWindow> mOpen;
+    std::size_t mNext = 0;
+    /// What the windows of the day in hand come to.
+    std::unordered_map<std::uint32_t, Seen> mSeen;
+    SlotPicker mPicker;
 };
 
 }

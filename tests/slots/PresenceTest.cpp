@@ -66,4 +66,18 @@ TEST(PresenceTest, Within_CountsWhatLiesBetween)
     EXPECT_EQ(presence.Within(-10, 1000), 200);
 }
 
+TEST(PresenceTest, ForEach_BetweenTwoMoments_GivesTheCutStretches)
+{
+    Presence presence;
+    presence.Add(0, 10);
+    presence.Add(20, 30);
+    presence.Add(40, 50);
+    Stretches seen;
+    presence.ForEach(5, 41, [&seen](std::int64_t begin, std::int64_t end) { seen.push_back({ begin, end }); });
+    EXPECT_EQ(seen, (Stretches { { 5, 10 }, { 20, 30 }, { 40, 41 } }));
+    seen.clear();
+    presence.ForEach(10, 20, [&seen](std::int64_t begin, std::int64_t end) { seen.push_back({ begin, end }); });
+    EXPECT_TRUE(seen.empty());
+}
+
 }

@@ -95,6 +95,42 @@ TEST_F(ActivityWatchReaderTest, Read_OtherBucketsAndBadEvents_AreCounted)
     EXPECT_EQ(data.skipped.Count(Skipped::Bucket), 1);
     EXPECT_EQ(data.skipped.Count(Skipped::Unreadable), 2);
     EXPECT_TRUE(data.windows.empty());
+    ASSERT_EQ(data.remarks.size(), 1U);
+    EXPECT_THAT(data.remarks[0], HasSubstr("\"app.editor.activitybox\""));
+    EXPECT_THAT(data.remarks[0], HasSubstr("\"app.editor.activity\""));
+}
+
+TEST_F(ActivityWatchReaderTest, Read_ManyOtherBuckets_AreNamedUpToALimit)
+{
+    std::string buckets;
+    for (int i = 0; i < 25; ++i) {
+        buckets += (i == 0 ? "" : ",") + Bucket("media" + std::to_string(i), "box", "");
+    }
+    const auto data = Read("activitywatch", Export(buckets));
+    EXPECT_EQ(data.skipped.Count(Skipped::Bucket), 25);
+    ASSERT_EQ(data.remarks.size(), 21U);
+    EXPECT_THAT(data.remarks.back(), HasSubstr("5 more"));
+}
+
+TEST_F(ActivityWatchReaderTest, Read_PagesOfOneMoment_AreDuplicatesOnlyWhenAllIsTheSame)
+{
+    const auto page = [](const std::string& path) {
+        return Event(
+            "10:00", "60", R"("url":"https://a.example.com/)" + path + R"(","title":")" + std::string(50, 'x') + "\"");
+    };
+    const auto data = Read("activitywatch",
+        Export(Bucket("web.tab.current", "box", page("1") + "," + page("2") + "," + page("1")) + ","
+            + Bucket("currentwindow", "box", Event("10:00", "60", Plan))));
+    EXPECT_EQ(data.skipped.Count(Skipped::Duplicate), 1);
+}
+
+TEST_F(ActivityWatchReaderTest, Read_TypeBehindTheEvents_IsTheSame)
+{
+    const auto data = Read("activitywatch",
+        R"({"buckets":{"w":{"events":[)" + Event("10:00", "60", Plan)
+            + R"(],"type":"currentwindow","hostname":"box"}}})");
+    ASSERT_EQ(data.windows.size(), 1U);
+    EXPECT_EQ(data.sightings[data.windows[0].sighting].program, "firefox");
 }
 
 TEST_F(ActivityWatchReaderTest, Read_Depth_IsLimited)

@@ -1,7 +1,6 @@
 #include "sources/ImportPlan.h"
 
 #include "slots/SlotTimes.h"
-#include "sources/SightingList.h"
 
 #include <gtest/gtest.h>
 
@@ -20,13 +19,10 @@ protected:
     void See(Date day, std::int64_t begin, std::int64_t end, const std::string& program, const std::string& title)
     {
         mData.computers.resize(1);
-        SightingList list(mData.sightings);
         Sighting sighting;
         sighting.program = program;
         sighting.title = title;
-        mData.sightings.push_back(sighting);
-        mData.windows.push_back(
-            { day.Seconds() + begin, day.Seconds() + end, 0, static_cast<std::uint32_t>(mData.sightings.size() - 1) });
+        mData.windows.push_back({ day.Seconds() + begin, day.Seconds() + end, 0, mData.sightings.NumberOf(sighting) });
     }
     void Enter(Date day, std::int64_t begin, std::int64_t end, const std::string& text, const std::string& project)
     {
@@ -169,6 +165,70 @@ TEST_F(ImportPlanTest, Take_DroppedAndShortTimes_AreCounted)
     EXPECT_EQ(plan.LeftOut().Count(Skipped::Dropped), 1);
     EXPECT_EQ(plan.LeftOut().Count(Skipped::UnderHalf), 1);
     EXPECT_EQ(plan.Make(mTaken, mLedger).at(Monday).slots, 0);
+}
+
+TEST_F(ImportPlanTest, Take_DaysThatAreNotInQuestion_AreNotCounted)
+{
+    for (int i = -1; i <= 2; ++i) {
+        // Today's window has begun yesterday.
+        const std::int64_t begin = i == 2 ? -Minute : 20 * Minute;
+        See(Monday.AddDays(i), begin, 22 * Minute, "atlas", "map");
+        See(Monday.AddDays(i), 30 * Minute, 32 * Minute, "hidden", "x");
+    }
+    mData.computers[0].isTold = true;
+    for (int i = -1; i <= 2; ++i) {
+        mData.computers[0].presence.Add(Monday.AddDays(i).Seconds(), Monday.AddDays(i).Seconds() + Minute);
+        mData.computers[0].presence.Add(
+            Monday.AddDays(i).Seconds() + 31 * Minute, Monday.AddDays(i).Seconds() + 32 * Minute);
+    }
+    mRange.from = Monday;
+    mRange.to = Monday.AddDays(5);
+    const auto plan = Plan();
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::Outside), 2);
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::NoPresence), 2);
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::Dropped), 2);
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::UnderHalf), 2);
+    const auto days = plan.Make(mTaken, mLedger);
+    ASSERT_EQ(days.size(), 2U);
+    EXPECT_EQ(days.begin()->first, Monday);
+    EXPECT_EQ(days.begin()->second.minutesPresent, 1);
+}
+
+TEST_F(ImportPlanTest, Take_WindowsOverMidnight_AreSeenOnBothDays)
+{
+    See(Monday, 86400 - 10 * Minute, 86400 + 10 * Minute, "atlas", "map");
+    See(Monday, 86400 - 5 * Minute, 86400 + 5 * Minute, "hidden", "x");
+    const auto plan = Plan();
+    const auto days = plan.Make(mTaken, mLedger);
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::Dropped), 1);
+    ASSERT_EQ(days.size(), 2U);
+    for (const auto& [date, day] : days) {
+        EXPECT_EQ(day.slots, 1);
+        EXPECT_EQ(day.beginning, 1);
+        EXPECT_EQ(day.minutesPresent, 5);
+    }
+}
+
+TEST_F(ImportPlanTest, Make_WindowsThatComeAtOnce_LeaveTheShorterInFront)
+{
+    See(Monday, Ten, Ten + 5 * Minute, "ledger", "sum");
+    See(Monday, Ten, Ten + 10 * Minute, "atlas", "map");
+    const auto days = Days();
+    ASSERT_EQ(days.at(Monday).lines.size(), 2U);
+    EXPECT_NE(days.at(Monday).lines[0].find("Ledger"), std::string::npos);
+    EXPECT_NE(days.at(Monday).lines[1].find("Atlas"), std::string::npos);
+}
+
+TEST_F(ImportPlanTest, Make_TwoComputers_ShareTheTime)
+{
+    See(Monday, Ten, Ten + 10 * Minute, "atlas", "map");
+    See(Monday, Ten + 5 * Minute, Ten + 10 * Minute, "ledger", "sum");
+    mData.computers.resize(2);
+    mData.windows.back().computer = 1;
+    const auto day = Days().at(Monday);
+    EXPECT_EQ(day.minutesPresent, 10);
+    ASSERT_EQ(day.lines.size(), 2U);
+    EXPECT_NE(day.lines[1].find("Ledger"), std::string::npos);
 }
 
 }
