@@ -2,6 +2,7 @@
 
 #include "base/Utf8.h"
 #include "slots/PlainText.h"
+#include "sources/CalendarPieces.h"
 #include "sources/MomentText.h"
 #include "sources/SourceProblem.h"
 
@@ -12,37 +13,39 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t LargestCalendar = std::size_t { 256 } << 20;
 constexpr std::int64_t LongestMeeting = 86400;
 
-std::string AllOf(std::istream& stream)
+/// All that the pieces of a calendar hold.
+CalendarContent ContentOf(CalendarPieces& pieces, const SourceSettings& settings)
 {
-    std::string text;
-    std::string piece(MostFieldBytes, '\0');
-    while (stream.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stream.gcount() > 0) {
-        text.append(piece, 0, static_cast<std::size_t>(stream.gcount()));
-        if (text.size() > LargestCalendar) {
-            throw BrokenSource("the calendar is larger than 256 MiB: export it in parts");
+    CalendarContent content;
+    const auto until = settings.zone.MomentOf(settings.now) + LongestMeeting;
+    while (pieces.Next()) {
+        const auto& piece = pieces.Piece();
+        if (!settings.readCalendar(IsUtf8(piece) ? piece : settings.decode(piece), until, content)) {
+            throw BrokenSource("the calendar can't be read: export it again");
+        }
+        if (static_cast<std::int64_t>(content.events.size()) > MostSourceRecords) {
+            throw BrokenSource("the calendar has more than 20 million meetings: export it in parts");
         }
     }
-    return text;
+    if (!pieces.HasCalendar()) {
+        throw WrongSource("this is no calendar, which begins with BEGIN:VCALENDAR: export one as iCalendar");
+    }
+    // An event that has moved may stand in front of those that it is one of, or far behind them.
+    std::erase_if(content.events, [&content](const CalendarEvent& event) {
+        return content.moved.contains({ event.series, event.begin });
+    });
+    return content;
 }
 
 }
 
 SourceData CalendarReader::Read(std::istream& stream, const SourceSettings& settings)
 {
-    auto text = AllOf(stream);
-    if (text.find("BEGIN:VCALENDAR") == std::string::npos) {
-        throw WrongSource("this is no calendar, which begins with BEGIN:VCALENDAR: export one as iCalendar");
-    }
-    text = IsUtf8(text) ? text : settings.decode(text);
-    CalendarContent content;
-    const auto until = settings.zone.MomentOf(settings.now) + LongestMeeting;
-    if (!settings.readCalendar(text, until, content)) {
-        throw BrokenSource("the calendar can't be read: export it again");
-    }
     SourceData data;
+    CalendarPieces pieces(stream, data.skipped);
+    auto content = ContentOf(pieces, settings);
     data.skipped.Add(Skipped::AllDay, content.allDay);
     data.skipped.Add(Skipped::Transparent, content.transparent);
     data.skipped.Add(Skipped::Cancelled, content.cancelled);

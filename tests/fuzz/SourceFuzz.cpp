@@ -2,6 +2,7 @@
 
 #include "base/Ascii.h"
 #include "fuzz/FuzzTarget.h"
+#include "host/files/ProgramModule.h"
 #include "host/system/IcuTimeZone.h"
 #include "portable/TextEncoding.h"
 #include "sources/ImportPlan.h"
@@ -15,6 +16,13 @@ namespace tempodial {
 
 namespace {
 
+bool ReadFuzzedCalendar(const std::string& text, std::int64_t until, CalendarContent& content)
+{
+    static const auto read
+        = ProgramModule(ProgramModule::PathOf(CalendarModule)).Get<CalendarTextReader>(CalendarTextReaderName);
+    return read(text, until, content);
+}
+
 void PlanAs(const Source& source, std::string_view input, bool asSightings)
 {
     static IcuTimeZone zone("Europe/Zurich");
@@ -23,10 +31,9 @@ void PlanAs(const Source& source, std::string_view input, bool asSightings)
     std::istringstream stream { std::string(input) };
     ImportPlan plan({ std::string(source.name), std::nullopt, std::nullopt, now }, views);
     try {
-        plan.Take(
-            source.makeReader()->Read(stream, { zone, now, DateOrder::FromTheFile, asSightings, [](std::string line) {
-                                                   return DecodedLine(std::move(line));
-                                               } }));
+        plan.Take(source.makeReader()->Read(stream,
+            { zone, now, DateOrder::FromTheFile, asSightings,
+                [](std::string line) { return DecodedLine(std::move(line)); }, ReadFuzzedCalendar }));
     } catch (const WrongSource&) {
         return;
     } catch (const BrokenSource&) {

@@ -1,6 +1,7 @@
 #include "sources/calendar/CalendarModule.h"
 
 #include <algorithm>
+#include <functional>
 #include <libical/ical.h>
 #include <memory>
 #include <set>
@@ -51,6 +52,12 @@ std::string AddressOf(const char* address)
     return text.starts_with(Mailto) ? text.substr(Mailto.size()) : text;
 }
 
+/// Stands for the event and all that repeat it, and is never 0.
+std::size_t SeriesOf(icalcomponent* event)
+{
+    return std::hash<std::string> {}(TextOf(icalcomponent_get_uid(event))) | 1;
+}
+
 /// Reads one calendar.
 class CalendarReading
 {
@@ -86,7 +93,7 @@ private:
              event = icalcomponent_get_next_component(calendar, ICAL_VEVENT_COMPONENT)) {
             const auto moved = icalcomponent_get_recurrenceid(event);
             if (icaltime_is_null_time(moved) == 0) {
-                mMoved.emplace(TextOf(icalcomponent_get_uid(event)), SecondsOf(moved));
+                mContent.moved.emplace(SeriesOf(event), SecondsOf(moved));
             }
         }
     }
@@ -131,7 +138,6 @@ private:
 
     void ReadTimes(icalcomponent* event, icaltimetype start, std::int64_t length)
     {
-        const auto uid = TextOf(icalcomponent_get_uid(event));
         const bool isMoved = icaltime_is_null_time(icalcomponent_get_recurrenceid(event)) == 0;
         std::set<std::int64_t> times { SecondsOf(start) };
         if (!isMoved) {
@@ -141,12 +147,11 @@ private:
                  except = icalcomponent_get_next_property(event, ICAL_EXDATE_PROPERTY)) {
                 Remove(icalproperty_get_datetime_with_component(except, event), start, times);
             }
-            std::erase_if(times, [&](std::int64_t time) { return mMoved.contains({ uid, time }); });
         }
         for (const auto time : times) {
             if (time <= mUntil) {
-                mContent.events.push_back(
-                    { time, time + length, IsLocal(start), TextOf(icalcomponent_get_summary(event)) });
+                mContent.events.push_back({ time, time + length, IsLocal(start),
+                    TextOf(icalcomponent_get_summary(event)), isMoved ? 0 : SeriesOf(event) });
             }
         }
     }
@@ -201,7 +206,6 @@ private:
     std::int64_t mUntil;
     CalendarContent& mContent;
     std::string mOwner;
-    std::set<std::pair<std::string, std::int64_t>> mMoved;
 };
 
 bool ReadCalendars(const std::string& text, std::int64_t until, CalendarContent& content)

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -14,12 +17,16 @@ struct CalendarEvent
     std::int64_t end = 0;
     bool isLocal = false;
     std::string summary;
+    /// Stands for the events that this one is one of; 0 for one that was moved away from its own time.
+    std::size_t series = 0;
 };
 
 /// What a calendar holds, and how many events of it are none of somebody's time.
 struct CalendarContent
 {
     std::vector<CalendarEvent> events;
+    /// The series and the times of those that have moved: they aren't at that time.
+    std::set<std::pair<std::size_t, std::int64_t>> moved;
     std::int64_t allDay = 0;
     std::int64_t transparent = 0;
     std::int64_t cancelled = 0;
@@ -27,7 +34,7 @@ struct CalendarContent
     std::int64_t unreadable = 0;
 };
 
-/// Reads a calendar's text, up to a moment in seconds since 1970; false when it is no calendar.
+/// Reads a calendar's text, up to a moment in seconds since 1970, and adds what it holds; false when it is no calendar.
 using CalendarTextReader = bool (*)(const std::string& text, std::int64_t until, CalendarContent& content);
 
 /// The module that reads calendars, and the name of its one function, a `CalendarTextReader`.

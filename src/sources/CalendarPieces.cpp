@@ -1,0 +1,115 @@
+#include "sources/CalendarPieces.h"
+
+#include "base/Text.h"
+#include "sources/SourceReader.h"
+
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::size_t PieceBytes = std::size_t { 4 } << 20;
+constexpr std::string_view Begin = "begin:";
+constexpr std::string_view End = "end:";
+constexpr auto CalendarPart = "vcalendar";
+constexpr auto EventPart = "vevent";
+constexpr auto ZonePart = "vtimezone";
+constexpr auto CalendarEnd = "END:VCALENDAR\r\n";
+
+/// What a line begins or ends, folded; empty when it does neither.
+std::string PartOf(const std::string& line, std::string_view word)
+{
+    constexpr std::size_t LongestPart = 40;
+    if (line.size() > LongestPart) {
+        return {};
+    }
+    const auto folded = Fold(line);
+    return folded.starts_with(word) ? folded.substr(word.size()) : std::string();
+}
+
+}
+
+bool CalendarPieces::Next()
+{
+    mPiece.clear();
+    while (mPiece.empty() && ReadLine()) {
+        TakeLine();
+    }
+    if (mPiece.empty() && mIsOpen) {
+        EndPiece();
+        mIsOpen = false;
+    }
+    return !mPiece.empty();
+}
+
+bool CalendarPieces::ReadLine()
+{
+    mLine.clear();
+    auto* buffer = mStream.rdbuf();
+    constexpr auto AtEnd = std::istream::traits_type::eof();
+    bool isCut = false;
+    bool hasAny = false;
+    for (auto byte = buffer->sbumpc(); byte != AtEnd; byte = buffer->sbumpc()) {
+        hasAny = true;
+        if (byte == '\n') {
+            break;
+        }
+        if (mLine.size() < MostFieldBytes) {
+            mLine += static_cast<char>(byte);
+        } else {
+            isCut = true;
+        }
+    }
+    if (mLine.ends_with('\r')) {
+        mLine.pop_back();
+    }
+    mSkipped.Add(Skipped::TooBig, isCut ? 1 : 0);
+    return hasAny;
+}
+
+void CalendarPieces::TakeLine()
+{
+    const bool goesOn = mLine.starts_with(' ') || mLine.starts_with('\t');
+    const auto before = std::exchange(mFieldBytes, goesOn ? mFieldBytes + mLine.size() : mLine.size());
+    if (mFieldBytes > MostFieldBytes) {
+        mSkipped.Add(Skipped::TooBig, before <= MostFieldBytes ? 1 : 0);
+        return;
+    }
+    if (const auto part = PartOf(mLine, Begin); part == CalendarPart) {
+        mFrame.clear();
+        mEvents.clear();
+        mPart.clear();
+        mHasCalendar = true;
+        mIsOpen = true;
+    } else if (!part.empty() && mPart.empty()) {
+        mPart = part;
+    }
+    if (!mIsOpen) {
+        return;
+    }
+    const auto ended = PartOf(mLine, End);
+    if (ended == CalendarPart) {
+        EndPiece();
+        mIsOpen = false;
+        return;
+    }
+    if (mPart == EventPart) {
+        (mEvents += mLine) += "\r\n";
+    } else if (mPart.empty() || mPart == ZonePart) {
+        (mFrame += mLine) += "\r\n";
+    }
+    if (!mPart.empty() && ended == mPart) {
+        mPart.clear();
+        if (mEvents.size() >= PieceBytes) {
+            EndPiece();
+        }
+    }
+}
+
+void CalendarPieces::EndPiece()
+{
+    mPiece = mFrame + std::exchange(mEvents, {}) + CalendarEnd;
+}
+
+}
