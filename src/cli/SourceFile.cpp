@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "cli/CommandError.h"
 #include "host/files/Uninterrupted.h"
+#include "sources/SourceReader.h"
 
 #include <unistd.h>
 
@@ -12,6 +13,13 @@ namespace {
 
 constexpr std::size_t PieceSize = std::size_t { 64 } << 10;
 constexpr std::string_view StandardInput = "-";
+
+void RequireBytes(std::int64_t bytes)
+{
+    if (bytes > MostSourceBytes) {
+        throw CommandError("the file is larger than 2 GiB: import it in parts");
+    }
+}
 
 }
 
@@ -33,6 +41,9 @@ SourceFile::Buffer::Buffer(const std::string& path)
             throw CommandError(path + " can't be read: " + failure.Description()
                 + ": name a file that an export was written to, or - for standard input");
         }
+    }
+    if (mFile) {
+        RequireBytes(static_cast<std::int64_t>(mFile->Status().size));
     }
     mFirstSize = Fill();
     setg(mPiece.data(), mPiece.data(), mPiece.data() + mFirstSize);
@@ -65,6 +76,8 @@ std::size_t SourceFile::Buffer::Fill()
         }
         size += got;
     }
+    mBytes += static_cast<std::int64_t>(size);
+    RequireBytes(mBytes);
     return size;
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/files/FileDescriptor.h"
 
+#include <cstdint>
 #include <istream>
 #include <optional>
 #include <streambuf>
@@ -20,7 +21,7 @@ public:
 
     /// What it begins with, as far as that has come.
     std::string_view Beginning() const { return mBuffer.Beginning(); }
-    /// All of it, once. Reading fails with `CommandError`.
+    /// All of it, once. Reading fails with `CommandError`, also when it is too large.
     std::istream& Stream() { return mStream; }
 
 private:
@@ -42,6 +43,7 @@ private:
         std::optional<FileDescriptor> mFile;
         std::vector<char> mPiece;
         std::size_t mFirstSize = 0;
+        std::int64_t mBytes = 0;
     };
 
     Buffer mBuffer;

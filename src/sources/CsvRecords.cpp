@@ -109,9 +109,6 @@ bool CsvRecords::ReadRecord()
     bool isBegun = false;
     constexpr auto End = std::istream::traits_type::eof();
     for (auto byte = buffer.sbumpc(); byte != End; byte = buffer.sbumpc()) {
-        if (++mBytes > MostSourceBytes) {
-            throw BrokenSource("the file is larger than 2 GiB: import it in parts");
-        }
         const auto character = static_cast<char>(byte);
         isBegun = true;
         if (character == '"') {

@@ -43,7 +43,6 @@ private:
     const SourceSettings& mSettings;
     Skipped& mSkipped;
     char mSeparator = 0;
-    std::int64_t mBytes = 0;
     std::int64_t mRecords = 0;
     std::string mField;
     bool mIsTooBig = false;

@@ -191,6 +191,9 @@ TEST_F(ImportCommandTest, Import_FilesThatCanNotBeTaken_ChangeNothing)
     EXPECT_THAT(Refusal({ "import", "csv", mFolder.Path("none") }, 1), HasSubstr("can't be read"));
     EXPECT_THAT(Refusal({ "import", "csv", mFolder.Path() }, 1), HasSubstr("can't be read"));
     EXPECT_THAT(RefusalOf("activitywatch", "{\"buckets\":{\"a\":", 1), HasSubstr("cut off"));
+    const auto large = File("start,end,program\n");
+    std::filesystem::resize_file(large, (std::uintmax_t { 2 } << 30) + 1);
+    EXPECT_THAT(Refusal({ "import", "csv", large }, 1), HasSubstr("2 GiB"));
     EXPECT_FALSE(std::filesystem::exists(mProfile));
     WriteData("imported.toml", "[[day]]\nday = \"x\"\n");
     EXPECT_THAT(RefusalOf("csv", Table(2, 2), 1), HasSubstr("imported.toml"));
@@ -230,6 +233,19 @@ TEST_F(ImportCommandTest, Import_Calendar_FillsFreeTimeWithMeetings)
             "2006-10-02T12:00:00 Meeting, \"Lunch talk\"", "2006-10-04T16:00:00 Meeting, \"Weekly, moved\"",
             "2006-10-05T11:00:00 Meeting, \"Weekly\"" }));
     EXPECT_THAT(RefusalOf("ics", "x"), HasSubstr("BEGIN:VCALENDAR"));
+}
+
+TEST_F(ImportCommandTest, Import_BucketsOfNoUse_AreNamed)
+{
+    const auto file = File(R"({"buckets":{"aw-watcher-vim_box":{"type":"app.editor.activity","events":[]}}})");
+    for (const Arguments& more : { Arguments {}, Arguments { "--dry-run" } }) {
+        Arguments arguments { "--json", "import", "activitywatch", file };
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        const auto result = Run(arguments);
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(json::parse(result.out).at("skipped"), json::parse(R"({"bucket":1})"));
+        EXPECT_THAT(result.error, HasSubstr("left out the bucket \"aw-watcher-vim_box\""));
+    }
 }
 
 TEST_F(ImportCommandTest, Import_List_NamesTheSources)

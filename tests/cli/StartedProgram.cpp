@@ -94,6 +94,13 @@ bool StartedProgram::WaitFor(const std::string& text)
     return true;
 }
 
+void StartedProgram::Type(const std::string& text)
+{
+    if (::write(mTerminal, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
+        throw std::runtime_error("the terminal takes nothing");
+    }
+}
+
 int StartedProgram::End()
 {
     while (ReadMore()) { }

@@ -40,6 +40,8 @@ public:
 
     /// Waits until the terminal shows a text; false when the program ends before.
     bool WaitFor(const std::string& text);
+    /// Types a text at the terminal.
+    void Type(const std::string& text);
     void Send(int signal) const { ::kill(mProcess, signal); }
     /// Waits for the end; the exit status, or 128 and the signal's number.
     int End();
