@@ -1,4 +1,4 @@
-"""Goals 1 to 5: taking in what the tracker wrote."""
+"""Goals 1 to 5 and 11: taking in what the tracker wrote, and what another did."""
 
 import datetime
 import os
@@ -193,6 +193,26 @@ class Imports:
         return [figures.Result("5", "one new line besides start-up, against fdatasync",
                                f"{Seconds(sync)} less {Seconds(start)}; fdatasync {Seconds(wait)}",
                                (sync - start) / wait, 8, kind="clock")]
+
+    def Foreign(self, days=365, events=2740):
+        """Goal 11: a year of another tracker's export, from its file to the work log."""
+        programs = self._programs
+        export = programs.Path("watched.json")
+        programs.Other("tempodial-workload", "watched", export, str(product.LAST), str(days), str(events))
+        size = os.path.getsize(export)
+        profile = programs.Profile("import-foreign")
+        product.Sync()
+        cost = programs.Run(profile, "import", "activitywatch", export, day=product.LAST + datetime.timedelta(days=1))
+        items = programs.Items(profile)
+        if items < days * 10:
+            raise processes.RunError(f"the import made only {items} items of {days} days")
+        os.remove(export)
+        shutil.rmtree(profile)
+        measured = f"{days * events:,} events of ActivityWatch, {size / 1e6:.0f} MB, from file to log"
+        return [figures.Result("11a", measured, f"{Seconds(cost.wall)}, {Seconds(cost.cpu)} of the processor; "
+                               f"{items:,} items", cost.wall, 60, kind="seconds"),
+                figures.Result("11b", "the peak of memory then", f"{cost.peak / 1e6:.0f} MB", cost.peak / 1e6, 400,
+                               kind="MB")]
 
     def _Tracked(self, name, files):
         """A new profile without activities, with the tracker files of a folder."""

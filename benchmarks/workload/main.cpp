@@ -1,6 +1,7 @@
 #include "base/Number.h"
 #include "workload/Projects.h"
 #include "workload/TrackerFiles.h"
+#include "workload/WatchedYear.h"
 #include "workload/WorkLogFiller.h"
 
 #include <exception>
@@ -12,15 +13,19 @@ using tempodial::Date;
 using tempodial::Projects;
 using tempodial::ToInt32;
 using tempodial::TrackerFiles;
+using tempodial::WatchedYear;
 using tempodial::WorkLogFiller;
 
 namespace {
 
-constexpr auto Usage = "usage: tempodial-workload tracker FOLDER YYYY-MM-DD DAYS LINES\n"
-                       "       tempodial-workload mailbox PROFILE YYYY-MM-DD DAYS\n"
-                       "       tempodial-workload projects\n"
-                       "Writes tracker files, fills the work log of a profile, or lists projects and their rules;\n"
-                       "the date is that of the last day.\n";
+constexpr auto Usage
+    = "usage: tempodial-workload tracker FOLDER YYYY-MM-DD DAYS LINES\n"
+      "       tempodial-workload mailbox PROFILE YYYY-MM-DD DAYS\n"
+      "       tempodial-workload watched FILE YYYY-MM-DD DAYS EVENTS\n"
+      "       tempodial-workload projects\n"
+      "Writes tracker files, fills the work log of a profile, writes an export of ActivityWatch, or lists\n"
+      "projects and their rules;\n"
+      "the date is that of the last day.\n";
 
 Date DayOf(const std::string& text)
 {
@@ -35,6 +40,10 @@ bool Run(const std::vector<std::string>& arguments)
     }
     if (arguments.size() == 4 && arguments[0] == "mailbox") {
         WorkLogFiller(arguments[1]).Fill(DayOf(arguments[2]), ToInt32(arguments[3]));
+        return true;
+    }
+    if (arguments.size() == 5 && arguments[0] == "watched") {
+        WatchedYear(DayOf(arguments[2])).Write(arguments[1], ToInt32(arguments[3]), ToInt32(arguments[4]));
         return true;
     }
     if (arguments.size() == 1 && arguments[0] == "projects") {
