@@ -8,7 +8,7 @@ namespace tempodial {
 /// profile.
 
 /// The folder of the tracker's files and the trace, below the profile.
-inline constexpr auto DataFolderName = ProductName;
+inline constexpr auto DataFolderName = TrackerFolderName;
 /// The folder of tracker files that are too old and weren't imported as a whole, below that one.
 inline constexpr auto KeptFolderName = "kept";
 /// The form of activities, in the folder of templates.

@@ -1,5 +1,5 @@
 #include "fuzz/FuzzTarget.h"
-#include "host/system/TomlSettings.h"
+#include "host/settings/TomlSettings.h"
 #include "slots/ViewSettings.h"
 #include "support/TempFolder.h"
 

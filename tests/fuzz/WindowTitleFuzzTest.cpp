@@ -1,7 +1,7 @@
 #include "base/Ascii.h"
 #include "base/Text.h"
 #include "fuzz/FuzzTarget.h"
-#include "host/system/TomlSettings.h"
+#include "host/settings/TomlSettings.h"
 #include "slots/SlotWords.h"
 #include "slots/ViewSettings.h"
 

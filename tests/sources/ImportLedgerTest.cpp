@@ -1,6 +1,6 @@
 #include "sources/ImportLedger.h"
 
-#include "host/system/TomlSettings.h"
+#include "host/settings/TomlSettings.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>

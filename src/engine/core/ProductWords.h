@@ -1,7 +1,8 @@
 #pragma once
 
+#include "base/TrackerFile.h" // IWYU pragma: export
+
 #include <cstdint>
-#include <string>
 
 namespace tempodial {
 
@@ -38,19 +39,5 @@ inline constexpr auto HistoryFileName = "TempodialHistory.out";
 inline constexpr auto TraceFileName = "WorkLogTrace1.out";
 /// The file with the older lines of the trace, absent until the other was full once.
 inline constexpr auto OlderTraceFileName = "WorkLogTrace2.out";
-/// What the names of the tracker's files begin with.
-inline constexpr auto TrackerFilePrefix = "tracker_granules";
-
-/// The tracker's file of a day.
-inline std::string TrackerFileName(const std::string& dayKey)
-{
-    return TrackerFilePrefix + dayKey + ".out";
-}
-
-/// What that file is called once the day is over and all of it was loaded.
-inline std::string FinishedTrackerFileName(const std::string& dayKey)
-{
-    return TrackerFilePrefix + ("(done)" + dayKey + ".out");
-}
 
 }

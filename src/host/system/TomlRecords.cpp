@@ -1,7 +1,7 @@
 #include "host/system/TomlRecords.h"
 
+#include "host/settings/TomlNesting.h"
 #include "host/system/RegistryText.h"
-#include "host/system/TomlNesting.h"
 
 #include <toml++/toml.h>
 

@@ -5,8 +5,8 @@
 #include "base/Utf8.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/ReplacementFile.h"
+#include "host/settings/TomlNesting.h"
 #include "host/system/RegistryText.h"
-#include "host/system/TomlNesting.h"
 
 #include <toml++/toml.h>
 

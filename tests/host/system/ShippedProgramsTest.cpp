@@ -1,4 +1,4 @@
-#include "host/system/TomlSettings.h"
+#include "host/settings/TomlSettings.h"
 #include "slots/SlotWords.h"
 #include "slots/ViewSettings.h"
 

@@ -1,4 +1,4 @@
-#include "host/system/TomlNesting.h"
+#include "host/settings/TomlNesting.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
-#include "host/system/TomlSettings.h"
+#include "host/settings/TomlSettings.h"
 
 #include "base/Failure.h"
 #include "host/files/FileDescriptor.h"
-#include "host/system/TomlNesting.h"
+#include "host/settings/TomlNesting.h"
 
 #include <toml++/toml.h>
 
