@@ -73,3 +73,14 @@ function(tempodial_module name)
         CXX_VISIBILITY_PRESET hidden)
     install(TARGETS ${name} DESTINATION lib/tempodial)
 endfunction()
+
+# tempodial_desktop(DESKTOP NAME FOLDER SOURCE [LINK TARGET...]): the module of the recorder that knows a desktop. What
+# is in FOLDER besides SOURCE is a library of its own, which tests can have, too.
+function(tempodial_desktop desktop name folder source)
+    cmake_parse_arguments(PARSE_ARGV 4 arg "" "" "LINK")
+    tempodial_folder(${name} ${folder} EXCEPT ".*Module\\.cpp" LINK base ${arg_LINK})
+    set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    # Of the base it has what it needs itself, since a module's code may lie anywhere in memory.
+    tempodial_module(tempodial-track-${desktop} ${folder}/${source} src/base/Utf8.cpp LINK ${name})
+    add_dependencies(track tempodial-track-${desktop})
+endfunction()
