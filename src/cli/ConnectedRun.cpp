@@ -86,6 +86,14 @@ void ConnectedRun::AsStep(const std::function<void()>& work)
     }
 }
 
+void ConnectedRun::AsImportStep(
+    const std::function<bool(const std::string& dayKey)>& belongs, const std::function<void()>& work) const
+{
+    const auto& journal = Profile().Journal();
+    Steps(Profile()).RecordImports(
+        mCommand, [&] { return belongs(journal->Day()); }, work);
+}
+
 void ConnectedRun::Reconnect(const Options& options)
 {
     mSession.End();

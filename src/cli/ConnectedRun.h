@@ -59,6 +59,10 @@ public:
     bool HasProblemWith(const std::string& path) const { return mProblems->HasOneWith(path); }
     /// Does work as one step of the log, by the name of the command. A failure undoes all of it and goes wrong.
     void AsStep(const std::function<void()>& work);
+    /// Does work whose imports are one step of the log by the name of the command, as far as they take days of which
+    /// that is said.
+    void AsImportStep(
+        const std::function<bool(const std::string& dayKey)>& belongs, const std::function<void()>& work) const;
     /// Connects the add-in anew, which looks for old files then as whenever it starts.
     void Reconnect(const Options& options);
     /// Selects items in the window, as a person does.

@@ -283,7 +283,6 @@ private:
         }
         const Interruption interruption;
         try {
-            // One step of `log` and `undo` begins here, with the run, and ends with it.
             ImportRun run(options);
             return Imported(run, plan, span);
         } catch (const SettingsFileError& error) {
@@ -296,20 +295,7 @@ private:
         ImportOutcome outcome;
         auto remarks = plan.Remarks();
         if (span) {
-            if (mIsAgain) {
-                ForgetDays(run.Ledger(), *span);
-            }
-            const auto waiting = run.SyncWaiting();
-            auto taken = TimeInLog(run.Connected().Profile(), span->first, span->second);
-            for (const auto day : waiting) {
-                taken.Add(day.Seconds(), day.AddDays(1).Seconds());
-                if (day >= span->first && day <= span->second) {
-                    remarks.push_back("left out " + IsoDay(day)
-                        + ", whose tracker file waits: \"tempodial sync\" says what is wrong with it");
-                }
-            }
-            outcome.days = plan.Make(taken, run.Ledger());
-            run.Write(outcome.days);
+            run.AsStep([&] { outcome.days = Write(run, plan, *span, remarks); });
         }
         if (run.Connected().WasAddInRefusing()) {
             run.Connected().Complain("no new activity can be made, since the form of activities can't be used: install "
@@ -326,6 +312,27 @@ private:
             reply.status = ExitStatus::NotDone;
         }
         return reply;
+    }
+
+    /// Imports what waits, and then what was planned; answers that.
+    ImportPlan::Days Write(ImportRun& run, const ImportPlan& plan, const std::pair<Date, Date>& span,
+        std::vector<std::string>& remarks) const
+    {
+        if (mIsAgain) {
+            ForgetDays(run.Ledger(), span);
+        }
+        const auto waiting = run.SyncWaiting();
+        auto taken = TimeInLog(run.Connected().Profile(), span.first, span.second);
+        for (const auto day : waiting) {
+            taken.Add(day.Seconds(), day.AddDays(1).Seconds());
+            if (day >= span.first && day <= span.second) {
+                remarks.push_back("left out " + IsoDay(day)
+                    + ", whose tracker file waits: \"tempodial sync\" says what is wrong with it");
+            }
+        }
+        auto days = plan.Make(taken, run.Ledger());
+        run.Write(days);
+        return days;
     }
 
     void ForgetDays(ImportLedger& ledger, const std::pair<Date, Date>& span) const

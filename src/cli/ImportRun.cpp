@@ -47,6 +47,12 @@ ImportRun::ImportRun(const Options& options)
     , mStart(mRun.Profile().Clock()->Now())
     , mLedger(ReadSettingsFile(mRun.DataPath(LedgerFileName)))
 {
+    NotePlanned();
+}
+
+void ImportRun::AsStep(const std::function<void()>& work)
+{
+    mRun.AsImportStep([this](const std::string& dayKey) { return mPlannedDays.contains(dayKey); }, work);
 }
 
 Date ImportRun::Now() const
@@ -199,8 +205,17 @@ std::vector<std::string> ImportRun::KnownLines(Date day) const
     return lines;
 }
 
+void ImportRun::NotePlanned()
+{
+    mPlannedDays.clear();
+    for (const auto day : mLedger.Planned()) {
+        mPlannedDays.insert(day.DayKey());
+    }
+}
+
 void ImportRun::SaveLedger()
 {
+    NotePlanned();
     const auto path = mRun.DataPath(LedgerFileName);
     try {
         auto& fileSystem = *mRun.Host().fileSystem;

@@ -6,6 +6,8 @@
 #include "sources/ImportPlan.h"
 
 #include <chrono>
+#include <functional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -29,6 +31,9 @@ public:
     ConnectedRun& Connected() { return mRun; }
     ImportLedger& Ledger() { return mLedger; }
 
+    /// Does work whose imports are one step, as far as they take what an import has planned: what the tracker wrote
+    /// comes in by the way and is none.
+    void AsStep(const std::function<void()>& work);
     /// Imports what waits in tracker files, those that a killed run has left among them. Answers the days that are over
     /// and whose files are there all the same.
     std::vector<Date> SyncWaiting();
@@ -44,6 +49,7 @@ private:
     void WriteDay(Date day, const PlannedDay& planned);
     void SyncUpTo(Date today);
     void ClosePlanned();
+    void NotePlanned();
     /// The lines of a finished day, each of which the next import knows; none when it doesn't.
     std::vector<std::string> KnownLines(Date day) const;
     std::vector<Date> WaitingDays() const;
@@ -55,6 +61,8 @@ private:
     Date mStart;
     std::chrono::steady_clock::time_point mStartedAt = std::chrono::steady_clock::now();
     ImportLedger mLedger;
+    /// The keys of the days that the ledger's file has as planned.
+    std::set<std::string> mPlannedDays;
 };
 
 }

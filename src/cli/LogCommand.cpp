@@ -30,7 +30,7 @@ public:
         : Command({ "log", "Show what commands have changed",
             "Shows the steps that changed the log or the projects, newest first: number,\n"
             "moment, how many activities were changed, and the command as it was typed. Steps\n"
-            "are kept for 90 days. \"undo\" takes them back. A sync is no step.\n"
+            "are kept for 90 days. \"undo\" takes them back. A sync is no step, an import is one.\n"
             "\n"
             "  tempodial log\n"
             "  tempodial log --lines 5" })

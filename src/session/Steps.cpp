@@ -1,6 +1,7 @@
 #include "session/Steps.h"
 
 #include "engine/core/ProjectFacts.h"
+#include "host/store/ImportStep.h"
 #include "session/ProductFacts.h"
 #include "session/Profile.h"
 #include "session/ProjectRecords.h"
@@ -32,6 +33,14 @@ void Steps::Record(const std::string& command, const std::function<void()>& work
         mJournal.End();
     });
     mJournal.NoteRulesReached();
+}
+
+void Steps::RecordImports(
+    const std::string& command, const std::function<bool()>& belongs, const std::function<void()>& work)
+{
+    const auto rules = [this] { return Rules(); };
+    const ImportStep step(mProfile.Mailbox(), mProfile.Clock()->Now(), command, rules, belongs);
+    work();
 }
 
 std::vector<Step> Steps::Newest(std::int64_t most)

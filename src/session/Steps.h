@@ -41,6 +41,11 @@ public:
     /// Does work as one step of that name, which is recorded together with what it changes; work that fails changes
     /// nothing. Fails as the work does, and as mailbox and registry do.
     void Record(const std::string& command, const std::function<void()>& work);
+    /// Does work whose imports are one step of that name, as far as they say that it belongs to it when they change
+    /// something. An import commits as it goes on, and the step with it, so that what is cut off or fails is a step as
+    /// far as it came. Fails as the work does.
+    void RecordImports(
+        const std::string& command, const std::function<bool()>& belongs, const std::function<void()>& work);
     /// The newest steps that are still kept, newest first, so many at most.
     std::vector<Step> Newest(std::int64_t most);
     /// Takes a step back, the newest that is neither an undo nor taken back when no number is given, as a step of that

@@ -133,6 +133,56 @@ TEST_F(ImportCommandTest, Import_Again_NeedsAWordAndDoublesNothing)
     EXPECT_EQ(answer.at("days").at(0).at("taken"), 12);
 }
 
+TEST_F(ImportCommandTest, Import_IsOneStep_WhichUndoTakesBackForGood)
+{
+    std::string text = "start,end,program,title\n";
+    for (int month = 6; month <= 9; ++month) {
+        const auto date = "2006-0" + std::to_string(month) + "-15";
+        text += date + "T09:00," + date + "T10:00,atlas,map\n";
+    }
+    const Arguments asSightings { "--as", "sightings" };
+    EXPECT_EQ(Import("csv", text, asSightings).at("created"), 4);
+    const auto log = Json({ "log" });
+    ASSERT_EQ(log.size(), 1U);
+    EXPECT_EQ(log[0].at("activities"), 4);
+    EXPECT_EQ(log[0].at("command"), "import csv " + mFolder.Path("export") + " --as sightings");
+    EXPECT_EQ(log[0].at("when"), "2006-10-10T17:00:00");
+    EXPECT_EQ(Json({ "undo" }).at("restored"), 4);
+    EXPECT_TRUE(All().empty());
+
+    EXPECT_EQ(Import("csv", text, asSightings).at("created"), 0);
+    Json({ "sync" });
+    EXPECT_TRUE(All().empty());
+    EXPECT_EQ(Json({ "log" }).size(), 2U) << "the import and its undo, and nothing of what changed nothing";
+
+    EXPECT_EQ(Import("csv", text, { "--as", "sightings", "--again", "--yes" }).at("created"), 4);
+    EXPECT_EQ(Json({ "log" }).size(), 3U);
+    EXPECT_EQ(Json({ "undo" }).at("restored"), 4);
+    EXPECT_TRUE(All().empty());
+}
+
+TEST_F(ImportCommandTest, Import_WhatTheTrackerWrote_IsNoPartOfItsStep)
+{
+    WriteTracker("20061010", { WordSlot(33000, 33300, "today.doc") });
+    WriteTracker("20061004", { WordSlot(33000, 33300, "past.doc") });
+    Sightings(2, 3);
+    EXPECT_EQ(Json({ "log" }).at(0).at("activities"), 4);
+    EXPECT_EQ(All().size(), 6U);
+    EXPECT_EQ(Json({ "undo" }).at("restored"), 4);
+    EXPECT_EQ(Subjects(All()),
+        (std::vector<std::string> { "Microsoft Word, \"past.doc\"", "Microsoft Word, \"today.doc\"" }));
+}
+
+TEST_F(ImportCommandTest, Import_ActivityChangedSince_IsKeptByUndo)
+{
+    Sightings(2, 3);
+    Json({ "edit", "@1", "--description", "by hand" });
+    const auto undone = Json({ "undo", "1" });
+    EXPECT_EQ(undone.at("restored"), 3);
+    EXPECT_EQ(undone.at("kept"), 1);
+    EXPECT_EQ(All().size(), 1U);
+}
+
 TEST_F(ImportCommandTest, Import_Today_IsLeftToTheTracker)
 {
     const auto answer = Import("csv", "start,end,program\n2006-10-10T09:00,2006-10-10T10:00,atlas\n");

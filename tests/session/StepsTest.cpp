@@ -93,6 +93,38 @@ TEST_F(StepsTest, Record_WorkFails_ChangesNeither)
     EXPECT_TRUE(mSteps->Newest(10).empty());
 }
 
+TEST_F(StepsTest, RecordImports_WhatImportsChange_GoesBack)
+{
+    mSteps->RecordImports(
+        "import", [] { return true; },
+        [&] {
+            mProfile->Journal()->Begin();
+            Saved("a");
+            SetRules(After);
+            mProfile->Journal()->End();
+        });
+    EXPECT_EQ(mSteps->Newest(10).size(), 1U);
+    Open();
+    EXPECT_EQ(mSteps->Undo(std::nullopt, "undo").items.restored, 1);
+    EXPECT_EQ(Rules(), Before);
+    EXPECT_EQ(Count(), 0);
+}
+
+TEST_F(StepsTest, RecordImports_WorkFails_KeepsWhatWasCommitted)
+{
+    const auto work = [&] {
+        mProfile->Journal()->Begin();
+        Saved("a");
+        mProfile->Journal()->End();
+        throw Failure(Error::InvalidCall);
+    };
+    EXPECT_THROW(mSteps->RecordImports(
+                     "import", [] { return true; }, work),
+        Failure);
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(mSteps->Newest(10).front().items, 1);
+}
+
 TEST_F(StepsTest, Recover_RulesThatNeverReachedTheRegistry_AreBroughtThere)
 {
     mSteps->Record("rules", [&] { SetRules(After); });

@@ -223,6 +223,13 @@ void MailboxStore::CommitHeld()
     }
 }
 
+void MailboxStore::CommittingImport()
+{
+    if (mBeforeImportCommit) {
+        mBeforeImportCommit();
+    }
+}
+
 void MailboxStore::Committed()
 {
     mTouched.clear();

@@ -88,6 +88,10 @@ public:
     void SetClock(std::function<Date()> clock) { mClock = std::move(clock); }
     /// Called to commit what is held.
     void SetCommit(std::function<void()> commit) { mCommit = std::move(commit); }
+    /// Called before what an import has written is committed, to write what belongs to it.
+    void SetBeforeImportCommit(std::function<void()> work) { mBeforeImportCommit = std::move(work); }
+    /// What an import has written is about to be committed; fails as a statement does.
+    void CommittingImport();
     /// What is held was committed.
     void Committed();
     const SaveStatistics& Statistics() const { return mStatistics; }
@@ -114,6 +118,7 @@ private:
     std::vector<std::weak_ptr<StoreItem>> mTouched;
     std::function<void(const Ref<StoreItem>& item)> mDisplay;
     std::function<void()> mCommit;
+    std::function<void()> mBeforeImportCommit;
     std::function<Date()> mClock;
     SaveStatistics mStatistics;
     SaveStatistics mCommittedStatistics;

@@ -44,8 +44,8 @@ void StepJournal::End()
         if (mStep->rulesAfter == mStep->rulesBefore) {
             mStep->rulesBefore.reset();
             mStep->rulesAfter.reset();
-        } else if (mStep->number == 0) {
-            mStep->number = mTable.Begin(mStep->moment, mStep->command);
+        } else {
+            BeginRow();
         }
         if (mStep->number != 0 && mTable.End(*mStep)) {
             mTable.RemoveBefore(FirstKept(mStep->moment));
@@ -74,9 +74,7 @@ void StepJournal::Abandon()
 StepItems StepJournal::TakeBack(const Step& step, Date saved)
 {
     const auto items = mTable.Restorable(step.number);
-    if (mStep->number == 0) {
-        mStep->number = mTable.Begin(mStep->moment, mStep->command);
-    }
+    BeginRow();
     mStep->undoes = step.number;
     mTable.Restore(step.number, mStep->number, saved);
     mTable.SetTakenBack(step, true);
@@ -113,10 +111,16 @@ void StepJournal::Keep(std::int64_t item)
     if (!mItems.insert(item).second) {
         return;
     }
-    if (mStep->number == 0) {
-        mStep->number = mTable.Begin(mStep->moment, mStep->command);
-    }
+    BeginRow();
     mTable.Keep(mStep->number, item);
+}
+
+void StepJournal::BeginRow()
+{
+    if (mStep->number == 0) {
+        mStep->number = mTable.NextNumber();
+        mTable.Begin(*mStep);
+    }
 }
 
 void StepJournal::Stop()

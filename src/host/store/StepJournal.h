@@ -18,8 +18,8 @@ class MailboxStore;
 
 /// The journal of steps of a mailbox: while a step is begun, all writes are held and what they change is kept, and the
 /// end commits both together. A failure undoes them all. What is done in the midst of an import belongs to no step, and
-/// an import that begins within a step ends it. Rules live elsewhere: a step notes them and whether they are safe
-/// there.
+/// an import that begins within a step ends it; `ImportStep` is for what imports do. Rules live elsewhere: a step notes
+/// them and whether they are safe there.
 class StepJournal
 {
 public:
@@ -62,6 +62,7 @@ public:
 
 private:
     void Keep(std::int64_t item);
+    void BeginRow();
     void Stop();
 
     Ref<MailboxStore> mStore;

@@ -21,6 +21,14 @@ const std::string Restorables
       "(SELECT revision FROM item WHERE item.id = step_item.item) AND (step_item.folder IS NULL "
       "OR EXISTS (SELECT 1 FROM folder WHERE folder.id = step_item.folder))";
 
+/// Notes the state of a step's items as that in which it leaves them.
+const std::string LeaveItems = "UPDATE step_item SET left_revision = (SELECT revision FROM item WHERE item.id = "
+                               "step_item.item) WHERE step = ?";
+/// Without an item the values of the other side are nothing, as those of an item are that there wasn't before.
+const std::string DropUnchangedItems = "DELETE FROM step_item WHERE step = ? AND (" + ItemColumns + ") IS (SELECT "
+    + ItemColumns + " FROM item WHERE item.id = step_item.item)";
+const std::string OneItem = " AND item = ?";
+
 void BindOptional(Query& query, const std::optional<std::string>& text)
 {
     if (text) {
@@ -73,15 +81,18 @@ std::optional<Step> StepTable::WithRulesDue()
     return query.Step() ? std::optional(Read(query)) : std::nullopt;
 }
 
-std::int64_t StepTable::Begin(Date moment, const std::string& command)
+std::int64_t StepTable::NextNumber()
 {
-    const auto number = mDatabase.Number("SELECT last_step FROM mailbox") + 1;
-    Query(mDatabase, "INSERT INTO step (id, moment, command) VALUES (?, ?, ?)")
-        .Bind(number)
-        .Bind(moment.Seconds())
-        .Bind(command)
+    return mDatabase.Number("SELECT last_step FROM mailbox") + 1;
+}
+
+void StepTable::Begin(const Step& step)
+{
+    Query(mDatabase, "INSERT OR IGNORE INTO step (id, moment, command) VALUES (?, ?, ?)")
+        .Bind(step.number)
+        .Bind(step.moment.Seconds())
+        .Bind(step.command)
         .Run();
-    return number;
 }
 
 void StepTable::Keep(std::int64_t step, std::int64_t item)
@@ -92,16 +103,23 @@ void StepTable::Keep(std::int64_t step, std::int64_t item)
     Query(mDatabase, sql).Bind(step).Bind(item).Run();
 }
 
+void StepTable::Leave(std::int64_t step, std::int64_t item)
+{
+    for (const auto& sql : { LeaveItems + OneItem, DropUnchangedItems + OneItem }) {
+        Query(mDatabase, sql).Bind(step).Bind(item).Run();
+    }
+}
+
 bool StepTable::End(const Step& step)
 {
-    static const std::string leave = "UPDATE step_item SET left_revision = (SELECT revision FROM item WHERE item.id = "
-                                     "step_item.item) WHERE step = ?";
-    // Without an item the values of the other side are nothing, as those of an item are that there wasn't before.
-    static const std::string dropUnchanged = "DELETE FROM step_item WHERE step = ? AND (" + ItemColumns
-        + ") IS (SELECT " + ItemColumns + " FROM item WHERE item.id = step_item.item)";
-    for (const auto& sql : { leave, dropUnchanged }) {
+    for (const auto& sql : { LeaveItems, DropUnchangedItems }) {
         Query(mDatabase, sql).Bind(step.number).Run();
     }
+    return Finish(step);
+}
+
+bool StepTable::Finish(const Step& step)
+{
     const bool hasItems = [&] {
         Query query(mDatabase, "SELECT 1 FROM step_item WHERE step = ? LIMIT 1");
         query.Bind(step.number);

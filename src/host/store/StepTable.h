@@ -31,12 +31,18 @@ public:
     /// The newest step, when its rules aren't known to have reached the registry; nothing otherwise.
     std::optional<Step> WithRulesDue();
 
-    /// Begins a step and answers its number, which is another's when this one turns out to have changed nothing.
-    std::int64_t Begin(Date moment, const std::string& command);
+    /// The number of the next step, which is another's when that one turns out to have changed nothing.
+    std::int64_t NextNumber();
+    /// Begins a step, unless it was begun.
+    void Begin(const Step& step);
     /// Keeps an item as it is before its first change in a step.
     void Keep(std::int64_t step, std::int64_t item);
-    /// Ends a step with what it changed; one that changed nothing is gone, and false is the answer.
+    /// Keeps an item that a step is still to leave as it is now, or not at all when it didn't change it.
+    void Leave(std::int64_t step, std::int64_t item);
+    /// Ends a step with all that it changed; one that changed nothing is gone, and false is the answer.
     bool End(const Step& step);
+    /// Ends a step that has left each of its items; as above.
+    bool Finish(const Step& step);
     /// The rules of a step have reached the registry.
     void NoteRulesReached(std::int64_t step);
     /// Removes the steps from before a moment.

@@ -129,6 +129,7 @@ bool StoreImportJournal::Keep()
             .Run();
     }
     mMemory.Keep();
+    mStore->CommittingImport();
     mStore->Database().CommitHeld();
     mStore->Committed();
     return true;

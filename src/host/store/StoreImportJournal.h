@@ -51,6 +51,8 @@ public:
     void SetRemembers(bool remembers);
     /// Lets days go that are older than the newest 60, as it does at first, or keeps them.
     void SetForgets(bool forgets) { mForgets = forgets; }
+    /// The day whose file was begun last; empty at first.
+    const std::string& Day() const { return mDay; }
     /// The lines that couldn't be read of those that the last sync reached first.
     const std::vector<UnreadLine>& Unread() const { return mUnread; }
 
