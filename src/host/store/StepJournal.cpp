@@ -48,6 +48,7 @@ void StepJournal::End()
             BeginRow();
         }
         if (mStep->number != 0 && mTable.End(*mStep)) {
+            NoteTakenBack();
             mTable.RemoveBefore(FirstKept(mStep->moment));
         }
         database.CommitHeld();
@@ -77,7 +78,6 @@ StepItems StepJournal::TakeBack(const Step& step, Date saved)
     BeginRow();
     mStep->undoes = step.number;
     mTable.Restore(step.number, mStep->number, saved);
-    mTable.SetTakenBack(step, true);
     auto& table = mStore->Table();
     table.RetireRows();
     table.NoteChange();
@@ -120,6 +120,14 @@ void StepJournal::BeginRow()
     if (mStep->number == 0) {
         mStep->number = mTable.NextNumber();
         mTable.Begin(*mStep);
+    }
+}
+
+void StepJournal::NoteTakenBack()
+{
+    // Of a step of which nothing could be taken back, all is still there to be.
+    if (const auto undone = mStep->undoes ? mTable.Find(*mStep->undoes) : std::nullopt) {
+        mTable.SetTakenBack(*undone, true);
     }
 }
 

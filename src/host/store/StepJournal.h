@@ -39,7 +39,7 @@ public:
     /// Ends the step and undoes what it did.
     void Abandon();
     /// Takes back, within a step that was begun for it, what another one did to items; they are saved at that moment in
-    /// UTC. The rules are the caller's matter.
+    /// UTC. The rules are the caller's matter. When in the end nothing goes back, that one isn't taken back.
     StepItems TakeBack(const Step& step, Date saved);
     /// What taking a step back would do to items.
     StepItems Preview(const Step& step) { return mTable.Restorable(step.number); }
@@ -63,6 +63,7 @@ public:
 private:
     void Keep(std::int64_t item);
     void BeginRow();
+    void NoteTakenBack();
     void Stop();
 
     Ref<MailboxStore> mStore;
