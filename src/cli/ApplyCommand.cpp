@@ -100,19 +100,19 @@ private:
         }
         const ProjectChanges changes(run.Profile(), span);
         run.AsStep([&] {
-            for (const auto& [entryId, project] : preview.targets) {
+            for (const auto& [activity, project] : preview.targets) {
                 if (Interruption::IsRequested()) {
                     break;
                 }
-                Apply(run, entryId, project);
+                Apply(run, activity, project);
             }
         });
         return Changed(run, changes, preview.keptByHand);
     }
 
-    static void Apply(const ConnectedRun& run, const std::string& entryId, const std::string& project)
+    static void Apply(const ConnectedRun& run, std::int64_t activity, const std::string& project)
     {
-        const Ref<AppointmentItem> item = run.Profile().Mailbox()->ItemById(entryId);
+        const Ref<AppointmentItem> item = ItemNumbered(run.Profile(), activity);
         if (run.AddIn().ApplyProjectToItem(project, item)) {
             item->Save();
             item->Close(CloseMode::Discard);

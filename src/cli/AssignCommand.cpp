@@ -4,6 +4,7 @@
 #include "cli/ProjectNames.h"
 #include "host/store/ActivityRows.h"
 #include "host/system/HostClock.h"
+#include "review/ActivityReader.h"
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 #include "terminal/Arguments.h"
@@ -112,9 +113,8 @@ private:
         }
         std::vector<Ref<OutlookItem>> selected(activities.begin(), activities.end());
         if (span) {
-            const auto& mailbox = correction.Run().Profile().Mailbox();
             for (const auto& row : rows) {
-                selected.emplace_back(mailbox->ItemById(row.entryId));
+                selected.emplace_back(ItemNumbered(correction.Run().Profile(), row.number));
             }
         }
         correction.Run().Select(std::move(selected));

@@ -2,9 +2,7 @@
 
 #include "cli/ActivityList.h"
 #include "cli/CommandError.h"
-#include "host/store/ActivityRows.h"
-#include "session/ProductFacts.h"
-#include "session/WorkLogFolder.h"
+#include "review/ActivityReader.h"
 #include "terminal/Arguments.h"
 #include "terminal/ItemJson.h"
 
@@ -26,16 +24,13 @@ std::vector<std::int64_t> Correction::Numbers(const std::vector<std::string>& ar
 
 std::vector<Ref<StoreItem>> Correction::Activities(const std::vector<std::int64_t>& numbers) const
 {
-    const auto& mailbox = mRun.Profile().Mailbox();
-    const auto workLog = WorkLogOf(mRun.Profile());
     std::vector<Ref<StoreItem>> activities;
     for (const auto number : numbers) {
-        const auto row = workLog ? ActivityRows(mailbox, workLog, ActivityClass).Numbered(number) : std::nullopt;
-        if (!row) {
+        if (!ActivityNumbered(mRun.Profile(), number)) {
             throw CommandError("there is no activity @" + std::to_string(number)
                 + ": see \"tempodial list --ids\" for the numbers of a day");
         }
-        activities.push_back(mailbox->ItemById(row->entryId));
+        activities.push_back(ItemNumbered(mRun.Profile(), number));
     }
     return activities;
 }

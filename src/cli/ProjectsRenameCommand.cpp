@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 namespace tempodial {
 
@@ -45,10 +46,10 @@ public:
         const auto name = isSame ? mNew : KnownProject::NameOrNew(addIn, mNew);
         const auto all = ActivitiesStartingIn(run.Profile(), Period::Always());
         RequireFree(addIn, name, isSame, all);
-        std::vector<std::string> entryIds;
+        std::vector<std::int64_t> numbers;
         for (const auto& activity : all) {
             if (EqualIgnoringCase(activity.project, mOld) && activity.project != name) {
-                entryIds.push_back(activity.entryId);
+                numbers.push_back(activity.number);
             }
         }
         const bool isListed = KnownProject::IsListed(addIn, mOld);
@@ -59,14 +60,13 @@ public:
             if (isListed) {
                 RenameRules(addIn, name);
             }
-            const auto& mailbox = run.Profile().Mailbox();
-            mailbox->ChoosingProjects(ProjectChoice::Nobody, [&] {
-                for (const auto& entryId : entryIds) {
-                    RenameIn(addIn, mailbox->ItemById(entryId), name);
+            run.Profile().Mailbox()->ChoosingProjects(ProjectChoice::Nobody, [&] {
+                for (const auto number : numbers) {
+                    RenameIn(addIn, ItemNumbered(run.Profile(), number), name);
                 }
             });
         });
-        const auto changed = run.Saves().failed.empty() ? entryIds.size() : 0;
+        const auto changed = run.Saves().failed.empty() ? numbers.size() : 0;
         Reply reply { .document = KnownProject::Read(addIn, name).ToJson() };
         reply.document.Set("changed", changed);
         reply.summary = "The project is called " + name + ", and so it is in " + std::to_string(changed)

@@ -1,6 +1,8 @@
 #include "review/ActivityReader.h"
 
 #include "host/store/ActivityRows.h"
+#include "host/store/MailboxStore.h"
+#include "host/store/StoreItem.h"
 #include "session/ProductFacts.h"
 #include "session/WorkLogFolder.h"
 
@@ -39,6 +41,11 @@ std::optional<Activity> ActivityAt(const Profile& profile, Date moment)
     const auto rows = RowsOf(profile);
     auto found = rows ? rows->Overlapping(moment, moment.AddSeconds(1)) : std::vector<Activity>();
     return found.empty() ? std::nullopt : std::optional(std::move(found.back()));
+}
+
+Ref<StoreItem> ItemNumbered(const Profile& profile, std::int64_t number)
+{
+    return profile.Mailbox()->Store()->Item(number);
 }
 
 }

@@ -10,6 +10,8 @@
 
 namespace tempodial {
 
+class StoreItem;
+
 /// Reads activities of a profile's work log, as rows and without changing anything; there are none when there is no
 /// work log. The lists are in order of start. Every function fails as the store does.
 
@@ -21,5 +23,7 @@ std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& d
 std::optional<Activity> ActivityNumbered(const Profile& profile, std::int64_t number);
 /// The one during which a moment is; of several the one that starts last.
 std::optional<Activity> ActivityAt(const Profile& profile, Date moment);
+/// The item of an activity of that number, to work on; fails (-2147221233) when it is gone.
+Ref<StoreItem> ItemNumbered(const Profile& profile, std::int64_t number);
 
 }

@@ -20,7 +20,7 @@ struct TriedTexts
 void NoteMove(RulePreview& preview, const Activity& activity, const std::string& to)
 {
     preview.moves.Add(ProjectNameOf(activity), to, activity.duration);
-    preview.targets.push_back({ activity.entryId, to });
+    preview.targets.push_back({ activity.number, to });
 }
 
 }

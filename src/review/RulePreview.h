@@ -15,13 +15,13 @@ struct RulePreview
 {
     struct Target
     {
-        std::string entryId;
+        std::int64_t activity = 0;
         std::string project;
     };
 
     /// The activities whose project would be another than before.
     ProjectMoves moves;
-    /// Those activities, each with the project that it would come to.
+    /// The numbers of those activities, each with the project that it would come to.
     std::vector<Target> targets;
     /// Those of them that belong to another project by precedence, from that one to the one that they would come to.
     ProjectMoves disputed;

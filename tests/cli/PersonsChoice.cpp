@@ -10,7 +10,7 @@ void ChooseProject(const std::string& profile, Date moment, const std::string& p
 {
     const auto opened = OpenProfile({ .profile = profile, .locale = "en_US" });
     const auto activity = ActivityAt(opened, moment);
-    const auto item = opened.Mailbox()->ItemById(activity.value().entryId);
+    const auto item = ItemNumbered(opened, activity.value().number);
     opened.Mailbox()->ChoosingProjects(ProjectChoice::Person, [&] {
         item->UserProperties()->Item("Project")->SetValue(project);
         item->SetMileage(project);

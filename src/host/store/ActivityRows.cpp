@@ -1,27 +1,26 @@
 #include "host/store/ActivityRows.h"
 
 #include "host/store/FilterSql.h"
-#include "host/store/ItemData.h"
 #include "host/store/ItemSpan.h"
 #include "host/store/Mailbox.h"
 #include "host/store/MailboxDatabase.h"
 #include "host/store/MailboxStore.h"
 #include "host/store/Query.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tempodial {
 
 namespace {
 
-const std::string RowColumns
-    = "item.id, item.subject, item.starts, item.ends, item.by_hand, item.saved, item.properties";
+const std::string RowColumns = "item.id, item.starts, item.ends, item.by_hand, item.properties";
 const std::string ByNumber = " FROM item WHERE id = ? AND folder = ? AND message_class = ?";
 
-std::string PropertyText(const std::vector<ItemProperty>& properties, std::string_view name)
+bool IsBefore(const ActivityRow& one, const ActivityRow& other)
 {
-    const auto* property = FindProperty(properties, name);
-    return property == nullptr ? std::string() : property->value.ToText();
+    return one.start == other.start ? one.number < other.number : one.start < other.start;
 }
 
 }
@@ -66,7 +65,7 @@ const std::string& ActivityRows::ListSql()
     static const std::string sql = "SELECT " + RowColumns + " FROM (VALUES " + ItemSpan::ClassRows()
         + ") AS class CROSS JOIN item INDEXED BY item_span WHERE item.folder = ? AND item.span = class.column1 "
           "AND item.starts >= max(?, ? - class.column2) AND item.starts < ? AND item.ends > ? "
-          "AND item.message_class = ? ORDER BY item.starts, item.id";
+          "AND item.message_class = ?";
     return sql;
 }
 
@@ -79,6 +78,12 @@ std::vector<ActivityRow> ActivityRows::List(std::int64_t startsFrom, std::int64_
     while (query.Step()) {
         rows.push_back(Read(query));
     }
+    // Each class comes in order. To merge them here is cheaper than to have SQLite sort rows with all their texts.
+    for (auto begin = rows.begin(); begin != rows.end();) {
+        const auto end = std::is_sorted_until(begin, rows.end(), IsBefore);
+        std::inplace_merge(rows.begin(), begin, end, IsBefore);
+        begin = end;
+    }
     return rows;
 }
 
@@ -87,20 +92,14 @@ ActivityRow ActivityRows::Read(const Query& query) const
     int column = 0;
     ActivityRow row;
     row.number = query.Int(column++);
-    row.entryId = mStore->Ids().OfItem(row.number);
-    row.subject = query.Text(column++);
     row.start = Date::FromSeconds(query.Int(column++));
     row.end = Date::FromSeconds(query.Int(column++));
     row.duration = MinutesBetween(row.start, row.end);
     row.isProjectByHand = query.Int(column++) != 0;
-    if (const auto saved = column++; !query.IsNull(saved)) {
-        row.saved = Date::FromSeconds(query.Int(saved));
-    }
-    const auto properties = mStore->Database().Properties(query.Text(column));
-    row.project = PropertyText(properties, "Project");
-    row.type = PropertyText(properties, "Type");
-    row.description = PropertyText(properties, "Description");
-    row.people = PropertyText(properties, "People");
+    // In the order in which the product sets them.
+    const std::array wanted { WantedText { "Type", &row.type }, WantedText { "Project", &row.project },
+        WantedText { "Description", &row.description }, WantedText { "People", &row.people } };
+    mStore->Database().ReadProperties(query.View(column), wanted);
     return row;
 }
 

@@ -15,13 +15,11 @@ class Mailbox;
 class MailboxStore;
 class Query;
 
-/// An activity as the mailbox holds it, but for its body.
+/// An activity as the mailbox holds it, as far as people ask of many.
 struct ActivityRow
 {
     /// The number by which people name it.
     std::int64_t number = 0;
-    std::string entryId;
-    std::string subject;
     Date start;
     Date end;
     /// Minute boundaries from start to end.
@@ -33,8 +31,6 @@ struct ActivityRow
     std::string people;
     /// A person chose the project.
     bool isProjectByHand = false;
-    /// When it was last saved, in UTC; nothing when that isn't known.
-    std::optional<Date> saved;
 };
 
 /// Reads the activities of a folder without making objects of them, and changes nothing: the way to read many. Spans

@@ -249,6 +249,15 @@ std::vector<ItemProperty> MailboxDatabase::Properties(std::string_view json)
     }
 }
 
+void MailboxDatabase::ReadProperties(std::string_view json, std::span<const WantedText> wanted)
+{
+    try {
+        PropertyCodec::Read(json, wanted);
+    } catch (const Failure& failure) {
+        throw Damaged(failure.Description());
+    }
+}
+
 SQLite::Statement& MailboxDatabase::Prepare(const std::string& sql)
 {
     if (const auto known = mStatements.find(sql); known != mStatements.end()) {

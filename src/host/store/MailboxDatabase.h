@@ -2,12 +2,14 @@
 
 #include "base/Failure.h"
 #include "host/store/ItemData.h"
+#include "host/store/PropertyCodec.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -96,6 +98,8 @@ public:
     Failure Damaged(const std::string& what);
     /// The user properties that a text of the mailbox stands for; one that can't be read is damage.
     std::vector<ItemProperty> Properties(std::string_view json);
+    /// Reads the texts of some of them alone.
+    void ReadProperties(std::string_view json, std::span<const WantedText> wanted);
 
 private:
     friend class Query;

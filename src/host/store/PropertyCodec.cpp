@@ -4,6 +4,7 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <bitset>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -62,6 +63,9 @@ void AppendText(std::string& json, std::string_view text)
     json += '"';
 }
 
+/// So many texts can be wanted at once.
+constexpr std::size_t MostWanted = 16;
+
 /// Reads the JSON of user properties from left to right.
 class PropertyReader
 {
@@ -74,10 +78,46 @@ public:
     std::vector<ItemProperty> Properties()
     {
         std::vector<ItemProperty> properties;
+        ForEach([&] { properties.push_back(Property()); });
+        return properties;
+    }
+    /// Reads the texts of these names as they are spelled; false when one of them isn't there as a text.
+    bool Texts(std::span<const WantedText> wanted)
+    {
+        std::bitset<MostWanted> met;
+        std::size_t read = 0;
+        std::size_t next = 0;
+        ForEach([&] {
+            const auto place = PlaceOf(Text(mName), wanted, next);
+            const bool isWanted = place < wanted.size() && !met[place];
+            const auto type = BeginValue();
+            const bool hasValue = Take(',');
+            if (hasValue && type == PropertyType::Text) {
+                const auto text = Text(mText);
+                if (isWanted) {
+                    *wanted[place].text = text;
+                    ++read;
+                }
+            } else if (hasValue) {
+                Value(type);
+            }
+            Expect(']');
+            if (isWanted) {
+                met.set(place);
+                next = place + 1;
+            }
+        });
+        return read == wanted.size();
+    }
+
+private:
+    /// Calls a function at the beginning of each property.
+    template <class Taking> void ForEach(Taking&& takeProperty)
+    {
         Expect('{');
         if (!Take('}')) {
             do {
-                properties.push_back(Property());
+                takeProperty();
             } while (Take(','));
             Expect('}');
         }
@@ -85,10 +125,20 @@ public:
         if (!mRest.empty()) {
             Fail();
         }
-        return properties;
     }
 
-private:
+    /// The place of a name, looked for from one place on and then before it; as many as there are for none.
+    static std::size_t PlaceOf(std::string_view name, std::span<const WantedText> wanted, std::size_t from)
+    {
+        for (std::size_t i = 0; i < wanted.size(); ++i) {
+            const auto place = (from + i) % wanted.size();
+            if (wanted[place].name == name) {
+                return place;
+            }
+        }
+        return wanted.size();
+    }
+
     [[noreturn]] static void Fail()
     {
         throw Failure(Error::Automation, "The user properties of an item can't be read");
@@ -127,15 +177,20 @@ private:
     ItemProperty Property()
     {
         ItemProperty property;
-        property.name = Text();
-        Expect(':');
-        Expect('[');
-        property.type = Type(Number());
+        property.name = Text(mName);
+        property.type = BeginValue();
         if (Take(',')) {
             property.value = Value(property.type);
         }
         Expect(']');
         return property;
+    }
+    /// Reads what stands between a name and its value.
+    PropertyType BeginValue()
+    {
+        Expect(':');
+        Expect('[');
+        return Type(Number());
     }
     static PropertyType Type(std::int64_t number)
     {
@@ -150,7 +205,7 @@ private:
     {
         switch (type) {
         case PropertyType::Text:
-            return Text();
+            return std::string(Text(mText));
         case PropertyType::DateTime:
             return Date::FromSeconds(Number());
         case PropertyType::YesNo:
@@ -175,24 +230,35 @@ private:
         mRest.remove_prefix(static_cast<std::size_t>(end - mRest.data()));
         return number;
     }
-    std::string Text()
+    /// A text, as it stands there when nothing in it is escaped, else taken into another one.
+    std::string_view Text(std::string& unescaped)
     {
         Expect('"');
-        std::string text;
-        while (true) {
-            const auto* const special = std::find_if(mRest.begin(), mRest.end(), EndsPlainText);
-            if (special == mRest.end()) {
-                Fail();
-            }
-            const auto plain = static_cast<std::size_t>(special - mRest.begin());
-            text += mRest.substr(0, plain);
-            const bool ended = mRest[plain] == '"';
-            mRest.remove_prefix(plain + 1);
-            if (ended) {
-                return text;
-            }
-            Escape(text);
+        const auto begin = mRest;
+        if (TakePlain()) {
+            return begin.substr(0, begin.size() - mRest.size() - 1);
         }
+        unescaped.assign(begin, 0, begin.size() - mRest.size() - 1);
+        while (true) {
+            Escape(unescaped);
+            const auto rest = mRest;
+            const bool ended = TakePlain();
+            unescaped.append(rest, 0, rest.size() - mRest.size() - 1);
+            if (ended) {
+                return unescaped;
+            }
+        }
+    }
+    /// Passes over what stands as it is and the sign behind it; true when that ends the text, false when it begins an
+    /// escape.
+    bool TakePlain()
+    {
+        const auto* const special = std::find_if(mRest.begin(), mRest.end(), EndsPlainText);
+        if (special == mRest.end()) {
+            Fail();
+        }
+        mRest.remove_prefix(static_cast<std::size_t>(special - mRest.begin()) + 1);
+        return *special == '"';
     }
     void Escape(std::string& text)
     {
@@ -223,6 +289,8 @@ private:
     }
 
     std::string_view mRest;
+    std::string mName;
+    std::string mText;
 };
 
 }
@@ -257,6 +325,18 @@ std::string PropertyCodec::Encode(const std::vector<ItemProperty>& properties)
 std::vector<ItemProperty> PropertyCodec::Decode(std::string_view json)
 {
     return PropertyReader(json).Properties();
+}
+
+void PropertyCodec::Read(std::string_view json, std::span<const WantedText> wanted)
+{
+    if (PropertyReader(json).Texts(wanted)) {
+        return;
+    }
+    const auto properties = Decode(json);
+    for (const auto& [name, text] : wanted) {
+        const auto* property = FindProperty(properties, name);
+        *text = property == nullptr ? std::string() : property->value.ToText();
+    }
 }
 
 }

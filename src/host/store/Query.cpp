@@ -99,6 +99,13 @@ std::string Query::Text(int column) const
     return mStatement.getColumn(column).getString();
 }
 
+std::string_view Query::View(int column) const
+{
+    const auto value = mStatement.getColumn(column);
+    const auto* const bytes = static_cast<const char*>(value.getBlob());
+    return { bytes, bytes == nullptr ? 0 : static_cast<std::size_t>(value.getBytes()) };
+}
+
 bool Query::IsNull(int column) const
 {
     return mStatement.getColumn(column).isNull();

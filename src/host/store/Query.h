@@ -39,6 +39,8 @@ public:
     std::int64_t Int(int column) const;
     /// A text, or bytes as they are.
     std::string Text(int column) const;
+    /// The same, where it stands until the next row or the end of the run.
+    std::string_view View(int column) const;
     bool IsNull(int column) const;
 
 private:
