@@ -1,57 +1,30 @@
 #include "review/RuledProject.h"
 
 #include "base/Text.h"
-#include "engine/foundation/ActivitySubject.h"
 #include "session/ProductFacts.h"
+#include "session/ProjectRecords.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace tempodial {
 
-namespace {
-
-/// A project of a record of the list.
-RuledProject ReadRecord(const Ref<XmlDocument>& document)
-{
-    const auto text = [&document](const char* path) {
-        const auto node = document->SelectSingleNode(path);
-        return node ? node->Text() : std::string(UnknownText);
-    };
-    auto precedence = text("project/precedence");
-    if (precedence != "1" && precedence != "3") {
-        precedence = "2";
-    }
-    return { .name = text("project/name"),
-        .precedence = std::move(precedence),
-        .subject = ProjectRule::ForSubjects(text("project/subjrules")),
-        .notSubject = ProjectRule::ForSubjects(text("project/notsubjrules")),
-        .people = ProjectRule::ForPeople(text("project/peoplerules")) };
-}
-
-}
-
 std::vector<RuledProject> RuledProject::ReadAll(const Profile& profile)
 {
+    const auto text = profile.Registry()->Get(Hive::CurrentUser, ProductKey, ProjectsValue).ToText();
     std::vector<RuledProject> projects;
-    auto records = Split(profile.Registry()->Get(Hive::CurrentUser, ProductKey, ProjectsValue).ToText(), "|");
-    if (!records.empty()) {
-        records.pop_back(); // What no sign ends is no record.
-    }
-    std::string lastName;
-    for (const auto& record : records) {
-        const auto document = profile.Surroundings().xml->NewDocument();
-        document->LoadXML(record);
-        auto project = ReadRecord(document);
-        if (record.empty() || project.name == "Unknown" || (!projects.empty() && project.name == lastName)) {
-            break;
-        }
-        lastName = project.name;
-        const bool isThere = std::any_of(projects.begin(), projects.end(), [&project](const auto& other) {
-            return other.precedence == project.precedence && EqualIgnoringCase(other.name, project.name);
+    for (auto& record : ProjectRecords::ReadByAddIn(text, profile.Surroundings().xml)) {
+        const bool isOdd = record.precedence != "1" && record.precedence != "3";
+        const auto precedence = isOdd ? "2" : record.precedence;
+        const bool isThere = std::any_of(projects.begin(), projects.end(), [&](const auto& other) {
+            return other.precedence == precedence && EqualIgnoringCase(other.name, record.name);
         });
         if (!isThere) {
-            projects.push_back(std::move(project));
+            projects.push_back({ .name = std::move(record.name),
+                .precedence = precedence,
+                .subject = ProjectRule::ForSubjects(record.subjectRule),
+                .notSubject = ProjectRule::ForSubjects(record.notSubjectRule),
+                .people = ProjectRule::ForPeople(record.peopleRule) });
         }
     }
     Sort(projects);

@@ -3,17 +3,30 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tempodial {
 
 namespace {
 
 constexpr auto RecordEnd = "|";
+/// What the add-in reads where a record lacks something.
+constexpr auto AbsentText = "None";
+/// The name at which the add-in reads no further.
+constexpr auto EndName = "Unknown";
 
-std::string TextAt(const Ref<XmlDocument>& document, const char* path)
+ProjectRecords::Record ReadProjectRecord(const Ref<XmlDocument>& document, const std::string& text)
 {
-    const auto node = document->SelectSingleNode(path);
-    return node ? node->Text() : "";
+    const auto textAt = [&document](const char* path) {
+        const auto node = document->SelectSingleNode(path);
+        return node ? node->Text() : std::string(AbsentText);
+    };
+    return { .name = textAt("project/name"),
+        .precedence = textAt("project/precedence"),
+        .subjectRule = textAt("project/subjrules"),
+        .notSubjectRule = textAt("project/notsubjrules"),
+        .peopleRule = textAt("project/peoplerules"),
+        .text = text };
 }
 
 }
@@ -23,9 +36,28 @@ ProjectRecords::ProjectRecords(const std::string& text, const Ref<XmlFactory>& x
     for (const auto& record : Split(text, RecordEnd)) {
         const auto document = xml->NewDocument();
         if (document->LoadXML(record)) {
-            mRecords.push_back({ TextAt(document, "project/name"), TextAt(document, "project/precedence"), record });
+            mRecords.push_back(ReadProjectRecord(document, record));
         }
     }
+}
+
+std::vector<ProjectRecords::Record> ProjectRecords::ReadByAddIn(const std::string& text, const Ref<XmlFactory>& xml)
+{
+    std::vector<Record> read;
+    auto records = Split(text, RecordEnd);
+    if (!records.empty()) {
+        records.pop_back(); // What no sign ends is no record.
+    }
+    for (const auto& record : records) {
+        const auto document = xml->NewDocument();
+        document->LoadXML(record);
+        auto project = ReadProjectRecord(document, record);
+        if (record.empty() || project.name == EndName || (!read.empty() && project.name == read.back().name)) {
+            break;
+        }
+        read.push_back(std::move(project));
+    }
+    return read;
 }
 
 std::string ProjectRecords::Text() const

@@ -13,6 +13,17 @@ namespace tempodial {
 class ProjectRecords
 {
 public:
+    struct Record
+    {
+        std::string name;
+        /// As it stands there; the add-in takes anything but "1" and "3" for "2".
+        std::string precedence;
+        std::string subjectRule;
+        std::string notSubjectRule;
+        std::string peopleRule;
+        std::string text;
+    };
+
     /// Reads the registry's text; what can't be read of it is left out.
     ProjectRecords(const std::string& text, const Ref<XmlFactory>& xml);
 
@@ -23,14 +34,11 @@ public:
     /// Takes a change back; a project that was changed again since stays as it is.
     void TakeBack(const ProjectRecords& before, const ProjectRecords& after);
 
-private:
-    struct Record
-    {
-        std::string name;
-        std::string precedence;
-        std::string text;
-    };
+    /// The records of such a text that the add-in reads, in their order: it stops at an empty one, at one called
+    /// Unknown, and at one of the same name as that before it.
+    static std::vector<Record> ReadByAddIn(const std::string& text, const Ref<XmlFactory>& xml);
 
+private:
     const Record* Find(const std::string& name) const;
     void Set(const std::string& name, const Record* record);
 

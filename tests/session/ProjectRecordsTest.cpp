@@ -39,6 +39,24 @@ TEST(ProjectRecordsTest, Text_IsWhatWasRead)
     EXPECT_EQ(Read(A + "rubbish|" + B).Text(), A + B);
 }
 
+TEST(ProjectRecordsTest, ReadByAddIn_StopsWhereTheAddInDoes)
+{
+    const auto names = [](const std::string& text) {
+        std::string listed;
+        for (const auto& record : ProjectRecords::ReadByAddIn(text, MakeRef<ExpatXmlFactory>())) {
+            listed += record.name + record.precedence + " ";
+        }
+        return listed;
+    };
+    EXPECT_EQ(names(A + Record("B", "b", "9")), "A2 B9 ");
+    EXPECT_EQ(names(A + "|" + B), "A2 ");
+    EXPECT_EQ(names(A + Record("Unknown") + B), "A2 ");
+    EXPECT_EQ(names(A + A + B), "A2 ");
+    EXPECT_EQ(names(A + "rubbish|" + B), "A2 NoneNone B2 ");
+    EXPECT_EQ(names(A + "<project/>"), "A2 ") << "no sign ends it";
+    EXPECT_EQ(names(""), "");
+}
+
 TEST(ProjectRecordsTest, Names_AreListed)
 {
     EXPECT_EQ(Read(A + Record("Ann &amp; Bob") + C).Names(), "A|Ann & Bob|C");
