@@ -6,6 +6,7 @@
 #include "platform/objectmodel/Folders.h"
 #include "platform/objectmodel/Items.h"
 #include "platform/objectmodel/Views.h"
+#include "session/ActivityGesture.h"
 #include "session/WorkLogFolder.h"
 #include "terminal/ItemJson.h"
 
@@ -152,7 +153,7 @@ Json MailboxCommands::CreateItem(const Request& request)
             SetProperty(*item, name, value);
         }
     }
-    item->SaveAsPerson();
+    GestureAsStep(mHost.Profile(), { item }, "New", [&] { item->SaveAsPerson(); });
     return { { "entryId", item->EntryID() } };
 }
 
@@ -165,7 +166,11 @@ Json MailboxCommands::ChangeItem(const Request& request)
     const auto start = request.Has("start") ? request.Moment("start") : item->Start();
     const auto end
         = request.Has("end") ? request.Moment("end") : start.AddSeconds(SecondsBetween(item->Start(), item->End()));
-    if (!Person(mHost.Mailbox()).Reschedule(item, start, end)) {
+    const bool isMoved = SecondsBetween(start, end) == SecondsBetween(item->Start(), item->End());
+    bool isDone = false;
+    GestureAsStep(mHost.Profile(), { item }, isMoved ? "Move" : "Resize",
+        [&] { isDone = Person(mHost.Mailbox()).Reschedule(item, start, end); });
+    if (!isDone) {
         throw RequestError("the change was refused");
     }
     return Json::object();
@@ -173,7 +178,8 @@ Json MailboxCommands::ChangeItem(const Request& request)
 
 Json MailboxCommands::DeleteItem(const Request& request)
 {
-    Person(mHost.Mailbox()).Delete(Item(request));
+    const auto item = Item(request);
+    GestureAsStep(mHost.Profile(), { item }, "Delete", [&] { Person(mHost.Mailbox()).Delete(item); });
     return Json::object();
 }
 

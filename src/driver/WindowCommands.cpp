@@ -2,6 +2,8 @@
 
 #include "driver/CommandBarsJson.h"
 #include "driver/RequestError.h"
+#include "host/windows/BuiltInCommand.h"
+#include "session/ActivityGesture.h"
 #include "terminal/Arguments.h"
 
 #include <nlohmann/json.hpp>
@@ -52,6 +54,16 @@ Json ValueJson(const Variant& value)
         return *flag;
     }
     return value.ToText();
+}
+
+std::vector<Ref<OutlookItem>> Selected(HostExplorer& explorer)
+{
+    std::vector<Ref<OutlookItem>> items;
+    const auto selection = explorer.Selection();
+    for (std::int32_t i = 1; i <= selection->Count(); ++i) {
+        items.push_back(selection->Item(i));
+    }
+    return items;
 }
 
 /// What a person enters into a control of a page, read as what the control holds.
@@ -194,7 +206,10 @@ Json WindowCommands::Edit(const Request& request)
 
 Json WindowCommands::Save(const Request& request)
 {
-    return { { "cancelled", !Inspector(request)->Save() } };
+    const auto inspector = Inspector(request);
+    bool isSaved = false;
+    GestureAsStep(mHost.Profile(), { inspector->CurrentItem() }, "Save", [&] { isSaved = inspector->Save(); });
+    return { { "cancelled", !isSaved } };
 }
 
 Json WindowCommands::Close(const Request& request)
@@ -227,8 +242,15 @@ Json WindowCommands::Click(const Request& request)
     if (request.Has("explorer") == request.Has("inspector")) {
         throw RequestError(R"(give either the field "explorer" or the field "inspector")");
     }
-    const auto bars = request.Has("explorer") ? Explorer(request)->Bars() : Inspector(request)->Bars();
-    FindCommand(*bars, request.Text("bar"), request.Texts("path"))->Click();
+    const auto explorer = request.Has("explorer") ? Explorer(request) : nullptr;
+    const auto inspector = explorer ? nullptr : Inspector(request);
+    const auto bars = explorer ? explorer->Bars() : inspector->Bars();
+    const auto control = FindCommand(*bars, request.Text("bar"), request.Texts("path"));
+    std::vector<Ref<OutlookItem>> changed;
+    if (const auto id = control->Now().id; id == BuiltInCommand::SaveAndClose || id == BuiltInCommand::Delete) {
+        changed = explorer ? Selected(*explorer) : std::vector { inspector->CurrentItem() };
+    }
+    GestureAsStep(mHost.Profile(), changed, control->Now().caption, [&] { control->Click(); });
     return Json::object();
 }
 

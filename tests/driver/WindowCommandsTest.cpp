@@ -179,7 +179,7 @@ TEST_F(WindowCommandsTest, SetProjectDialog_ProjectsOfAPerson_AreAStep)
     EXPECT_TRUE(host.Mailbox()->ItemById(id)->IsProjectByHand());
     Steps steps(host.Profile());
     const auto newest = steps.Newest(10);
-    ASSERT_EQ(newest.size(), 1U);
+    ASSERT_EQ(newest.size(), 2U);
     EXPECT_EQ(newest[0].command, "Set Project For Selected Activities");
     EXPECT_EQ(newest[0].items, 1);
     steps.Undo(std::nullopt, "undo");
