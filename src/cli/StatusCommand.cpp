@@ -8,6 +8,7 @@
 #include "session/LastSync.h"
 #include "session/OpenProfile.h"
 #include "session/ProductFacts.h"
+#include "session/SyncTimer.h"
 #include "session/TrackerFiles.h"
 #include "session/WorkLogFolder.h"
 
@@ -49,6 +50,7 @@ struct Status
     std::int32_t activities = 0;
     TrackerFiles tracker;
     std::optional<LastSync> lastSync;
+    std::optional<SyncTimer> timer;
     std::int64_t minutes = 0;
     std::int64_t unassigned = 0;
     std::vector<std::string> needsHand;
@@ -92,7 +94,8 @@ private:
             .bytes
             = BytesIn(profile.Path()) + BytesIn(profile.DataFolder()) + BytesIn(DataPath(profile, KeptFolderName)),
             .tracker = TrackerFiles::Of(profile),
-            .lastSync = LastSync::Of(profile) };
+            .lastSync = LastSync::Of(profile),
+            .timer = SyncTimer::EnabledAt(profile.Clock()->Now(), *profile.Surroundings().fileSystem) };
         if (const auto workLog = WorkLogOf(profile)) {
             const auto own = "[MessageClass] = \"" + std::string(ActivityClass) + "\"";
             status.activities = workLog->Items()->Restrict(own)->Count();
@@ -148,6 +151,11 @@ private:
                 { { "when", IsoMoment(last->when) }, { "outcome", last->outcome }, { "created", last->created },
                     { "extended", last->extended }, { "detailed", last->detailed } });
         }
+        if (const auto& timer = status.timer) {
+            document.Set("timer",
+                { { "unit", timer->unit },
+                    { "next", timer->next ? JsonValue(IsoMoment(*timer->next)) : JsonValue() } });
+        }
         return document;
     }
 
@@ -164,7 +172,7 @@ private:
         table.Add({ "Tracker", latest ? latest->name + ", written " + ReadableMoment(latest->when) : "no file" });
         table.Add({ "Waiting", status.tracker.waiting.empty() ? "nothing" : Joined(status.tracker.waiting, ", ") });
         table.Add({ "Last sync", status.lastSync ? SyncText(*status.lastSync) : "none" });
-        table.Add({ "Timer", "none" });
+        table.Add({ "Timer", status.timer ? TimerText(*status.timer) : "none" });
         auto text = table.Text();
         for (const auto& need : status.needsHand) {
             text += "\nNeeds a hand: " + need + "\n";
@@ -176,6 +184,11 @@ private:
     {
         return ReadableMoment(last.when) + ", " + last.outcome + ": " + std::to_string(last.created) + " created, "
             + std::to_string(last.extended) + " extended, " + std::to_string(last.detailed) + " detailed";
+    }
+
+    static std::string TimerText(const SyncTimer& timer)
+    {
+        return timer.unit + (timer.next ? ", next " + ReadableMoment(*timer.next) : "");
     }
 
     static std::string ReadableMoment(Date moment) { return IsoDay(moment) + " " + moment.HourMinute(); }

@@ -42,6 +42,19 @@ TEST_F(StatusCommandTest, Status_NoProfile_IsEmptyAndNeedsAHand)
     EXPECT_EQ(status.size(), 10U);
 }
 
+TEST_F(StatusCommandTest, Status_TimerOfTheUser_IsTold)
+{
+    std::filesystem::create_directories(mFolder.Path("systemd/user/timers.target.wants"));
+    mFolder.Write("systemd/user/timers.target.wants/tempodial-sync.timer", "[Timer]\nOnCalendar=hourly\n");
+    auto environment = UsualEnvironment();
+    environment.push_back("XDG_CONFIG_HOME=" + mFolder.Path());
+    const auto status = nlohmann::json::parse(RunTempodial(Whole({ "status", "--json" }), environment).out);
+    EXPECT_EQ(
+        status.at("timer"), nlohmann::json::parse(R"({"unit":"tempodial-sync.timer","next":"2006-10-10T18:00:00"})"));
+    EXPECT_THAT(
+        RunTempodial(Whole({ "status" }), environment).out, HasSubstr("tempodial-sync.timer, next 2006-10-10 18:00"));
+}
+
 TEST_F(StatusCommandTest, Status_BeforeAndAfterASync_TellsWhatWaitsAndHowItEnded)
 {
     WriteTracker("20061010",
