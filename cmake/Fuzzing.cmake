@@ -5,7 +5,7 @@ file(GLOB sources CONFIGURE_DEPENDS "${tests}/fuzz/*FuzzTest.cpp")
 add_custom_target(fuzzers)
 # What several targets do.
 add_library(fuzz_helpers STATIC EXCLUDE_FROM_ALL "${tests}/fuzz/SourceFuzz.cpp")
-target_link_libraries(fuzz_helpers PUBLIC test_support sources slots host_system)
+target_link_libraries(fuzz_helpers PUBLIC test_support review sources slots host_system)
 foreach(source IN LISTS sources)
     cmake_path(GET source STEM name)
     string(REPLACE "FuzzTest" "" name "${name}")
