@@ -102,8 +102,11 @@ TEST_F(TerminalRunTest, AnyCommand_ReaderGone_EndsInSilence)
     for (auto& arguments : commands) {
         std::filesystem::remove_all(mProfile);
         if (arguments.front() != "demo") {
-            WriteLongDay("20061010", 10);
+            WriteTracker("20061010", { WordSlot(32400, 32700, "a.doc"), WordSlot(32700, 33000, "b.doc") });
             Json({ "sync" });
+        }
+        if (arguments.front() == "undo") {
+            Json({ "delete", "@2" });
         }
         if (arguments.front() == "problem-report") {
             arguments.back() = "-";

@@ -74,7 +74,9 @@ class CompletionTest(shells.Shells):
         self.Program("projects", "set", "Riverside", "--subject", "river")
         self.Program("projects", "set", "Rio: 3 houses", "--subject", "rio")
         self.Expect("tempodial apply Riv", "Riverside")
-        self.Expect("tempodial list --project Riv", "Riverside")
+        for before in ("list --project", "timesheet", "projects rename", "projects remove", "assign", "edit @1 --project",
+                       "add --project", "summary --project", "export --project"):
+            self.Expect(f"tempodial {before} Riv", "Riverside")
         self.assertEqual(self.Bash("tempodial apply Ri"), [r"Rio:\ 3\ houses", "Riverside"])
         self.assertEqual(self.Bash('tempodial apply "Rio', "tempodial", "apply", '"Rio'), ["Rio: 3 houses"])
         self.assertEqual(self.Bash(r"tempodial apply Rio:\ 3", "tempodial", "apply", "Rio", ":", r"\ 3"),

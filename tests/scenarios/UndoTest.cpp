@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <ostream>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -86,6 +88,62 @@ protected:
     std::mt19937 mRandom { 20061010 };
 };
 
+/// A command that writes, and a command that comes before it for it to have something to change.
+struct WritingCommand
+{
+    std::string name;
+    std::vector<std::string> arguments;
+    std::vector<std::string> before = {};
+};
+
+void PrintTo(const WritingCommand& command, std::ostream* stream)
+{
+    *stream << command.name;
+}
+
+class KilledStepTest : public UndoTest, public testing::WithParamInterface<WritingCommand>
+{
+protected:
+    void SetUp() override
+    {
+        UndoTest::SetUp();
+        mFolder.Write("projects.toml", "[[project]]\nname = \"Brought\"\nsubject = \"b.doc\"\n");
+        if (!GetParam().before.empty()) {
+            ASSERT_EQ(Run(GetParam().before).status, 0);
+        }
+    }
+    Arguments Command() const
+    {
+        auto arguments = GetParam().arguments;
+        for (auto& argument : arguments) {
+            if (argument == "FILE") {
+                argument = mFolder.Path("projects.toml");
+            }
+        }
+        return arguments;
+    }
+};
+
+std::vector<WritingCommand> WritingCommands()
+{
+    const std::vector<std::string> rule { "projects", "set", "Plan", "--subject", "a.doc, c.doc" };
+    const std::vector<std::string> named { "assign", "Plan", "@1", "@2" };
+    return { { "projectsSet", rule }, { "projectsRemove", { "projects", "remove", "Wish" } },
+        { "projectsRename", { "projects", "rename", "Plan", "Better" }, named },
+        { "projectsImport", { "projects", "import", "FILE" } }, { "applyOne", { "apply", "Plan" }, rule },
+        { "applyAll", { "apply", "--all" }, rule }, { "assign", { "assign", "New", "@2", "@3" } },
+        { "assignSpan", { "assign", "New", "--from", "09:00", "--to", "09:30", "--overwrite" } },
+        { "edit", { "edit", "@2", "@3", "--description", "other", "--project", "New" } },
+        { "split", { "split", "@2", "--at", "09:13" } }, { "join", { "join", "@2", "@4" } },
+        { "add", { "add", "--from", "08:00", "--to", "08:30", "--project", "New" } },
+        { "delete", { "delete", "@2", "@3" } }, { "undo", { "undo" }, { "delete", "@2", "@3" } } };
+}
+
+std::string NameOfCommand(const testing::TestParamInfo<WritingCommand>& info)
+{
+    return info.param.name;
+}
+
 }
 
 TEST_F(UndoTest, AnyCommands_AsManyUndos_GiveTheBeginningByteForByte)
@@ -112,43 +170,86 @@ TEST_F(UndoTest, AnyCommands_AsManyUndos_GiveTheBeginningByteForByte)
     }
 }
 
-TEST_F(UndoTest, KilledAnywhere_StepAndChangeAreThereTogetherOrNotAtAll)
+TEST_P(KilledStepTest, KilledAnywhere_StepAndChangeAreThereTogetherOrNotAtAll)
 {
     const auto before = State();
+    const auto stepsBefore = StepCount();
     const auto profile = mProfile;
-    const auto command = [&](const std::string& folder) {
-        mProfile = folder;
-        return Whole({ "assign", "New", "@2", "@3" });
-    };
-    const auto copy = [&](const std::string& name) {
+    const auto arguments = [&](const std::string& name) {
         fs::remove_all(mFolder.Path(name));
         fs::copy(profile, mFolder.Path(name), fs::copy_options::recursive);
-        return mFolder.Path(name);
+        mProfile = mFolder.Path(name);
+        return Whole(Command());
     };
-    const auto counted = RunTempodialKilledAt(command(copy("whole")), 0);
+    const auto counted = RunTempodialKilledAt(arguments("whole"), 0);
     if (!counted) {
         GTEST_SKIP() << "no observation here";
     }
     ASSERT_EQ(counted->status, 0) << counted->error;
     const auto after = State();
     ASSERT_NE(before, after);
-    const auto points = std::min<std::int64_t>(counted->systemCalls, ShortOrLong(24, 2000));
+    ASSERT_EQ(StepCount(), stepsBefore + 1);
+    const auto step = std::to_string(stepsBefore + 1);
+    // What is written is written in the last third.
+    const auto points = std::min<std::int64_t>(counted->systemCalls / 3, ShortOrLong(7, 700));
     int untouched = 0;
     for (std::int64_t i = 1; i <= points; ++i) {
-        const auto call = counted->systemCalls * i / points;
-        RunTempodialKilledAt(command(copy("cut")), call);
+        const auto call = counted->systemCalls * 2 / 3 + counted->systemCalls * i / points / 3;
+        SCOPED_TRACE(call);
+        RunTempodialKilledAt(arguments("cut"), call);
         const auto state = State();
-        if (StepCount() == 0) {
+        if (StepCount() == stepsBefore) {
             ++untouched;
-            EXPECT_EQ(state, before) << call;
+            EXPECT_EQ(state, before);
         } else {
-            EXPECT_EQ(state, after) << call;
-            EXPECT_EQ(Json({ "undo" }).at("restored"), 2) << call;
-            EXPECT_EQ(State(), before) << call;
+            EXPECT_EQ(state, after);
+            EXPECT_EQ(Json({ "undo", step }).at("kept"), 0);
+            EXPECT_EQ(State(), before);
         }
     }
     EXPECT_GT(untouched, 0);
     EXPECT_LT(untouched, points);
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, KilledStepTest, testing::ValuesIn(WritingCommands()), NameOfCommand);
+
+TEST_F(UndoTest, Import_KilledAnywhere_IsAStepAsFarAsItCame)
+{
+    const auto before = State();
+    const auto profile = mProfile;
+    std::string table = "start,end,program,title\n";
+    for (const auto* day : { "2006-10-02", "2006-10-03", "2006-07-04" }) {
+        table += std::string(day) + "T09:00," + day + "T10:00,atlas,map\n";
+    }
+    const auto file = mFolder.Write("export.csv", table);
+    const auto import = [&] {
+        fs::remove_all(mFolder.Path("cut"));
+        fs::copy(profile, mFolder.Path("cut"), fs::copy_options::recursive);
+        mProfile = mFolder.Path("cut");
+        return Whole({ "import", "csv", file, "--as", "sightings" });
+    };
+    const auto counted = RunTempodialKilledAt(import(), 0);
+    if (!counted) {
+        GTEST_SKIP() << "no observation here";
+    }
+    ASSERT_EQ(counted->status, 0) << counted->error;
+    const auto after = Json({ "summary", "2006", "--rows", "application", "--columns", "none" });
+    const auto points = ShortOrLong(8, 300);
+    std::set<std::size_t> steps;
+    for (std::int64_t i = 1; i <= points; ++i) {
+        const auto call = counted->systemCalls / 3 + counted->systemCalls * i / points * 2 / 3;
+        SCOPED_TRACE(call);
+        RunTempodialKilledAt(import(), call);
+        steps.insert(StepCount());
+        // The rest comes with the next one, which makes it a step too.
+        EXPECT_EQ(Run({ "import", "csv", file, "--as", "sightings" }).status, 0);
+        EXPECT_EQ(Json({ "summary", "2006", "--rows", "application", "--columns", "none" }), after);
+        for (auto left = StepCount(); left > 0; --left) {
+            EXPECT_EQ(Json({ "undo" }).at("kept"), 0);
+        }
+        EXPECT_EQ(State(), before);
+    }
+    EXPECT_EQ(steps, (std::set<std::size_t> { 0, 1 }));
 }
 
 }

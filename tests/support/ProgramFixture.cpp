@@ -65,7 +65,7 @@ std::vector<std::string> ProgramFixture::Subjects(const nlohmann::json& items) c
 std::vector<std::vector<std::string>> OneOfEachReader()
 {
     return { { "list" }, { "export", "--format", "csv" }, { "summary" }, { "timesheet", "No Project" },
-        { "unassigned" }, { "gaps" }, { "why", "--subject", "a" }, { "trace" },
+        { "unassigned" }, { "gaps" }, { "why", "--subject", "a" }, { "log" }, { "trace" },
         { "registry", "get", "HKCU", "", "CurrentVersion" }, { "status" } };
 }
 
@@ -74,9 +74,10 @@ std::vector<std::vector<std::string>> OneOfEachWriter()
     return { { "sync" }, { "projects" }, { "projects", "set", "A" }, { "projects", "remove", "Wish" },
         { "projects", "match", "a" }, { "projects", "rename", "Wish", "B" }, { "projects", "export" },
         { "apply", "Wish" }, { "assign", "Wish", "--from", "2006-10-10T09:00", "--to", "2006-10-10T10:00" },
-        { "report" }, { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" },
-        { "demo" }, { "registry", "set", "HKCU", "", "A", "b" },
-        { "registry", "delete", "HKCU", "", "CurrentVersion" } };
+        { "edit", "@1", "--description", "b" }, { "split", "@1", "--at", "09:02" }, { "join", "@1", "@2" },
+        { "add", "--from", "08:00", "--to", "08:30" }, { "delete", "@1" }, { "undo" }, { "report" },
+        { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" }, { "demo" },
+        { "registry", "set", "HKCU", "", "A", "b" }, { "registry", "delete", "HKCU", "", "CurrentVersion" } };
 }
 
 std::vector<std::vector<std::string>> OneOfEachCommand()
