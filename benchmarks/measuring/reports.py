@@ -63,7 +63,7 @@ class Reports:
 
         runs = [RunProduct, RunFloor]
         if self._peer.Find():
-            database = self._Peer(YEAR)
+            database = self.Peer(YEAR)
             runs.append(lambda: database.Summary(first, product.LAST))
         costs, floors, *peers = processes.Rounds(self._rounds, *runs)
         cpu, least = figures.Median(processes.Cpus(costs)), figures.Median(processes.Cpus(floors))
@@ -128,7 +128,7 @@ class Reports:
         measured = f"list of a day in a store of {DECADE * DAY_ITEMS:,} against timew summary"
         if not self._peer.Find():
             return results + [figures.NotMeasured("10b", measured, "timewarrior isn't installed")]
-        profile, database = self.Profile(DECADE), self._Peer(DECADE)
+        profile, database = self.Profile(DECADE), self.Peer(DECADE)
         day = str(product.LAST)
         lists, peers = processes.Rounds(rounds, lambda: programs.Run(profile, "list", "--from", day, "--to", day),
                                         lambda: database.Summary(product.LAST, product.LAST))
@@ -140,7 +140,7 @@ class Reports:
     def _Report(self, profile, first, last, output=os.devnull):
         return self._programs.Run(profile, *_Report(first, last), output=output)
 
-    def _Peer(self, days):
+    def Peer(self, days):
         """The database of the peer with what the profile of that many days holds."""
         if days not in self._peers:
             database = self._peer.Peer(self._programs.Path(f"peer-{days}"))
