@@ -97,7 +97,9 @@ TEST_F(DiskTroubleTest, OtherCommands_DiskFull_AreToldAndLeaveNoHalfFile)
         { Arguments { "report", "--out", mail }, Arguments { "export", "--format", "csv", "--out", table },
             Arguments { "projects", "set", "New", "--subject", "word" },
             Arguments { "registry", "set", "HKCU", "", "New", std::string(10'000, 'x') },
-            Arguments { "assign", "Plan", "--from", "2006-10-10T09:00", "--to", "2006-10-10T12:00" } }) {
+            Arguments { "assign", "Plan", "--from", "2006-10-10T09:00", "--to", "2006-10-10T12:00" },
+            Arguments { "edit", "@1", "--description", std::string(10'000, 'x') }, Arguments { "delete", "@1", "@2" },
+            Arguments { "add", "--from", "08:00", "--to", "08:30" } }) {
         SCOPED_TRACE(arguments.front());
         const auto result = Run(arguments);
         EXPECT_EQ(result.status, 1);
@@ -109,6 +111,7 @@ TEST_F(DiskTroubleTest, OtherCommands_DiskFull_AreToldAndLeaveNoHalfFile)
     EXPECT_THAT(Refusal({ "list" }, 1), HasSubstr("Disk full: the mailbox "));
     mDisk.Empty();
     ExpectNextSyncCompletes();
+    EXPECT_EQ(Json({ "log" }), nlohmann::json::array()) << "neither the change nor its step";
     EXPECT_EQ(Run({ "registry", "get", "HKCU", "", "New" }).status, 1);
 }
 
