@@ -3,7 +3,7 @@
 # What the product is built with and from.
 build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev libexpat1-dev libicu-dev
     libtomlplusplus-dev libcli11-dev nlohmann-json3-dev libgsf-1-dev libgmime-3.0-dev
-    libical-dev libxcb1-dev libxcb-screensaver0-dev)
+    libical-dev libxcb1-dev libxcb-screensaver0-dev libwayland-dev)
 
 # What the tests and lints need besides.
 check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64
@@ -12,6 +12,9 @@ check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g+
 
 # What ./check --browser needs besides.
 browser_packages=(chromium)
+
+# What ./check --desktops needs besides.
+desktop_packages=(sway foot fonts-dejavu-core wtype weston kwin-wayland gnome-shell dbus python3-dbusmock)
 
 # What ./check --fuzz needs besides.
 fuzz_packages=(clang libclang-rt-dev)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "track/x11/StartedProcess.h"
+#include "support/StartedProcess.h"
 
 #include <optional>
 #include <string>

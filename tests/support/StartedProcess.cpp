@@ -1,4 +1,4 @@
-#include "track/x11/StartedProcess.h"
+#include "support/StartedProcess.h"
 
 #include <array>
 #include <csignal>

@@ -1,0 +1,11 @@
+#include "track/wayland/WlrDesktop.h"
+
+#include <type_traits>
+
+extern "C" __attribute__((visibility("default"))) std::unique_ptr<tempodial::DesktopSource> TempodialOpenDesktop(
+    const tempodial::WatchSettings& settings, tempodial::DesktopSight& sight)
+{
+    return tempodial::WlrDesktop::Open(settings, sight);
+}
+
+static_assert(std::is_same_v<decltype(&TempodialOpenDesktop), tempodial::DesktopOpener>);

@@ -1,0 +1,134 @@
+#include "track/wayland/WlrDesktop.h"
+
+#include "support/DesktopTests.h"
+#include "track/wayland/Compositor.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+#include <thread>
+
+namespace tempodial {
+
+namespace {
+
+using testing::HasSubstr;
+
+constexpr std::chrono::milliseconds Notice { 300 };
+
+class WlrDesktopTest : public testing::Test
+{
+protected:
+    static std::unique_ptr<DesktopSource> Opened()
+    {
+        DesktopSight sight;
+        auto desktop = WlrDesktop::Open({ Notice }, sight);
+        EXPECT_TRUE(desktop) << sight.why;
+        return desktop;
+    }
+    static std::string Refusal()
+    {
+        DesktopSight sight;
+        EXPECT_FALSE(WlrDesktop::Open({}, sight));
+        EXPECT_FALSE(sight.window || sight.title || sight.idle || sight.lock);
+        return sight.why;
+    }
+    /// Waits, for events alone, until something is true.
+    static bool Comes(DesktopSource& desktop, const std::function<bool()>& isThere)
+    {
+        while (!isThere()) {
+            pollfd waited { desktop.Descriptor(), desktop.Events(), 0 };
+            if (::poll(&waited, 1, 5000) != 1 || !desktop.Dispatch()) {
+                return isThere();
+            }
+        }
+        return true;
+    }
+    static bool ComesInFront(DesktopSource& desktop, const std::string& program, const std::string& title)
+    {
+        const bool isThere = Comes(desktop, [&] {
+            const auto window = desktop.Window();
+            return window && window->program == program && window->title == title;
+        });
+        const auto window = desktop.Window();
+        EXPECT_TRUE(isThere) << (window ? window->program + ": " + window->title : "nothing");
+        return isThere;
+    }
+};
+
+}
+
+TEST_F(WlrDesktopTest, Window_InFront_IsToldWithItsWords)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    const Compositor sway(Compositor::Kind::Sway);
+    const auto desktop = Opened();
+    const auto sight = desktop->Sight();
+    EXPECT_TRUE(sight.window && sight.title && sight.idle);
+    EXPECT_EQ(sight.why, "");
+    EXPECT_FALSE(desktop->Window());
+
+    auto editor = sway.Show("atlas", "Plan \u2013 a");
+    ASSERT_TRUE(ComesInFront(*desktop, "atlas", "Plan \u2013 a"));
+    const auto terminal = sway.Show("org.example.Shell", "shell");
+    ASSERT_TRUE(ComesInFront(*desktop, "org.example.Shell", "shell"));
+    sway.Command("[app_id=atlas] focus");
+    ASSERT_TRUE(ComesInFront(*desktop, "atlas", "Plan \u2013 a"));
+    sway.Retitle("atlas", "Map");
+    ASSERT_TRUE(ComesInFront(*desktop, "atlas", "Map"));
+    EXPECT_EQ(Opened()->Window(), desktop->Window());
+
+    editor->End();
+    ASSERT_TRUE(ComesInFront(*desktop, "org.example.Shell", "shell"));
+    sway.Command("workspace 2");
+    EXPECT_TRUE(Comes(*desktop, [&] { return !desktop->Window(); }));
+}
+
+TEST_F(WlrDesktopTest, Idle_NobodyThere_IsToldFromTheLastInputOn)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    const Compositor sway(Compositor::Kind::Sway);
+    const auto desktop = Opened();
+    EXPECT_EQ(desktop->Idle(), std::chrono::milliseconds(0));
+    ASSERT_TRUE(Comes(*desktop, [&] { return desktop->Idle()->count() > 0; }));
+    EXPECT_GE(*desktop->Idle(), Notice);
+    const auto window = sway.Show("atlas", "Plan");
+    ASSERT_TRUE(ComesInFront(*desktop, "atlas", "Plan"));
+    sway.Press("a");
+    EXPECT_TRUE(Comes(*desktop, [&] { return desktop->Idle()->count() == 0; }));
+}
+
+TEST_F(WlrDesktopTest, Dispatch_CompositorGone_IsFalse)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    Compositor sway(Compositor::Kind::Sway);
+    const auto desktop = Opened();
+    sway.End();
+    bool isThere = true;
+    for (int i = 0; i < 500 && isThere; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        isThere = desktop->Dispatch();
+    }
+    EXPECT_FALSE(isThere);
+}
+
+TEST_F(WlrDesktopTest, Open_CompositorThatTellsNothing_NamesIt)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    const Compositor weston(Compositor::Kind::Weston);
+    EXPECT_THAT(Refusal(), HasSubstr("weston tells no program which window is in front"));
+}
+
+TEST_F(WlrDesktopTest, Open_WithoutASession_SaysWhy)
+{
+    ::unsetenv("WAYLAND_DISPLAY");
+    EXPECT_THAT(Refusal(), HasSubstr("WAYLAND_DISPLAY isn't set"));
+    ::setenv("WAYLAND_DISPLAY", "/nowhere/wayland-9", 1);
+    EXPECT_THAT(Refusal(), HasSubstr("no compositor answers at WAYLAND_DISPLAY /nowhere/wayland-9"));
+    ::unsetenv("WAYLAND_DISPLAY");
+}
+
+}
