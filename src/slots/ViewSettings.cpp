@@ -1,134 +1,44 @@
 #include "slots/ViewSettings.h"
 
+#include "base/SettingsReader.h"
 #include "slots/PlainText.h"
 
-#include <algorithm>
 #include <iterator>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 namespace tempodial {
 
 namespace {
 
-template <class Value> struct Word
-{
-    std::string_view word;
-    Value value;
-};
-
-constexpr Word<ProgramSort> SortWords[] { { "other", ProgramSort::Other }, { "browser", ProgramSort::Browser },
+constexpr SettingWord<ProgramSort> SortWords[] { { "other", ProgramSort::Other }, { "browser", ProgramSort::Browser },
     { "office", ProgramSort::Office }, { "mail", ProgramSort::Mail }, { "reader", ProgramSort::Reader },
     { "editor", ProgramSort::Editor }, { "terminal", ProgramSort::Terminal }, { "files", ProgramSort::Files },
     { "chat", ProgramSort::Chat }, { "meeting", ProgramSort::Meeting }, { "player", ProgramSort::Player },
     { "lock", ProgramSort::Lock }, { "shell", ProgramSort::Shell } };
 
-constexpr Word<PlaceForm> PlaceWords[] { { "document", PlaceForm::Document }, { "page", PlaceForm::Page },
+constexpr SettingWord<PlaceForm> PlaceWords[] { { "document", PlaceForm::Document }, { "page", PlaceForm::Page },
     { "file", PlaceForm::FileInProject }, { "project", PlaceForm::ProjectWithFile },
     { "directory", PlaceForm::Directory }, { "room", PlaceForm::Room }, { "person", PlaceForm::Person },
     { "mail", PlaceForm::Mail } };
 
-constexpr Word<PrivacyRule::Action> ActionWords[] { { "drop", PrivacyRule::Action::Drop },
+constexpr SettingWord<PrivacyRule::Action> ActionWords[] { { "drop", PrivacyRule::Action::Drop },
     { "program", PrivacyRule::Action::ProgramOnly }, { "replace", PrivacyRule::Action::Replace },
     { "project", PrivacyRule::Action::Project } };
 
-/// One record as it is read: what it holds is taken out by name, each of its kind.
-class RecordReader
+void TakePattern(SettingsReader& record, const std::string& name, std::optional<TextPattern>& pattern)
 {
-public:
-    RecordReader(const SettingsFile& file, const SettingsRecord& record)
-        : mFile(file)
-        , mRecord(record)
-    {
+    if (!record.Has(name)) {
+        return;
     }
-
-    [[noreturn]] void Refuse(std::size_t line, const std::string& reason) const
-    {
-        throw SettingsFileError(mFile.path, line, reason);
+    std::string text;
+    record.Take(name, text, "a text");
+    try {
+        pattern.emplace(text);
+    } catch (const std::invalid_argument& error) {
+        record.Refuse(record.LineOf(name), error.what());
     }
-
-    void RequireKind(const std::string& kind) const
-    {
-        if (mRecord.kind != kind) {
-            Refuse(mRecord.line, "[[" + mRecord.kind + "]] isn't known here, only [[" + kind + "]]");
-        }
-    }
-
-    template <class Value> void Take(const std::string& name, Value& value, const std::string& kindOfValue)
-    {
-        if (const auto* setting = Find(name)) {
-            const auto* held = std::get_if<Value>(&setting->value);
-            if (held == nullptr) {
-                Refuse(setting->line, name + " must be " + kindOfValue);
-            }
-            value = *held;
-        }
-    }
-
-    template <class Value, std::size_t Size>
-    void TakeWord(const std::string& name, Value& value, const Word<Value> (&words)[Size])
-    {
-        std::string text;
-        Take(name, text, "a text");
-        if (text.empty() && Find(name) == nullptr) {
-            return;
-        }
-        const auto found
-            = std::find_if(std::begin(words), std::end(words), [&text](const auto& word) { return word.word == text; });
-        if (found == std::end(words)) {
-            std::string known;
-            for (const auto& word : words) {
-                known += (known.empty() ? "\"" : ", \"") + std::string(word.word) + "\"";
-            }
-            Refuse(Find(name)->line, name + " can't be \"" + text + "\", but one of " + known);
-        }
-        value = found->value;
-    }
-
-    void TakePattern(const std::string& name, std::optional<TextPattern>& pattern)
-    {
-        std::string text;
-        Take(name, text, "a text");
-        if (const auto* setting = Find(name)) {
-            try {
-                pattern.emplace(text);
-            } catch (const std::invalid_argument& error) {
-                Refuse(setting->line, error.what());
-            }
-        }
-    }
-
-    /// The line of a value, or of the record when it isn't there.
-    std::size_t LineOf(const std::string& name)
-    {
-        const auto* setting = Find(name);
-        return setting == nullptr ? mRecord.line : setting->line;
-    }
-
-    /// Fails when the record holds what wasn't asked for.
-    void RequireNothingElse() const
-    {
-        for (const auto& setting : mRecord.settings) {
-            if (std::find(mAsked.begin(), mAsked.end(), setting.name) == mAsked.end()) {
-                Refuse(setting.line, "\"" + setting.name + "\" isn't known in [[" + mRecord.kind + "]]");
-            }
-        }
-    }
-
-private:
-    const Setting* Find(const std::string& name)
-    {
-        mAsked.push_back(name);
-        const auto found = std::find_if(mRecord.settings.begin(), mRecord.settings.end(),
-            [&name](const auto& setting) { return setting.name == name; });
-        return found == mRecord.settings.end() ? nullptr : &*found;
-    }
-
-    const SettingsFile& mFile;
-    const SettingsRecord& mRecord;
-    std::vector<std::string> mAsked;
-};
+}
 
 constexpr auto Texts = "a list of texts, such as [\"a\", \"b\"]";
 constexpr auto YesOrNo = "true or false";
@@ -152,7 +62,7 @@ PlaceForm UsualPlace(ProgramSort sort)
     }
 }
 
-Program ProgramOf(RecordReader& record)
+Program ProgramOf(SettingsReader& record)
 {
     Program program;
     record.RequireKind("program");
@@ -180,12 +90,12 @@ Program ProgramOf(RecordReader& record)
     return program;
 }
 
-PrivacyRule RuleOf(RecordReader& record)
+PrivacyRule RuleOf(SettingsReader& record)
 {
     PrivacyRule rule;
     record.RequireKind("rule");
-    record.TakePattern("program", rule.program);
-    record.TakePattern("title", rule.title);
+    TakePattern(record, "program", rule.program);
+    TakePattern(record, "title", rule.title);
     std::string word;
     record.Take("do", word, "a text");
     if (word.empty()) {
@@ -203,9 +113,9 @@ PrivacyRule RuleOf(RecordReader& record)
 
 template <class Reader> auto AllOf(const SettingsFile& file, Reader&& reader)
 {
-    std::vector<decltype(reader(std::declval<RecordReader&>()))> all;
+    std::vector<decltype(reader(std::declval<SettingsReader&>()))> all;
     for (const auto& record : file.records) {
-        RecordReader recordReader(file, record);
+        SettingsReader recordReader(file, record);
         all.push_back(reader(recordReader));
     }
     return all;
