@@ -39,13 +39,13 @@ void Recorder::Restore(const TrackState& state, const TrackMoment& now)
     mIsPaused = state.isPaused;
     mPausedUntil = state.pausedUntil;
     mProject = state.project;
-    if (state.input > now.local) {
-        return; // the clock was put back since, so nobody knows what time that was
-    }
+    // When the clock was put back since, nobody knows how long ago the last input was.
+    const bool isClockGood = state.input <= now.local;
     mBefore = now;
     mSince = now.local;
-    mInput = now.boot - (now.local - state.input);
-    mPatience = std::max(state.patience, PatienceOf(std::nullopt));
+    mInput = isClockGood ? now.boot - (now.local - state.input) : now.boot;
+    mPatience = isClockGood ? state.patience : 0;
+    mPatience = std::max(mPatience, PatienceOf(std::nullopt));
     for (const auto& slot : state.slots) {
         const auto midnight = slot.start - slot.start % DaySeconds;
         if (SlotEnd(slot) - midnight > mSink.WrittenUntil(midnight)) {
@@ -53,7 +53,9 @@ void Recorder::Restore(const TrackState& state, const TrackMoment& now)
         }
     }
     for (const auto& stretch : state.stretches) {
-        AddPart(stretch.begin, stretch.end, stretch.view);
+        if (isClockGood) {
+            AddPart(stretch.begin, stretch.end, stretch.view);
+        }
     }
 }
 

@@ -1,7 +1,10 @@
 #include "support/Program.h"
 
+#include "support/ObservedWork.h"
+
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <poll.h>
 #include <stdexcept>
@@ -183,6 +186,32 @@ ProgramResult RunTempodial(const std::vector<std::string>& arguments, const std:
 ProgramResult RunTempodialWith(const RunSettings& settings, const std::vector<std::string>& arguments)
 {
     return RunToItsEnd(arguments, UsualEnvironment(), settings);
+}
+
+ProgramResult RunTempodialIn(
+    const RunSettings& settings, const std::vector<std::string>& arguments, const std::vector<std::string>& environment)
+{
+    return RunToItsEnd(arguments, environment, settings);
+}
+
+std::optional<std::int64_t> DoObserved(const std::function<void()>& work, const RunObserver& observer)
+{
+    constexpr int Forbidden = 125;
+    const auto child = ::fork();
+    if (child == 0) {
+        if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
+            ::_exit(Forbidden);
+        }
+        ::raise(SIGSTOP);
+        try {
+            work();
+        } catch (...) {
+            ::_exit(2);
+        }
+        ::_exit(0);
+    }
+    std::int64_t calls = 0;
+    return Follow(child, observer, calls) == Forbidden ? std::nullopt : std::optional(calls);
 }
 
 std::optional<ProgramResult> RunTempodialObserved(

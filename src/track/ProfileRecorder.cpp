@@ -1,0 +1,291 @@
+#include "track/ProfileRecorder.h"
+
+#include "base/Failure.h"
+#include "base/IsoDate.h"
+#include "base/SettingsFile.h"
+#include "base/TrackerFile.h"
+#include "host/files/PathOperations.h"
+#include "host/files/ReplacementFile.h"
+#include "track/TrackError.h"
+
+#include <charconv>
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::int64_t StateInterval = 60000;
+constexpr std::size_t LargestState = std::size_t { 16 } << 20;
+/// What may be wrong.
+constexpr auto FileTrouble = "file";
+constexpr auto StateTrouble = "state";
+constexpr auto SettingsTrouble = "settings";
+constexpr auto LockFileName = "/track.lock";
+constexpr auto StateFileName = "/track.state";
+
+std::string MadeDataFolder(const std::string& profile)
+{
+    auto folder = profile + "/" + TrackerFolderName;
+    const auto path = NativePath::Exactly(folder);
+    MakeFoldersAbove(path);
+    try {
+        MakeFolder(path);
+    } catch (const SystemFailure& failure) {
+        if (!failure.Is(Error::FileExists)) {
+            throw TrackError("can't make the folder " + folder + ": " + failure.Reason()
+                + ": name another profile with --profile, or see to its permissions");
+        }
+    }
+    return folder;
+}
+
+FileLock TakenLock(const std::string& path)
+{
+    try {
+        FileLock lock(NativePath::Exactly(path));
+        if (lock.Try()) {
+            return lock;
+        }
+    } catch (const Failure& failure) {
+        throw TrackError(
+            path + " can't be locked: " + failure.Description() + ": see to the permissions of the profile");
+    }
+    throw RecorderRuns("a recorder of this profile is running: \"tempodial track status\" shows what it does");
+}
+
+std::string StateText(const std::string& path)
+{
+    try {
+        return FileDescriptor(NativePath::Exactly(path), Opening::Reading).ReadAll(LargestState);
+    } catch (const Failure&) {
+        return {}; // absent, or nothing to go on with
+    }
+}
+
+std::int64_t MidnightOf(const TrackMoment& moment)
+{
+    return moment.ToDate().Day().Seconds();
+}
+
+std::string MomentText(std::int64_t local)
+{
+    return IsoMoment(Date::FromSeconds(local / MillisecondsOfSecond));
+}
+
+ControlMessage Trouble(const std::string& message)
+{
+    ControlMessage answer;
+    answer.Set("error", message);
+    return answer;
+}
+
+}
+
+std::optional<std::int64_t> NumberOf(const ControlMessage& message, const std::string& name)
+{
+    const auto text = message.Get(name);
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+ProfileRecorder::ProfileRecorder(
+    const std::string& profile, const TrackMoment& now, std::function<void(const std::string&)> warn)
+    : mFolder(MadeDataFolder(profile))
+    , mLock(TakenLock(mFolder + LockFileName))
+    , mWarn(std::move(warn))
+    , mSettings(profile)
+    , mWriter(mFolder)
+    , mRecorder(mWriter, mSettings.Read(), mWarn)
+{
+    try {
+        mKeptState = StateText(mFolder + StateFileName);
+        const auto midnight = MidnightOf(now);
+        if (const auto until = mWriter.WrittenUntil(midnight); until > 0) {
+            mLastWritten = Date::FromSeconds(midnight + until);
+        }
+        if (!mKeptState.empty()) {
+            mRecorder.Restore(TrackState::Of(mKeptState), now);
+        }
+        mKeptAt = now.boot;
+    } catch (const Failure& failure) {
+        throw TrackError("today's tracker file in " + mFolder + " can't be read: " + failure.Description()
+            + ": see to its permissions, or move it away");
+    }
+}
+
+void ProfileRecorder::Observe(const TrackMoment& now, Observation seen)
+{
+    seen.isLocked = seen.isLocked || mIsBlind;
+    try {
+        mRecorder.Observe(now, seen);
+    } catch (const Failure& failure) {
+        Complain(FileTrouble,
+            "the tracker file of the day can't be read: " + failure.Description()
+                + ": see to its permissions, or move it away");
+    }
+    Save(now);
+}
+
+void ProfileRecorder::Tick(const TrackMoment& now)
+{
+    if (mIsBlind || mSettings.HasChanged()) {
+        ReadSettings();
+    }
+    if (now.boot - mKeptAt >= StateInterval) {
+        mKeptAt = now.boot;
+        KeepState();
+    }
+}
+
+void ProfileRecorder::KeepState()
+{
+    auto text = mRecorder.State().Text();
+    if (text == mKeptState) {
+        return;
+    }
+    try {
+        ReplacementFile file(NativePath::Exactly(mFolder + StateFileName));
+        file.Write(text);
+        file.TakePlace();
+        mKeptState = std::move(text);
+        mComplaints.erase(StateTrouble);
+    } catch (const Failure& failure) {
+        Complain(StateTrouble,
+            mFolder + StateFileName + " can't be written: " + failure.Description()
+                + ": see to the disk of the profile");
+    }
+}
+
+void ProfileRecorder::End(const TrackMoment& now)
+{
+    mRecorder.End(now);
+    Save(now);
+    KeepState();
+}
+
+ControlMessage ProfileRecorder::Answer(const ControlMessage& request, const TrackMoment& now)
+{
+    const auto what = request.Get("do");
+    try {
+        if (what == "status") {
+            return Status(now);
+        }
+        if (what == "pause") {
+            return Pause(request, now);
+        }
+        if (what == "resume") {
+            mRecorder.Resume();
+            KeepState();
+            return Status(now);
+        }
+        if (what == "project") {
+            return Project(request);
+        }
+        if (what == "forget") {
+            return Forget(request, now);
+        }
+    } catch (const Failure& failure) {
+        return Trouble("the tracker file of the day can't be changed: " + failure.Description()
+            + ": see to the disk and the permissions of the profile");
+    }
+    return Trouble("the recorder that runs doesn't know this: start it again, since it is another version");
+}
+
+void ProfileRecorder::ReadSettings()
+{
+    try {
+        mRecorder.SetViews(mSettings.Read());
+        mIsBlind = false;
+        mComplaints.erase(SettingsTrouble);
+    } catch (const SettingsFileError& error) {
+        Complain(SettingsTrouble, std::string(error.what()) + "; until then nothing is recorded");
+        mIsBlind = true;
+    }
+}
+
+void ProfileRecorder::Save(const TrackMoment& now)
+{
+    if (!mWriter.HasUnsaved()) {
+        return;
+    }
+    try {
+        mWriter.Save(now.offset);
+        mLastWritten = now.ToDate();
+        mComplaints.erase(FileTrouble);
+    } catch (const Failure& failure) {
+        Complain(FileTrouble,
+            "the tracker file of the day can't be written: " + failure.Description()
+                + ": see to the disk of the profile; what waits is written then");
+    }
+}
+
+void ProfileRecorder::Complain(const std::string& about, const std::string& message)
+{
+    auto& last = mComplaints[about];
+    if (last != message) {
+        last = message;
+        mWarn(message);
+    }
+}
+
+ControlMessage ProfileRecorder::Status(const TrackMoment& now)
+{
+    ControlMessage answer;
+    answer.Set("now", MomentText(now.local));
+    answer.Set("idle", mRecorder.IsIdle() ? "1" : "0");
+    answer.Set("since", MomentText(mRecorder.Since()));
+    answer.Set("paused", mRecorder.IsPaused() || mIsBlind ? "1" : "0");
+    if (const auto until = mRecorder.PausedUntil()) {
+        answer.Set("pausedUntil", MomentText(*until));
+    }
+    if (const auto view = mRecorder.InFront(); view && !mIsBlind) {
+        answer.Set("program", view->program);
+        answer.Set("kind", std::to_string(view->kind));
+    }
+    answer.Set("slots", std::to_string(mWriter.SlotsOn(MidnightOf(now))));
+    if (mLastWritten) {
+        answer.Set("lastWritten", IsoMoment(*mLastWritten));
+    }
+    return answer;
+}
+
+ControlMessage ProfileRecorder::Pause(const ControlMessage& request, const TrackMoment& now)
+{
+    const auto length = NumberOf(request, "for");
+    mRecorder.Pause(now, length ? std::optional(now.local + *length) : std::nullopt);
+    Save(now);
+    KeepState();
+    return Status(now);
+}
+
+ControlMessage ProfileRecorder::Project(const ControlMessage& request)
+{
+    if (request.Has("name")) {
+        mRecorder.SetProject(ProjectText(request.Get("name")));
+        KeepState();
+    }
+    ControlMessage answer;
+    answer.Set("name", mRecorder.Project());
+    return answer;
+}
+
+ControlMessage ProfileRecorder::Forget(const ControlMessage& request, const TrackMoment& now)
+{
+    const auto length = NumberOf(request, "last");
+    const auto taken = NumberOf(request, "taken");
+    if (!length || !taken) {
+        return Trouble("the recorder that runs doesn't know this: start it again, since it is another version");
+    }
+    mRecorder.Forget(now.local - *length);
+    KeepState();
+    const auto midnight = MidnightOf(now);
+    const auto erased = mWriter.Erase(midnight, (now.local - *length) / MillisecondsOfSecond - midnight, *taken);
+    ControlMessage answer;
+    answer.Set("forgotten", std::to_string(erased.forgotten));
+    answer.Set("kept", std::to_string(erased.kept));
+    return answer;
+}
+
+}

@@ -1,0 +1,223 @@
+#include "track/TrackRun.h"
+
+#include "host/files/Uninterrupted.h"
+#include "track/ControlPath.h"
+#include "track/TrackError.h"
+
+#include <array>
+#include <csignal>
+#include <cstdint>
+#include <limits>
+#include <poll.h>
+#include <sys/signalfd.h>
+#include <sys/timerfd.h>
+#include <unistd.h>
+
+namespace tempodial {
+
+namespace {
+
+constexpr std::int64_t TickInterval = 15000;
+/// How long after a desktop was lost, or not found, one is looked for again.
+constexpr std::int64_t TrialInterval = 60000;
+constexpr std::int64_t NanosecondsOfMillisecond = 1000000;
+
+/// A descriptor of the system's that is closed at its end.
+class OwnDescriptor
+{
+public:
+    explicit OwnDescriptor(int number)
+        : mNumber(number)
+    {
+    }
+    ~OwnDescriptor() { ::close(mNumber); }
+    OwnDescriptor(const OwnDescriptor&) = delete;
+    OwnDescriptor& operator=(const OwnDescriptor&) = delete;
+
+    int Number() const { return mNumber; }
+    /// Takes what has come.
+    void Empty() const
+    {
+        std::array<char, 512> buffer {};
+        (void)Uninterrupted([&] { return ::read(mNumber, buffer.data(), buffer.size()); });
+    }
+
+private:
+    int mNumber;
+};
+
+int EndingSignals()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    for (const auto signal : { SIGINT, SIGTERM, SIGHUP }) {
+        sigaddset(&signals, signal);
+    }
+    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+    return ::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
+}
+
+int TickTimer(std::chrono::milliseconds interval)
+{
+    const auto timer = ::timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK);
+    const auto time = timespec { static_cast<time_t>(interval.count() / MillisecondsOfSecond),
+        static_cast<long>(interval.count() % MillisecondsOfSecond * NanosecondsOfMillisecond) };
+    const itimerspec ticks { time, time };
+    ::timerfd_settime(timer, 0, &ticks, nullptr);
+    return timer;
+}
+
+void WatchClock(int timer)
+{
+    // It never ends, but is ended when the clock of the wall is put.
+    itimerspec never {};
+    never.it_value.tv_sec = std::numeric_limits<std::int32_t>::max();
+    ::timerfd_settime(timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &never, nullptr);
+}
+
+std::string ReasonsOf(const ChosenDesktop& desktop)
+{
+    std::string reasons;
+    for (const auto& trial : desktop.trials) {
+        reasons += (reasons.empty() ? "" : "; ") + trial.name + ": " + trial.sight.why;
+    }
+    return reasons;
+}
+
+}
+
+/// What the loop waits for, by place.
+struct TrackRun::Waits
+{
+    enum Place { Ending, Ticks, ClockSet, Control, Desktop, Session, Count };
+};
+
+WatchSettings WatchSettingsAt(const TrackClock& clock)
+{
+    return { clock.Real(TickInterval) };
+}
+
+Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramNames& names, const TrackClock& clock)
+{
+    Observation seen;
+    std::optional<std::chrono::milliseconds> idle;
+    if (desktop != nullptr) {
+        if (const auto window = desktop->Window()) {
+            const auto id = ProgramNames::IdOf(*window);
+            seen.window = Sighting { id, names.NameOf(id), window->title, "", false };
+        }
+        idle = desktop->Idle();
+        seen.isLocked = desktop->IsLocked().value_or(false);
+    }
+    if (session != nullptr) {
+        idle = idle ? idle : session->Idle();
+        seen.isLocked = seen.isLocked || session->IsLocked().value_or(false);
+        seen.isAsleep = session->IsGoingToSleep();
+    }
+    if (idle) {
+        seen.idle = clock.Scaled(*idle);
+    }
+    return seen;
+}
+
+TrackRun::TrackRun(const TrackOptions& options, const std::function<void(const std::string&)>& warn)
+    : mClock(options.now, options.speed)
+    , mWarn(warn)
+    , mRecorder(options.profile, mClock.Now(), warn)
+    , mSettings(WatchSettingsAt(mClock))
+    , mDesktop(ChooseDesktop(mSettings))
+    , mServer([&options] {
+        try {
+            return ControlServer(ControlPathOf(options.profile));
+        } catch (const std::runtime_error& error) {
+            throw TrackError(error.what());
+        }
+    }())
+{
+    if (!mDesktop.source) {
+        throw TrackError(
+            "no desktop can be watched (" + ReasonsOf(mDesktop) + "): \"tempodial track probe\" says more");
+    }
+    std::string why;
+    mSession = OpenSession(mSettings, why);
+}
+
+void TrackRun::Run()
+{
+    const OwnDescriptor ending(EndingSignals());
+    const OwnDescriptor ticks(TickTimer(mClock.Real(TickInterval)));
+    const OwnDescriptor clockSet(::timerfd_create(CLOCK_REALTIME, TFD_CLOEXEC | TFD_NONBLOCK));
+    WatchClock(clockSet.Number());
+    Observe();
+    for (;;) {
+        std::array<pollfd, Waits::Count> waits {};
+        waits[Waits::Ending] = { ending.Number(), POLLIN, 0 };
+        waits[Waits::Ticks] = { ticks.Number(), POLLIN, 0 };
+        waits[Waits::ClockSet] = { clockSet.Number(), POLLIN, 0 };
+        waits[Waits::Control] = { mServer.Descriptor(), POLLIN, 0 };
+        waits[Waits::Desktop] = mDesktop.source ? pollfd { mDesktop.source->Descriptor(), mDesktop.source->Events(), 0 }
+                                                : pollfd { -1, 0, 0 };
+        waits[Waits::Session]
+            = mSession ? pollfd { mSession->Descriptor(), mSession->Events(), 0 } : pollfd { -1, 0, 0 };
+        Uninterrupted([&] { return ::poll(waits.data(), waits.size(), -1); });
+        const bool isTick = waits[Waits::Ticks].revents != 0;
+        if (waits[Waits::Ending].revents != 0) {
+            break;
+        }
+        if (isTick) {
+            ticks.Empty();
+        }
+        if (waits[Waits::ClockSet].revents != 0) {
+            clockSet.Empty();
+            WatchClock(clockSet.Number());
+        }
+        if (mDesktop.source && (isTick || waits[Waits::Desktop].revents != 0) && !mDesktop.source->Dispatch()) {
+            LoseDesktop();
+        }
+        if (mSession && (isTick || waits[Waits::Session].revents != 0) && !mSession->Dispatch()) {
+            mSession.reset();
+        }
+        Observe();
+        if (waits[Waits::Control].revents != 0) {
+            mServer.Serve([this](const ControlMessage& request) {
+                auto answer = mRecorder.Answer(request, mClock.Now());
+                answer.Set("backend", mDesktop.name);
+                return answer;
+            });
+        }
+        if (isTick) {
+            Tick();
+        }
+    }
+    mRecorder.End(mClock.Now());
+}
+
+void TrackRun::Observe()
+{
+    const auto seen = Observed(mDesktop.source.get(), mSession.get(), mNames, mClock);
+    mRecorder.Observe(mClock.Now(), seen);
+    if (seen.isAsleep && mLetsSleep) {
+        mRecorder.KeepState();
+        mSession->LetSleep();
+    }
+    mLetsSleep = !seen.isAsleep;
+}
+
+void TrackRun::Tick()
+{
+    const auto now = mClock.Now();
+    mRecorder.Tick(now);
+    if (!mDesktop.source && now.boot >= mNextTrial) {
+        mNextTrial = now.boot + TrialInterval;
+        mDesktop = ChooseDesktop(mSettings);
+    }
+}
+
+void TrackRun::LoseDesktop()
+{
+    mWarn("the desktop " + mDesktop.name + " is gone: what comes in its place is looked for");
+    mDesktop = {};
+    mNextTrial = mClock.Now().boot + TrialInterval;
+}
+
+}
