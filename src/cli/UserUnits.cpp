@@ -1,0 +1,200 @@
+#include "cli/UserUnits.h"
+
+#include "base/Failure.h"
+#include "cli/CommandError.h"
+#include "cli/RunningTracker.h"
+#include "host/files/PathOperations.h"
+#include "host/files/ProgramFolder.h"
+#include "host/files/ReplacementFile.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto ServiceName = "tempodial-track.service";
+constexpr auto TimerName = "tempodial-sync.timer";
+
+std::string ConfigFolder()
+{
+    const auto* config = std::getenv("XDG_CONFIG_HOME");
+    if (config != nullptr && *config == '/') {
+        return config;
+    }
+    const auto* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0') {
+        throw CommandError("the environment names no home: set HOME, or XDG_CONFIG_HOME");
+    }
+    return std::string(home) + "/.config";
+}
+
+/// A word of a command as units and entries have it.
+std::string UnitWord(const std::string& word)
+{
+    std::string quoted = "\"";
+    for (const char character : word) {
+        if (character == '"' || character == '\\') {
+            quoted += '\\';
+        }
+        quoted += character;
+        if (character == '%' || character == '$') {
+            quoted += character;
+        }
+    }
+    return quoted + '"';
+}
+
+/// Runs systemctl for the user, in silence; true when it could do all.
+bool TellSession(std::vector<std::string> words)
+{
+    words.insert(words.begin(), { "systemctl", "--user", "--quiet" });
+    std::vector<char*> arguments;
+    for (auto& word : words) {
+        arguments.push_back(word.data());
+    }
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    ::posix_spawn_file_actions_init(&actions);
+    constexpr int ReadAndWrite = 2;
+    for (const auto stream : { STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO }) {
+        ::posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", ReadAndWrite, 0);
+    }
+    pid_t child = 0;
+    const auto error = ::posix_spawnp(&child, arguments.front(), &actions, nullptr, arguments.data(), environ);
+    ::posix_spawn_file_actions_destroy(&actions);
+    int status = 0;
+    while (error == 0 && ::waitpid(child, &status, 0) < 0 && errno == EINTR) { }
+    return error == 0 && status == 0;
+}
+
+}
+
+UserUnits::UserUnits(std::string profile)
+    : mProfile(std::move(profile))
+{
+}
+
+std::vector<std::string> UserUnits::Install() const
+{
+    std::vector<std::string> paths;
+    for (const auto& unit : Files()) {
+        const auto path = NativePath::Exactly(unit.path);
+        try {
+            MakeFoldersAbove(path);
+            ReplacementFile file(path);
+            file.Write(unit.text);
+            file.TakeUsualMode();
+            file.Commit();
+        } catch (const Failure& failure) {
+            throw CommandError(
+                unit.path + " can't be written: " + failure.Description() + ": see to the permissions of its folder");
+        }
+        paths.push_back(unit.path);
+    }
+    return paths;
+}
+
+std::vector<std::string> UserUnits::Uninstall() const
+{
+    std::vector<std::string> paths;
+    for (const auto& unit : Files()) {
+        const auto path = NativePath::Exactly(unit.path);
+        if (!StatusAt(path, Links::Taken)) {
+            continue;
+        }
+        try {
+            Remove(path);
+        } catch (const Failure& failure) {
+            throw CommandError(
+                unit.path + " can't be removed: " + failure.Description() + ": see to the permissions of its folder");
+        }
+        paths.push_back(unit.path);
+    }
+    return paths;
+}
+
+bool UserUnits::Start()
+{
+    return Reload() && TellSession({ "enable", ServiceName, TimerName })
+        && TellSession({ "restart", ServiceName, TimerName });
+}
+
+bool UserUnits::Stop()
+{
+    return TellSession({ "disable", "--now", ServiceName, TimerName });
+}
+
+bool UserUnits::Reload()
+{
+    return TellSession({ "daemon-reload" });
+}
+
+std::vector<UserUnits::UnitFile> UserUnits::Files() const
+{
+    const auto profile = " --profile " + UnitWord(mProfile);
+    const auto tracker = UnitWord(RunningTracker::ProgramPath()) + profile;
+    const auto program = UnitWord(InProgramFolder("bin/tempodial")) + profile;
+    const auto units = ConfigFolder() + "/systemd/user/";
+    const std::string limits = "# No network, by construction.\n"
+                               "RestrictAddressFamilies=AF_UNIX\n"
+                               "NoNewPrivileges=yes\n";
+    return {
+        { units + ServiceName,
+            "[Unit]\n"
+            "Description=Tempodial's recorder\n"
+            "PartOf=graphical-session.target\n"
+            "After=graphical-session.target\n"
+            "\n"
+            "[Service]\n"
+            "ExecStart="
+                + tracker
+                + "\n"
+                  "Restart=on-failure\n"
+                  "RestartSec=30\n"
+                  "# Unusable arguments, and a recorder that runs already.\n"
+                  "RestartPreventExitStatus=2 3\n"
+                  "MemoryMax=64M\n"
+                + limits
+                + "\n"
+                  "[Install]\n"
+                  "WantedBy=graphical-session.target\n" },
+        { units + "tempodial-sync.service",
+            "[Unit]\n"
+            "Description=Import of what Tempodial's recorder has written\n"
+            "\n"
+            "[Service]\n"
+            "Type=oneshot\n"
+            "ExecStart="
+                + program + " --quiet sync\n" + limits },
+        { units + TimerName,
+            "[Unit]\n"
+            "Description=Hourly import of what Tempodial's recorder has written\n"
+            "\n"
+            "[Timer]\n"
+            "OnCalendar=hourly\n"
+            "Persistent=yes\n"
+            "\n"
+            "[Install]\n"
+            "WantedBy=timers.target\n" },
+        { ConfigFolder() + "/autostart/tempodial-track.desktop",
+            "[Desktop Entry]\n"
+            "Type=Application\n"
+            "Name=Tempodial's recorder\n"
+            "Comment=Notes which window you work in\n"
+            "Exec="
+                + tracker
+                + "\n"
+                  "NoDisplay=true\n"
+                  "# Sessions of systemd start the unit of the same name.\n"
+                  "X-systemd-skip=true\n" },
+    };
+}
+
+}
