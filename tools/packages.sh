@@ -8,7 +8,7 @@ build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev li
 # What the tests and lints need besides.
 check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64
     dbus python3-dbusmock libemail-outlook-message-perl libemail-address-perl python3-olefile python3-icalendar
-    xvfb openbox xterm xdotool)
+    strace xvfb openbox xterm xdotool)
 
 # What ./check --browser needs besides.
 browser_packages=(chromium)
@@ -20,7 +20,7 @@ desktop_packages=(sway foot fonts-dejavu-core wtype weston kwin-wayland gnome-sh
 fuzz_packages=(clang libclang-rt-dev)
 
 # What ./check --bench needs besides: a peer to compare with, and callgrind.
-bench_packages=(python3 timewarrior valgrind)
+bench_packages=(python3 timewarrior valgrind xvfb openbox xterm)
 
 # What ./package needs besides.
 package_packages=(debhelper dpkg-dev fakeroot fish git lintian mandoc python3 tidy zsh)
