@@ -11,7 +11,7 @@ foreach(source IN LISTS sources)
     string(REPLACE "FuzzTest" "" name "${name}")
     add_executable(fuzz_${name} EXCLUDE_FROM_ALL "${source}")
     target_compile_definitions(fuzz_${name} PRIVATE TEMPODIAL_FUZZING)
-    target_link_libraries(fuzz_${name} PRIVATE fuzz_helpers test_support engine ${host} forms track_x11)
+    target_link_libraries(fuzz_${name} PRIVATE fuzz_helpers test_support engine ${host} forms track track_x11)
     target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
     set_target_properties(fuzz_${name} PROPERTIES OUTPUT_NAME ${name}
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/fuzz")
