@@ -6,6 +6,7 @@
 #include "cli/Commands.h"
 #include "cli/DurationArgument.h"
 #include "cli/RunningTracker.h"
+#include "host/files/PathOperations.h"
 #include "host/store/LineMemory.h"
 #include "session/OpenProfile.h"
 #include "track/ProfileRecorder.h"
@@ -62,6 +63,12 @@ public:
         constexpr std::int64_t Milliseconds = 1000;
         const auto length = ToSeconds("--last", mLast) * Milliseconds;
         const RunningTracker tracker(options);
+        if (!StatusAt(NativePath::Exactly(tracker.Profile() + "/" + TrackerFolderName), Links::Followed)) {
+            ControlMessage nothing;
+            nothing.Set("forgotten", "0");
+            nothing.Set("kept", "0");
+            return Answer(nothing);
+        }
         const auto now = TrackClock(options.now).Now();
         auto request = TrackRequest("forget");
         request.Set("last", std::to_string(length));

@@ -20,6 +20,8 @@ namespace {
 constexpr std::int64_t TickInterval = 15000;
 /// How long after a desktop was lost, or not found, one is looked for again.
 constexpr std::int64_t TrialInterval = 60000;
+/// How long a desktop isn't listened to that has just told something: some titles change ten times a second.
+constexpr std::int64_t DesktopRest = 200;
 constexpr std::int64_t NanosecondsOfMillisecond = 1000000;
 
 /// A descriptor of the system's that is closed at its end.
@@ -101,7 +103,9 @@ Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramName
 {
     Observation seen;
     std::optional<std::chrono::milliseconds> idle;
-    if (desktop != nullptr) {
+    if (desktop == nullptr) {
+        seen.isLocked = true; // nobody is in front of a desktop that isn't there
+    } else {
         if (const auto window = desktop->Window()) {
             const auto id = ProgramNames::IdOf(*window);
             seen.window = Sighting { id, names.NameOf(id), window->title, "", false };
@@ -149,17 +153,24 @@ void TrackRun::Run()
     const OwnDescriptor clockSet(::timerfd_create(CLOCK_REALTIME, TFD_CLOEXEC | TFD_NONBLOCK));
     WatchClock(clockSet.Number());
     Observe();
+    bool rests = false;
     for (;;) {
         std::array<pollfd, Waits::Count> waits {};
         waits[Waits::Ending] = { ending.Number(), POLLIN, 0 };
         waits[Waits::Ticks] = { ticks.Number(), POLLIN, 0 };
         waits[Waits::ClockSet] = { clockSet.Number(), POLLIN, 0 };
         waits[Waits::Control] = { mServer.Descriptor(), POLLIN, 0 };
-        waits[Waits::Desktop] = mDesktop.source ? pollfd { mDesktop.source->Descriptor(), mDesktop.source->Events(), 0 }
-                                                : pollfd { -1, 0, 0 };
+        waits[Waits::Desktop] = mDesktop.source && !rests
+            ? pollfd { mDesktop.source->Descriptor(), mDesktop.source->Events(), 0 }
+            : pollfd { -1, 0, 0 };
         waits[Waits::Session]
             = mSession ? pollfd { mSession->Descriptor(), mSession->Events(), 0 } : pollfd { -1, 0, 0 };
-        Uninterrupted([&] { return ::poll(waits.data(), waits.size(), -1); });
+        const auto limit = rests ? static_cast<int>(mClock.Real(DesktopRest).count()) : -1;
+        if (Uninterrupted([&] { return ::poll(waits.data(), waits.size(), limit); }) == 0) {
+            rests = false;
+            continue;
+        }
+        rests = waits[Waits::Desktop].revents != 0;
         const bool isTick = waits[Waits::Ticks].revents != 0;
         if (waits[Waits::Ending].revents != 0) {
             break;

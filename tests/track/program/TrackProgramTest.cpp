@@ -205,6 +205,7 @@ TEST_F(TrackProgramTest, Track_BadArguments_AreRefused)
 TEST_F(TrackProgramTest, Work_NoRecorderRuns_IsSaid)
 {
     EXPECT_EQ(Json({ "track", "status" }), (nlohmann::json { { "running", false } }));
+    EXPECT_EQ(Json({ "track", "forget", "--last", "30m" }), (nlohmann::json { { "forgotten", 0 }, { "kept", 0 } }));
     EXPECT_FALSE(mDesktop.Folder().Has("profile")) << "asking makes nothing";
     for (const auto* word : { "pause", "resume", "project" }) {
         const auto result = mDesktop.Run({ "track", word });
