@@ -74,13 +74,18 @@ function(tempodial_module name)
     install(TARGETS ${name} DESTINATION lib/tempodial)
 endfunction()
 
-# tempodial_desktop(DESKTOP NAME FOLDER SOURCE [LINK TARGET...]): the module of the recorder that knows a desktop. What
-# is in FOLDER besides SOURCE is a library of its own, which tests can have, too.
-function(tempodial_desktop desktop name folder source)
-    cmake_parse_arguments(PARSE_ARGV 4 arg "" "" "LINK")
-    tempodial_folder(${name} ${folder} EXCEPT ".*Module\\.cpp" LINK base ${arg_LINK})
-    set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+# tempodial_track_folder(FOLDER [LINK TARGET...]): what modules of the recorder are made of, a folder of src/track, as a
+# library that tests can have, too.
+function(tempodial_track_folder folder)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINK")
+    tempodial_folder(track_${folder} src/track/${folder} EXCEPT ".*Module\\.cpp" LINK base ${arg_LINK})
+    set_target_properties(track_${folder} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# tempodial_track_module(NAME SOURCE [LINK TARGET...]): a module of the recorder, of a source in src/track.
+function(tempodial_track_module name source)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LINK")
     # Of the base it has what it needs itself, since a module's code may lie anywhere in memory.
-    tempodial_module(tempodial-track-${desktop} ${folder}/${source} src/base/Utf8.cpp LINK ${name})
-    add_dependencies(track tempodial-track-${desktop})
+    tempodial_module(tempodial-track-${name} src/track/${source} src/base/Utf8.cpp LINK ${arg_LINK})
+    add_dependencies(track tempodial-track-${name})
 endfunction()

@@ -1,6 +1,7 @@
 #include "track/wayland/WlrDesktop.h"
 
 #include "support/DesktopTests.h"
+#include "support/WaitingFor.h"
 #include "track/wayland/Compositor.h"
 
 #include <gmock/gmock.h>
@@ -8,7 +9,6 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <functional>
 #include <thread>
 
 namespace tempodial {
@@ -35,27 +35,6 @@ protected:
         EXPECT_FALSE(WlrDesktop::Open({}, sight));
         EXPECT_FALSE(sight.window || sight.title || sight.idle || sight.lock);
         return sight.why;
-    }
-    /// Waits, for events alone, until something is true.
-    static bool Comes(DesktopSource& desktop, const std::function<bool()>& isThere)
-    {
-        while (!isThere()) {
-            pollfd waited { desktop.Descriptor(), desktop.Events(), 0 };
-            if (::poll(&waited, 1, 5000) != 1 || !desktop.Dispatch()) {
-                return isThere();
-            }
-        }
-        return true;
-    }
-    static bool ComesInFront(DesktopSource& desktop, const std::string& program, const std::string& title)
-    {
-        const bool isThere = Comes(desktop, [&] {
-            const auto window = desktop.Window();
-            return window && window->program == program && window->title == title;
-        });
-        const auto window = desktop.Window();
-        EXPECT_TRUE(isThere) << (window ? window->program + ": " + window->title : "nothing");
-        return isThere;
     }
 };
 

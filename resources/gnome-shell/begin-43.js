@@ -1,0 +1,2 @@
+const {Gio, GLib} = imports.gi;
+

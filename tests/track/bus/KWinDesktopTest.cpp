@@ -1,0 +1,76 @@
+#include "track/bus/KWinDesktop.h"
+
+#include "support/DesktopTests.h"
+#include "support/WaitingFor.h"
+#include "track/bus/DesktopSession.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace tempodial {
+
+namespace {
+
+using testing::HasSubstr;
+
+constexpr std::chrono::milliseconds KWinNotice { 300 };
+
+class KWinDesktopTest : public testing::Test
+{
+protected:
+    static std::unique_ptr<DesktopSource> Opened()
+    {
+        DesktopSight sight;
+        auto desktop = KWinDesktop::Open({ KWinNotice }, sight);
+        EXPECT_TRUE(desktop) << sight.why;
+        return desktop;
+    }
+    static std::string Refusal()
+    {
+        DesktopSight sight;
+        EXPECT_FALSE(KWinDesktop::Open({}, sight));
+        EXPECT_FALSE(sight.window || sight.title || sight.idle || sight.lock);
+        return sight.why;
+    }
+};
+
+}
+
+TEST_F(KWinDesktopTest, Window_InFront_IsToldWithItsWords)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    DesktopSession session(DesktopSession::Kind::KWin);
+    const auto desktop = Opened();
+    const auto sight = desktop->Sight();
+    EXPECT_TRUE(sight.window && sight.title && sight.idle);
+    EXPECT_EQ(sight.why, "");
+    EXPECT_FALSE(desktop->Window());
+
+    const auto first = session.Show("Plan \u2013 a");
+    ASSERT_TRUE(ComesInFront(*desktop, DesktopSession::Terminal, "Plan \u2013 a"));
+    EXPECT_GT(desktop->Window()->process, 0);
+    session.Retitle("Map");
+    ASSERT_TRUE(ComesInFront(*desktop, DesktopSession::Terminal, "Map"));
+    const auto later = Opened();
+    EXPECT_TRUE(ComesInFront(*later, DesktopSession::Terminal, "Map"));
+    first->End();
+    EXPECT_TRUE(Comes(*desktop, [&] { return !desktop->Window(); }));
+
+    EXPECT_TRUE(Comes(*desktop, [&] { return desktop->Idle()->count() > 0; }));
+    session.End();
+    while (desktop->Dispatch()) {
+        pollfd waited { desktop->Descriptor(), desktop->Events(), 0 };
+        ASSERT_EQ(::poll(&waited, 1, 10000), 1);
+    }
+}
+
+TEST_F(KWinDesktopTest, Open_OtherSession_SaysWhy)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    const DesktopSession session(DesktopSession::Kind::None);
+    EXPECT_THAT(Refusal(), HasSubstr("on the session's message bus"));
+}
+
+}
