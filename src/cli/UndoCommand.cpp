@@ -42,14 +42,24 @@ public:
         Reply reply;
         reply.document = { { "step", undone.step.number }, { "command", undone.step.command },
             { "restored", undone.items.restored }, { "kept", undone.items.kept } };
-        reply.summary = (mIsPreview ? "Would take back step " : "Taken back: step ")
-            + std::to_string(undone.step.number) + ", " + IsolatedLine(undone.step.command) + "\n"
-            + Count(undone.items.restored) + " restored"
-            + (undone.items.kept == 0 ? "" : ", " + Count(undone.items.kept) + " changed since and kept") + "\n";
+        reply.summary = Summary(undone);
         return reply;
     }
 
 private:
+    std::string Summary(const UndoneStep& undone) const
+    {
+        const auto& [step, items] = undone;
+        const auto named = std::to_string(step.number) + ", " + IsolatedLine(step.command) + "\n";
+        const auto kept = items.kept == 0 ? "" : Count(items.kept) + " changed since and kept";
+        if (items.restored == 0 && items.kept > 0 && !step.rulesAfter) {
+            return (mIsPreview ? "Nothing would go back of step " : "Nothing went back of step ") + named + kept
+                + "; \"tempodial undo N\" takes another step back\n";
+        }
+        return (mIsPreview ? "Would take back step " : "Taken back: step ") + named + Count(items.restored)
+            + " restored" + (kept.empty() ? "" : ", " + kept) + "\n";
+    }
+
     static std::string Count(std::int64_t activities)
     {
         return std::to_string(activities) + (activities == 1 ? " activity" : " activities");

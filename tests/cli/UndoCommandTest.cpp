@@ -70,6 +70,19 @@ TEST_F(UndoCommandTest, Undo_ChangedSince_IsKeptAndCounted)
         Log(), ElementsAre(testing::Not(HasSubstr("[A]")), HasSubstr("[Other]"), HasSubstr("[A] Microsoft Word, x")));
 }
 
+TEST_F(UndoCommandTest, Undo_AllChangedSince_SaysSoAndLeavesTheStep)
+{
+    Run({ "edit", "@3", "--description", "x" });
+    Run({ "edit", "@3", "--description", "y" });
+    const std::string said = " of step 1, edit @3 --description x\n"
+                             "1 activity changed since and kept; \"tempodial undo N\" takes another step back\n";
+    EXPECT_EQ(Run({ "undo", "1", "--preview" }).out, "Nothing would go back" + said);
+    EXPECT_EQ(Run({ "undo", "1" }).out, "Nothing went back" + said);
+    EXPECT_EQ(Steps().size(), 2U);
+    Json({ "undo" });
+    EXPECT_EQ(Json({ "undo" }).at("restored"), 1);
+}
+
 TEST_F(UndoCommandTest, Undo_ImportSince_Keeps)
 {
     Run({ "assign", "A", "@3" });
