@@ -31,7 +31,7 @@ RuleTrial::Result RuleTrial::TryOne(const RuledProject& project, const FoldedTex
 bool RuleTrial::IsMatch(const RuledProject& project, const FoldedText& subject, const FoldedText& people)
 {
     return (project.subject.TermIn(subject) != nullptr && project.notSubject.TermIn(subject) == nullptr)
-        || project.people.TermIn(people) != nullptr;
+        || (!people.IsEmpty() && project.people.TermIn(people) != nullptr);
 }
 
 std::vector<RuleTrial::Result> RuleTrial::Try(const std::string& subject, const std::string& people) const

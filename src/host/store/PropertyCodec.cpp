@@ -33,7 +33,6 @@ constexpr auto NeedsEscape = [](char character) {
     return character == '"' || character == '\\' || static_cast<unsigned char>(character) < 0x20;
 };
 
-constexpr auto EndsPlainText = [](char character) { return character == '"' || character == '\\'; };
 constexpr auto IsBlank
     = [](char character) { return character == ' ' || character == '\t' || character == '\r' || character == '\n'; };
 
@@ -146,8 +145,9 @@ private:
 
     void SkipBlanks()
     {
-        const auto* const other = std::find_if_not(mRest.begin(), mRest.end(), IsBlank);
-        mRest.remove_prefix(static_cast<std::size_t>(other - mRest.begin()));
+        while (!mRest.empty() && IsBlank(mRest.front())) {
+            mRest.remove_prefix(1);
+        }
     }
     bool Take(char character)
     {
@@ -253,12 +253,14 @@ private:
     /// escape.
     bool TakePlain()
     {
-        const auto* const special = std::find_if(mRest.begin(), mRest.end(), EndsPlainText);
-        if (special == mRest.end()) {
+        const auto quote = mRest.find('"');
+        if (quote == std::string_view::npos) {
             Fail();
         }
-        mRest.remove_prefix(static_cast<std::size_t>(special - mRest.begin()) + 1);
-        return *special == '"';
+        // Two searches for one sign each are several times quicker than one for both.
+        const auto escape = mRest.substr(0, quote).find('\\');
+        mRest.remove_prefix(std::min(quote, escape) + 1);
+        return escape == std::string_view::npos;
     }
     void Escape(std::string& text)
     {

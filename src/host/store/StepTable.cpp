@@ -21,9 +21,10 @@ const std::string Restorables
       "(SELECT revision FROM item WHERE item.id = step_item.item) AND (step_item.folder IS NULL "
       "OR EXISTS (SELECT 1 FROM folder WHERE folder.id = step_item.folder))";
 
-/// Notes the state of a step's items as that in which it leaves them.
-const std::string LeaveItems = "UPDATE step_item SET left_revision = (SELECT revision FROM item WHERE item.id = "
-                               "step_item.item) WHERE step = ?";
+const std::string PresentRevision = "(SELECT revision FROM item WHERE item.id = step_item.item)";
+/// Notes the state of a step's items as that in which it leaves them, where it isn't the one that was expected.
+const std::string LeaveItems = "UPDATE step_item SET left_revision = " + PresentRevision
+    + " WHERE step = ? AND left_revision IS NOT " + PresentRevision;
 /// Without an item the values of the other side are nothing, as those of an item are that there wasn't before.
 const std::string DropUnchangedItems = "DELETE FROM step_item WHERE step = ? AND (" + ItemColumns + ") IS (SELECT "
     + ItemColumns + " FROM item WHERE item.id = step_item.item)";
@@ -97,9 +98,10 @@ void StepTable::Begin(const Step& step)
 
 void StepTable::Keep(std::int64_t step, std::int64_t item)
 {
+    // Most items change once, and most of them stay, so the state in which the step leaves them is known already.
     static const std::string sql = "INSERT OR IGNORE INTO step_item (step, item, " + ItemColumns
-        + ", revision) SELECT ?, wanted.column1, " + ItemColumns
-        + ", revision FROM (VALUES (?)) AS wanted LEFT JOIN item ON item.id = wanted.column1";
+        + ", revision, left_revision) SELECT ?, wanted.column1, " + ItemColumns
+        + ", revision, ifnull(revision + 1, 0) FROM (VALUES (?)) AS wanted LEFT JOIN item ON item.id = wanted.column1";
     Query(mDatabase, sql).Bind(step).Bind(item).Run();
 }
 
