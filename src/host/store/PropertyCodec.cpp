@@ -129,13 +129,14 @@ private:
     /// The place of a name, looked for from one place on and then before it; as many as there are for none.
     static std::size_t PlaceOf(std::string_view name, std::span<const WantedText> wanted, std::size_t from)
     {
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
-            const auto place = (from + i) % wanted.size();
-            if (wanted[place].name == name) {
-                return place;
-            }
+        const auto isNamed = [name](const WantedText& text) { return text.name == name; };
+        const auto begin = wanted.begin() + static_cast<std::ptrdiff_t>(from);
+        auto found = std::find_if(begin, wanted.end(), isNamed);
+        if (found == wanted.end()) {
+            found = std::find_if(wanted.begin(), begin, isNamed);
+            found = found == begin ? wanted.end() : found;
         }
-        return wanted.size();
+        return static_cast<std::size_t>(found - wanted.begin());
     }
 
     [[noreturn]] static void Fail()
