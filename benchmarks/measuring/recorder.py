@@ -41,8 +41,8 @@ def Measure(programs):
 
 def _StartServer(started):
     reading, writing = os.pipe()
-    started.append(subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "800x600x24", "-nolisten",
-                                     "tcp"], pass_fds=[writing], stderr=subprocess.DEVNULL))
+    started.append(subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "800x600x24", "-noreset",
+                                     "-nolisten", "tcp"], pass_fds=[writing], stderr=subprocess.DEVNULL))
     os.close(writing)
     with os.fdopen(reading) as number:
         return ":" + number.readline().strip()
