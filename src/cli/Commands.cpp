@@ -47,6 +47,8 @@ std::vector<std::unique_ptr<Command>> AllCommands()
         MakeDemoCommand(),
         MakeTraceCommand(),
         MakeDoctorCommand(),
+        MakeSettingsCommand(),
+        MakeSettingsSetCommand(),
         MakeRegistryCommand(),
         MakeCompletionCommand(),
     };

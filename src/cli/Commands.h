@@ -51,6 +51,8 @@ std::unique_ptr<Command> MakeWhyCommand();
 std::unique_ptr<Command> MakeDemoCommand();
 std::unique_ptr<Command> MakeTraceCommand();
 std::unique_ptr<Command> MakeDoctorCommand();
+std::unique_ptr<Command> MakeSettingsCommand();
+std::unique_ptr<Command> MakeSettingsSetCommand();
 std::unique_ptr<Command> MakeRegistryCommand();
 std::unique_ptr<Command> MakeCompletionCommand();
 

@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "host/files/PathOperations.h"
 #include "session/ProductFacts.h"
+#include "session/ProfileSettings.h"
 #include "session/ReachedFile.h"
 #include "session/TrackerDay.h"
 
@@ -11,10 +12,37 @@
 
 namespace tempodial {
 
-KeepingFileSystem::KeepingFileSystem(std::string temporaryFolder, Ref<Mailbox> mailbox)
+namespace {
+
+/// What stands in the names of files that go by their age.
+constexpr auto OfTracker = "tracker_";
+
+}
+
+KeepingFileSystem::KeepingFileSystem(
+    std::string temporaryFolder, Ref<Mailbox> mailbox, std::optional<std::int32_t> retention)
     : HostFileSystem(std::move(temporaryFolder))
     , mMailbox(std::move(mailbox))
+    , mDaysYounger(retention.value_or(LongestRetention) - UsualRetention)
 {
+}
+
+Folder KeepingFileSystem::GetFolder(const std::string& path)
+{
+    auto folder = HostFileSystem::GetFolder(path);
+    if (mDaysYounger == 0) {
+        return folder;
+    }
+    for (auto& file : folder.files) {
+        const auto dayKey = TrackerDay(file.name);
+        // What no import has reached to its end doesn't go before its time.
+        const bool isMeant
+            = mDaysYounger > 0 || dayKey.empty() || ReachedFile::Of(*this, mMailbox, file.path, dayKey).IsWhole();
+        if (file.name.find(OfTracker) != std::string::npos && isMeant) {
+            file.dateCreated = file.dateCreated.AddDays(mDaysYounger);
+        }
+    }
+    return folder;
 }
 
 void KeepingFileSystem::DeleteFile(const std::string& path, bool force)

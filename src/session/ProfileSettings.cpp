@@ -9,7 +9,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <string_view>
+#include <system_error>
 
 namespace tempodial {
 
@@ -49,6 +51,24 @@ int FirstDayOfWeek(const ProfileOptions& options)
 std::string AuthorOf(const Profile& profile)
 {
     return SettingIn(*profile.Registry(), AuthorValue);
+}
+
+std::string SupportAddressOf(const Profile& profile)
+{
+    return SettingIn(*profile.Registry(), SupportAddressValue);
+}
+
+std::optional<std::int32_t> RetentionOf(const Profile& profile)
+{
+    const auto setting = SettingIn(*profile.Registry(), RetentionValue);
+    if (EqualIgnoringCase(setting, RetentionForever)) {
+        return std::nullopt;
+    }
+    std::int32_t days = 0;
+    const auto* const end = setting.data() + setting.size();
+    const auto [stop, problem] = std::from_chars(setting.data(), end, days);
+    const bool isNumber = problem == std::errc() && stop == end && days >= 1 && days <= LongestRetention;
+    return isNumber ? days : UsualRetention;
 }
 
 }

@@ -3,6 +3,7 @@
 #include "base/Failure.h"
 #include "session/OpenProfile.h"
 #include "session/OwnAddIn.h"
+#include "session/ProfileSettings.h"
 
 #include <utility>
 
@@ -10,8 +11,8 @@ namespace tempodial {
 
 Session::Session(const ProfileOptions& options)
     : mProfile(OpenProfile(options))
-    , mFiles(MakeRef<KeepingFileSystem>(
-          mProfile.Surroundings().fileSystem->GetSpecialFolder(SpecialFolder::Temporary), mProfile.Mailbox()))
+    , mFiles(MakeRef<KeepingFileSystem>(mProfile.Surroundings().fileSystem->GetSpecialFolder(SpecialFolder::Temporary),
+          mProfile.Mailbox(), RetentionOf(mProfile)))
 {
     mFiles->mBeforeChange = mProfile.Registry()->mBeforeChange;
 }
@@ -29,8 +30,9 @@ Platform Session::Surroundings(Imports imports) const
 
 void Session::Start(Platform surroundings, const HostSettings& settings)
 {
-    const auto addIn = settings.load ? settings.load()
-                                     : Ref<LoadedAddIn>(MakeRef<OwnAddIn>(MakeRef<Platform>(std::move(surroundings))));
+    const auto addIn = settings.load
+        ? settings.load()
+        : Ref<LoadedAddIn>(MakeRef<OwnAddIn>(MakeRef<Platform>(std::move(surroundings)), SupportAddressOf(mProfile)));
     const auto application = MakeRef<HostApplication>(Mailbox(), settings.version);
     const auto folder
         = settings.folder ? settings.folder : Mailbox()->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox);

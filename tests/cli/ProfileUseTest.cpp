@@ -33,7 +33,7 @@ class ProfileWriterTest : public ProfileUseTest
 std::string NameOf(const testing::TestParamInfo<std::vector<std::string>>& info)
 {
     std::string name = info.param.front();
-    if (info.param.size() > 1 && (name == "projects" || name == "registry")) {
+    if (info.param.size() > 1 && (name == "projects" || name == "registry" || name == "settings")) {
         name += info.param[1];
     }
     std::erase(name, '-');

@@ -1,6 +1,7 @@
 #include "session/KeepingFileSystem.h"
 
 #include "host/store/StoreImportJournal.h"
+#include "session/ProfileSettings.h"
 #include "support/FailureNumber.h"
 #include "support/SlotLines.h"
 #include "support/TempFolder.h"
@@ -38,7 +39,7 @@ protected:
 
     TempFolder mFolder { TempFolder::InMemory() };
     Ref<Mailbox> mMailbox = OpenTestMailbox();
-    KeepingFileSystem mFiles { mFolder.Path(), mMailbox };
+    KeepingFileSystem mFiles { mFolder.Path(), mMailbox, UsualRetention };
 };
 
 TEST_F(KeepingFileSystemTest, DeleteFile_LineNobodyReached_KeepsTheFile)
@@ -89,6 +90,28 @@ TEST_F(KeepingFileSystemTest, DeleteFile_ByForceOrAnotherFile_DeletesIt)
     mFiles.DeleteFile(mFolder.Write("tracker_granules(done)20061010.out", "x"), false);
     EXPECT_TRUE(std::filesystem::is_empty(mFolder.Path()));
     EXPECT_EQ(FailureNumber([&] { mFiles.DeleteFile(mFolder.Path(Name), false); }), 53);
+}
+
+TEST_F(KeepingFileSystemTest, GetFolder_OtherRetention_FilesOfTheTrackerLookOlderOrYounger)
+{
+    Reach({ "a" });
+    Write({ "a" });
+    mFolder.Write("tracker_granules(done)20061009.out", "");
+    mFolder.Write("tracker_granules20061008.out", TrackerText({ "unread" }));
+    mFolder.Write("WorkLogTrace1.out", "");
+    const auto daysYounger = [&](std::optional<std::int32_t> retention) {
+        const auto usual = mFiles.GetFolder(mFolder.Path()).files;
+        const auto files = KeepingFileSystem(mFolder.Path(), mMailbox, retention).GetFolder(mFolder.Path()).files;
+        std::vector<std::int32_t> days;
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            days.push_back(DaysBetween(usual[i].dateCreated, files[i].dateCreated));
+        }
+        return days;
+    };
+    EXPECT_THAT(daysYounger(UsualRetention), ElementsAre(0, 0, 0, 0));
+    EXPECT_THAT(daysYounger(30), ElementsAre(0, 8, 8, 8));
+    EXPECT_THAT(daysYounger(std::nullopt), ElementsAre(0, 36478, 36478, 36478));
+    EXPECT_THAT(daysYounger(20), ElementsAre(0, -2, 0, -2)) << "what nobody has reached isn't older";
 }
 
 }
