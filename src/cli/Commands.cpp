@@ -49,6 +49,8 @@ std::vector<std::unique_ptr<Command>> AllCommands()
         MakeDoctorCommand(),
         MakeSettingsCommand(),
         MakeSettingsSetCommand(),
+        MakeBackupCommand(),
+        MakeRestoreCommand(),
         MakeRegistryCommand(),
         MakeCompletionCommand(),
     };

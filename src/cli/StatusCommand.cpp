@@ -2,7 +2,6 @@
 #include "cli/Commands.h"
 #include "cli/TextTable.h"
 #include "host/files/FolderDescriptor.h"
-#include "platform/objectmodel/Items.h"
 #include "review/ActivityReader.h"
 #include "review/TimeText.h"
 #include "session/LastSync.h"
@@ -93,13 +92,10 @@ private:
         Status status { .profile = profile.Path(),
             .bytes
             = BytesIn(profile.Path()) + BytesIn(profile.DataFolder()) + BytesIn(DataPath(profile, KeptFolderName)),
+            .activities = CountActivities(profile),
             .tracker = TrackerFiles::Of(profile),
             .lastSync = LastSync::Of(profile),
             .timer = SyncTimer::EnabledAt(profile.Clock()->Now(), *profile.Surroundings().fileSystem) };
-        if (const auto workLog = WorkLogOf(profile)) {
-            const auto own = "[MessageClass] = \"" + std::string(ActivityClass) + "\"";
-            status.activities = workLog->Items()->Restrict(own)->Count();
-        }
         const auto today = profile.Clock()->Now().Day();
         for (const auto& activity : ActivitiesStartingIn(profile, { today, today })) {
             status.minutes += activity.duration;

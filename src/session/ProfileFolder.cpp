@@ -35,17 +35,6 @@ void Make(const NativePath& folder)
     }
 }
 
-FolderDescriptor Opened(const NativePath& folder)
-{
-    Make(folder);
-    try {
-        return FolderDescriptor(folder);
-    } catch (const SystemFailure& failure) {
-        throw ProfileError("can't open the profile folder " + folder.Text() + ": " + failure.Reason()
-            + ": name another with --profile, or see to its permissions");
-    }
-}
-
 /// What the message calls the process that holds the folder.
 std::string NameOf(const std::optional<FolderDescriptor::LockHolder>& holder)
 {
@@ -56,19 +45,39 @@ std::string NameOf(const std::optional<FolderDescriptor::LockHolder>& holder)
 
 ProfileFolder::ProfileFolder(const std::string& path, std::chrono::seconds wait)
     : mPath(ProfilePlace::UsablePath(path))
-    , mFolder(Opened(NativePath::Exactly(mPath)))
 {
+    Open();
     Lock(wait);
     CloseToOthers();
 }
 
-void ProfileFolder::Lock(std::chrono::seconds wait) const
+void ProfileFolder::Open()
+{
+    const auto folder = NativePath::Exactly(mPath);
+    Make(folder);
+    try {
+        mFolder.emplace(folder);
+    } catch (const SystemFailure& failure) {
+        throw ProfileError("can't open the profile folder " + folder.Text() + ": " + failure.Reason()
+            + ": name another with --profile, or see to its permissions");
+    }
+}
+
+void ProfileFolder::Lock(std::chrono::seconds wait)
 {
     const auto end = std::chrono::steady_clock::now() + wait;
     try {
-        while (!mFolder.TryLock()) {
+        while (true) {
+            if (mFolder->TryLock()) {
+                if (mFolder->IsAt(NativePath::Exactly(mPath))) {
+                    return;
+                }
+                // Another folder has taken its place meanwhile, from a backup.
+                Open();
+                continue;
+            }
             if (std::chrono::steady_clock::now() >= end) {
-                throw ProfileInUse("the profile " + mPath + " is in use by " + NameOf(mFolder.Holder())
+                throw ProfileInUse("the profile " + mPath + " is in use by " + NameOf(mFolder->Holder())
                     + ": wait until that has ended, or name another with --profile");
             }
             std::this_thread::sleep_for(BetweenTrials);
@@ -82,8 +91,8 @@ void ProfileFolder::Lock(std::chrono::seconds wait) const
 void ProfileFolder::CloseToOthers() const
 {
     // A folder that holds other things too, such as one named by mistake, keeps its mode; our files are closed anyway.
-    if (mFolder.IsOpenToOthers() && (mFolder.IsEmpty() || ProfilePlace::HasProfileIn(mPath))) {
-        mFolder.CloseToOthers();
+    if (mFolder->IsOpenToOthers() && (mFolder->IsEmpty() || ProfilePlace::HasProfileIn(mPath))) {
+        mFolder->CloseToOthers();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "host/files/FolderDescriptor.h"
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 namespace tempodial {
@@ -18,18 +19,19 @@ public:
     /// The absolute path.
     const std::string& Path() const { return mPath; }
     /// True when other users may put files into it.
-    bool IsWritableByOthers() const { return mFolder.IsWritableByOthers(); }
+    bool IsWritableByOthers() const { return mFolder->IsWritableByOthers(); }
 
     /// The folder that is used when none is named: TEMPODIAL_PROFILE, else "tempodial" in the user's data folder.
     /// Fails with `ProfileError` when the environment names no home.
     static std::string Default();
 
 private:
-    void Lock(std::chrono::seconds wait) const;
+    void Open();
+    void Lock(std::chrono::seconds wait);
     void CloseToOthers() const;
 
     std::string mPath;
-    FolderDescriptor mFolder;
+    std::optional<FolderDescriptor> mFolder;
 };
 
 }

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "platform/objectmodel/Folders.h"
+#include "platform/objectmodel/Items.h"
 #include "session/ProductFacts.h"
 
 namespace tempodial {
@@ -46,6 +47,13 @@ Ref<MAPIFolder> WorkLogOf(const Profile& profile)
 {
     const auto id = profile.Registry()->Get(Hive::CurrentUser, ProductKey, WorkLogIdValue);
     return FindWorkLog(profile.Mailbox()->NameSpace(), id.ToText());
+}
+
+std::int32_t CountActivities(const Profile& profile)
+{
+    const auto workLog = WorkLogOf(profile);
+    const auto own = "[MessageClass] = \"" + std::string(ActivityClass) + "\"";
+    return workLog ? workLog->Items()->Restrict(own)->Count() : 0;
 }
 
 }

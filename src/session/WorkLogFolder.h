@@ -4,6 +4,7 @@
 #include "platform/objectmodel/NameSpace.h"
 #include "session/Profile.h"
 
+#include <cstdint>
 #include <string>
 
 namespace tempodial {
@@ -14,5 +15,7 @@ Ref<MAPIFolder> FindWorkLog(const Ref<NameSpace>& session, const std::string& en
 
 /// The same of a profile.
 Ref<MAPIFolder> WorkLogOf(const Profile& profile);
+/// How many activities are in it.
+std::int32_t CountActivities(const Profile& profile);
 
 }

@@ -1,9 +1,11 @@
 #include "host/files/FolderDescriptor.h"
 
 #include "host/files/FileDescriptor.h"
+#include "host/files/PathOperations.h"
 #include "host/files/SystemFailure.h"
 #include "host/files/Uninterrupted.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <dirent.h>
@@ -39,6 +41,12 @@ Listing ListingOf(int folder)
     return listing;
 }
 
+/// True for the names of a folder itself and of the one above, which every folder has.
+bool IsItselfOrAbove(std::string_view name)
+{
+    return name == "." || name == "..";
+}
+
 /// What the system tells in one of its files.
 std::string SystemText(const std::string& path)
 {
@@ -46,7 +54,7 @@ std::string SystemText(const std::string& path)
 }
 
 /// True for a place as the list of locks has it, "kind:disk:number" with the first two in hexadecimal digits.
-bool IsAt(const std::string& place, const struct stat& status)
+bool IsPlaceOf(const std::string& place, const struct stat& status)
 {
     std::istringstream parts(place);
     unsigned kind = 0;
@@ -95,15 +103,39 @@ std::vector<FolderDescriptor::Entry> FolderDescriptor::Files() const
     return files;
 }
 
+std::vector<FolderDescriptor::Entry> FolderDescriptor::Everything() const
+{
+    const auto listing = ListingOf(mNumber);
+    std::vector<Entry> entries;
+    while (const auto* entry = ::readdir(listing.get())) {
+        if (IsItselfOrAbove(entry->d_name)) {
+            continue;
+        }
+        if (const auto status = FileStatus::Look(mNumber, entry->d_name, AT_SYMLINK_NOFOLLOW)) {
+            entries.push_back({ entry->d_name, *status });
+        }
+    }
+    std::sort(
+        entries.begin(), entries.end(), [](const Entry& one, const Entry& other) { return one.name < other.name; });
+    return entries;
+}
+
 bool FolderDescriptor::IsEmpty() const
 {
     const auto listing = ListingOf(mNumber);
     while (const auto* entry = ::readdir(listing.get())) {
-        if (const std::string_view name = entry->d_name; name != "." && name != "..") {
+        if (!IsItselfOrAbove(entry->d_name)) {
             return false;
         }
     }
     return true;
+}
+
+bool FolderDescriptor::IsAt(const NativePath& path) const
+{
+    const auto own = FileStatus::Look(mNumber, "", AT_EMPTY_PATH);
+    const auto there = StatusAt(path, Links::Followed);
+    return own && there && own->IsSameFile(*there);
 }
 
 void FolderDescriptor::Sync() const
@@ -144,7 +176,7 @@ std::optional<FolderDescriptor::LockHolder> FolderDescriptor::Holder() const
             std::string process;
             std::string place;
             words >> number >> kind >> duty >> access >> process >> place;
-            if (kind == "FLOCK" && IsAt(place, status)) {
+            if (kind == "FLOCK" && IsPlaceOf(place, status)) {
                 return LockHolder { ProgramOf(process), process };
             }
         }

@@ -13,7 +13,7 @@ namespace tempodial {
 class FolderDescriptor
 {
 public:
-    /// A regular file in a folder.
+    /// Something in a folder.
     struct Entry
     {
         std::string name;
@@ -35,8 +35,12 @@ public:
 
     /// The regular files in it, in no order.
     std::vector<Entry> Files() const;
+    /// All that stands in it, in the order of the names; of links what they are, not what they lead to.
+    std::vector<Entry> Everything() const;
     /// True when nothing stands in it.
     bool IsEmpty() const;
+    /// True when it is what stands at a path.
+    bool IsAt(const NativePath& path) const;
     /// Makes the names in it safe on disk; fails when the disk refuses (57).
     void Sync() const;
     /// Locks it against other processes until it is closed; false when another holds it, and fails where there are no

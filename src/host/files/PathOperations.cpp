@@ -70,6 +70,31 @@ void RenameToAbsent(const NativePath& source, const NativePath& target)
     Rename(source, target);
 }
 
+void TakePlaceOf(const NativePath& fresh, const NativePath& place, const NativePath& former)
+{
+    RenameToAbsent(fresh, former);
+    if (::renameat2(AT_FDCWD, former.CText(), AT_FDCWD, place.CText(), RENAME_EXCHANGE) == 0) {
+        return;
+    }
+    const int error = errno;
+    Rename(former, fresh);
+    if (error != EINVAL && error != ENOSYS) {
+        throw place.FailureOf(error);
+    }
+    // A file system without that call.
+    RenameToAbsent(place, former);
+    Rename(fresh, place);
+}
+
+void RemoveFolder(const NativePath& path)
+{
+    std::error_code error;
+    fs::remove_all(path.Text(), error);
+    if (error) {
+        throw SystemFailure(error.value());
+    }
+}
+
 void Remove(const NativePath& path)
 {
     if (::unlink(path.CText()) != 0) {

@@ -24,6 +24,11 @@ NativePath BehindLinks(NativePath path);
 void Rename(const NativePath& source, const NativePath& target);
 /// Gives a file a name that nothing has; fails (58) when something does.
 void RenameToAbsent(const NativePath& source, const NativePath& target);
+/// Puts a folder in the place of another, which gets a name that nothing has; at each moment there is one of both in
+/// the place, where the file system can do that.
+void TakePlaceOf(const NativePath& fresh, const NativePath& place, const NativePath& former);
+/// Removes a folder with all that is in it, links alone and not what they lead to; does nothing when there is none.
+void RemoveFolder(const NativePath& path);
 /// Removes a file or a link.
 void Remove(const NativePath& path);
 /// Removes a file or a link, if it is there and can be.
