@@ -49,6 +49,7 @@ std::vector<std::unique_ptr<Command>> AllCommands()
         MakeDoctorCommand(),
         MakeSettingsCommand(),
         MakeSettingsSetCommand(),
+        MakeForgetCommand(),
         MakeBackupCommand(),
         MakeRestoreCommand(),
         MakeRegistryCommand(),

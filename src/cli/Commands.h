@@ -53,6 +53,7 @@ std::unique_ptr<Command> MakeTraceCommand();
 std::unique_ptr<Command> MakeDoctorCommand();
 std::unique_ptr<Command> MakeSettingsCommand();
 std::unique_ptr<Command> MakeSettingsSetCommand();
+std::unique_ptr<Command> MakeForgetCommand();
 std::unique_ptr<Command> MakeBackupCommand();
 std::unique_ptr<Command> MakeRestoreCommand();
 std::unique_ptr<Command> MakeRegistryCommand();

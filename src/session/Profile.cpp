@@ -11,6 +11,7 @@
 #include "host/system/HostShell.h"
 #include "host/system/IcuLocaleFormats.h"
 #include "portable/InstalledRegistry.h"
+#include "session/Forgetting.h"
 #include "session/MailboxEventPump.h"
 #include "session/ProfileError.h"
 #include "session/ProfilePlace.h"
@@ -41,6 +42,7 @@ Profile::Profile(const std::string& folder, const std::string& locale, std::opti
     mPlatform.importJournal = mJournal;
     ReplacementFile::DiscardLeftovers(NativePath::Exactly(DataFolder()));
     Steps(*this).Recover();
+    Forgetting(*this).Recover();
 }
 
 Profile Profile::ForReading(

@@ -1,6 +1,8 @@
 #include "session/ProjectRecords.h"
 
 #include "base/Text.h"
+#include "engine/core/ProjectFacts.h"
+#include "session/ProductFacts.h"
 
 #include <algorithm>
 #include <utility>
@@ -96,6 +98,12 @@ void ProjectRecords::TakeBack(const ProjectRecords& before, const ProjectRecords
         return one.precedence == other.precedence ? CompareIgnoringCase(one.name, other.name) < 0
                                                   : one.precedence < other.precedence;
     });
+}
+
+void ProjectRecords::WriteTo(TomlRegistry& registry) const
+{
+    registry.Write(Hive::CurrentUser, ProductKey, ProjectListValue(), Names());
+    registry.Write(Hive::CurrentUser, ProductKey, ProjectsValue, Text());
 }
 
 const ProjectRecords::Record* ProjectRecords::Find(const std::string& name) const

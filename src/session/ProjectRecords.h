@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Ref.h"
+#include "host/system/TomlRegistry.h"
 #include "platform/system/XmlDocument.h"
 
 #include <string>
@@ -33,6 +34,12 @@ public:
     std::string Names() const;
     /// Takes a change back; a project that was changed again since stays as it is.
     void TakeBack(const ProjectRecords& before, const ProjectRecords& after);
+    /// True when there is a project of that name, whatever the case of its letters.
+    bool Has(const std::string& name) const { return Find(name) != nullptr; }
+    /// Takes a project away, if it is there.
+    void Remove(const std::string& name) { Set(name, nullptr); }
+    /// Writes all into the registry. Fails as that does.
+    void WriteTo(TomlRegistry& registry) const;
 
     /// The records of such a text that the add-in reads, in their order: it stops at an empty one, at one called
     /// Unknown, and at one of the same name as that before it.

@@ -1,6 +1,5 @@
 #include "session/Steps.h"
 
-#include "engine/core/ProjectFacts.h"
 #include "host/store/ImportStep.h"
 #include "session/ProductFacts.h"
 #include "session/Profile.h"
@@ -71,7 +70,7 @@ void Steps::Recover()
         return;
     }
     if (Rules() == step->rulesBefore) {
-        WriteRules({ *step->rulesAfter, mProfile.Surroundings().xml });
+        ProjectRecords(*step->rulesAfter, mProfile.Surroundings().xml).WriteTo(*mProfile.Registry());
     }
     mJournal.NoteRulesReached();
 }
@@ -79,13 +78,6 @@ void Steps::Recover()
 std::string Steps::Rules() const
 {
     return mProfile.Registry()->Get(Hive::CurrentUser, ProductKey, ProjectsValue).ToText();
-}
-
-void Steps::WriteRules(const ProjectRecords& records)
-{
-    const auto& registry = mProfile.Registry();
-    registry->Write(Hive::CurrentUser, ProductKey, ProjectListValue(), records.Names());
-    registry->Write(Hive::CurrentUser, ProductKey, ProjectsValue, records.Text());
 }
 
 void Steps::TakeRulesBack(const Step& step)
@@ -96,7 +88,7 @@ void Steps::TakeRulesBack(const Step& step)
     const auto& xml = mProfile.Surroundings().xml;
     ProjectRecords records(Rules(), xml);
     records.TakeBack({ *step.rulesBefore, xml }, { *step.rulesAfter, xml });
-    WriteRules(records);
+    records.WriteTo(*mProfile.Registry());
 }
 
 Step Steps::Chosen(std::optional<std::int64_t> number)

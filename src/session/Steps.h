@@ -12,7 +12,6 @@
 namespace tempodial {
 
 class Profile;
-class ProjectRecords;
 
 /// A step that can't be taken back; the message says why and what to do.
 class StepError : public std::runtime_error
@@ -58,7 +57,6 @@ public:
 
 private:
     std::string Rules() const;
-    void WriteRules(const ProjectRecords& records);
     /// Takes back what a step did to the projects.
     void TakeRulesBack(const Step& step);
     Step Chosen(std::optional<std::int64_t> number);

@@ -77,8 +77,8 @@ std::vector<std::vector<std::string>> OneOfEachWriter()
         { "edit", "@1", "--description", "b" }, { "split", "@1", "--at", "09:02" }, { "join", "@1", "@2" },
         { "add", "--from", "08:00", "--to", "08:30" }, { "delete", "@1" }, { "undo" }, { "report" },
         { "problem-report", "--expected", "a", "--actual", "b", "--out", "/nonexistent/a.eml" }, { "demo" },
-        { "settings", "set", "author", "A" }, { "registry", "set", "HKCU", "", "A", "b" },
-        { "registry", "delete", "HKCU", "", "CurrentVersion" } };
+        { "settings", "set", "author", "A" }, { "forget", "--match", "zz", "--yes" },
+        { "registry", "set", "HKCU", "", "A", "b" }, { "registry", "delete", "HKCU", "", "CurrentVersion" } };
 }
 
 std::vector<std::vector<std::string>> OneOfEachCommand()

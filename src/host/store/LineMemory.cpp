@@ -6,6 +6,7 @@
 #include "host/store/Query.h"
 
 #include <string_view>
+#include <utility>
 
 namespace tempodial {
 
@@ -64,6 +65,35 @@ void LineMemory::ForgetOldDays()
         "DELETE FROM import_line WHERE day < (SELECT min(day) FROM (SELECT DISTINCT day FROM import_line "
         "ORDER BY day DESC LIMIT 60))")
         .Run();
+}
+
+void LineMemory::Drop(MailboxStore& store, const std::string& dayKey, const std::vector<std::string>& lines)
+{
+    std::unordered_map<std::uint64_t, std::int32_t> gone;
+    for (const auto& line : lines) {
+        ++gone[HashOf(line)];
+    }
+    std::vector<std::pair<std::int64_t, std::string>> rows;
+    {
+        Query query(store.Database(), "SELECT rowid, hashes FROM import_line WHERE day = ?");
+        query.Bind(dayKey);
+        while (query.Step()) {
+            rows.emplace_back(query.Int(0), query.Text(1));
+        }
+    }
+    for (const auto& [row, hashes] : rows) {
+        std::string kept;
+        for (std::string_view rest(hashes); rest.size() >= HashSize; rest.remove_prefix(HashSize)) {
+            const auto known = gone.find(HashAt(rest));
+            if (known == gone.end() || known->second == 0) {
+                kept += rest.substr(0, HashSize);
+            } else {
+                --known->second;
+            }
+        }
+        // A row without lines stays: it says from where on the day's lines were reached.
+        Query(store.Database(), "UPDATE import_line SET hashes = ? WHERE rowid = ?").BindBytes(kept).Bind(row).Run();
+    }
 }
 
 std::int32_t LineMemory::BeginDay(const std::string& dayKey, std::int32_t lastCount)

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 namespace tempodial {
 
@@ -22,6 +23,8 @@ public:
     void ForgetLines();
     /// Forgets days that are older than the newest 60.
     void ForgetOldDays();
+    /// Forgets lines of a day, each once for each time that it is named.
+    static void Drop(MailboxStore& store, const std::string& dayKey, const std::vector<std::string>& lines);
     /// Begins with a day's file; answers the last count with which its first line was reached, or the one given when
     /// none was.
     std::int32_t BeginDay(const std::string& dayKey, std::int32_t lastCount);

@@ -150,6 +150,13 @@ std::string ReachedLines()
            "CREATE INDEX import_line_day ON import_line (day);\n";
 }
 
+/// What is to be forgotten outside of the mailbox: lines of the tracker's files of a day, texts that no other line may
+/// hold, a project of the list. And that the file is to be freed of what went.
+std::string DueToBeForgotten()
+{
+    return "CREATE TABLE forget_due (what TEXT NOT NULL, day TEXT NOT NULL, value TEXT NOT NULL) STRICT;\n";
+}
+
 /// What an item has besides its fields: when it was last saved, in UTC, nothing for those from before; whether a person
 /// chose its project; and a number for each of the states it was in. And the steps, what each command changed: an item
 /// as it was before, nothing where there was none, and the state in which the step left it, nothing where it left none.
@@ -198,7 +205,7 @@ CREATE TABLE step_item (
 const std::vector<std::string>& MailboxSchema::Steps()
 {
     static const std::vector<std::string> steps
-        = { Tables() + Contents(), UniqueNames(), ReachedLines(), StepsOfCommands() };
+        = { Tables() + Contents(), UniqueNames(), ReachedLines(), StepsOfCommands(), DueToBeForgotten() };
     return steps;
 }
 
