@@ -104,7 +104,7 @@ TEST_F(ForgetJournalTest, Forget_Finished_LeavesNoByteAndNothingDue)
         const auto item = mMailbox->Store()->Item(row + 1);
         item->SetSubject("kept");
         item->SetBody("kept");
-        item->UserProperties()->Find("Description")->SetValue("kept");
+        item->UserProperties()->Item("Description")->SetValue("kept");
         item->Save();
     }
     ForgetOrder order;
