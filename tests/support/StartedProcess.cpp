@@ -62,10 +62,15 @@ std::string StartedProcess::ReadLine() const
     return line;
 }
 
+void StartedProcess::Send(int signal) const
+{
+    ::kill(mProcess, signal);
+}
+
 void StartedProcess::End()
 {
     if (mProcess > 0) {
-        ::kill(mProcess, SIGTERM);
+        Send(SIGTERM);
         Wait();
     }
 }

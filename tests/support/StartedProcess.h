@@ -19,6 +19,7 @@ public:
 
     /// The next line; empty when the program has ended.
     std::string ReadLine() const;
+    void Send(int signal) const;
     /// Ends the program and waits for that.
     void End();
     /// Waits for its end; the exit status, or 128 and the signal's number.

@@ -17,11 +17,6 @@ namespace {
 constexpr auto Display = "wayland-9";
 constexpr auto Extension = "tempodial-43@tempodial.example";
 
-void Wait(int milliseconds)
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-}
-
 }
 
 DesktopSession::DesktopSession(Kind kind)
@@ -34,6 +29,8 @@ DesktopSession::DesktopSession(Kind kind)
     ::setenv("XDG_SESSION_TYPE", "wayland", 1);
     ::setenv("GSETTINGS_BACKEND", "keyfile", 1);
     ::setenv("WAYLAND_DISPLAY", Display, 1);
+    // Tests may say what is typed.
+    ::setenv("KWIN_WAYLAND_NO_PERMISSION_CHECKS", "1", 1);
     ::setenv("DBUS_SESSION_BUS_ADDRESS", StartBus("session").c_str(), 1);
     if (kind == Kind::KWin) {
         StartKWin();
@@ -104,23 +101,30 @@ void DesktopSession::StartGnome(bool hasExtension)
                 std::string(TEMPODIAL_SHARE_DIR "/../gnome-shell/extensions/") + Extension + "/" + file,
                 folder + "/" + file);
         }
-        Run({ "gsettings", "set", "org.gnome.shell", "enabled-extensions", std::string("['") + Extension + "']" });
+        Run({ "gsettings", "set", "org.gnome.shell", "enabled-extensions", std::string("['") + Extension + "']" })
+            ->Wait();
     }
-    Run({ "gsettings", "set", "org.gnome.shell", "welcome-dialog-last-shown-version", "999" });
+    Run({ "gsettings", "set", "org.gnome.shell", "welcome-dialog-last-shown-version", "999" })->Wait();
     mCompositor = std::make_unique<StartedProcess>(std::vector<std::string> {
         "gnome-shell", "--headless", "--virtual-monitor", "800x600", "--wayland-display", Display });
     WaitForDisplay();
     // The overview, in front of everything when the session begins, gives no window the focus.
     for (int i = 0; i < 20; ++i) {
         Run({ "gdbus", "call", "--session", "-d", "org.gnome.Shell", "-o", "/org/gnome/Shell", "-m",
-            "org.freedesktop.DBus.Properties.Set", "org.gnome.Shell", "OverviewActive", "<false>" });
+                "org.freedesktop.DBus.Properties.Set", "org.gnome.Shell", "OverviewActive", "<false>" })
+            ->Wait();
         Wait(100);
     }
 }
 
-void DesktopSession::Run(std::vector<std::string> command) const
+void DesktopSession::Wait(int milliseconds)
 {
-    StartedProcess(std::move(command)).Wait();
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+std::unique_ptr<StartedProcess> DesktopSession::Run(const std::vector<std::string>& command) const
+{
+    return std::make_unique<StartedProcess>(command);
 }
 
 void DesktopSession::WaitForDisplay() const

@@ -24,6 +24,9 @@ public:
 
     /// A terminal with a title, which is in front then.
     std::unique_ptr<StartedProcess> Show(const std::string& title) const;
+    /// Runs another program in the session, until it is given up.
+    std::unique_ptr<StartedProcess> Run(const std::vector<std::string>& command) const;
+    static void Wait(int milliseconds);
     /// Gives the terminals another title.
     void Retitle(const std::string& title) const;
     /// The compositor ends.
@@ -36,7 +39,6 @@ private:
     std::string StartBus(const std::string& kind);
     void StartKWin();
     void StartGnome(bool hasExtension);
-    void Run(std::vector<std::string> command) const;
     void WaitForDisplay() const;
 
     TempFolder mFolder;

@@ -66,11 +66,19 @@ void Compositor::Retitle(const std::string& appId, const std::string& title) con
     mFolder.Write("title-" + appId, title);
 }
 
-void Compositor::Command(const std::string& command) const
+void Compositor::Await(const std::string& appId) const
+{
+    // Sway refuses what is said of windows that aren't there.
+    for (int i = 0; i < 500 && Command("[app_id=" + appId + "] focus") != 0; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+int Compositor::Command(const std::string& command) const
 {
     auto surroundings = Surroundings();
     surroundings.push_back("SWAYSOCK=" + mFolder.Path(FirstFile("sway-ipc")));
-    StartedProcess(Unprivileged({ "swaymsg", command }), surroundings).Wait();
+    return StartedProcess(Unprivileged({ "swaymsg", command }), surroundings).Wait();
 }
 
 void Compositor::Press(const std::string& key) const

@@ -22,10 +22,12 @@ public:
 
     /// A terminal with an app id and a title.
     std::unique_ptr<StartedProcess> Show(const std::string& appId, const std::string& title) const;
+    /// Waits until a window with an app id is there.
+    void Await(const std::string& appId) const;
     /// Gives the terminal with an app id another title.
     void Retitle(const std::string& appId, const std::string& title) const;
-    /// Runs a command of sway.
-    void Command(const std::string& command) const;
+    /// Runs a command of sway; its exit status.
+    int Command(const std::string& command) const;
     /// Presses and releases a key.
     void Press(const std::string& key) const;
     void End() { mCompositor->End(); }
