@@ -1,4 +1,5 @@
 #include "base/Text.h"
+#include "engine/foundation/ActivitySubject.h"
 #include "engine/foundation/TempodialStrings.h"
 #include "engine/outlook/TempodialInspector.h"
 
@@ -8,8 +9,6 @@ namespace tempodial {
 
 namespace {
 
-/// Longest entry that the keyword list takes from the page, in characters.
-constexpr std::int32_t KeywordLength = 60;
 /// The days of the past to which a project chosen on the page is applied.
 constexpr std::int32_t DaysAppliedOnSave = 7;
 
@@ -31,18 +30,6 @@ std::string WithBothMarks(std::string rule)
         rule.push_back('"');
     }
     return rule;
-}
-
-/// A description without the people that stand behind it.
-std::string WithoutPeople(const std::string& description, const std::string& people)
-{
-    // The people end in a ";", which the description may lack.
-    for (const auto& tail : { " - " + people, " - " + Left(people, Length(people) - 1) }) {
-        if (InStr(description, tail) > 0) {
-            return Replace(description, tail, "");
-        }
-    }
-    return description;
 }
 
 }
@@ -89,16 +76,14 @@ void TempodialInspector::UpdateFormDropdowns()
     Trace("populate the description dropdown");
     const auto add = [&](const std::string& entry) { attempt([&] { mDescControl->AddItem(entry); }); };
     if (!description.empty()) {
-        add(Left(desc, KeywordLength));
+        add(DescriptionKeyword(desc));
     }
     const auto application = attempt.Get([&] { return mApplicationControl->Text(); });
     if (!application.empty()) {
-        add('"' + Left(application, KeywordLength) + '"');
+        add(ApplicationKeyword(application));
     }
-    for (const auto& person : Split(people, ";")) {
-        if (!person.empty()) {
-            add(person);
-        }
+    for (const auto& person : PeopleKeywords(people)) {
+        add(person);
     }
     attempt([&] { mDescControl->AddItem(mMain->mStrings->mSelectAKeyword); });
     attempt([&] { mOldKeyword = TextOf(mDescControl); });

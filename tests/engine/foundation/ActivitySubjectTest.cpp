@@ -14,4 +14,11 @@ TEST(ActivitySubjectTest, Subject_OfEitherOrBoth_LeavesOutWhatIsntKnown)
     EXPECT_EQ(ActivitySubject("", ""), "");
 }
 
+TEST(ActivitySubjectTest, WithoutPeople_Description_LosesThemWithOrWithoutTheirLastSeparator)
+{
+    EXPECT_EQ(WithoutPeople("Budget - Ann;", "Ann;"), "Budget");
+    EXPECT_EQ(WithoutPeople("Budget - Ann", "Ann;"), "Budget");
+    EXPECT_EQ(WithoutPeople("Budget", "Ann;"), "Budget");
+}
+
 }
