@@ -30,6 +30,12 @@ std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& d
     return rows ? rows->Overlapping(days.first, days.last.AddDays(1)) : std::vector<Activity>();
 }
 
+std::optional<Date> LastStartBefore(const Profile& profile, Date moment)
+{
+    const auto rows = RowsOf(profile);
+    return rows ? rows->LastStartBefore(moment) : std::nullopt;
+}
+
 std::optional<Activity> ActivityNumbered(const Profile& profile, std::int64_t number)
 {
     const auto rows = RowsOf(profile);

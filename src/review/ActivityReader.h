@@ -19,6 +19,8 @@ class StoreItem;
 std::vector<Activity> ActivitiesStartingIn(const Profile& profile, const Period& days);
 /// Those that have some time in common with the span, wherever they start.
 std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& days);
+/// When the last one before a moment starts.
+std::optional<Date> LastStartBefore(const Profile& profile, Date moment);
 /// The one of that number.
 std::optional<Activity> ActivityNumbered(const Profile& profile, std::int64_t number);
 /// The one during which a moment is; of several the one that starts last.

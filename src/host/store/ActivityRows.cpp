@@ -42,6 +42,18 @@ std::vector<ActivityRow> ActivityRows::Overlapping(Date from, Date until) const
     return List(-SecondsRange::Unbounded, from.Seconds(), until);
 }
 
+std::optional<Date> ActivityRows::LastStartBefore(Date moment) const
+{
+    static const std::string sql
+        = "SELECT max(latest) FROM (SELECT (SELECT starts FROM item INDEXED BY item_span WHERE folder = ? "
+          "AND span = class.column1 AND starts < ? AND message_class = ? ORDER BY starts DESC LIMIT 1) AS latest "
+          "FROM (VALUES "
+        + ItemSpan::ClassRows() + ") AS class)";
+    Query query(mStore->Database(), sql);
+    query.Bind(mFolder).Bind(moment.Seconds()).Bind(mMessageClass);
+    return query.Step() && !query.IsNull(0) ? std::optional(Date::FromSeconds(query.Int(0))) : std::nullopt;
+}
+
 std::optional<ActivityRow> ActivityRows::Numbered(std::int64_t number) const
 {
     static const std::string sql = "SELECT " + RowColumns + ByNumber;

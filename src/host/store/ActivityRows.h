@@ -46,6 +46,8 @@ public:
     std::vector<ActivityRow> StartingIn(Date from, Date until) const;
     /// Those that have some time in common with a span, wherever they start.
     std::vector<ActivityRow> Overlapping(Date from, Date until) const;
+    /// When the last one before a moment starts; nothing when none does.
+    std::optional<Date> LastStartBefore(Date moment) const;
     /// The one of that number; nothing when there is none.
     std::optional<ActivityRow> Numbered(std::int64_t number) const;
     /// The body of the one of that number, empty when there is none.

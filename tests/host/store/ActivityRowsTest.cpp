@@ -153,6 +153,17 @@ TEST_F(ActivityRowsTest, Numbered_NoActivityOfTheFolder_IsNothing)
     }
 }
 
+TEST_F(ActivityRowsTest, LastStartBefore_AnyLength_IsTheLatestOfTheClass)
+{
+    EXPECT_EQ(Rows().LastStartBefore(On(31, 0, 0)), std::nullopt);
+    Add("long", On(1, 9, 0), On(20, 9, 0));
+    Add("short", On(2, 9, 0), On(2, 9, 1));
+    Add("other", On(3, 9, 0), On(3, 9, 1), "IPM.Appointment");
+    EXPECT_EQ(Rows().LastStartBefore(On(31, 0, 0)), On(2, 9, 0));
+    EXPECT_EQ(Rows().LastStartBefore(On(2, 9, 0)), On(1, 9, 0));
+    EXPECT_EQ(Rows().LastStartBefore(On(1, 9, 0)), std::nullopt);
+}
+
 TEST_F(ActivityRowsTest, ListSql_SearchesTheIndexOfLengthsAlone)
 {
     Query query(TestDatabase(mMailbox), "EXPLAIN QUERY PLAN " + ActivityRows::ListSql());
