@@ -97,6 +97,16 @@ XmlTree::Index XmlTree::Find(Index place, std::string_view path) const
     return None;
 }
 
+XmlTree::Index XmlTree::Next(Index element) const
+{
+    const auto name = CharactersOf(mNodes[element].characters);
+    auto next = mNodes[element].next;
+    while (next != None && !(mNodes[next].isElement && CharactersOf(mNodes[next].characters) == name)) {
+        next = mNodes[next].next;
+    }
+    return next;
+}
+
 std::string XmlTree::Text(Index place) const
 {
     std::string text;

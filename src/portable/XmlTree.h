@@ -35,6 +35,8 @@ public:
 
     /// The first element on a path of names, seen from a place; `None` when there is none.
     Index Find(Index place, std::string_view path) const;
+    /// The next element of the same name below the same place; `None` when there is none.
+    Index Next(Index element) const;
     /// What a place stands below.
     Index Parent(Index place) const { return mNodes[place].parent; }
     /// All text below a place.
