@@ -3,6 +3,7 @@
 #include "base/Ref.h"
 #include "faults/Interposer.h"
 
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -41,13 +42,14 @@ protected:
         std::string_view key;
         std::string_view path;
         bool opensForWriting = false;
+        bool writes = false;
     };
 
     /// Calls the object's member.
     template <class Member, class... Args> auto Call(const Told& told, Member member, Args&&... args) const
     {
-        const InterposedCall call { ClassNames<Interface>::All, told.member, told.key, told.path,
-            told.opensForWriting };
+        const InterposedCall call { ClassNames<Interface>::All, told.member, told.key, told.path, told.opensForWriting,
+            told.writes };
         mInterposer->Before(call);
         try {
             return (mTarget.Get()->*member)(std::forward<Args>(args)...);
@@ -56,8 +58,19 @@ protected:
             throw;
         }
     }
+    /// Calls the object's member that sets a property.
+    template <class Member, class Value> void Set(Told told, Member member, Value&& value) const
+    {
+        told.writes = true;
+        Call(told, member, std::forward<Value>(value));
+    }
     /// What the add-in gets in the place of an object that it is given.
     template <class Other> auto Wrap(const Ref<Other>& object) const { return Wrapped(object, mInterposer); }
+    /// The same for an object whose calls are told with its name as the key.
+    template <class Wrapper, class Other> Ref<Other> Named(const Ref<Other>& object, const std::string& name) const
+    {
+        return object ? Ref<Other>(MakeRef<Wrapper>(object, mInterposer, name)) : nullptr;
+    }
 
     const Ref<Interposer>& Between() const { return mInterposer; }
 

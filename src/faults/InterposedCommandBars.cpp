@@ -54,9 +54,9 @@ public:
 
     std::string Name() const override { return Call("Name", &Object::Name); }
     BarPosition Position() const override { return Call("Position", &Object::Position); }
-    void SetPosition(BarPosition position) override { Call("Position", &Object::SetPosition, position); }
+    void SetPosition(BarPosition position) override { Set("Position", &Object::SetPosition, position); }
     bool Visible() const override { return Call("Visible", &Object::Visible); }
-    void SetVisible(bool visible) override { Call("Visible", &Object::SetVisible, visible); }
+    void SetVisible(bool visible) override { Set("Visible", &Object::SetVisible, visible); }
     Ref<CommandBarControls> Controls() override { return Wrap(Call("Controls", &Object::Controls)); }
     Ref<CommandBarControl> FindControl(const ControlSearch& search) override
     {
@@ -94,15 +94,18 @@ public:
     CommandBarControlType Type() const override { return this->Call("Type", &Interface::Type); }
     std::int32_t Id() const override { return this->Call("Id", &Interface::Id); }
     std::string Caption() const override { return this->Call("Caption", &Interface::Caption); }
-    void SetCaption(const std::string& caption) override { this->Call("Caption", &Interface::SetCaption, caption); }
+    void SetCaption(const std::string& caption) override
+    {
+        this->Set({ "Caption", caption }, &Interface::SetCaption, caption);
+    }
     std::string Tag() const override { return this->Call("Tag", &Interface::Tag); }
-    void SetTag(const std::string& tag) override { this->Call("Tag", &Interface::SetTag, tag); }
+    void SetTag(const std::string& tag) override { this->Set("Tag", &Interface::SetTag, tag); }
     bool Enabled() const override { return this->Call("Enabled", &Interface::Enabled); }
-    void SetEnabled(bool enabled) override { this->Call("Enabled", &Interface::SetEnabled, enabled); }
+    void SetEnabled(bool enabled) override { this->Set("Enabled", &Interface::SetEnabled, enabled); }
     bool Visible() const override { return this->Call("Visible", &Interface::Visible); }
-    void SetVisible(bool visible) override { this->Call("Visible", &Interface::SetVisible, visible); }
+    void SetVisible(bool visible) override { this->Set("Visible", &Interface::SetVisible, visible); }
     bool BeginGroup() const override { return this->Call("BeginGroup", &Interface::BeginGroup); }
-    void SetBeginGroup(bool beginGroup) override { this->Call("BeginGroup", &Interface::SetBeginGroup, beginGroup); }
+    void SetBeginGroup(bool beginGroup) override { this->Set("BeginGroup", &Interface::SetBeginGroup, beginGroup); }
     std::int32_t FaceId() const override { return this->Call("FaceId", &Interface::FaceId); }
     Ref<CommandBarControl> Copy(const Ref<CommandBar>& bar) override
     {
@@ -117,9 +120,9 @@ public:
     using InterposedControl::InterposedControl;
 
     ButtonStyle Style() const override { return Call("Style", &Object::Style); }
-    void SetStyle(ButtonStyle style) override { Call("Style", &Object::SetStyle, style); }
-    void SetPicture(const Ref<Picture>& picture) override { Call("Picture", &Object::SetPicture, picture); }
-    void SetMask(const Ref<Picture>& mask) override { Call("Mask", &Object::SetMask, mask); }
+    void SetStyle(ButtonStyle style) override { Set("Style", &Object::SetStyle, style); }
+    void SetPicture(const Ref<Picture>& picture) override { Set("Picture", &Object::SetPicture, picture); }
+    void SetMask(const Ref<Picture>& mask) override { Set("Mask", &Object::SetMask, mask); }
     Subscription Subscribe(CommandBarButtonEvents events) override
     {
         return Call("Subscribe", &Object::Subscribe,

@@ -138,7 +138,7 @@ public:
     std::string Name() const override { return Call("Name", &Object::Name); }
     tempodial::ViewType ViewType() const override { return Call("ViewType", &Object::ViewType); }
     std::string XML() const override { return Call("XML", &Object::XML); }
-    void SetXML(const std::string& xml) override { Call("XML", &Object::SetXML, xml); }
+    void SetXML(const std::string& xml) override { Set("XML", &Object::SetXML, xml); }
     void Save() override { Call("Save", &Object::Save); }
 };
 

@@ -47,7 +47,7 @@ public:
     std::string MessageClass() const override { return this->Call("MessageClass", &Interface::MessageClass); }
     std::string EntryID() const override { return this->Call("EntryID", &Interface::EntryID); }
     std::string Subject() const override { return this->Call("Subject", &Interface::Subject); }
-    void SetSubject(const std::string& subject) override { this->Call("Subject", &Interface::SetSubject, subject); }
+    void SetSubject(const std::string& subject) override { this->Set("Subject", &Interface::SetSubject, subject); }
 };
 
 class InterposedAppointment final : public InterposedItem<AppointmentItem>
@@ -56,19 +56,19 @@ public:
     using InterposedItem::InterposedItem;
 
     std::string Body() const override { return Call("Body", &Object::Body); }
-    void SetBody(const std::string& body) override { Call("Body", &Object::SetBody, body); }
+    void SetBody(const std::string& body) override { Set("Body", &Object::SetBody, body); }
     Date Start() const override { return Call("Start", &Object::Start); }
-    void SetStart(Date start) override { Call("Start", &Object::SetStart, start); }
+    void SetStart(Date start) override { Set("Start", &Object::SetStart, start); }
     Date End() const override { return Call("End", &Object::End); }
-    void SetEnd(Date end) override { Call("End", &Object::SetEnd, end); }
+    void SetEnd(Date end) override { Set("End", &Object::SetEnd, end); }
     std::int32_t Duration() const override { return Call("Duration", &Object::Duration); }
-    void SetDuration(std::int32_t minutes) override { Call("Duration", &Object::SetDuration, minutes); }
+    void SetDuration(std::int32_t minutes) override { Set("Duration", &Object::SetDuration, minutes); }
     std::string Mileage() const override { return Call("Mileage", &Object::Mileage); }
-    void SetMileage(const std::string& mileage) override { Call("Mileage", &Object::SetMileage, mileage); }
+    void SetMileage(const std::string& mileage) override { Set("Mileage", &Object::SetMileage, mileage); }
     std::string BillingInformation() const override { return Call("BillingInformation", &Object::BillingInformation); }
     void SetBillingInformation(const std::string& billingInformation) override
     {
-        Call("BillingInformation", &Object::SetBillingInformation, billingInformation);
+        Set("BillingInformation", &Object::SetBillingInformation, billingInformation);
     }
     bool IsRecurring() const override { return Call("IsRecurring", &Object::IsRecurring); }
     Ref<MAPIFolder> Parent() override { return Wrap(Call("Parent", &Object::Parent)); }
@@ -101,9 +101,9 @@ public:
     using InterposedItem::InterposedItem;
 
     std::string Body() const override { return Call("Body", &Object::Body); }
-    void SetBody(const std::string& body) override { Call("Body", &Object::SetBody, body); }
+    void SetBody(const std::string& body) override { Set("Body", &Object::SetBody, body); }
     std::string HTMLBody() const override { return Call("HTMLBody", &Object::HTMLBody); }
-    void SetHTMLBody(const std::string& html) override { Call("HTMLBody", &Object::SetHTMLBody, html); }
+    void SetHTMLBody(const std::string& html) override { Set("HTMLBody", &Object::SetHTMLBody, html); }
     Ref<tempodial::Attachments> Attachments() override { return Wrap(Call("Attachments", &Object::Attachments)); }
     Ref<tempodial::Recipients> Recipients() override { return Wrap(Call("Recipients", &Object::Recipients)); }
     void Display() override { Call("Display", &Object::Display); }
@@ -125,6 +125,23 @@ public:
     void Add(const std::string& address) override { Call({ "Add", address }, &Object::Add, address); }
 };
 
+class InterposedUserProperty final : public Interposed<UserProperty>
+{
+public:
+    InterposedUserProperty(Ref<UserProperty> target, Ref<Interposer> interposer, std::string name)
+        : Interposed(std::move(target), std::move(interposer))
+        , mName(std::move(name))
+    {
+    }
+
+    std::string Name() const override { return Call({ "Name", mName }, &Object::Name); }
+    Variant Value() const override { return Call({ "Value", mName }, &Object::Value); }
+    void SetValue(const Variant& value) override { Set({ "Value", mName }, &Object::SetValue, value); }
+
+private:
+    std::string mName;
+};
+
 class InterposedUserProperties final : public Interposed<UserProperties>
 {
 public:
@@ -132,22 +149,12 @@ public:
 
     Ref<UserProperty> Item(const std::string& name) override
     {
-        return Wrap(Call({ "Item", name }, &Object::Item, name));
+        return Named<InterposedUserProperty>(Call({ "Item", name }, &Object::Item, name), name);
     }
     Ref<UserProperty> Add(const std::string& name, PropertyType type, bool addToFolderFields) override
     {
-        return Wrap(Call({ "Add", name }, &Object::Add, name, type, addToFolderFields));
+        return Named<InterposedUserProperty>(Call({ "Add", name }, &Object::Add, name, type, addToFolderFields), name);
     }
-};
-
-class InterposedUserProperty final : public Interposed<UserProperty>
-{
-public:
-    using Interposed::Interposed;
-
-    std::string Name() const override { return Call("Name", &Object::Name); }
-    Variant Value() const override { return Call("Value", &Object::Value); }
-    void SetValue(const Variant& value) override { Call("Value", &Object::SetValue, value); }
 };
 
 class InterposedFormDescription final : public Interposed<FormDescription>
@@ -156,7 +163,7 @@ public:
     using Interposed::Interposed;
 
     ObjectClass Class() const override { return Call("Class", &Object::Class); }
-    void SetDisplayName(const std::string& name) override { Call("DisplayName", &Object::SetDisplayName, name); }
+    void SetDisplayName(const std::string& name) override { Set("DisplayName", &Object::SetDisplayName, name); }
     std::string MessageClass() const override { return Call("MessageClass", &Object::MessageClass); }
     void PublishForm(FormRegistry registry) override { Call("PublishForm", &Object::PublishForm, registry); }
 };
@@ -197,11 +204,6 @@ Ref<Recipients> Wrapped(const Ref<Recipients>& object, const Ref<Interposer>& in
 Ref<UserProperties> Wrapped(const Ref<UserProperties>& object, const Ref<Interposer>& interposer)
 {
     return WrappedAs<InterposedUserProperties>(object, interposer);
-}
-
-Ref<UserProperty> Wrapped(const Ref<UserProperty>& object, const Ref<Interposer>& interposer)
-{
-    return WrappedAs<InterposedUserProperty>(object, interposer);
 }
 
 Ref<FormDescription> Wrapped(const Ref<FormDescription>& object, const Ref<Interposer>& interposer)

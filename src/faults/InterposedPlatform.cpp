@@ -107,7 +107,7 @@ public:
             this->Call({ "SelectSingleNode", path }, &Interface::SelectSingleNode, path), this->Between());
     }
     std::string Text() override { return this->Call("Text", &Interface::Text); }
-    void SetText(const std::string& text) override { this->Call("Text", &Interface::SetText, text); }
+    void SetText(const std::string& text) override { this->Set("Text", &Interface::SetText, text); }
 };
 
 class InterposedXmlDocument final : public InterposedXml<XmlDocument>

@@ -69,10 +69,13 @@ public:
     Ref<MAPIFolder> CurrentFolder() override { return Wrap(Call("CurrentFolder", &Object::CurrentFolder)); }
     void SetCurrentFolder(const Ref<MAPIFolder>& folder) override
     {
-        Call("CurrentFolder", &Object::SetCurrentFolder, Unwrapped(folder));
+        Set("CurrentFolder", &Object::SetCurrentFolder, Unwrapped(folder));
     }
     std::string CurrentView() override { return Call("CurrentView", &Object::CurrentView); }
-    void SetCurrentView(const std::string& name) override { Call("CurrentView", &Object::SetCurrentView, name); }
+    void SetCurrentView(const std::string& name) override
+    {
+        Set({ "CurrentView", name }, &Object::SetCurrentView, name);
+    }
     Ref<tempodial::Selection> Selection() override { return Wrap(Call("Selection", &Object::Selection)); }
     bool IsFolderSelected(const Ref<MAPIFolder>& folder) override
     {
@@ -138,6 +141,26 @@ public:
     Ref<PageControls> Controls() override { return Wrap(Call("Controls", &Object::Controls)); }
 };
 
+class InterposedPageControl final : public Interposed<PageControl>
+{
+public:
+    InterposedPageControl(Ref<PageControl> target, Ref<Interposer> interposer, std::string name)
+        : Interposed(std::move(target), std::move(interposer))
+        , mName(std::move(name))
+    {
+    }
+
+    Variant Value() const override { return Call({ "Value", mName }, &Object::Value); }
+    void SetValue(const Variant& value) override { Set({ "Value", mName }, &Object::SetValue, value); }
+    std::string Text() const override { return Call({ "Text", mName }, &Object::Text); }
+    void SetText(const std::string& text) override { Set({ "Text", mName }, &Object::SetText, text); }
+    void SetList(const std::vector<std::string>& list) override { Set({ "List", mName }, &Object::SetList, list); }
+    void AddItem(const std::string& text) override { Call({ "AddItem", mName }, &Object::AddItem, text); }
+
+private:
+    std::string mName;
+};
+
 class InterposedPageControls final : public Interposed<PageControls>
 {
 public:
@@ -145,21 +168,8 @@ public:
 
     Ref<PageControl> Item(const std::string& name) override
     {
-        return Wrap(Call({ "Item", name }, &Object::Item, name));
+        return Named<InterposedPageControl>(Call({ "Item", name }, &Object::Item, name), name);
     }
-};
-
-class InterposedPageControl final : public Interposed<PageControl>
-{
-public:
-    using Interposed::Interposed;
-
-    Variant Value() const override { return Call("Value", &Object::Value); }
-    void SetValue(const Variant& value) override { Call("Value", &Object::SetValue, value); }
-    std::string Text() const override { return Call("Text", &Object::Text); }
-    void SetText(const std::string& text) override { Call("Text", &Object::SetText, text); }
-    void SetList(const std::vector<std::string>& list) override { Call("List", &Object::SetList, list); }
-    void AddItem(const std::string& text) override { Call("AddItem", &Object::AddItem, text); }
 };
 
 }
@@ -197,11 +207,6 @@ Ref<Page> Wrapped(const Ref<Page>& object, const Ref<Interposer>& interposer)
 Ref<PageControls> Wrapped(const Ref<PageControls>& object, const Ref<Interposer>& interposer)
 {
     return WrappedAs<InterposedPageControls>(object, interposer);
-}
-
-Ref<PageControl> Wrapped(const Ref<PageControl>& object, const Ref<Interposer>& interposer)
-{
-    return WrappedAs<InterposedPageControl>(object, interposer);
 }
 
 }

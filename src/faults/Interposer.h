@@ -20,6 +20,8 @@ struct InterposedCall
     std::string_view path;
     /// True when it opens the file for writing.
     bool opensForWriting = false;
+    /// True when it sets the property that the member names.
+    bool writes = false;
 };
 
 /// What stands between the add-in and its surroundings, and is told of each call.

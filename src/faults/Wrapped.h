@@ -31,7 +31,6 @@ Ref<MailItem> Wrapped(const Ref<MailItem>& object, const Ref<Interposer>& interp
 Ref<Attachments> Wrapped(const Ref<Attachments>& object, const Ref<Interposer>& interposer);
 Ref<Recipients> Wrapped(const Ref<Recipients>& object, const Ref<Interposer>& interposer);
 Ref<UserProperties> Wrapped(const Ref<UserProperties>& object, const Ref<Interposer>& interposer);
-Ref<UserProperty> Wrapped(const Ref<UserProperty>& object, const Ref<Interposer>& interposer);
 Ref<FormDescription> Wrapped(const Ref<FormDescription>& object, const Ref<Interposer>& interposer);
 
 Ref<Explorers> Wrapped(const Ref<Explorers>& object, const Ref<Interposer>& interposer);
@@ -41,7 +40,6 @@ Ref<Inspector> Wrapped(const Ref<Inspector>& object, const Ref<Interposer>& inte
 Ref<Pages> Wrapped(const Ref<Pages>& object, const Ref<Interposer>& interposer);
 Ref<Page> Wrapped(const Ref<Page>& object, const Ref<Interposer>& interposer);
 Ref<PageControls> Wrapped(const Ref<PageControls>& object, const Ref<Interposer>& interposer);
-Ref<PageControl> Wrapped(const Ref<PageControl>& object, const Ref<Interposer>& interposer);
 
 Ref<CommandBars> Wrapped(const Ref<CommandBars>& object, const Ref<Interposer>& interposer);
 Ref<CommandBar> Wrapped(const Ref<CommandBar>& object, const Ref<Interposer>& interposer);

@@ -13,7 +13,7 @@ EngineFixture::EngineFixture()
     mApplication->fromTemplate = [this](const std::string&, const Ref<MAPIFolder>& folder) {
         return mMailbox->NewItem(folder, FormTemplate { mFormClass, "", {}, "" });
     };
-    *mApplication->observer = [this](const std::string& member) { mWindowUses.push_back(member); };
+    mApplication->observer->told = [this](const std::string& use) { mWindowUses.push_back(use); };
     mMain->Initialize("Tempodial.Connect", mApplication);
     mLog = mMain->mTempodialDebugLog;
     ForgetTrace();

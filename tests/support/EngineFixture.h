@@ -7,7 +7,6 @@
 #include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
 #include "support/MapRegistry.h"
-#include "support/ObservedItem.h"
 #include "support/TestHost.h"
 #include "support/TraceFixture.h"
 
@@ -51,7 +50,7 @@ protected:
     Ref<HostExplorer> mExplorer = mHost.explorer;
     Ref<TestApplication> mApplication = mHost.application;
     Ref<TempodialMain> mMain = MakeRef<TempodialMain>(mHost.platform);
-    /// The members of windows and their bars that were used, such as "Explorer.SetCurrentFolder".
+    /// What was used of windows and of what comes from them, such as "Explorer.SetCurrentFolder".
     std::vector<std::string> mWindowUses;
     /// The class of the form template's items.
     std::string mFormClass = ActivityClass;

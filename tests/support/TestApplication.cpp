@@ -6,9 +6,8 @@ namespace tempodial {
 
 TestApplication::TestApplication(Ref<HostApplication> application)
     : host(std::move(application))
-    , explorers(MakeRef<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>>(host->Explorers(), Telling()))
-    , inspectors(
-          MakeRef<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>>(host->Inspectors(), Telling()))
+    , explorers(MakeRef<TestWindows<tempodial::Explorers, Explorer>>(Wrapped(host->Explorers(), observer)))
+    , inspectors(MakeRef<TestWindows<tempodial::Inspectors, Inspector>>(Wrapped(host->Inspectors(), observer)))
 {
 }
 
@@ -47,14 +46,12 @@ Ref<NameSpace> TestApplication::GetNamespace(const std::string& type)
 
 Ref<Explorer> TestApplication::ActiveExplorer()
 {
-    const auto active = hasActiveExplorer ? host->ActiveExplorer() : nullptr;
-    return active ? Ref<Explorer>(MakeRef<ObservedExplorer>(active, Telling())) : nullptr;
+    return hasActiveExplorer ? Wrapped(host->ActiveExplorer(), observer) : nullptr;
 }
 
 Ref<Inspector> TestApplication::ActiveInspector()
 {
-    const auto active = host->ActiveInspector();
-    return active ? Ref<Inspector>(MakeRef<ObservedInspector>(active, Telling())) : nullptr;
+    return Wrapped(host->ActiveInspector(), observer);
 }
 
 Ref<MailItem> TestApplication::CreateItem()
@@ -70,15 +67,6 @@ Ref<AppointmentItem> TestApplication::CreateItemFromTemplate(const std::string& 
 Subscription TestApplication::Subscribe(ApplicationEvents events)
 {
     return host->Subscribe(std::move(events));
-}
-
-WindowObserver TestApplication::Telling() const
-{
-    return [told = observer](const std::string& member) {
-        if (*told) {
-            (*told)(member);
-        }
-    };
 }
 
 }

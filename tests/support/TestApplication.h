@@ -3,24 +3,22 @@
 #include "base/Failure.h"
 #include "host/windows/HostApplication.h"
 #include "platform/objectmodel/Application.h"
-#include "support/ObservedWindows.h"
+#include "support/Observer.h"
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 
 namespace tempodial {
 
-/// The host's windows of a kind, of which a test is told.
-template <class Collection, class Window, class Observed> class TestWindows : public Collection
+/// The host's windows of a kind, of which a test can tell another number.
+template <class Collection, class Window> class TestWindows : public Collection
 {
 public:
-    TestWindows(Ref<Collection> windows, WindowObserver observer)
+    explicit TestWindows(Ref<Collection> windows)
         : mWindows(std::move(windows))
-        , mObserver(std::move(observer))
     {
     }
 
@@ -29,31 +27,17 @@ public:
 
     std::int32_t Count() override
     {
-        mObserver("Windows.Count");
-        return toldCount.value_or(mWindows->Count());
+        const auto count = mWindows->Count();
+        return toldCount.value_or(count);
     }
-    Ref<Window> Item(std::int32_t index) override { return MakeRef<Observed>(mWindows->Item(index), mObserver); }
+    Ref<Window> Item(std::int32_t index) override { return mWindows->Item(index); }
     Subscription Subscribe(typename Collection::Events events) override
     {
-        return mWindows->Subscribe(Observing(std::move(events)));
+        return mWindows->Subscribe(std::move(events));
     }
 
 private:
-    ExplorersEvents Observing(ExplorersEvents events) const
-    {
-        return { .NewExplorer
-            = [raise = std::move(events.NewExplorer), observer = mObserver](
-                  const Ref<Explorer>& explorer) { raise(MakeRef<ObservedExplorer>(explorer, observer)); } };
-    }
-    InspectorsEvents Observing(InspectorsEvents events) const
-    {
-        return { .NewInspector
-            = [raise = std::move(events.NewInspector), observer = mObserver](
-                  const Ref<Inspector>& inspector) { raise(MakeRef<ObservedInspector>(inspector, observer)); } };
-    }
-
     Ref<Collection> mWindows;
-    WindowObserver mObserver;
 };
 
 /// The host's application, of which a test is told and which it can change or let fail.
@@ -68,16 +52,16 @@ public:
     bool versionFails = false;
     /// What is given as the mail session, when it is set.
     std::optional<Ref<NameSpace>> toldNameSpace;
-    /// Told of the use of each window and its bars, when it is set.
-    const std::shared_ptr<WindowObserver> observer = std::make_shared<WindowObserver>();
+    /// Tells what is used of windows and of what comes from them.
+    const Ref<Observer> observer = MakeRef<Observer>();
     /// False to tell of no explorer in front.
     bool hasActiveExplorer = true;
     /// Makes the item of a form template, when it is set.
     std::function<Ref<AppointmentItem>(const std::string& path, const Ref<MAPIFolder>& folder)> fromTemplate;
     /// Makes a mail, when it is set.
     std::function<Ref<MailItem>()> newMail;
-    Ref<TestWindows<tempodial::Explorers, Explorer, ObservedExplorer>> explorers;
-    Ref<TestWindows<tempodial::Inspectors, Inspector, ObservedInspector>> inspectors;
+    Ref<TestWindows<tempodial::Explorers, Explorer>> explorers;
+    Ref<TestWindows<tempodial::Inspectors, Inspector>> inspectors;
 
     void LogOn() const;
     void Quit() const;
@@ -91,9 +75,6 @@ public:
     Ref<MailItem> CreateItem() override;
     Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override;
     Subscription Subscribe(ApplicationEvents events) override;
-
-private:
-    WindowObserver Telling() const;
 };
 
 }

@@ -1,7 +1,5 @@
 #include "support/WorkLogFixture.h"
 
-#include <algorithm>
-
 namespace tempodial {
 
 WorkLogFixture::WorkLogFixture()
@@ -42,19 +40,10 @@ void WorkLogFixture::AddProject(const std::string& name, const std::string& subj
     ForgetTrace();
 }
 
-ItemObserver WorkLogFixture::FailingAt(std::vector<std::string> members, Error error)
-{
-    return [members = std::move(members), error](const std::string& member) {
-        if (std::find(members.begin(), members.end(), member) != members.end()) {
-            throw Failure(error);
-        }
-    };
-}
-
-void WorkLogFixture::Observe(const ItemObserver& observer)
+void WorkLogFixture::Observe(UseObserver observer)
 {
     mWorkLog = MakeRef<TempodialWorkLog>(mPlatform);
-    mWorkLog->Initialize(mMain, mApplication, MakeRef<ObservedNameSpace>(mNamespace, observer), mLog);
+    mWorkLog->Initialize(mMain, mApplication, Observed(mNamespace, std::move(observer)), mLog);
     ForgetTrace();
 }
 

@@ -2,7 +2,6 @@
 
 #include "engine/worklog/TempodialWorkLog.h"
 #include "support/EngineFixture.h"
-#include "support/ObservedStore.h"
 
 namespace tempodial {
 
@@ -19,10 +18,8 @@ protected:
     /// An appointment that is no activity, from 9:00 to 9:30.
     Ref<StoreItem> Appointment(const std::string& subject, const std::string& body = "");
     void AddProject(const std::string& name, const std::string& subjectRule, const std::string& peopleRule = "");
-    /// Fails each use of one of those members.
-    static ItemObserver FailingAt(std::vector<std::string> members, Error error = Error::Automation);
     /// Gives the work log a mailbox that tells of its use.
-    void Observe(const ItemObserver& observer);
+    void Observe(UseObserver observer);
 
     Ref<TempodialWorkLog> mWorkLog;
     Ref<MAPIFolder> mLogFolder;

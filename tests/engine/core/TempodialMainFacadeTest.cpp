@@ -157,7 +157,7 @@ TEST_F(TempodialMainFacadeTest, SetProjectForItems_NeitherSelectedNorRange_AddsT
 TEST_F(TempodialMainFacadeTest, GoToTasklog_HostDisconnectsMeanwhile_EndsTheAddIn)
 {
     const std::weak_ptr<TempodialMain> main = mConnect.Main().Shared();
-    *mApplication->observer = [this](const std::string& member) {
+    mApplication->observer->told = [this](const std::string& member) {
         if (member == "Explorer.SetCurrentFolder") {
             mConnect.OnDisconnection();
         }

@@ -45,13 +45,13 @@ protected:
     /// Lets the n-th use of a member from now on fail, and all later ones when that is wanted.
     void FailAt(const std::string& member, int n, bool later = false)
     {
-        *mApplication->observer = [member, n, later, count = 0](const std::string& used) mutable {
-            if (used == member && (++count == n || (later && count > n))) {
+        mApplication->observer->told = [member, n, later, count = 0](const std::string& used) mutable {
+            if (IsUse(used, member) && (++count == n || (later && count > n))) {
                 throw Failure(Error::ServerUnavailable);
             }
         };
     }
-    void FailNoMore() { *mApplication->observer = nullptr; }
+    void FailNoMore() { mApplication->observer->told = nullptr; }
     /// The lines traced since the last call that begin with one of those words.
     std::vector<std::string> TracedOf(const std::vector<std::string>& words)
     {
@@ -146,7 +146,7 @@ TEST_F(TempodialMainRegistersTest, Terminate_WrappersFail_EndsThemAll)
     Host().OpenInspector(Saved());
     Host().OpenInspector(Saved());
     mFolder.Write("Tempodial/WorkLogTrace2.out", "");
-    *mApplication->observer = [](const std::string&) { throw Failure(Error::ServerUnavailable); };
+    mApplication->observer->told = [](const std::string&) { throw Failure(Error::ServerUnavailable); };
     Main().Terminate();
     EXPECT_THAT(TracedOf({ "term insp", "1 Explorer", "2 Explorer", "TRACE SESSION STOP" }),
         ElementsAre("term inspector 1", "term inspector 2", "1 Explorer terminated: 1", "2 Explorer terminated: 2",
@@ -167,7 +167,7 @@ TEST_F(TempodialMainRegistersTest, RemoveExplorer_HostTellsOfNone_EndsTheAddInTh
 
 TEST_F(TempodialMainRegistersTest, RemoveExplorer_CountUnreadable_GoesOn)
 {
-    FailAt("Windows.Count", 1);
+    FailAt("Explorers.Count", 1);
     Host().CloseExplorer(mExplorer);
     EXPECT_EQ(Traced().back(),
         "RemExplorer error The remote server machine does not exist or is unavailable:Create inspectors");
@@ -416,7 +416,7 @@ TEST_F(TempodialMainOpenWindowsTest, Run_WrapsTheWindowsAlreadyOpen)
 
 TEST_F(TempodialMainOpenWindowsTest, Run_ExplorerOpensMeanwhile_IsWrappedOnce)
 {
-    *mApplication->observer = [this, opened = false](const std::string& member) mutable {
+    mApplication->observer->told = [this, opened = false](const std::string& member) mutable {
         if (member == "Explorer.Caption" && !opened) {
             opened = true;
             OpenExplorer();

@@ -63,21 +63,21 @@ Ref<HostInspector> InspectorFixture::Open(const Ref<AppointmentItem>& item)
     return mApplication->OpenInspector(item.As<StoreItem>());
 }
 
-Ref<HostInspector> InspectorFixture::OpenAlone(const Ref<AppointmentItem>& item, const ItemObserver& observer)
-{
-    return OpenAlone(item, PageObserver { .told = observer });
-}
-
-Ref<HostInspector> InspectorFixture::OpenAlone(const Ref<AppointmentItem>& item, const PageObserver& observer)
+Ref<HostInspector> InspectorFixture::OpenAlone(
+    const Ref<AppointmentItem>& item, const std::function<Ref<Inspector>(const Ref<Inspector>& inspector)>& shown)
 {
     mAlone = MakeRef<HostApplication>(mMailbox);
     mMain->mApplication.Set(mAlone, {});
     const auto subscription = mAlone->Inspectors()->Subscribe({ .NewInspector = [&](const auto& inspector) {
         mCompanion = MakeRef<TempodialInspector>(mPlatform);
-        mCompanion->Initialize(mLog, mMain,
-            observer.told ? MakeRef<ObservedActivityWindow>(inspector, observer) : Ref<Inspector>(inspector), 90);
+        mCompanion->Initialize(mLog, mMain, shown ? shown(inspector) : inspector, 90);
     } });
     return mAlone->OpenInspector(item.As<StoreItem>());
+}
+
+Ref<HostInspector> InspectorFixture::OpenObserved(const Ref<AppointmentItem>& item, const UseObserver& observer)
+{
+    return OpenAlone(item, [&](const auto& inspector) { return Observed(inspector, observer); });
 }
 
 void InspectorFixture::OnNewInspector(std::function<void(const Ref<Inspector>&)> handler)

@@ -2,7 +2,6 @@
 
 #include "engine/core/TempodialMain.h"
 #include "engine/foundation/TempodialStrings.h"
-#include "engine/outlook/ObservedActivityWindow.h"
 #include "engine/outlook/TempodialInspector.h"
 #include "forms/FormModelFactory.h"
 #include "host/store/Mailbox.h"
@@ -14,6 +13,7 @@
 #include "host/windows/HostPageControl.h"
 #include "support/CannedMessageBox.h"
 #include "support/MapRegistry.h"
+#include "support/Observer.h"
 #include "support/TestServices.h"
 #include "support/TraceFixture.h"
 
@@ -39,9 +39,11 @@ protected:
     /// A window on an item, nothing when the add-in was against it.
     Ref<HostInspector> Open(const Ref<AppointmentItem>& item);
     /// A window that the running add-in isn't told of, of an application of its own that is then the add-in's, with a
-    /// companion of the number 90 in `mCompanion`; an observer is told of what the companion uses.
-    Ref<HostInspector> OpenAlone(const Ref<AppointmentItem>& item, const ItemObserver& observer = {});
-    Ref<HostInspector> OpenAlone(const Ref<AppointmentItem>& item, const PageObserver& observer);
+    /// companion of the number 90 in `mCompanion`, which gets another window in its place where one is given.
+    Ref<HostInspector> OpenAlone(const Ref<AppointmentItem>& item,
+        const std::function<Ref<Inspector>(const Ref<Inspector>& inspector)>& shown = nullptr);
+    /// The same; an observer is told of what the companion uses.
+    Ref<HostInspector> OpenObserved(const Ref<AppointmentItem>& item, const UseObserver& observer);
     /// Runs something when a window comes into being, after the add-in did.
     void OnNewInspector(std::function<void(const Ref<Inspector>&)> handler);
     /// Lets a built-in command be absent from windows.

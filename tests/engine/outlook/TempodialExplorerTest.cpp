@@ -80,7 +80,7 @@ protected:
     }
     void FailAt(const std::string& member, int times = 1)
     {
-        *mApplication->observer = [this, member, times](const std::string& used) mutable {
+        mApplication->observer->told = [this, member, times](const std::string& used) mutable {
             mWindowUses.push_back(used);
             if (used.starts_with(member) && times-- > 0) {
                 throw Failure(Error::ServerUnavailable);
@@ -102,7 +102,7 @@ TEST_F(TempodialExplorerTest, Initialize_TracesItsStepsAndMakesTheToolbars)
     const auto at = [&](const std::string& line) { return std::find(lines.begin(), lines.end(), line); };
     EXPECT_LT(at("TDToolbars: 2 add 1"), at("TDExplorer: 2 Inited"));
     EXPECT_LT(at("TDExplorer: 2 Inited"), at("TDMain Get log"));
-    EXPECT_THAT(Uses("Controls.Add"), Not(IsEmpty()));
+    EXPECT_THAT(Uses("CommandBarControls.Add"), Not(IsEmpty()));
 }
 
 TEST_F(TempodialExplorerTest, Initialize_StatementFails_GoesOnAfterALineAndTheWordFinal)
@@ -187,8 +187,8 @@ TEST_F(TempodialExplorerTest, HandleSideBySide_LogAloneInOneOfItsViews_ChangesNo
         EXPECT_EQ(mExplorer->CurrentView(), view);
         // The cost when there is nothing to do.
         EXPECT_THAT(mWindowUses,
-            ElementsAre(
-                "Explorer.IsFolderSelected", "Explorer.IsFolderSelected", "Explorer.CurrentView", "Button.Enabled"));
+            ElementsAre("Explorer.IsFolderSelected", "Explorer.IsFolderSelected", "Explorer.CurrentView",
+                "CommandBarButton.Enabled"));
         EXPECT_THAT(Traced(), IsEmpty());
         EXPECT_TRUE(IsListAvailable());
     }
@@ -223,7 +223,7 @@ TEST_F(TempodialExplorerTest, HandleSideBySide_CalendarAloneInOurViewWithoutDefa
     mMain->mDefaultCalendarView.clear();
     Stand(Calendar(), "My Tempodial view");
     ChangeSelection();
-    EXPECT_THAT(Uses("Explorer.SetCurrentView"), ElementsAre("Explorer.SetCurrentView "));
+    EXPECT_THAT(Uses("Explorer.SetCurrentView"), ElementsAre("Explorer.SetCurrentView"));
     const auto lines = TracedHere();
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_THAT(lines[1], StartsWith("sidebyside error "));
@@ -311,7 +311,7 @@ TEST_F(TempodialExplorerTest, HandleSideBySide_OneRefusal_SilencesItForThisWindo
     Stand(mLogFolder, "Other");
     ChangeSelection();
     EXPECT_EQ(mExplorer->CurrentView(), "Other");
-    EXPECT_THAT(Uses("Button."), IsEmpty());
+    EXPECT_THAT(Uses("CommandBarButton."), IsEmpty());
     EXPECT_THAT(TracedHere(), IsEmpty());
     // Another window isn't concerned.
     mExplorer = mApplication->host->OpenExplorer(mLogFolder);
@@ -380,13 +380,13 @@ TEST_F(TempodialExplorerTest, Events_AnyMemberFails_NeverLetTheFailureOut)
     ASSERT_GT(uses.size(), 100U);
     int live = 1;
     for (std::size_t failing = 1; failing <= uses.size(); ++failing) {
-        *mApplication->observer = [failing, count = std::size_t { 0 }](const std::string&) mutable {
+        mApplication->observer->told = [failing, count = std::size_t { 0 }](const std::string&) mutable {
             if (++count == failing) {
                 throw Failure(Error::Automation);
             }
         };
         work();
-        *mApplication->observer = nullptr;
+        mApplication->observer->told = nullptr;
         mFolder.Write("Tempodial/WorkLogTrace1.out", "");
         mMain->RemoveDeadExplorers();
         if (mFolder.Read("Tempodial/WorkLogTrace1.out").ends_with("Explorer list: 0\r\n") && live == 1) {

@@ -1,4 +1,5 @@
 #include "engine/outlook/InspectorFixture.h"
+#include "engine/outlook/WindowWithTexts.h"
 
 #include <algorithm>
 
@@ -233,13 +234,9 @@ TEST_F(TempodialInspectorEditingTest, Writebound_DayOutOfStep_FollowsOnlyAChange
 TEST_F(TempodialInspectorEditingTest, Moments_ShownAsTexts_AreReadAsMoments)
 {
     const auto item = Activity();
-    const auto inspector = OpenAlone(item,
-        PageObserver { .told = [](const auto&) {},
-            .shown =
-                [this](const Variant& value) {
-                    const auto* moment = value.If<Date>();
-                    return moment == nullptr ? value : Variant(mPlatform->formats->Moment(*moment));
-                } });
+    const auto inspector = OpenAlone(item, [this](const auto& window) {
+        return MakeRef<WindowWithTexts>(window, [this](Date moment) { return mPlatform->formats->Moment(moment); });
+    });
     ForgetTrace();
     EXPECT_TRUE(inspector->Save());
     EXPECT_THAT(Companions(), Not(Contains("bound data changed")));
@@ -252,9 +249,8 @@ TEST_F(TempodialInspectorEditingTest, Moments_ShownAsTexts_AreReadAsMoments)
 
 TEST_F(TempodialInspectorEditingTest, Moments_ShownAsNoMoments_CountAsChanged)
 {
-    const auto inspector = OpenAlone(Activity(),
-        PageObserver { .told = [](const auto&) {},
-            .shown = [](const Variant& value) { return value.If<Date>() == nullptr ? value : Variant("soon"); } });
+    const auto inspector = OpenAlone(
+        Activity(), [](const auto& window) { return MakeRef<WindowWithTexts>(window, [](Date) { return "soon"; }); });
     EXPECT_THAT(Companions(), Contains("Resetbound error Type mismatch"));
     EXPECT_TRUE(inspector->Save());
     EXPECT_THAT(Companions(), Contains("bound data changed"));

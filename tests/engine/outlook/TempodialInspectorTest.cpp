@@ -363,7 +363,7 @@ TEST_F(TempodialInspectorTest, InspectorClose_Again_DoesNoHarm)
 TEST_F(TempodialInspectorTest, InspectorClose_EverythingFails_TracesNoFailureOfItsOwn)
 {
     bool fails = false;
-    OpenAlone(Activity(), [&](const std::string&) {
+    OpenObserved(Activity(), [&](const std::string&) {
         if (fails) {
             throw Failure(Error::Automation);
         }

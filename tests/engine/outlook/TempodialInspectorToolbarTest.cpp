@@ -116,11 +116,7 @@ TEST_F(TempodialInspectorToolbarTest, Open_OtherCommandAbsent_CostsTheButtonAlon
 
 TEST_F(TempodialInspectorToolbarTest, Open_NoBars_FillsThePageAllTheSame)
 {
-    const auto inspector = OpenAlone(Activity("Letter"), [](const std::string& member) {
-        if (member == "Inspector.CommandBars") {
-            throw Failure(Error::Automation);
-        }
-    });
+    const auto inspector = OpenObserved(Activity("Letter"), FailingAt("Inspector.CommandBars"));
 
     ASSERT_TRUE(inspector);
     EXPECT_EQ(Control(inspector, "ApplicationBox")->Text(), "Notepad");

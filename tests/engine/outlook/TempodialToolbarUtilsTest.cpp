@@ -40,8 +40,8 @@ protected:
     /// Lets the calls of a member fail, or only one of them, counted from 1.
     void FailAt(const std::string& member, int only = 0)
     {
-        *mApplication->observer = [member, only, calls = 0](const std::string& used) mutable {
-            if (used == member && (++calls == only || only == 0)) {
+        mApplication->observer->told = [member, only, calls = 0](const std::string& used) mutable {
+            if (IsUse(used, member) && (++calls == only || only == 0)) {
                 throw Failure(Error::Automation);
             }
         };
@@ -85,7 +85,7 @@ TEST_F(TempodialToolbarUtilsTest, RemoveMyToolbar_Absent_ChangesNothing)
 TEST_F(TempodialToolbarUtilsTest, RemoveMyToolbar_Refused_IsTracedWithItsStepGluedOn)
 {
     mBars->Add("Tempodial");
-    FailAt("Bar.Delete");
+    FailAt("CommandBar.Delete");
     mUtils->RemoveMyToolbar(mInspector, "Tempodial");
     EXPECT_THAT(Traced(),
         ElementsAre("TDToolbarUt remove my toolbar: Tempodial", "TDToolbarUt delete it",
@@ -125,8 +125,8 @@ TEST_F(TempodialToolbarUtilsTest, ReplaceStandardToolbar_Twice_ReplacesTheFirst)
     mUtils->ReplaceStandardToolbar(mInspector, "Tempodial");
     EXPECT_THAT(BarNames(), ElementsAre("Standard (hidden)", "Tempodial"));
     EXPECT_NE(mBars->All().at(1), first);
-    EXPECT_THAT(mWindowUses, Contains("Bar.Delete").Times(1));
-    EXPECT_THAT(mWindowUses, Contains("Bar.SetVisible").Times(1));
+    EXPECT_THAT(mWindowUses, Contains("CommandBar.Delete").Times(1));
+    EXPECT_THAT(mWindowUses, Contains("CommandBar.SetVisible").Times(1));
 }
 
 TEST_F(TempodialToolbarUtilsTest, ReplaceStandardToolbar_BarRefused_GivesNothing)
@@ -143,7 +143,7 @@ TEST_F(TempodialToolbarUtilsTest, GetStandardToolBar_GivesTheBarOrTracesTheFailu
 {
     EXPECT_EQ(mUtils->GetStandardToolBar(mInspector)->Name(), "Standard");
     EXPECT_THAT(Traced(), IsEmpty());
-    FailAt("CommandBars.ItemNamed Standard");
+    FailAt("CommandBars.Item Standard");
     EXPECT_FALSE(mUtils->GetStandardToolBar(mInspector));
     EXPECT_THAT(Traced(), ElementsAre("TDToolbarUt getstandard error Automation error"));
 }
@@ -151,7 +151,7 @@ TEST_F(TempodialToolbarUtilsTest, GetStandardToolBar_GivesTheBarOrTracesTheFailu
 TEST_F(TempodialToolbarUtilsTest, EnableStandardToolBar_Visible_ChangesNothing)
 {
     mUtils->EnableStandardToolBar(mInspector);
-    EXPECT_THAT(mWindowUses, Not(Contains("Bar.SetVisible")));
+    EXPECT_THAT(mWindowUses, Not(Contains("CommandBar.SetVisible")));
     EXPECT_THAT(Traced(), ElementsAre("TDToolbarUt enable standard toolbar", "TDToolbarUt visible? True"));
 }
 
@@ -165,7 +165,7 @@ TEST_F(TempodialToolbarUtilsTest, EnableStandardToolBar_Hidden_IsShown)
 
 TEST_F(TempodialToolbarUtilsTest, EnableStandardToolBar_Refused_TracesEachStatement)
 {
-    FailAt("CommandBars.ItemNamed Standard");
+    FailAt("CommandBars.Item Standard");
     mUtils->EnableStandardToolBar(mInspector);
     EXPECT_THAT(Traced(), Contains("TDToolbarUt enable standard error Automation error").Times(3));
 }

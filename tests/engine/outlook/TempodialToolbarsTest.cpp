@@ -90,8 +90,8 @@ protected:
     /// Lets each use of a member fail.
     void FailAt(const std::string& member)
     {
-        *mApplication->observer = [member](const std::string& used) {
-            if (used == member) {
+        mApplication->observer->told = [member](const std::string& used) {
+            if (IsUse(used, member)) {
                 throw Failure(Error::InvalidCall);
             }
         };
@@ -175,8 +175,8 @@ TEST_F(TempodialToolbarsTest, CreateToolbars_NoPictures_MakesNoPictureCall)
         *picture = nullptr;
     }
     EXPECT_TRUE(Create());
-    EXPECT_THAT(mWindowUses, Not(Contains("Button.SetPicture")));
-    EXPECT_THAT(mWindowUses, Not(Contains("Button.SetMask")));
+    EXPECT_THAT(mWindowUses, Not(Contains("CommandBarButton.SetPicture")));
+    EXPECT_THAT(mWindowUses, Not(Contains("CommandBarButton.SetMask")));
     EXPECT_EQ(Button()->Style(), ButtonStyle::IconAndCaption);
     EXPECT_THAT(Shapes(Menu()).at(3), HasSubstr("Pro&ject Settings...1|group|icon and caption"));
     const auto traced = Traced();
@@ -205,7 +205,7 @@ TEST_F(TempodialToolbarsTest, CreateToolbars_BarsRefused_IsTooSoon)
 
 TEST_F(TempodialToolbarsTest, CreateToolbars_MenuBarRefused_LeavesTheButton)
 {
-    FailAt("CommandBars.ItemNamed Menu Bar");
+    FailAt("CommandBars.Item Menu Bar");
     EXPECT_TRUE(Create());
     EXPECT_TRUE(Button());
     EXPECT_FALSE(Find(Bar("Menu Bar"), "&Tempodial"));
@@ -217,7 +217,7 @@ TEST_F(TempodialToolbarsTest, CreateToolbars_MenuBarRefused_LeavesTheButton)
 
 TEST_F(TempodialToolbarsTest, CreateToolbars_OneControlRefused_LeavesTheOthersStanding)
 {
-    FailAt("Controls.Add Refre&sh Tempodial12");
+    FailAt("CommandBarControls.Add Refre&sh Tempodial12");
     EXPECT_TRUE(Create());
     EXPECT_FALSE(Button());
     EXPECT_EQ(Menu()->Entries().size(), 7U);
@@ -229,7 +229,7 @@ TEST_F(TempodialToolbarsTest, CreateToolbars_OneControlRefused_LeavesTheOthersSt
 
 TEST_F(TempodialToolbarsTest, CreateToolbars_CaptionRefused_IsTracedOnceAndTheRestIsSet)
 {
-    FailAt("Button.SetCaption View Activities in a &List");
+    FailAt("CommandBarButton.SetCaption View Activities in a &List");
     EXPECT_TRUE(Create());
     EXPECT_EQ(Shapes(Menu()).at(2), "|View Activities in a &List1");
     EXPECT_THAT(Traced(), Contains(StartsWith("TDToolbars: 1 toolbars create error ")).Times(1));
@@ -242,7 +242,7 @@ TEST_F(TempodialToolbarsTest, CreateToolbars_AnyMemberFails_StillEnds)
     for (std::size_t failing = 1; failing <= uses; ++failing) {
         mExplorer = mApplication->host->OpenExplorer(Calendar());
         ForgetTrace();
-        *mApplication->observer = [failing, count = std::size_t { 0 }](const std::string&) mutable {
+        mApplication->observer->told = [failing, count = std::size_t { 0 }](const std::string&) mutable {
             if (++count == failing) {
                 throw Failure(Error::Automation);
             }
@@ -302,7 +302,8 @@ TEST_F(TempodialToolbarsTest, CreateToolbars_OtherWindow_HasOtherTags)
 TEST_F(TempodialToolbarsTest, ListAvailable_WritesOnlyWhatDiffers)
 {
     Create();
-    const auto writes = [&] { return std::count(mWindowUses.begin(), mWindowUses.end(), "Button.SetEnabled"); };
+    const auto writes
+        = [&] { return std::count(mWindowUses.begin(), mWindowUses.end(), "CommandBarButton.SetEnabled"); };
     const auto list = Find(Menu(), "View Activities in a &List");
     mToolbars->ListAvailable(true);
     EXPECT_EQ(writes(), 0);

@@ -264,14 +264,14 @@ TEST_F(TempodialAnalyserTest, SetProjectForItem_OpenItem_IsLeft)
 TEST_F(TempodialAnalyserTest, SetProjectForItem_SaveFails_IsTracedAndTheItemClosed)
 {
     std::vector<std::string> members;
-    const auto item = MakeRef<ObservedItem>(ActivityAt(At(10, 0)), [&](const std::string& member) {
+    const auto item = ObservedItem(ActivityAt(At(10, 0)), [&](const std::string& member) {
         members.push_back(member);
-        if (member == "Save") {
+        if (member == "AppointmentItem.Save") {
             throw Failure(Error::DiskFull);
         }
     });
     mAnalyser->SetProjectForItem("Beta", item, true);
-    EXPECT_EQ(members.back(), "Close");
+    EXPECT_EQ(members.back(), "AppointmentItem.Close");
     EXPECT_EQ(Traced().back(), "TDAnalyser setproject:Disk full");
 }
 

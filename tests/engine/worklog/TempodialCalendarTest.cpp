@@ -68,7 +68,7 @@ TEST_F(TempodialCalendarTest, ItemAdd_CopyFails_IsTraced)
     data.end = At(9, 30);
     data.recurring = true;
     mCalendar->mCalendarItems_ItemAdd(
-        MakeRef<ObservedItem>(mMailbox->NewItem(Calendar(), data), FailingAt({ "Copy" })));
+        ObservedItem(mMailbox->NewItem(Calendar(), data), FailingAt("AppointmentItem.Copy")));
     EXPECT_THAT(Traced(),
         ElementsAre("TDCalendar new item add: 10/10/2006 9:00:00 AM", "TDCalendar new appt Automation error",
             "TDCalendar new appt Object variable or With block variable not set"));

@@ -113,13 +113,13 @@ TEST_F(TempodialWorkLogDetailsTest, ExtraCalendarItemInfo_AnyMemberFails_StillSa
     std::vector<std::string> members;
     const auto count = [&](const std::string& member) { members.push_back(member); };
     const auto item = Activity("", "Plan", "Notepad", "a;");
-    Detail(MakeRef<ObservedItem>(item, count), "x", "body", "", "b");
+    Detail(ObservedItem(item, count), "x", "body", "", "b");
     const auto calls = members;
     ASSERT_GT(calls.size(), 20U);
     for (std::size_t failing = 0; failing < calls.size(); ++failing) {
         const auto fresh = Activity("", "Plan", "Notepad", "a;");
         members.clear();
-        Detail(MakeRef<ObservedItem>(fresh,
+        Detail(ObservedItem(fresh,
                    [&](const std::string& member) {
                        members.push_back(member);
                        if (members.size() == failing + 1) {
@@ -128,7 +128,7 @@ TEST_F(TempodialWorkLogDetailsTest, ExtraCalendarItemInfo_AnyMemberFails_StillSa
                    }),
             "x", "body", "", "b");
         EXPECT_THAT(Traced(), Contains(HasSubstr("Automation error"))) << calls[failing];
-        EXPECT_EQ(members.back(), "Close") << calls[failing];
+        EXPECT_EQ(members.back(), "AppointmentItem.Close") << calls[failing];
     }
 }
 
@@ -195,8 +195,8 @@ TEST_F(TempodialWorkLogDetailsTest, GetBody_Item_IsRead)
 TEST_F(TempodialWorkLogDetailsTest, GetBody_SecurityPopups_LeavesTheItemAlone)
 {
     mMain->mSecurityPopups = true;
-    const auto item = MakeRef<ObservedItem>(
-        Appointment("plain", "text"), [](const std::string& member) { ADD_FAILURE() << member; });
+    const auto item
+        = ObservedItem(Appointment("plain", "text"), [](const std::string& member) { ADD_FAILURE() << member; });
     EXPECT_EQ(mWorkLog->GetBody(item), "");
     EXPECT_THAT(Traced(), ElementsAre("TDWorklog GetBody"));
 }
@@ -204,7 +204,7 @@ TEST_F(TempodialWorkLogDetailsTest, GetBody_SecurityPopups_LeavesTheItemAlone)
 TEST_F(TempodialWorkLogDetailsTest, GetBody_Refused_IsRememberedForTheWholeSystem)
 {
     const auto item
-        = MakeRef<ObservedItem>(Appointment("plain", "text"), FailingAt({ "Body" }, Error::SecurityRefusal));
+        = ObservedItem(Appointment("plain", "text"), FailingAt("AppointmentItem.Body", Error::SecurityRefusal));
     EXPECT_EQ(mWorkLog->GetBody(item), "");
     EXPECT_TRUE(mMain->mSecurityPopups);
     EXPECT_EQ(mRegistry->Read(Hive::LocalMachine, ProductKey, "Outlook Security Popups", RegistryAccess::Query),
@@ -259,7 +259,7 @@ TEST_F(TempodialWorkLogDetailsTest, ApplyProjectToItem_ProjectInSubject_IsNoMatc
 TEST_F(TempodialWorkLogDetailsTest, ApplyProjectToItem_ProjectCantBeWritten_IsFalse)
 {
     AddProject("Beta", "plan");
-    const auto item = MakeRef<ObservedItem>(Activity("A"), FailingAt({ "SetValue of Project" }));
+    const auto item = ObservedItem(Activity("A"), FailingAt("UserProperty.SetValue Project"));
     EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", item));
     EXPECT_THAT(Traced(), Contains("TDWorklog applyproject error Automation error set properties"));
 }
@@ -269,7 +269,7 @@ TEST_F(TempodialWorkLogDetailsTest, ApplyProjectToItem_PropertyCantBeRead_IsFals
     AddProject("Beta", "plan;notepad;none");
     for (const auto* name : { "People", "Type", "Description" }) {
         const auto item = Activity("A");
-        const auto observed = MakeRef<ObservedItem>(item, FailingAt({ std::string("Value of ") + name }));
+        const auto observed = ObservedItem(item, FailingAt(std::string("UserProperty.Value ") + name));
         EXPECT_FALSE(mWorkLog->ApplyProjectToItem("Beta", observed)) << name;
         EXPECT_FALSE(item.As<StoreItem>()->HasChanges()) << name;
         EXPECT_THAT(Traced(), Contains("TDWorklog applyproject error Automation error set properties").Times(1));

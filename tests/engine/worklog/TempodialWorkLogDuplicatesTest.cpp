@@ -86,7 +86,7 @@ TEST_F(TempodialWorkLogDuplicatesTest, CreateCalendarDuplicate_SecurityPopups_Ha
 TEST_F(TempodialWorkLogDuplicatesTest, CreateCalendarDuplicate_BodyRefused_IsRemembered)
 {
     mWorkLog->CreateCalendarDuplicate(
-        MakeRef<ObservedItem>(Appointment("Lunch", "text"), FailingAt({ "Body" }, Error::SecurityRefusal)), false,
+        ObservedItem(Appointment("Lunch", "text"), FailingAt("AppointmentItem.Body", Error::SecurityRefusal)), false,
         true);
     EXPECT_EQ(OnlyItem()->Body(), "");
     EXPECT_TRUE(mMain->mSecurityPopups);
@@ -99,7 +99,7 @@ TEST_F(TempodialWorkLogDuplicatesTest, CreateCalendarDuplicate_BodyRefused_IsRem
 TEST_F(TempodialWorkLogDuplicatesTest, CreateCalendarDuplicate_BodyFails_IsNoRefusal)
 {
     mWorkLog->CreateCalendarDuplicate(
-        MakeRef<ObservedItem>(Appointment("Lunch", "text"), FailingAt({ "Body" })), false, true);
+        ObservedItem(Appointment("Lunch", "text"), FailingAt("AppointmentItem.Body")), false, true);
     EXPECT_FALSE(mMain->mSecurityPopups);
     EXPECT_EQ(Traced().back(), "TDWorklog security exception on errorreportAutomation error");
     EXPECT_EQ(OnlyItem()->Subject(), "Lunch");
@@ -107,7 +107,7 @@ TEST_F(TempodialWorkLogDuplicatesTest, CreateCalendarDuplicate_BodyFails_IsNoRef
 
 TEST_F(TempodialWorkLogDuplicatesTest, CreateCalendarDuplicate_NoDuplicate_TracesEachStatement)
 {
-    Observe(FailingAt({ "Items.Add" }));
+    Observe(FailingAt("Items.Add"));
     mWorkLog->CreateCalendarDuplicate(Appointment("Lunch", "text"), false, true);
     const std::string text = "Object variable or With block variable not set";
     const auto traced = Traced();
@@ -151,7 +151,7 @@ TEST_F(TempodialWorkLogDuplicatesTest, ItemAdd_PlainAppointment_IsReplacedByAnOp
 
 TEST_F(TempodialWorkLogDuplicatesTest, ItemAdd_DeleteFails_IsTraced)
 {
-    mWorkLog->mLogItems_ItemAdd(MakeRef<ObservedItem>(Appointment("Lunch"), FailingAt({ "Delete" })));
+    mWorkLog->mLogItems_ItemAdd(ObservedItem(Appointment("Lunch"), FailingAt("AppointmentItem.Delete")));
     EXPECT_THAT(Traced().back(), HasSubstr("TDWorklog Itemadd error Automation error "));
 }
 

@@ -1,6 +1,5 @@
 #include "engine/worklog/TempodialWorkLog.h"
 #include "support/EngineFixture.h"
-#include "support/ObservedStore.h"
 
 #include <algorithm>
 
@@ -21,11 +20,11 @@ protected:
     TempodialWorkLogFolderTest() { Restart(); }
 
     /// A work log that knows nothing but the registry.
-    void Restart(const ItemObserver& observer = [](const std::string&) {})
+    void Restart(UseObserver observer = nullptr)
     {
         mMain->mStrings->mCalendarName = "Tempodial";
         mWorkLog = MakeRef<TempodialWorkLog>(mPlatform);
-        mWorkLog->Initialize(mMain, mApplication, MakeRef<ObservedNameSpace>(mNamespace, observer), mLog);
+        mWorkLog->Initialize(mMain, mApplication, Observed(mNamespace, std::move(observer)), mLog);
         ForgetTrace();
     }
     /// The folder as a first run makes it, then a restart.
@@ -35,11 +34,11 @@ protected:
         Restart();
         return mMailbox->FolderByPath("Calendar/Tempodial");
     }
-    /// Fails the uses of one member.
-    static ItemObserver FailingAt(const std::string& failing)
+    /// Fails a use of a member, counted from 1.
+    static UseObserver FailingOnceAt(const std::string& failing, int n)
     {
-        return [failing](const std::string& member) {
-            if (member == failing) {
+        return [failing, n](const std::string& use) mutable {
+            if (IsUse(use, failing) && --n == 0) {
                 throw Failure(Error::Automation);
             }
         };
@@ -192,7 +191,7 @@ TEST_F(TempodialWorkLogFolderTest, GetSyncedWorkLog_AddFails_IsTraced)
 
 TEST_F(TempodialWorkLogFolderTest, GetSyncedWorkLog_NoDefaultCalendar_CreatesNothing)
 {
-    Restart(FailingAt("GetDefaultFolder"));
+    Restart(FailingAt("NameSpace.GetDefaultFolder"));
     EXPECT_FALSE(mWorkLog->GetSyncedWorkLog(true));
     EXPECT_THAT(Traced(),
         ElementsAre("TDWorklog GetSyncedWorkLog called", "TDWorklog GetWL error Automation error get registry values",
@@ -203,7 +202,7 @@ TEST_F(TempodialWorkLogFolderTest, GetSyncedWorkLog_NoDefaultCalendar_StillFinds
 {
     const auto folder = MakeFolder();
     mMailbox->RenameFolder(folder, "Renamed");
-    Restart(FailingAt("GetDefaultFolder"));
+    Restart(FailingAt("NameSpace.GetDefaultFolder"));
     const auto found = mWorkLog->GetSyncedWorkLog(false);
     ASSERT_TRUE(found);
     EXPECT_EQ(found->EntryID(), folder->EntryID());
@@ -237,7 +236,7 @@ TEST_F(TempodialWorkLogFolderTest, GetSyncedWorkLog_FoundBefore_LooksForChangesO
     members.clear();
     ForgetTrace();
     EXPECT_EQ(mWorkLog->GetSyncedWorkLog(false), folder);
-    EXPECT_THAT(members, ElementsAre("Tempodial.EntryID", "Tempodial.Name", "Tempodial.FullFolderPath"));
+    EXPECT_THAT(members, ElementsAre("MAPIFolder.EntryID", "MAPIFolder.Name", "MAPIFolder.FullFolderPath"));
     EXPECT_THAT(Traced(), ElementsAre("TDWorklog GetSyncedWorkLog called"));
 }
 
@@ -354,10 +353,10 @@ TEST_F(TempodialWorkLogFolderTest, FindFolderByID_FolderGiven_IsLookedAtWithAllB
 TEST_F(TempodialWorkLogFolderTest, FindFolderByID_FolderCantBeRead_TheWalkGoesOn)
 {
     const auto id = MakeFolder()->EntryID();
-    Restart(FailingAt("Inbox.EntryID"));
+    Restart(FailingOnceAt("MAPIFolder.EntryID", 2));
     EXPECT_TRUE(mWorkLog->FindFolderByID(id, nullptr));
     EXPECT_THAT(Traced(), Contains("TDWorklog FindFolderByID error Automation error ").Times(1));
-    Restart(FailingAt("Inbox.Folders"));
+    Restart(FailingOnceAt("MAPIFolder.Folders", 2));
     EXPECT_TRUE(mWorkLog->FindFolderByID(id, nullptr));
     Restart(FailingAt("Folders.Item"));
     EXPECT_FALSE(mWorkLog->FindFolderByID(id, nullptr));

@@ -230,20 +230,20 @@ TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_SaveFails_AnswersOneAndStil
 {
     const auto item = Activity("A");
     std::vector<std::string> members;
-    const auto observed = MakeRef<ObservedItem>(item, [&](const std::string& member) {
+    const auto observed = ObservedItem(item, [&](const std::string& member) {
         members.push_back(member);
-        if (member == "Save") {
+        if (member == "AppointmentItem.Save") {
             throw Failure(Error::DiskFull);
         }
     });
     EXPECT_EQ(Update(observed, "B", "More"), 1);
-    EXPECT_EQ(members.back(), "Close");
+    EXPECT_EQ(members.back(), "AppointmentItem.Close");
     EXPECT_EQ(Traced().back(), "TDWorklog save failed Disk full");
 }
 
 TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_SaveFails_GivesNothing)
 {
-    Observe(FailingAt({ "Save" }, Error::DiskFull));
+    Observe(FailingAt("AppointmentItem.Save", Error::DiskFull));
     EXPECT_FALSE(mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", true, true));
     const auto traced = Traced();
     EXPECT_THAT(traced, Contains("TDWorklog save failed Disk full"));
@@ -269,7 +269,7 @@ TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_FormNotPublished_DropsTheIt
 
 TEST_F(TempodialWorkLogItemsTest, CreateCalendarItem_ClassCantBeRead_DropsTheItem)
 {
-    Observe(FailingAt({ "MessageClass" }));
+    Observe(FailingAt("AppointmentItem.MessageClass"));
     EXPECT_FALSE(mWorkLog->CreateCalendarItem("A", "d", "Notepad", "", 5, At(9, 0), At(9, 5), "", false, true));
     EXPECT_EQ(Traced().back(), "TDWorklog CCI error Automation error set registry");
 }
@@ -278,24 +278,24 @@ TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_AnyMemberFails_WritesTheRes
 {
     std::vector<std::string> members;
     const auto count = [&](const std::string& member) { members.push_back(member); };
-    ASSERT_EQ(Update(MakeRef<ObservedItem>(Appointment("first"), count), "", "d"), 0);
+    ASSERT_EQ(Update(ObservedItem(Appointment("first"), count), "", "d"), 0);
     const auto calls = members;
     ASSERT_GT(calls.size(), 30U);
     for (std::size_t failing = 0; failing < calls.size(); ++failing) {
         members.clear();
         const auto item = Appointment("plain");
         ForgetTrace();
-        const auto observed = MakeRef<ObservedItem>(item, [&](const std::string& member) {
+        const auto observed = ObservedItem(item, [&](const std::string& member) {
             members.push_back(member);
             if (members.size() == failing + 1) {
                 throw Failure(Error::Automation);
             }
         });
         const auto code = Update(observed, "", "d");
-        EXPECT_EQ(code, calls[failing] == "Save" ? 1 : 0) << calls[failing];
+        EXPECT_EQ(code, calls[failing] == "AppointmentItem.Save" ? 1 : 0) << calls[failing];
         EXPECT_THAT(Traced(), Contains(HasSubstr("Automation error"))) << calls[failing];
-        EXPECT_EQ(members.back(), "Close") << calls[failing];
-        if (calls[failing] != "SetSubject" && calls[failing] != "Save") {
+        EXPECT_EQ(members.back(), "AppointmentItem.Close") << calls[failing];
+        if (calls[failing] != "AppointmentItem.SetSubject" && calls[failing] != "AppointmentItem.Save") {
             EXPECT_EQ(item->Subject(), "Notepad, d") << calls[failing];
         }
     }
@@ -303,7 +303,7 @@ TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_AnyMemberFails_WritesTheRes
 
 TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ProjectCantBeWritten_NamesItsOldValue)
 {
-    const auto item = MakeRef<ObservedItem>(Activity("A"), FailingAt({ "SetValue of Project" }));
+    const auto item = ObservedItem(Activity("A"), FailingAt("UserProperty.SetValue Project"));
     EXPECT_EQ(Update(item, "B", "d"), 0);
     EXPECT_THAT(
         Traced(), Contains("TDWorklog update item error Automation error write props Value - current Value: A"));
@@ -314,16 +314,16 @@ TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_ProjectCantBeWritten_NamesI
 TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_StepsFail_AreNamed)
 {
     const auto traced = [&](const char* member) {
-        Update(MakeRef<ObservedItem>(Appointment("plain"), FailingAt({ member })), "B", "d");
+        Update(ObservedItem(Appointment("plain"), FailingAt(member)), "B", "d");
         return Traced();
     };
     const std::string words = "TDWorklog update item error Automation error ";
-    EXPECT_THAT(traced("UserProperties"), Contains(words + "get item properties"));
-    EXPECT_THAT(traced("SetStart"), Contains(words + "Fill in Item"));
-    EXPECT_THAT(traced("Item Type"), Contains(words + "get props"));
-    EXPECT_THAT(traced("Add Day"), Contains(words + "add props"));
-    EXPECT_THAT(traced("SetValue of People"), Contains(words + "write props"));
-    EXPECT_THAT(traced("Close"), Contains(words + "write props"));
+    EXPECT_THAT(traced("AppointmentItem.UserProperties"), Contains(words + "get item properties"));
+    EXPECT_THAT(traced("AppointmentItem.SetStart"), Contains(words + "Fill in Item"));
+    EXPECT_THAT(traced("UserProperties.Item Type"), Contains(words + "get props"));
+    EXPECT_THAT(traced("UserProperties.Add Day"), Contains(words + "add props"));
+    EXPECT_THAT(traced("UserProperty.SetValue People"), Contains(words + "write props"));
+    EXPECT_THAT(traced("AppointmentItem.Close"), Contains(words + "write props"));
 }
 
 TEST_F(TempodialWorkLogItemsTest, UpdateCalendarItem_NoItem_AnswersOneForTheSave)

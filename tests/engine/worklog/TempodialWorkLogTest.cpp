@@ -28,7 +28,7 @@ TEST_F(TempodialWorkLogTest, IsOurItem_FieldsFail_IsFalseWithNumberAndText)
     mWorkLog->GetBody(item);
     ForgetTrace();
     EXPECT_FALSE(mWorkLog->IsOurItem(nullptr));
-    EXPECT_FALSE(mWorkLog->IsOurItem(MakeRef<ObservedItem>(item, FailingAt({ "Subject" }, Error::NotSupported))));
+    EXPECT_FALSE(mWorkLog->IsOurItem(ObservedItem(item, FailingAt("AppointmentItem.Subject", Error::NotSupported))));
     EXPECT_THAT(Traced(),
         ElementsAre("TDWorklog Check Item 2 error get body 91 Object variable or With block variable not set",
             "TDWorklog Check Item 2 error get body 438 Object doesn't support this property or method"));
@@ -48,7 +48,7 @@ TEST_F(TempodialWorkLogTest, GetAttribute_Failure_LeavesTheRoutineAtItsStep)
     const auto item = Activity("A");
     EXPECT_TRUE(mWorkLog->GetAttribute("Project", nullptr).IsEmpty());
     EXPECT_TRUE(
-        mWorkLog->GetAttribute("Project", MakeRef<ObservedItem>(item, FailingAt({ "Item Project" }))).IsEmpty());
+        mWorkLog->GetAttribute("Project", ObservedItem(item, FailingAt("UserProperties.Item Project"))).IsEmpty());
     EXPECT_TRUE(mWorkLog->GetAttribute("Absent", item).IsEmpty());
     EXPECT_THAT(Traced(),
         ElementsAre("TDWorklog getattribute error UserProps 91 Object variable or With block variable not set",
