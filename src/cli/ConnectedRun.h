@@ -7,7 +7,7 @@
 #include "faults/Problems.h"
 #include "host/store/Mailbox.h"
 #include "host/store/StoreImportJournal.h"
-#include "platform/system/MailDraftWriter.h"
+#include "platform/system/MailDraft.h"
 #include "session/OpenProfile.h"
 #include "session/Session.h"
 

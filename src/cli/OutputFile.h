@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/Reply.h"
-#include "platform/system/MailDraftWriter.h"
+#include "platform/system/MailDraft.h"
 #include "terminal/ArgumentList.h"
 
 #include <optional>

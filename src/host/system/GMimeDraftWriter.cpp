@@ -1,7 +1,6 @@
 #include "host/system/GMimeDraftWriter.h"
 
 #include "host/files/MemoryFile.h"
-#include "host/files/ReplacementFile.h"
 #include "host/files/SystemFailure.h"
 
 #include <utility>
@@ -21,14 +20,6 @@ std::string GMimeDraftWriter::Text(const MailDraft& draft, const std::string& pl
         throw SystemFailure(error);
     }
     return file.Text();
-}
-
-void GMimeDraftWriter::Write(const MailDraft& draft, const std::string& path)
-{
-    const auto text = Text(draft);
-    ReplacementFile file { NativePath(path) };
-    file.Write(text);
-    file.Commit();
 }
 
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/system/MailDraftWriter.h"
+#include "platform/system/MailDraft.h"
 
 namespace tempodial {
 

@@ -3,7 +3,7 @@
 #include "base/Ref.h"
 #include "host/store/Mailbox.h"
 #include "platform/objectmodel/MailItem.h"
-#include "platform/system/MailDraftWriter.h"
+#include "platform/system/MailDraft.h"
 
 #include <cstdint>
 #include <functional>

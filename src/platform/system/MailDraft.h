@@ -28,15 +28,4 @@ struct MailDraft
     std::vector<Attachment> attachments;
 };
 
-/// Writes drafts as files that a mail program opens for sending.
-class MailDraftWriter
-{
-public:
-    virtual ~MailDraftWriter() = default;
-
-    /// Writes a draft, which takes the place of an old file as a whole. The same draft gives the same bytes at any
-    /// time. Fails as opening a file for writing does, and when the disk refuses (61, 57).
-    virtual void Write(const MailDraft& draft, const std::string& path) = 0;
-};
-
 }
