@@ -95,10 +95,11 @@ std::string TextTable::Line(
         const auto filling = widths[i] - width;
         blanks += (i == 0 ? 0 : ColumnGap) + (mColumns[i] == Side::Right ? filling : 0);
         if (!text.empty()) {
-            if (blanks > room) {
-                return line + "…";
-            }
             const bool isCut = width > room - blanks;
+            // A number that is cut would be another one.
+            if (blanks > room || (isCut && mColumns[i] == Side::Right)) {
+                return line + (room > 0 && !line.empty() ? " …" : "…");
+            }
             if (isCut) {
                 text = Shortened(text, room - blanks + 1);
             }

@@ -11,7 +11,8 @@
 namespace tempodial {
 
 /// A table for people: columns as wide as their widest cell, two blanks between them, none at the end of a line. Where
-/// there isn't room for that, the widest columns of texts give way, and what is cut ends in "…".
+/// there isn't room for that, the widest columns of texts give way, and what is cut ends in "…"; a number is left out
+/// whole.
 class TextTable
 {
 public:

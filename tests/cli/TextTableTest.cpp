@@ -41,8 +41,8 @@ TEST(TextTableTest, Text_NoRoom_CutsTheWidestTexts)
         "a name of a pr…  15 min  売上売上売上売…\n"
         "b                 5 min  c\n");
     EXPECT_EQ(table.Text({ .width = 20 }),
-        "a name of a…  15 mi…\n"
-        "b              5 mi…\n");
+        "a name of a… …\n"
+        "b …\n");
 }
 
 TEST(TextTableTest, Text_VeryNarrow_CutsTheLines)
@@ -51,10 +51,10 @@ TEST(TextTableTest, Text_VeryNarrow_CutsTheLines)
     TextTable table({ Left, Right, Right });
     table.Add({ "abc", "1:00", "12:00" });
     EXPECT_EQ(table.Text({ .width = 16 }), "abc  1:00  12:00\n");
-    EXPECT_EQ(table.Text({ .width = 15 }), "abc  1:00  12:…\n");
-    EXPECT_EQ(table.Text({ .width = 11 }), "abc  1:00…\n");
-    EXPECT_EQ(table.Text({ .width = 9 }), "abc  1:0…\n");
-    EXPECT_EQ(table.Text({ .width = 5 }), "abc…\n");
+    EXPECT_EQ(table.Text({ .width = 15 }), "abc  1:00 …\n");
+    EXPECT_EQ(table.Text({ .width = 11 }), "abc  1:00 …\n");
+    EXPECT_EQ(table.Text({ .width = 9 }), "abc …\n");
+    EXPECT_EQ(table.Text({ .width = 5 }), "abc …\n");
     EXPECT_EQ(table.Text({ .width = 3 }), "ab…\n");
     EXPECT_EQ(table.Text({ .width = 1 }), "…\n");
 }
@@ -68,7 +68,7 @@ TEST(TextTableTest, Text_Colors_StandAroundCellsAlone)
     table.AddStyled({ { "x ", { "2" } }, { "", { "2" } } });
     EXPECT_EQ(table.Text(), "A     B\nname  5\nx\n");
     EXPECT_EQ(table.Text({ .width = 5, .hasColors = true }),
-        "\x1b[1mA\x1b[0m…\n\x1b[38;5;28mname\x1b[0m…\n\x1b[2mx\x1b[0m\n");
+        "\x1b[1mA\x1b[0m …\n\x1b[38;5;28mname\x1b[0m…\n\x1b[2mx\x1b[0m\n");
     EXPECT_EQ(table.Text({ .hasColors = true }),
         "\x1b[1mA\x1b[0m     \x1b[1mB\x1b[0m\n\x1b[38;5;28mname\x1b[0m  5\n\x1b[2mx\x1b[0m\n");
 }
