@@ -1,6 +1,8 @@
 #include "base/Failure.h"
 #include "fuzz/FuzzTarget.h"
 #include "host/store/MailboxError.h"
+#include "host/store/StepJournal.h"
+#include "host/store/StoreImportJournal.h"
 #include "host/system/IcuLocaleFormats.h"
 #include "platform/objectmodel/Views.h"
 #include "support/TempFolder.h"
@@ -20,6 +22,52 @@ const TempFolder& MailboxFolder()
 {
     static const TempFolder folder(TempFolder::InMemory());
     return folder;
+}
+
+/// A sync of a day with one line, which doesn't come to write its history.
+void Import(const Ref<Mailbox>& mailbox)
+{
+    constexpr auto Day = "20061010";
+    StoreImportJournal journal(mailbox);
+    journal.Begin();
+    const auto count = journal.BeginDay(Day, -1);
+    static_cast<void>(journal.Committed(Day));
+    if (!journal.IsKnown("line")) {
+        journal.Reached(1, true);
+        journal.Loaded(Day, { count, 1 });
+    }
+    journal.End();
+}
+
+Date StepMoment()
+{
+    return Date::FromParts({ 2006, 10, 10, 12, 0, 0 });
+}
+
+/// A step that changes an item and the rules.
+void ChangeInAStep(const Ref<Mailbox>& mailbox, const Ref<AppointmentItem>& item)
+{
+    StepJournal journal(mailbox);
+    std::string rules = "before";
+    journal.Begin(StepMoment(), "edit", [&] { return rules; });
+    item->SetSubject("changed");
+    item->Save();
+    rules = "after";
+    journal.End();
+}
+
+/// Takes the newest step back.
+void Undo(const Ref<Mailbox>& mailbox)
+{
+    StepJournal journal(mailbox);
+    for (const auto& step : journal.Newest(StepMoment(), 10)) {
+        journal.Preview(step);
+    }
+    if (const auto step = journal.NewestInForce(StepMoment())) {
+        journal.Begin(StepMoment(), "undo", [] { return std::string(); });
+        journal.TakeBack(*step, StepMoment());
+        journal.End();
+    }
 }
 
 /// A mailbox with something in each of its tables.
@@ -42,8 +90,12 @@ std::string SoundMailbox()
             item->UserProperties()->Add("ApplyPast", PropertyType::YesNo, true)->SetValue(false);
             item->SetBody("body");
             item->Save();
+            if (index == 0) {
+                ChangeInAStep(mailbox, item);
+            }
         }
         mailbox->NewItem(log, form)->FormDescription()->PublishForm(FormRegistry::Personal);
+        Import(mailbox);
         mailbox->Drafts().Save({ { "a@b.example" }, "subject", "<p>", true, { { "a.txt", "content", "text/plain" } } });
     }
     return MailboxFolder().Read("sound.db");
@@ -89,13 +141,16 @@ struct Column
     const char* name;
 };
 
-constexpr std::array<Column, 29> Columns { { { "folder", "id" }, { "folder", "parent" }, { "folder", "name" },
+constexpr std::array<Column, 40> Columns { { { "folder", "id" }, { "folder", "parent" }, { "folder", "name" },
     { "folder", "kind" }, { "folder", "role" }, { "folder_field", "folder" }, { "folder_field", "name" },
     { "folder_field", "type" }, { "item", "id" }, { "item", "folder" }, { "item", "kind" }, { "item", "message_class" },
     { "item", "starts" }, { "item", "ends" }, { "item", "span" }, { "item", "properties" }, { "view", "folder" },
     { "view", "name" }, { "view", "type" }, { "view", "xml" }, { "form", "message_class" }, { "form", "fields" },
     { "draft", "id" }, { "draft", "recipients" }, { "draft_attachment", "position" }, { "draft_attachment", "type" },
-    { "import_position", "day" }, { "mailbox", "id" }, { "mailbox", "last_item" } } };
+    { "import_position", "day" }, { "mailbox", "id" }, { "mailbox", "last_item" }, { "import_line", "day" },
+    { "import_line", "last_count" }, { "import_line", "hashes" }, { "item", "revision" }, { "step", "moment" },
+    { "step", "undoes" }, { "step", "rules_before" }, { "step_item", "step" }, { "step_item", "item" },
+    { "step_item", "left_revision" }, { "step_item", "properties" } } };
 
 /// Changes and deletes rows as somebody with another program can, whom neither checks nor references hold back.
 void ChangeRows(const std::string& path, Bytes& bytes)
@@ -199,6 +254,8 @@ void ReadMailbox(const Ref<Mailbox>& mailbox)
             Try([&] { mailbox->Drafts().Get(row); });
         }
     });
+    Try([&] { Import(mailbox); });
+    Try([&] { Undo(mailbox); });
     Try([&] { NewTestItem(mailbox, "new")->Save(); });
     Try([&] {
         const auto log = mailbox->FolderByPath("Calendar/Tempodial");
