@@ -96,31 +96,6 @@ STDMETHODIMP StandInObject::QueryInterface(REFIID iid, void** object)
     return S_OK;
 }
 
-STDMETHODIMP_(ULONG) StandInObject::AddRef()
-{
-    return ++mReferences;
-}
-
-STDMETHODIMP_(ULONG) StandInObject::Release()
-{
-    const auto left = --mReferences;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
-
-STDMETHODIMP StandInObject::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
-STDMETHODIMP StandInObject::GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** /*info*/)
-{
-    return E_NOTIMPL;
-}
-
 STDMETHODIMP StandInObject::GetIDsOfNames(
     REFIID /*reserved*/, LPOLESTR* names, UINT count, LCID /*locale*/, DISPID* ids)
 {

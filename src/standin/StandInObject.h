@@ -1,6 +1,7 @@
 #pragma once
 
 #include "addin/base/ComRef.h"
+#include "addin/base/DispatchObject.h"
 #include "standin/ConnectionPoint.h"
 #include "standin/ObjectTable.h"
 #include "wire/WireValue.h"
@@ -14,17 +15,13 @@ namespace tempodial {
 
 /// An object of Outlook's, as far as an add-in can tell: it has the names and identities of its class, and the host
 /// does its calls.
-class StandInObject final : public IDispatch, public IConnectionPointContainer
+class StandInObject final : public DispatchObject<IDispatch, IConnectionPointContainer>
 {
 public:
     /// Takes the table, which must outlive it.
     StandInObject(ObjectTable& table, std::int64_t number, std::string className);
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override;
-    STDMETHODIMP_(ULONG) Release() override;
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
     STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
         EXCEPINFO* told, UINT* badArgument) override;
@@ -38,7 +35,7 @@ public:
     void Listen(bool wanted);
 
 private:
-    ~StandInObject();
+    ~StandInObject() override;
 
     /// The member of an identity, nothing when the class has none.
     const char* MemberOf(DISPID id) const;
@@ -47,7 +44,6 @@ private:
     std::int64_t mNumber;
     std::string mClassName;
     ConnectionPoint mPoint;
-    ULONG mReferences = 0;
 };
 
 }

@@ -37,7 +37,7 @@ Subscription EventSink::Subscribe(
     const auto points = source.As<IConnectionPointContainer>();
     if (points) {
         for (const auto& iid : interfaces) {
-            const auto sink = ComRef<EventSink>::Adopt(new EventSink(iid, handlers));
+            const auto sink = ComRef<EventSink>(new EventSink(iid, handlers));
             if (sink->Connect(points)) {
                 return Subscription(std::shared_ptr<EventSink>(
                     ComRef<EventSink>(sink).Detach(), [](EventSink* ended) { ended->End(); }));
@@ -76,37 +76,6 @@ STDMETHODIMP EventSink::QueryInterface(REFIID iid, void** object)
     }
     *object = nullptr;
     return E_NOINTERFACE;
-}
-
-STDMETHODIMP_(ULONG) EventSink::AddRef()
-{
-    return ++mReferences;
-}
-
-STDMETHODIMP_(ULONG) EventSink::Release()
-{
-    const auto left = --mReferences;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
-
-STDMETHODIMP EventSink::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
-STDMETHODIMP EventSink::GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** /*info*/)
-{
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP EventSink::GetIDsOfNames(
-    REFIID /*reserved*/, LPOLESTR* /*names*/, UINT /*count*/, LCID /*locale*/, DISPID* /*ids*/)
-{
-    return DISP_E_UNKNOWNNAME;
 }
 
 STDMETHODIMP EventSink::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale*/, WORD /*flags*/, DISPPARAMS* parameters,

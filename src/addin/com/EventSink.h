@@ -1,6 +1,7 @@
 #pragma once
 
 #include "addin/base/ComRef.h"
+#include "addin/base/DispatchObject.h"
 #include "addin/com/EventArguments.h"
 #include "base/Subscription.h"
 
@@ -12,7 +13,7 @@ namespace tempodial {
 
 /// Hears the events of one object by one of its event interfaces. The object holds it, and its subscription ends it,
 /// also inside an event.
-class EventSink final : public IDispatch
+class EventSink final : public DispatchObject<IDispatch>
 {
 public:
     using Handler = std::function<void(const EventArguments& arguments)>;
@@ -26,17 +27,12 @@ public:
     static long Count();
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override;
-    STDMETHODIMP_(ULONG) Release() override;
-    STDMETHODIMP GetTypeInfoCount(UINT* count) override;
-    STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
-    STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
         EXCEPINFO* told, UINT* badArgument) override;
 
 private:
     EventSink(const IID& iid, Handlers handlers);
-    ~EventSink();
+    ~EventSink() override;
 
     /// Connects with a source; false when it doesn't have the interface.
     bool Connect(const ComRef<IConnectionPointContainer>& source);
@@ -46,7 +42,6 @@ private:
     Handlers mHandlers;
     ComRef<IConnectionPoint> mPoint;
     DWORD mCookie = 0;
-    ULONG mReferences = 1;
 };
 
 }

@@ -42,43 +42,6 @@ STDMETHODIMP ConnectFace::QueryInterface(REFIID iid, void** object)
     return E_NOINTERFACE;
 }
 
-STDMETHODIMP_(ULONG) ConnectFace::AddRef()
-{
-    return ++mReferences;
-}
-
-STDMETHODIMP_(ULONG) ConnectFace::Release()
-{
-    const auto left = --mReferences;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
-
-STDMETHODIMP ConnectFace::GetTypeInfoCount(UINT* count)
-{
-    *count = 0;
-    return S_OK;
-}
-
-STDMETHODIMP ConnectFace::GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** /*info*/)
-{
-    return E_NOTIMPL;
-}
-
-STDMETHODIMP ConnectFace::GetIDsOfNames(
-    REFIID /*reserved*/, LPOLESTR* /*names*/, UINT /*count*/, LCID /*locale*/, DISPID* /*ids*/)
-{
-    return DISP_E_UNKNOWNNAME;
-}
-
-STDMETHODIMP ConnectFace::Invoke(DISPID /*id*/, REFIID /*reserved*/, LCID /*locale*/, WORD /*flags*/,
-    DISPPARAMS* /*parameters*/, VARIANT* /*result*/, EXCEPINFO* /*told*/, UINT* /*badArgument*/)
-{
-    return DISP_E_MEMBERNOTFOUND;
-}
-
 STDMETHODIMP ConnectFace::OnConnection(
     IDispatch* application, ConnectMode /*mode*/, IDispatch* addInInstance, SAFEARRAY** /*custom*/)
 {
