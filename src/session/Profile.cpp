@@ -32,13 +32,24 @@ std::unique_ptr<ProfileFolder> Locked(const std::string& path, std::chrono::seco
     return folder;
 }
 
+/// The text of a file; nothing when there is none that can be read.
+std::optional<std::string> TextOf(FileSystemObject& files, const std::string& path)
+{
+    try {
+        return files.OpenTextFile(path, OpenMode::Reading, false)->ReadAll();
+    } catch (const Failure& failure) {
+        return failure.Is(Error::InputPastEnd) ? std::optional(std::string()) : std::nullopt;
+    }
+}
+
 }
 
 Profile::Profile(const std::string& folder, const std::string& locale, std::optional<Date> now,
     std::chrono::seconds wait, const Warn& warn)
     : Profile(Locked(folder, wait, warn), ProfilePlace::UsablePath(folder), locale, now, Mailbox::Open)
 {
-    mJournal = MakeRef<StoreImportJournal>(mMailbox);
+    mJournal = MakeRef<StoreImportJournal>(mMailbox,
+        [files = mPlatform.fileSystem, path = DataFolder() + "/" + HistoryFileName] { return TextOf(*files, path); });
     mPlatform.importJournal = mJournal;
     ReplacementFile::DiscardLeftovers(NativePath::Exactly(DataFolder()));
     Steps(*this).Recover();

@@ -54,7 +54,9 @@ LineMemory::LineMemory(const Ref<Mailbox>& mailbox)
 void LineMemory::ForgetLines()
 {
     mStore->Database().CheckWhole();
-    Query(mStore->Database(), "DELETE FROM import_line WHERE NOT EXISTS (SELECT 1 FROM import_position)").Run();
+    Query(mStore->Database(),
+        "DELETE FROM import_line WHERE NOT EXISTS (SELECT 1 FROM import_position WHERE history IS NULL)")
+        .Run();
 }
 
 void LineMemory::ForgetOldDays()

@@ -200,12 +200,20 @@ CREATE TABLE step_item (
 )";
 }
 
+/// What the history said when the import began that wrote a position, nothing when there was none: as long as it says
+/// that, the position holds.
+std::string HistoryOfPositions()
+{
+    return "ALTER TABLE import_position ADD COLUMN history TEXT;\n";
+}
+
 }
 
 const std::vector<std::string>& MailboxSchema::Steps()
 {
     static const std::vector<std::string> steps
-        = { Tables() + Contents(), UniqueNames(), ReachedLines(), StepsOfCommands(), DueToBeForgotten() };
+        = { Tables() + Contents(), UniqueNames(), ReachedLines(), StepsOfCommands(), DueToBeForgotten(),
+              HistoryOfPositions() };
     return steps;
 }
 

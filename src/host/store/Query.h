@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,9 @@ public:
     Query& Bind(const std::string& text);
     Query& Bind(std::string&& text);
     Query& BindNull();
+    /// Binds a text that outlives the run, or nothing.
+    Query& BindOptional(const std::optional<std::string>& text) { return text ? Bind(*text) : BindNull(); }
+    Query& BindOptional(std::optional<std::int64_t> number) { return number ? Bind(*number) : BindNull(); }
     /// Binds bytes that outlive the run.
     Query& BindBytes(std::string_view bytes);
     /// Goes to the next row; false when there is none.

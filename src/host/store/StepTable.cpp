@@ -30,24 +30,6 @@ const std::string DropUnchangedItems = "DELETE FROM step_item WHERE step = ? AND
     + ItemColumns + " FROM item WHERE item.id = step_item.item)";
 const std::string OneItem = " AND item = ?";
 
-void BindOptional(Query& query, const std::optional<std::string>& text)
-{
-    if (text) {
-        query.Bind(*text);
-    } else {
-        query.BindNull();
-    }
-}
-
-void BindOptional(Query& query, std::optional<std::int64_t> number)
-{
-    if (number) {
-        query.Bind(*number);
-    } else {
-        query.BindNull();
-    }
-}
-
 }
 
 std::vector<Step> StepTable::Newest(Date from, std::int64_t most)
@@ -133,9 +115,9 @@ bool StepTable::Finish(const Step& step)
     }
     Query query(
         mDatabase, "UPDATE step SET undoes = ?, rules_before = ?, rules_after = ?, are_rules_due = ? WHERE id = ?");
-    BindOptional(query, step.undoes);
-    BindOptional(query, step.rulesBefore);
-    BindOptional(query, step.rulesAfter);
+    query.BindOptional(step.undoes);
+    query.BindOptional(step.rulesBefore);
+    query.BindOptional(step.rulesAfter);
     query.Bind(std::int64_t { step.rulesAfter.has_value() }).Bind(step.number).Run();
     Query(mDatabase, "UPDATE mailbox SET last_step = ?").Bind(step.number).Run();
     return true;
@@ -179,7 +161,7 @@ void StepTable::Restore(std::int64_t step, std::int64_t keeper, std::optional<Da
     Query(mDatabase, keep).Bind(keeper).Bind(step).Run();
     Query(mDatabase, remove).Bind(step).Bind(keeper).Run();
     Query query(mDatabase, bringBack);
-    BindOptional(query, saved ? std::optional(saved->Seconds()) : std::nullopt);
+    query.BindOptional(saved ? std::optional(saved->Seconds()) : std::nullopt);
     query.Bind(step).Bind(keeper).Run();
 }
 

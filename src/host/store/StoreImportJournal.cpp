@@ -17,9 +17,10 @@ constexpr std::chrono::seconds LongestHold { 2 };
 
 }
 
-StoreImportJournal::StoreImportJournal(const Ref<Mailbox>& mailbox)
+StoreImportJournal::StoreImportJournal(const Ref<Mailbox>& mailbox, HistoryReader readHistory)
     : mStore(mailbox->Store())
     , mMemory(mailbox)
+    , mReadHistory(std::move(readHistory))
 {
 }
 
@@ -37,6 +38,7 @@ void StoreImportJournal::SetRemembers(bool remembers)
 void StoreImportJournal::Begin()
 {
     mUnread.clear();
+    mHistory = mReadHistory ? mReadHistory() : std::nullopt;
     mStore->Database().Recover();
     // What someone else holds is committed and then let go of; what this holds goes on.
     mStore->CommitHeld();
@@ -68,8 +70,9 @@ void StoreImportJournal::Commit()
 
 std::optional<ImportJournal::Position> StoreImportJournal::Committed(const std::string& dayKey)
 {
-    Query query(mStore->Database(), "SELECT count, lines FROM import_position WHERE day = ?");
-    query.Bind(dayKey);
+    Query query(mStore->Database(),
+        "SELECT count, lines FROM import_position WHERE day = ? AND (history IS NULL OR history = ?)");
+    query.Bind(dayKey).BindOptional(mHistory);
     if (!query.Step()) {
         return std::nullopt;
     }
@@ -80,7 +83,11 @@ void StoreImportJournal::HistorySaved()
 {
     mStore->Database().CheckWhole();
     mPositions.clear();
-    Query(mStore->Database(), "DELETE FROM import_position").Run();
+    // Where lines are remembered, a position that holds once more because a former history was put back does no harm.
+    if (!mRemembers || !mHistory) {
+        Query(mStore->Database(), "DELETE FROM import_position").Run();
+    }
+    mHistory.reset();
     if (mForgets) {
         mMemory.ForgetOldDays();
     }
@@ -121,11 +128,18 @@ bool StoreImportJournal::Keep()
     if (!mStore->Database().IsHolding()) {
         return false;
     }
+    if (!mPositions.empty()) {
+        Query(mStore->Database(), "DELETE FROM import_position WHERE history IS NOT NULL AND history IS NOT ?")
+            .BindOptional(mHistory)
+            .Run();
+    }
     for (const auto& [day, position] : mPositions) {
-        Query(mStore->Database(), "INSERT OR REPLACE INTO import_position (day, count, lines) VALUES (?, ?, ?)")
+        Query(mStore->Database(),
+            "INSERT OR REPLACE INTO import_position (day, count, lines, history) VALUES (?, ?, ?, ?)")
             .Bind(day)
             .Bind(std::int64_t { position.count })
             .Bind(position.lines)
+            .BindOptional(mHistory)
             .Run();
     }
     mMemory.Keep();

@@ -6,7 +6,9 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,7 +19,8 @@ class MailboxStore;
 
 /// The import journal of a mailbox: while it is begun, writes are committed every two seconds or 2,000 lines, and when
 /// asked. A failure undoes what was written since the last commit, and from then on every write fails until `End`. The
-/// lines that were reached are kept in any case, and gone by when it is told so.
+/// lines that were reached are kept in any case, and gone by when it is told so. Positions hold as long as the history
+/// says what it said when the import began, so nothing has to be written when it has changed.
 class StoreImportJournal final : public ImportJournal
 {
 public:
@@ -28,7 +31,11 @@ public:
         std::int64_t number = 0;
     };
 
-    explicit StoreImportJournal(const Ref<Mailbox>& mailbox);
+    /// Reads the history's text as it is; nothing when there is none.
+    using HistoryReader = std::function<std::optional<std::string>()>;
+
+    /// Without a reader there is no history to go by, and positions are deleted when it was written.
+    explicit StoreImportJournal(const Ref<Mailbox>& mailbox, HistoryReader readHistory = nullptr);
     ~StoreImportJournal() override;
     StoreImportJournal(const StoreImportJournal&) = delete;
     StoreImportJournal& operator=(const StoreImportJournal&) = delete;
@@ -63,6 +70,9 @@ private:
 
     Ref<MailboxStore> mStore;
     LineMemory mMemory;
+    HistoryReader mReadHistory;
+    /// What the history said when the import began, until it is written anew; nothing without one.
+    std::optional<std::string> mHistory;
     bool mRemembers = false;
     bool mForgets = true;
     std::string mDay;

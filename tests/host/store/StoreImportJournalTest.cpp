@@ -80,6 +80,60 @@ TEST_F(StoreImportJournalTest, HistorySaved_AfterTheEnd_ForgetsThem)
     EXPECT_FALSE(mJournal->Committed("20061010"));
 }
 
+TEST_F(StoreImportJournalTest, HistorySaved_Remembering_WritesNothingAndThePositionsHoldNoMore)
+{
+    std::string history = "|20061010_36000";
+    const auto journal = MakeRef<StoreImportJournal>(mMailbox, [&] { return history; });
+    journal->SetRemembers(true);
+    journal->Begin();
+    journal->Loaded("20061010", { 36300, 2 });
+    journal->Commit();
+    EXPECT_EQ(journal->Committed("20061010")->count, 36300);
+    history = "|20061010_36300";
+    journal->HistorySaved();
+    EXPECT_FALSE(journal->Committed("20061010"));
+    journal->End();
+    EXPECT_EQ(TestDatabase(mMailbox).Number("SELECT count(*) FROM import_position"), 1);
+
+    journal->Begin();
+    EXPECT_FALSE(journal->Committed("20061010"));
+    journal->Loaded("20061011", { 100, 1 });
+    journal->Commit();
+    EXPECT_EQ(TestDatabase(mMailbox).Number("SELECT count(*) FROM import_position"), 1) << "the former one is gone";
+    EXPECT_EQ(journal->Committed("20061011")->count, 100);
+    journal->End();
+}
+
+TEST_F(StoreImportJournalTest, Committed_HistoryNotWrittenSince_Holds)
+{
+    const auto reader = [] { return std::string("|20061010_36000"); };
+    const auto journal = MakeRef<StoreImportJournal>(mMailbox, reader);
+    journal->Begin();
+    journal->Loaded("20061010", { 36300, 2 });
+    journal->End();
+
+    const auto next = MakeRef<StoreImportJournal>(mMailbox, reader);
+    next->Begin();
+    EXPECT_EQ(next->Committed("20061010")->count, 36300);
+    next->End();
+}
+
+TEST_F(StoreImportJournalTest, HistorySaved_NoHistoryOrNotRemembering_DeletesThePositions)
+{
+    for (const bool remembers : { false, true }) {
+        const auto journal = MakeRef<StoreImportJournal>(
+            mMailbox, [&] { return remembers ? std::nullopt : std::optional<std::string>("|20061010_36000"); });
+        journal->SetRemembers(remembers);
+        journal->Begin();
+        journal->Loaded("20061010", { 36300, 2 });
+        journal->Commit();
+        EXPECT_TRUE(journal->Committed("20061010"));
+        journal->HistorySaved();
+        EXPECT_EQ(TestDatabase(mMailbox).Number("SELECT count(*) FROM import_position"), 0);
+        journal->End();
+    }
+}
+
 TEST_F(StoreImportJournalTest, Loaded_ManyLines_CommitsByItself)
 {
     mJournal->Begin();
