@@ -50,6 +50,9 @@ foreach(source IN LISTS sources)
     list(APPEND folders "${folder}")
 endforeach()
 list(REMOVE_DUPLICATES folders)
+if(TEMPODIAL_TESTS_OF)
+    list(FILTER folders INCLUDE REGEX "^${tests}/(${TEMPODIAL_TESTS_OF})")
+endif()
 
 # What the tests of a folder use: no more than they need, so that they can be built while another folder can't. What
 # stands behind test_support's helpers comes with it.
@@ -102,6 +105,10 @@ function(tempodial_tested_by path result)
     set(${result} ${links} PARENT_SCOPE)
 endfunction()
 
+# Tests see the same surroundings everywhere, and a sanitizer's finding ends the test.
+set(surroundings TZ=UTC LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
+    UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1)
+
 foreach(folder IN LISTS folders)
     cmake_path(RELATIVE_PATH folder BASE_DIRECTORY "${tests}" OUTPUT_VARIABLE path)
     string(REPLACE "/" "_" program "${path}")
@@ -134,19 +141,38 @@ foreach(folder IN LISTS folders)
     if(TARGET tempodial-drive AND path MATCHES "^(driver|scenarios)")
         add_dependencies(${program} tempodial-drive)
     endif()
-    gtest_discover_tests(${program} TEST_PREFIX "${path}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES
-        WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
-        PROPERTIES TIMEOUT ${timeout} LABELS "${path}")
-    list(APPEND programs ${program})
+    # Those of scenarios take long, so they keep all processors busy only as tests of their own.
+    if(TEMPODIAL_TESTS_TOGETHER AND NOT path MATCHES "^scenarios")
+        set(parts 1)
+        if(path STREQUAL "cli")
+            set(parts 4)
+        endif()
+        foreach(part RANGE 1 ${parts})
+            set(name "${path}")
+            if(parts GREATER 1)
+                string(APPEND name "/part${part}")
+            endif()
+            string(REPLACE "/" "_" report "${name}.xml")
+            math(EXPR shard "${part} - 1")
+            add_test(NAME "${name}" WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
+                COMMAND ${program} --gtest_brief=1 "--gtest_output=xml:${report}")
+            set_tests_properties("${name}" PROPERTIES TIMEOUT 1800 LABELS "${path}" ENVIRONMENT
+                "${surroundings};GTEST_TOTAL_SHARDS=${parts};GTEST_SHARD_INDEX=${shard}")
+        endforeach()
+    else()
+        gtest_discover_tests(${program} TEST_PREFIX "${path}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+            NO_PRETTY_VALUES WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
+            PROPERTIES TIMEOUT ${timeout} LABELS "${path}")
+        list(APPEND programs ${program})
+    endif()
 endforeach()
 
-# Tests see the same surroundings everywhere, and a sanitizer's finding ends the test. CTest learns of the single tests
-# when it starts, so it learns of this then, too; gtest_discover_tests itself can't pass on a list.
+# CTest learns of the single tests when it starts, so it learns of their surroundings then, too; gtest_discover_tests
+# itself can't pass on a list.
 set(script "")
 foreach(program IN LISTS programs)
-    string(APPEND script "set_tests_properties(\${${program}_TESTS} PROPERTIES ENVIRONMENT \""
-        "TZ=UTC;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1;"
-        "UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1\")\n")
+    string(APPEND script
+        "set_tests_properties(\${${program}_TESTS} PROPERTIES ENVIRONMENT \"${surroundings}\")\n")
 endforeach()
 file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/TestEnvironment.cmake" CONTENT "${script}" @ONLY)
 set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${CMAKE_BINARY_DIR}/TestEnvironment.cmake")
@@ -155,7 +181,9 @@ if(TEMPODIAL_FUZZING)
     include(Fuzzing)
 endif()
 include(ResourceTests)
-include(ProgramTests)
+if(NOT TEMPODIAL_SANITIZERS)
+    include(ProgramTests)
+endif()
 if(TEMPODIAL_LINTS)
     include(Lints)
 endif()

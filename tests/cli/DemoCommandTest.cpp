@@ -1,3 +1,4 @@
+#include "support/LongTests.h"
 #include "support/ProgramFixture.h"
 
 #include <map>
@@ -136,13 +137,13 @@ TEST_F(DemoCommandTest, Demo_KilledAtAnyPoint_IsMadeGoodByTheNext)
         GTEST_SKIP() << "this system forbids observation";
     }
     const auto expected = Contents();
-    constexpr int Points = 12;
+    const int points = StopPoints(12, 100);
     int unfinished = 0;
-    for (int point = 1; point < Points; ++point) {
+    for (int point = 1; point < points; ++point) {
         SCOPED_TRACE(point);
         std::filesystem::remove_all(mProfile);
         std::filesystem::copy(empty, mProfile, std::filesystem::copy_options::recursive);
-        RunTempodialKilledAt(Whole({ "demo", "--days", "6" }), calls->systemCalls * point / Points);
+        RunTempodialKilledAt(Whole({ "demo", "--days", "6" }), calls->systemCalls * point / points);
         unfinished += std::filesystem::exists(DataPath("demo-unfinished.txt")) && Files() > 0 ? 1 : 0;
         const auto next = Run({ "demo", "--days", "6" });
         if (next.status != 0) {

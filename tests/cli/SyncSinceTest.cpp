@@ -1,3 +1,4 @@
+#include "support/LongTests.h"
 #include "support/ProgramFixture.h"
 
 #include <filesystem>
@@ -256,10 +257,10 @@ TEST_F(SyncSinceTest, SyncSince_KilledAtAnyPoint_IsMadeGoodByTheNext)
     if (!calls) {
         GTEST_SKIP() << "this system forbids observation";
     }
-    constexpr int Points = 25;
-    for (int point = 1; point < Points; ++point) {
+    const int points = StopPoints(25, 200);
+    for (int point = 1; point < points; ++point) {
         fill();
-        EXPECT_EQ(RunTempodialKilledAt(Whole(sync), calls->systemCalls * point / Points)->status, 137);
+        EXPECT_EQ(RunTempodialKilledAt(Whole(sync), calls->systemCalls * point / points)->status, 137);
         const auto next = Json(sync);
         EXPECT_EQ(next.at("leftOut"), nlohmann::json::array());
         const auto made = Made();

@@ -180,7 +180,7 @@ protected:
     }
     void LosePowerEverywhere(DurableFiles::Names names)
     {
-        EndEverywhere(ShortOrLong(4 / GetParam().length, 60), [names](const fs::path& profile, std::int64_t end) {
+        EndEverywhere(StopPoints(4 / GetParam().length, 60), [names](const fs::path& profile, std::int64_t end) {
             DurableFiles durable(profile);
             const auto killed = RunTempodialObserved(Sync(profile),
                 { .goesOn = [end](std::int64_t call) { return call != end; },
@@ -195,7 +195,7 @@ protected:
 
 TEST_P(CrashTest, Sync_KilledAnywhere_EndsAsUndisturbedAfterTheNext)
 {
-    EndEverywhere(ShortOrLong(12 / GetParam().length, 110), [](const fs::path& profile, std::int64_t end) {
+    EndEverywhere(StopPoints(12 / GetParam().length, 110), [](const fs::path& profile, std::int64_t end) {
         ASSERT_EQ(RunTempodialKilledAt(Sync(profile), end)->status, 128 + 9);
     });
 }

@@ -33,7 +33,7 @@ protected:
         if (!whole) {
             GTEST_SKIP() << "this system doesn't let a process be observed";
         }
-        const int points = ShortOrLong(8, 60);
+        const int points = StopPoints(8, 60);
         for (int i = 1; i <= points; ++i) {
             const auto call = whole->systemCalls * i / (points + 1);
             SCOPED_TRACE("at system call " + std::to_string(call) + " of " + std::to_string(whole->systemCalls));

@@ -112,7 +112,7 @@ TEST_F(ImportTest, Import_KilledAnywhere_EndsAsAnUndisturbedOne)
     }
     const auto undisturbed = Activities();
     ASSERT_EQ(undisturbed.size(), 28U);
-    const auto points = ShortOrLong(12, 200);
+    const auto points = StopPoints(12, 200);
     for (int point = 1; point <= points; ++point) {
         const auto call = counted->systemCalls * point / (points + 1);
         SCOPED_TRACE("killed at system call " + std::to_string(call));

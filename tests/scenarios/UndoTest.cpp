@@ -191,7 +191,7 @@ TEST_P(KilledStepTest, KilledAnywhere_StepAndChangeAreThereTogetherOrNotAtAll)
     ASSERT_EQ(StepCount(), stepsBefore + 1);
     const auto step = std::to_string(stepsBefore + 1);
     // What is written is written in the last third.
-    const auto points = std::min<std::int64_t>(counted->systemCalls / 3, ShortOrLong(7, 700));
+    const auto points = std::min<std::int64_t>(counted->systemCalls / 3, StopPoints(7, 700));
     int untouched = 0;
     for (std::int64_t i = 1; i <= points; ++i) {
         const auto call = counted->systemCalls * 2 / 3 + counted->systemCalls * i / points / 3;
