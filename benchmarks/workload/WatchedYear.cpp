@@ -62,7 +62,8 @@ void WatchedYear::WriteBucket(const char* type, std::int64_t days, std::int64_t 
                   << Timestamp(mLast.AddDays(-back),
                          static_cast<double>(MorningSeconds) + length * static_cast<double>(event))
                   << "\", \"duration\": " << length * 0.999 << ", \"data\": {" << DataOf(type, number) << "}}"
-                  << (--number > 0 ? ", " : "");
+                  << (number > 1 ? ", " : "");
+            --number;
         }
     }
     mFile << "]}";

@@ -13,7 +13,7 @@ namespace {
 
 TEST(WatchedYearTest, Write_Days_AreAnExportOfSoManyEvents)
 {
-    const auto folder = TempFolder::InMemory();
+    const TempFolder folder(TempFolder::InMemory());
     WatchedYear(Date::FromYearMonthDay(2025, 6, 30)).Write(folder.Path("year.json"), 2, 100);
     const auto buckets = nlohmann::json::parse(folder.Read("year.json")).at("buckets");
     std::size_t events = 0;
