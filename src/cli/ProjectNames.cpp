@@ -24,7 +24,7 @@ bool IsControl(char32_t character)
     return character < U' ' || (character >= FirstOfTheSecondSet && character < BehindTheSecondSet);
 }
 
-bool IsBlank(char32_t character)
+bool IsBlankCharacter(char32_t character)
 {
     constexpr std::u32string_view Blanks = U" \u00A0\u2007\u202F\u3000";
     return Blanks.find(character) != std::u32string_view::npos;
@@ -62,7 +62,7 @@ void RequireProjectName(const std::string& name)
             throw UsageError(
                 "the name of a project can't hold control characters: leave them out of " + InQuotes(name));
         }
-        isBlank = isBlank && IsBlank(character.code);
+        isBlank = isBlank && IsBlankCharacter(character.code);
         i += character.size;
     }
     if (isBlank) {

@@ -7,7 +7,6 @@
 #include "session/WorkWeek.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <functional>
 #include <string_view>
@@ -18,8 +17,6 @@ namespace tempodial {
 namespace {
 
 constexpr auto LocaleWeek = "locale";
-constexpr std::array<std::string_view, 7> WeekDays { "monday", "tuesday", "wednesday", "thursday", "friday", "saturday",
-    "sunday" };
 
 /// How a setting is read and written.
 struct Known

@@ -8,7 +8,6 @@
 #include "session/ProfileFolder.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <string_view>
 #include <system_error>
@@ -16,9 +15,6 @@
 namespace tempodial {
 
 namespace {
-
-constexpr std::array<std::string_view, 7> WeekDays { "sunday", "monday", "tuesday", "wednesday", "thursday", "friday",
-    "saturday" };
 
 std::string SettingIn(const TomlRegistry& registry, const char* value)
 {

@@ -4,9 +4,11 @@
 #include "session/Profile.h"
 #include "session/ProfileOptions.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tempodial {
 
@@ -14,6 +16,9 @@ namespace tempodial {
 
 /// The value that holds the day with which a week begins: `monday` to `sunday`, or `locale`.
 inline constexpr auto WeekStartValue = "Week Start";
+/// The days as that value names them, from Sunday on.
+inline constexpr std::array<std::string_view, 7> WeekDays { "sunday", "monday", "tuesday", "wednesday", "thursday",
+    "friday", "saturday" };
 /// The value that holds who sends a timesheet.
 inline constexpr auto AuthorValue = "Author";
 /// The value that holds where problem reports go.

@@ -10,7 +10,7 @@ namespace tempodial {
 namespace {
 
 constexpr auto TimerUnit = "tempodial-sync.timer";
-constexpr auto CalendarKey = "OnCalendar=";
+constexpr auto TimeKey = "OnCalendar=";
 
 /// Where systemd notes what is enabled for a user's session, that user's own first.
 std::vector<std::string> UnitFolders()
@@ -47,8 +47,8 @@ std::string CalendarIn(const std::string& path, FileSystemObject& files)
         const auto file = files.OpenTextFile(path, OpenMode::Reading, false);
         for (;;) {
             const auto line = file->ReadLine();
-            if (line.starts_with(CalendarKey)) {
-                return line.substr(std::string(CalendarKey).size());
+            if (line.starts_with(TimeKey)) {
+                return line.substr(std::string(TimeKey).size());
             }
         }
     } catch (const Failure&) {

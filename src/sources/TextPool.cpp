@@ -7,7 +7,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t PieceBytes = std::size_t { 1 } << 20;
+constexpr std::size_t PoolPieceBytes = std::size_t { 1 } << 20;
 
 }
 
@@ -18,7 +18,7 @@ std::uint32_t TextPool::NumberOf(std::string_view text)
         std::hash<std::string_view> {}(text), next, [&](std::uint32_t known) { return Text(known) == text; });
     if (number == next) {
         if (mPieces.empty() || mPieces.back().capacity() - mPieces.back().size() < text.size()) {
-            mPieces.emplace_back().reserve(std::max(PieceBytes, text.size()));
+            mPieces.emplace_back().reserve(std::max(PoolPieceBytes, text.size()));
         }
         auto& piece = mPieces.back();
         mPlaces.push_back({ static_cast<std::uint32_t>(mPieces.size() - 1), static_cast<std::uint32_t>(piece.size()),
