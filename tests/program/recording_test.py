@@ -73,10 +73,13 @@ class RecordingTest(unittest.TestCase):
         return run.stdout
 
     def Show(self, name, title):
-        """A window of its own class."""
-        self.Start("xterm", "-class", name, "-T", title, "-e", "sleep", "1000")
-        self.assertTrue(WaitUntil(lambda: self.Do("xdotool", "search", "--onlyvisible", "--class", name, check=False)),
-                        name)
+        """A window of its own class. A window manager that has only just begun may leave one unseen."""
+        for _ in range(5):
+            terminal = self.Start("xterm", "-class", name, "-T", title, "-e", "sleep", "1000")
+            if WaitUntil(lambda: self.Do("xdotool", "search", "--onlyvisible", "--class", name, check=False), 6):
+                return
+            terminal.kill()
+        self.fail(f"no window of {name} is shown")
 
     def Focus(self, name):
         self.Do("xdotool", "search", "--onlyvisible", "--class", name, "windowactivate", "--sync")
