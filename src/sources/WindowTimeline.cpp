@@ -12,6 +12,9 @@ namespace tempodial {
 
 namespace {
 
+/// What windows come to is kept from day to day up to so many.
+constexpr std::size_t MostSeen = 50000;
+
 std::int64_t MidnightOf(std::int64_t seconds)
 {
     return Date::FromSeconds(seconds).Day().Seconds();
@@ -85,7 +88,9 @@ void WindowTimeline::FindPresence(Skipped& skipped)
 
 void WindowTimeline::GoOnTo(std::int64_t midnight)
 {
-    mSeen.clear();
+    if (mSeen.size() > MostSeen) {
+        mSeen.clear();
+    }
     std::erase_if(mOpen, [midnight](const SeenWindow& window) { return window.end <= midnight; });
     for (; mNext < mData.windows.size() && mData.windows[mNext].begin < midnight + DaySeconds; ++mNext) {
         if (mData.windows[mNext].end > midnight) {

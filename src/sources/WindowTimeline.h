@@ -61,7 +61,7 @@ private:
     /// The windows that have begun and may reach into the day in hand, in their order, and the next one that begins.
     std::vector<SeenWindow> mOpen;
     std::size_t mNext = 0;
-    /// What the windows of the day in hand come to.
+    /// What windows come to, as far as it was asked of late.
     std::unordered_map<std::uint32_t, Seen> mSeen;
     SlotPicker mPicker;
 };

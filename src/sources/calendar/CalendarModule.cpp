@@ -215,13 +215,13 @@ bool ReadCalendars(const std::string& text, std::int64_t until, CalendarContent&
         return false;
     }
     if (icalcomponent_isa(root.get()) == ICAL_VCALENDAR_COMPONENT) {
-        CalendarReading(root.get(), until, content);
+        const CalendarReading reading(root.get(), until, content);
         return true;
     }
     bool hasCalendar = false;
     for (auto* calendar = icalcomponent_get_first_component(root.get(), ICAL_VCALENDAR_COMPONENT); calendar != nullptr;
          calendar = icalcomponent_get_next_component(root.get(), ICAL_VCALENDAR_COMPONENT)) {
-        CalendarReading(calendar, until, content);
+        const CalendarReading reading(calendar, until, content);
         hasCalendar = true;
     }
     return hasCalendar;

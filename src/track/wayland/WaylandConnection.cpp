@@ -1,7 +1,7 @@
 #include "track/wayland/WaylandConnection.h"
 
 #include <array>
-#include <limits.h>
+#include <climits>
 #include <poll.h>
 #include <string_view>
 #include <sys/socket.h>

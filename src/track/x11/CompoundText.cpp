@@ -79,7 +79,7 @@ constexpr std::array Sets {
 /// Bytes of an encoding as UTF-8; empty when iconv doesn't know it, and as far as they are right.
 std::string Converted(const char* encoding, std::string bytes)
 {
-    const auto converter = ::iconv_open("UTF-8", encoding);
+    auto* const converter = ::iconv_open("UTF-8", encoding);
     if (converter == reinterpret_cast<iconv_t>(-1)) { // NOLINT(performance-no-int-to-ptr)
         return {};
     }

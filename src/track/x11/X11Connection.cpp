@@ -7,7 +7,7 @@ namespace tempodial {
 namespace {
 
 /// The most that is read of a property, in units of four bytes.
-constexpr std::uint32_t LongestProperty = 16384;
+constexpr std::uint32_t MostUnits = 16384;
 constexpr int BitsOfNumbers = 32;
 
 }
@@ -64,8 +64,7 @@ xcb_atom_t X11Connection::Atom(const std::string& name) const
 
 std::optional<X11Property> X11Connection::Property(xcb_window_t window, xcb_atom_t name) const
 {
-    const auto request
-        = ::xcb_get_property(mConnection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, LongestProperty);
+    const auto request = ::xcb_get_property(mConnection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, MostUnits);
     xcb_generic_error_t* failure = nullptr;
     const X11Answer<xcb_get_property_reply_t> answer(::xcb_get_property_reply(mConnection, request, &failure));
     const X11Answer<xcb_generic_error_t> error(failure);

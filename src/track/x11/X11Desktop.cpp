@@ -5,8 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <cstdlib>
-#include <limits.h>
 #include <unistd.h>
 #include <utility>
 
@@ -25,7 +25,7 @@ bool IsSet(const char* variable)
     return value != nullptr && *value != '\0';
 }
 
-std::string AsUtf8(std::string text)
+std::string AsUtf8(const std::string& text)
 {
     return IsUtf8(text) ? text : FromLatin1(text);
 }
