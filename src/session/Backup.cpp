@@ -15,7 +15,7 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> EndsOfProcesses { "-wal", "-shm", "-journal", ".lock" };
+constexpr std::array<std::string_view, 5> EndsOfProcesses { "-wal", "-shm", "-journal", ".lock", ".sock" };
 
 /// A copy of the mailbox beside the backup that it goes into, gone with this.
 class CopiedMailbox

@@ -25,8 +25,8 @@ struct BackupContent
 /// `ArchiveError`.
 BackupContent BackUp(const Profile& profile, const NativePath& file);
 
-/// True for names of files in a profile that are of use to a process alone: locks, journals, and what a run that was
-/// killed has left.
+/// True for names of files in a profile that are of use to a process alone: locks, sockets, journals, and what a run
+/// that was killed has left.
 bool IsOfProcesses(const std::string& name);
 
 }

@@ -76,7 +76,7 @@ void ForgetSearch::LookAtStates()
     std::sort(mOrder.items.begin(), mOrder.items.end());
     // An activity that was deleted before is forgotten too, but isn't counted: nobody sees it any more.
     mCounts.activities = static_cast<std::size_t>(
-        std::count_if(mItems.begin(), mItems.end(), [this](std::int64_t item) { return mPresent.count(item) != 0; }));
+        std::count_if(mItems.begin(), mItems.end(), [this](std::int64_t item) { return mPresent.contains(item); }));
 }
 
 void ForgetSearch::Take(const ActivityState& state)
@@ -84,12 +84,12 @@ void ForgetSearch::Take(const ActivityState& state)
     if (!state.step) {
         mPresent.insert(state.number);
     }
-    const bool isGone = state.step && mPresent.count(state.number) == 0;
+    const bool isGone = state.step && !mPresent.contains(state.number);
     const bool meets = Meets(state);
     if (meets && (!state.step || isGone)) {
         mItems.insert(state.number);
     }
-    const bool isForgotten = mItems.count(state.number) != 0;
+    const bool isForgotten = mItems.contains(state.number);
     if (state.step && (meets || isForgotten)) {
         mSteps.insert(*state.step);
     }

@@ -30,7 +30,7 @@ void Forgetting::Forget()
 {
     for (const auto& file : DataFile::In(mProfile.DataFolder())) {
         try {
-            if (mOrder.lines.count(file.dayKey) != 0) {
+            if (mOrder.lines.contains(file.dayKey)) {
                 file.RequireWritable();
             }
         } catch (const Failure& failure) {
@@ -84,7 +84,7 @@ void Forgetting::CleanFiles(const ForgetRest& rest) const
         } else if (const auto lines = rest.lines.find(file.dayKey); lines != rest.lines.end()) {
             const std::unordered_set<std::string> gone(lines->second.begin(), lines->second.end());
             file.TakeOut(
-                [&gone](std::size_t number, const std::string& line) { return number > 0 && gone.count(line) != 0; },
+                [&gone](std::size_t number, const std::string& line) { return number > 0 && gone.contains(line); },
                 file.dayKey >= today);
         }
     }

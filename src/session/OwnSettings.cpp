@@ -107,7 +107,7 @@ const std::vector<Known>& KnownSettings()
 {
     static const std::vector<Known> settings {
         { "work-week", "The days and hours of your work, which \"report --work-week\" goes by",
-            "days and hours, such as \"Mon-Fri 09:00-17:30\" or \"Mon,Wed-Thu 08:00-12:00\"", WorkWeek().Text(),
+            R"(days and hours, such as "Mon-Fri 09:00-17:30" or "Mon,Wed-Thu 08:00-12:00")", WorkWeek().Text(),
             [](const TomlRegistry& registry) { return WorkWeek::In(registry).Text(); }, CheckedWeek,
             [](TomlRegistry& registry, const std::string& value) { WorkWeek::FromText(value)->Keep(registry); } },
         TextSetting("support-address", "Where problem reports go", "the address of a mailbox, such as help@example.org",
@@ -129,7 +129,7 @@ const Known& Find(const std::string& name)
     const auto found = std::find_if(
         KnownSettings().begin(), KnownSettings().end(), [&name](const Known& known) { return known.name == name; });
     if (found == KnownSettings().end()) {
-        throw SettingError("there is no setting \"" + name + "\": see \"tempodial settings\" for those there are");
+        throw SettingError(R"(there is no setting ")" + name + R"(": see "tempodial settings" for those there are)");
     }
     return *found;
 }

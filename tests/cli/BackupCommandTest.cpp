@@ -140,11 +140,13 @@ TEST_F(BackupCommandTest, Backup_Members_AreFilesAndFoldersBelowOne)
     WriteData(".left.out.new", "x");
     fs::create_symlink("/etc", DataPath("etc"));
     ASSERT_EQ(::mkfifo(DataPath("pipe").c_str(), 0600), 0);
+    ASSERT_EQ(::mknod(DataPath("track.sock").c_str(), S_IFSOCK | 0600, 0), 0);
     fs::create_symlink(mFolder.Write("elsewhere", "linked"), DataPath("linked.out"));
     const auto result = Run({ "backup", mBackup });
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.error, HasSubstr("Tempodial/etc isn't in the backup"));
     EXPECT_THAT(result.error, HasSubstr("Tempodial/pipe isn't in the backup"));
+    EXPECT_THAT(result.error, testing::Not(HasSubstr("track.sock"))) << "of no use to anyone";
     mProfile = mFolder.Path("fresh");
     EXPECT_EQ(Run({ "restore", mBackup }).status, 0);
     const auto files = FilesIn(mProfile);

@@ -180,4 +180,21 @@ TEST_F(ProfileFolderTest, Default_FollowsTheEnvironment)
     EXPECT_THROW(ProfileFolder::Default(), ProfileError);
 }
 
+TEST_F(ProfileFolderTest, Lock_AnotherFolderInThePlaceMeanwhile_HoldsThatOne)
+{
+    const TempFolder temp { TempFolder::InMemory() };
+    const auto path = temp.Path("profile");
+    auto first = std::make_unique<ProfileFolder>(path);
+    std::unique_ptr<ProfileFolder> second;
+    std::thread waiting([&] { second = std::make_unique<ProfileFolder>(path, std::chrono::seconds(20)); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    fs::rename(path, temp.Path("former"));
+    fs::create_directory(path);
+    first.reset();
+    waiting.join();
+    ASSERT_TRUE(second);
+    EXPECT_THROW(const ProfileFolder third(path), ProfileInUse);
+    EXPECT_NO_THROW(const ProfileFolder former(temp.Path("former")));
+}
+
 }

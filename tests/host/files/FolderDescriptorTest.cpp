@@ -90,4 +90,28 @@ TEST_F(FolderDescriptorTest, CloseToOthers_TakesTheirAccess)
     EXPECT_EQ(fs::status(mTemp.Path()).permissions(), fs::perms(0700));
 }
 
+TEST_F(FolderDescriptorTest, Everything_InOrder_LinksAsWhatTheyAre)
+{
+    mTemp.Write("b", "xy");
+    fs::create_directory(mTemp.Path("a"));
+    fs::create_symlink(mTemp.Path("b"), mTemp.Path("c"));
+    std::string seen;
+    for (const auto& entry : mFolder.Everything()) {
+        seen += entry.name + std::to_string(static_cast<int>(entry.status.kind)) + " ";
+    }
+    EXPECT_EQ(seen, "a1 b0 c2 ");
+}
+
+TEST_F(FolderDescriptorTest, IsAt_AnotherInItsPlace_IsFalse)
+{
+    EXPECT_TRUE(mFolder.IsAt(NativePath(mTemp.Path())));
+    fs::create_directory(mTemp.Path("moved"));
+    const FolderDescriptor moved { NativePath(mTemp.Path("moved")) };
+    fs::rename(mTemp.Path("moved"), mTemp.Path("away"));
+    EXPECT_FALSE(moved.IsAt(NativePath(mTemp.Path("moved"))));
+    fs::create_directory(mTemp.Path("moved"));
+    EXPECT_FALSE(moved.IsAt(NativePath(mTemp.Path("moved"))));
+    EXPECT_TRUE(moved.IsAt(NativePath(mTemp.Path("away"))));
+}
+
 }

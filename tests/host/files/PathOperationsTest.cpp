@@ -100,4 +100,34 @@ TEST_F(PathOperationsTest, AbsolutePath_IsWithoutDetours)
     EXPECT_EQ(AbsolutePath("a").Text(), (fs::current_path() / "a").string());
 }
 
+TEST_F(PathOperationsTest, TakePlaceOf_Folder_StandsThereAndTheFormerBeside)
+{
+    for (const auto* folder : { "fresh", "place" }) {
+        MakeFolder(At(folder));
+        mFolder.Write(std::string(folder) + "/file", folder);
+    }
+    mFolder.Write("taken", "x");
+    EXPECT_EQ(FailureNumber([&] { TakePlaceOf(At("fresh"), At("place"), At("taken")); }), 58);
+    EXPECT_EQ(mFolder.Read("place/file"), "place");
+    EXPECT_EQ(FailureNumber([&] { TakePlaceOf(At("fresh"), At("none"), At("former")); }), 53);
+    EXPECT_EQ(mFolder.Read("fresh/file"), "fresh") << "it is where it was";
+    TakePlaceOf(At("fresh"), At("place"), At("former"));
+    EXPECT_EQ(mFolder.Read("place/file"), "fresh");
+    EXPECT_EQ(mFolder.Read("former/file"), "place");
+    EXPECT_FALSE(mFolder.Has("fresh"));
+}
+
+TEST_F(PathOperationsTest, RemoveFolder_WithLinks_LeavesWhatTheyLeadTo)
+{
+    MakeFoldersAbove(At("folder/below/file"));
+    mFolder.Write("folder/below/file", "x");
+    mFolder.Write("kept", "x");
+    fs::create_symlink(mFolder.Path("kept"), mFolder.Path("folder/link"));
+    fs::create_symlink(mFolder.Path(), mFolder.Path("folder/up"));
+    RemoveFolder(At("folder"));
+    EXPECT_FALSE(mFolder.Has("folder"));
+    EXPECT_EQ(mFolder.Read("kept"), "x");
+    RemoveFolder(At("folder"));
+}
+
 }
