@@ -211,9 +211,8 @@ std::string HistoryOfPositions()
 
 const std::vector<std::string>& MailboxSchema::Steps()
 {
-    static const std::vector<std::string> steps
-        = { Tables() + Contents(), UniqueNames(), ReachedLines(), StepsOfCommands(), DueToBeForgotten(),
-              HistoryOfPositions() };
+    static const std::vector<std::string> steps = { Tables() + Contents(), UniqueNames(), ReachedLines(),
+        StepsOfCommands(), DueToBeForgotten(), HistoryOfPositions() };
     return steps;
 }
 
