@@ -40,7 +40,7 @@ void TakePattern(SettingsReader& record, const std::string& name, std::optional<
     }
 }
 
-constexpr auto Texts = "a list of texts, such as [\"a\", \"b\"]";
+constexpr auto Texts = R"(a list of texts, such as ["a", "b"])";
 constexpr auto YesOrNo = "true or false";
 
 /// How the titles of programs of a sort are made, unless their record says something else.
@@ -70,7 +70,7 @@ Program ProgramOf(SettingsReader& record)
     record.Take("name", program.name, "a text");
     program.name = NodeText(program.name, LongestName);
     if (program.ids.empty() || program.name.empty()) {
-        record.Refuse(record.LineOf("ids"), "a program needs \"ids\" and a \"name\"");
+        record.Refuse(record.LineOf("ids"), R"(a program needs "ids" and a "name")");
     }
     record.TakeWord("sort", program.sort, SortWords);
     program.place = UsualPlace(program.sort);
@@ -105,7 +105,7 @@ PrivacyRule RuleOf(SettingsReader& record)
     record.Take("text", rule.text, "a text");
     const bool needsText = rule.action == PrivacyRule::Action::Replace || rule.action == PrivacyRule::Action::Project;
     if (needsText && PlainText(rule.text).empty()) {
-        record.Refuse(record.LineOf("text"), "a rule that does \"" + word + "\" needs a \"text\"");
+        record.Refuse(record.LineOf("text"), "a rule that does \"" + word + R"(" needs a "text")");
     }
     record.RequireNothingElse();
     return rule;
