@@ -83,6 +83,7 @@ std::string ActivityWords::ShortLabel(const std::vector<Activity>& activities) c
         return Title(activities.front());
     }
     std::vector<std::string> applications;
+    applications.reserve(activities.size());
     for (const auto& activity : activities) {
         applications.push_back(activity.type);
     }

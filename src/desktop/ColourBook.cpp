@@ -37,7 +37,7 @@ ColourBook::ColourBook(const SettingsFile& file)
         entry.kind = reader.Has(ColouredWords[1]) ? Coloured::Application : Coloured::Project;
         reader.Take(ColouredWords[static_cast<std::size_t>(entry.kind)], entry.name, "a text");
         if (entry.name.empty() || !reader.Has(ToneSetting)) {
-            reader.Refuse(record.line, "a [[tone]] needs a \"project\" or an \"application\", and a \"tone\"");
+            reader.Refuse(record.line, R"(a [[tone]] needs a "project" or an "application", and a "tone")");
         }
         reader.TakeWord(ToneSetting, entry.use.tone, ToneWords());
         reader.Take(StripedSetting, entry.use.isStriped, "true or false");
@@ -76,7 +76,7 @@ ToneUse ColourBook::Next(Coloured kind) const
             ++users[entry.use.tone];
         }
     }
-    const auto rarest = std::min_element(users.begin(), users.end());
+    const auto* const rarest = std::min_element(users.begin(), users.end());
     return { static_cast<std::size_t>(rarest - users.begin()), *rarest > 0 };
 }
 

@@ -59,7 +59,7 @@ TimeSpan DragGesture::Nudged(Part part, const TimeSpan& span, std::int32_t steps
 
 bool DragGesture::MayGrow(Date end, Date now)
 {
-    constexpr std::int64_t StillOpen = 10 * 60;
+    constexpr std::int64_t StillOpen = 600;
     const auto since = SecondsBetween(end, now);
     return since >= 0 && since < StillOpen;
 }

@@ -46,9 +46,10 @@ void SearchWalk::SeeSpan(const std::function<void(Activity&& activity)>& found)
     auto activities = mSource.read(days);
     mNext = mSource.lastStartBefore(days.first);
     mReached = mNext ? std::optional(days.first) : std::nullopt;
-    for (auto activity = activities.rbegin(); activity != activities.rend(); ++activity) {
-        if (mTerms.Match(*activity)) {
-            found(std::move(*activity));
+    std::reverse(activities.begin(), activities.end());
+    for (auto& activity : activities) {
+        if (mTerms.Match(activity)) {
+            found(std::move(activity));
         }
     }
 }

@@ -8,7 +8,7 @@ namespace {
 
 /// Seconds. The product takes no wish that isn't forced in its first moments.
 constexpr std::int64_t AfterStart = 6;
-constexpr std::int64_t SlotLength = 5 * 60;
+constexpr std::int64_t SlotLength = 300;
 /// The tracker needs a moment to write a slot down.
 constexpr std::int64_t AfterSlot = 15;
 constexpr std::int64_t AfterGrowth = 2;
