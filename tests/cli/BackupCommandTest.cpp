@@ -102,7 +102,7 @@ TEST_F(BackupCommandTest, Backup_Restored_IsTheSameByteForByte)
     EXPECT_EQ(
         restored, (nlohmann::json { { "profile", mProfile }, { "files", answer.at("files") }, { "former", nullptr } }));
     for (const auto& file : FilesIn(mProfile)) {
-        EXPECT_TRUE(fs::exists(former + "/" + file)) << file;
+        EXPECT_TRUE(fs::exists(fs::path(former) / file)) << file;
     }
     for (const auto& file : files) {
         const bool isJournal = file.ends_with("-wal") || file.ends_with("-shm");

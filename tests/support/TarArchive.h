@@ -10,11 +10,11 @@ namespace tempodial {
 struct TarMember
 {
     std::string name;
-    std::string content = "";
+    std::string content;
     /// What it is: '0' a file, '1' a link to a member, '2' a symbolic link, '3' and '4' devices, '5' a folder, '6' a
     /// pipe.
     char type = '0';
-    std::string link = "";
+    std::string link;
 };
 
 /// An archive that isn't compressed.
