@@ -95,7 +95,7 @@ private:
             .activities = CountActivities(profile),
             .tracker = TrackerFiles::Of(profile),
             .lastSync = LastSync::Of(profile),
-            .timer = SyncTimer::EnabledAt(profile.Clock()->Now(), *profile.Surroundings().fileSystem) };
+            .timer = SyncTimer::Of(profile.Clock()->Now(), *profile.Surroundings().fileSystem) };
         const auto today = profile.Clock()->Now().Day();
         for (const auto& activity : ActivitiesStartingIn(profile, { today, today })) {
             status.minutes += activity.duration;

@@ -12,20 +12,29 @@ namespace {
 constexpr auto TimerUnit = "tempodial-sync.timer";
 constexpr auto TimeKey = "OnCalendar=";
 
-/// Where systemd notes what is enabled for a user's session, that user's own first.
+/// Where units for a user's session stand, that user's own first.
 std::vector<std::string> UnitFolders()
 {
     std::vector<std::string> folders;
-    if (const auto* settings = std::getenv("XDG_CONFIG_HOME"); settings != nullptr && *settings != '\0') {
+    if (const auto* settings = std::getenv("XDG_CONFIG_HOME"); settings != nullptr && *settings == '/') {
         folders.emplace_back(settings);
     } else if (const auto* home = std::getenv("HOME"); home != nullptr) {
         folders.push_back(std::string(home) + "/.config");
     }
     folders.emplace_back("/etc");
     for (auto& folder : folders) {
-        folder += "/systemd/user/timers.target.wants/";
+        folder += "/systemd/user/";
     }
     return folders;
+}
+
+bool IsThere(const std::string& path, FileSystemObject& files)
+{
+    try {
+        return files.FileExists(path);
+    } catch (const Failure&) {
+        return false; // What can't be looked at isn't there.
+    }
 }
 
 std::optional<Date> NextBy(const std::string& calendar, Date now)
@@ -58,18 +67,17 @@ std::string CalendarIn(const std::string& path, FileSystemObject& files)
 
 }
 
-std::optional<SyncTimer> SyncTimer::EnabledAt(Date now, FileSystemObject& files)
+std::optional<SyncTimer> SyncTimer::Of(Date now, FileSystemObject& files)
 {
-    for (const auto& folder : UnitFolders()) {
-        try {
-            if (const auto path = folder + TimerUnit; files.FileExists(path)) {
-                return SyncTimer { TimerUnit, NextBy(CalendarIn(path, files), now) };
-            }
-        } catch (const Failure&) {
-            // What can't be looked at isn't there.
+    const auto folders = UnitFolders();
+    for (const auto& folder : folders) {
+        // There systemd notes what is enabled.
+        if (const auto path = folder + "timers.target.wants/" + TimerUnit; IsThere(path, files)) {
+            return SyncTimer { TimerUnit, NextBy(CalendarIn(path, files), now) };
         }
     }
-    return std::nullopt;
+    return IsThere(folders.front() + TimerUnit, files) ? std::optional(SyncTimer { TimerUnit, std::nullopt })
+                                                       : std::nullopt;
 }
 
 }

@@ -26,7 +26,7 @@ protected:
     std::optional<SyncTimer> Found() const
     {
         HostFileSystem files(mFolder.Path());
-        return SyncTimer::EnabledAt(Date::FromParts({ 2006, 10, 10, 17, 20, 30 }), files);
+        return SyncTimer::Of(Date::FromParts({ 2006, 10, 10, 17, 20, 30 }), files);
     }
 
     TempFolder mFolder;
@@ -34,15 +34,20 @@ protected:
 
 }
 
-TEST_F(SyncTimerTest, EnabledAt_NoUnit_IsNothing)
+TEST_F(SyncTimerTest, Of_NoUnit_IsNothing)
 {
     EXPECT_FALSE(Found());
-    std::filesystem::create_directories(mFolder.Path("systemd/user"));
-    mFolder.Write("systemd/user/tempodial-sync.timer", "[Timer]\nOnCalendar=hourly\n");
-    EXPECT_FALSE(Found()) << "it is installed, but not enabled";
 }
 
-TEST_F(SyncTimerTest, EnabledAt_Calendar_TellsTheNextMoment)
+TEST_F(SyncTimerTest, Of_UnitThatIsNotEnabled_HasNoNextMoment)
+{
+    std::filesystem::create_directories(mFolder.Path("systemd/user"));
+    mFolder.Write("systemd/user/tempodial-sync.timer", "[Timer]\nOnCalendar=hourly\n");
+    ASSERT_TRUE(Found());
+    EXPECT_FALSE(Found()->next);
+}
+
+TEST_F(SyncTimerTest, Of_Calendar_TellsTheNextMoment)
 {
     Enable("[Unit]\nDescription=x\n\n[Timer]\nOnCalendar=hourly\nPersistent=true\n");
     ASSERT_TRUE(Found());
@@ -52,7 +57,7 @@ TEST_F(SyncTimerTest, EnabledAt_Calendar_TellsTheNextMoment)
     EXPECT_EQ(Found()->next, Date::FromParts({ 2006, 10, 11, 0, 0, 0 }));
 }
 
-TEST_F(SyncTimerTest, EnabledAt_OtherCalendar_HasNoNextMoment)
+TEST_F(SyncTimerTest, Of_OtherCalendar_HasNoNextMoment)
 {
     Enable("[Timer]\nOnCalendar=Mon..Fri 10:00\n");
     ASSERT_TRUE(Found());
