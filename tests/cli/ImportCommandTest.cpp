@@ -1,3 +1,4 @@
+#include "session/ProfileFolder.h"
 #include "support/ProgramFixture.h"
 
 namespace tempodial {
@@ -171,6 +172,13 @@ TEST_F(ImportCommandTest, Import_WhatTheTrackerWrote_IsNoPartOfItsStep)
     EXPECT_EQ(Json({ "undo" }).at("restored"), 4);
     EXPECT_EQ(Subjects(All()),
         (std::vector<std::string> { "Microsoft Word, \"past.doc\"", "Microsoft Word, \"today.doc\"" }));
+}
+
+TEST_F(ImportCommandTest, Import_ProfileInUse_IsLeftAlone)
+{
+    const ProfileFolder used(mProfile);
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 3, { "--as", "sightings", "--wait", "0" }), HasSubstr(" is in use by "));
+    EXPECT_FALSE(std::filesystem::exists(mProfile + "/mailbox.db"));
 }
 
 TEST_F(ImportCommandTest, Import_ActivityChangedSince_IsKeptByUndo)
