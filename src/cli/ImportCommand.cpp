@@ -144,7 +144,7 @@ private:
         }
         const bool isLater = *mSource == "timing" || *mSource == "manictime";
         throw UsageError("there is no source \"" + *mSource + "\": "
-            + (isLater ? "bring its table into the form of \"csv\", which \"tempodial import --list\" shows"
+            + (isLater ? R"(bring its table into the form of "csv", which "tempodial import --list" shows)"
                        : NearestAdvice(*mSource, names, "see \"tempodial import --list\" for all")));
     }
 

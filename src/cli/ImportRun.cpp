@@ -25,7 +25,7 @@ constexpr auto UnfinishedName = "imported-day.tmp";
 /// Minutes by which local time is before UTC at noon of a day.
 int OffsetOf(Date day)
 {
-    constexpr std::int64_t Noon = 12 * 3600;
+    constexpr auto Noon = std::int64_t { 12 } * 3600;
     constexpr std::int64_t SecondsOfMinute = 60;
     IcuTimeZone zone;
     return static_cast<int>(zone.OffsetAt(zone.MomentOf(day.AddSeconds(Noon))) / SecondsOfMinute);

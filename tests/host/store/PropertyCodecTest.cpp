@@ -16,14 +16,15 @@ using testing::ElementsAre;
 /// The texts of the properties One, Two and Three.
 std::vector<std::string> ReadTexts(std::string_view json)
 {
-    std::vector<std::string> texts(3, "left from before");
-    const std::array wanted { WantedText { "One", &texts[0] }, WantedText { "Two", &texts[1] },
-        WantedText { "Three", &texts[2] } };
+    std::string one = "left from before";
+    std::string two = one;
+    std::string three = one;
+    const std::array wanted { WantedText { "One", &one }, WantedText { "Two", &two }, WantedText { "Three", &three } };
     PropertyCodec::Read(json, wanted);
-    return texts;
+    return { one, two, three };
 }
 
-std::string Encoded(std::vector<ItemProperty> properties)
+std::string Encoded(const std::vector<ItemProperty>& properties)
 {
     return PropertyCodec::Encode(properties);
 }
