@@ -19,20 +19,22 @@ void ChosenProjects::RequireUsable() const
     }
 }
 
-void ChosenProjects::Choose(const Profile& profile, std::vector<Activity>& activities) const
+ActivityStream ChosenProjects::Of(const Profile& profile, const ActivityStream& activities) const
 {
     if (mNames.empty()) {
-        return;
+        return activities;
     }
     for (const auto& name : mNames) {
         RequireKnownProject(profile, name);
     }
-    activities.erase(std::remove_if(activities.begin(), activities.end(),
-                         [this](const Activity& activity) {
-                             return std::none_of(mNames.begin(), mNames.end(),
-                                 [&](const auto& name) { return EqualIgnoringCase(name, ProjectNameOf(activity)); });
-                         }),
-        activities.end());
+    return [activities, names = mNames](const std::function<void(const Activity&)>& take) {
+        activities([&](const Activity& activity) {
+            if (std::any_of(names.begin(), names.end(),
+                    [&](const auto& name) { return EqualIgnoringCase(name, ProjectNameOf(activity)); })) {
+                take(activity);
+            }
+        });
+    };
 }
 
 }

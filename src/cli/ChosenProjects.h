@@ -17,9 +17,9 @@ public:
     void Declare(ArgumentList& arguments);
     /// Fails with a `UsageError` for a name that no project may have.
     void RequireUsable() const;
-    /// Takes those activities away that belong to other projects. Fails with a `CommandError` when there is no such
-    /// project.
-    void Choose(const Profile& profile, std::vector<Activity>& activities) const;
+    /// Those of the activities that belong to these projects, all of them when none is named. Fails with a
+    /// `CommandError` when there is no such project.
+    ActivityStream Of(const Profile& profile, const ActivityStream& activities) const;
 
 private:
     std::vector<std::string> mNames;

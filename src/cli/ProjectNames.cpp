@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <set>
 #include <string_view>
 
 namespace tempodial {
@@ -30,13 +31,11 @@ bool IsBlankCharacter(char32_t character)
     return Blanks.find(character) != std::u32string_view::npos;
 }
 
-/// The projects that the profile's activities have, each once for each activity.
-std::vector<std::string> ProjectsOfActivities(const Profile& profile)
+/// The projects that the profile's activities have.
+std::set<std::string> ProjectsOfActivities(const Profile& profile)
 {
-    std::vector<std::string> projects;
-    for (const auto& activity : ActivitiesStartingIn(profile, Period::Always())) {
-        projects.push_back(activity.project);
-    }
+    std::set<std::string> projects;
+    EachStartingIn(profile, Period::Always())([&](const Activity& activity) { projects.insert(activity.project); });
     return projects;
 }
 

@@ -74,9 +74,7 @@ public:
         const auto columns = ColumnsOf(days, size, PeriodArguments::WeekStart(options));
         RequireFew(columns);
         const auto profile = ReadProfile(options);
-        auto activities = ActivitiesStartingIn(profile, days);
-        mProjects.Choose(profile, activities);
-        const auto totals = Totals::Of(activities, kind, columns);
+        const auto totals = Totals::Of(mProjects.Of(profile, EachStartingIn(profile, days)), kind, columns);
         Reply reply;
         if (options.json) {
             reply.document = Document(days, columns, totals);

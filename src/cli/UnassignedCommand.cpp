@@ -42,13 +42,14 @@ public:
         const auto days = mDays.Days(options, "week");
         const auto rows = ToCount("--rows", mRows, 0, std::numeric_limits<std::int32_t>::max());
         const auto profile = ReadProfile(options);
-        const auto activities = ActivitiesStartingIn(profile, days);
-        const auto groups = ActivityGroup::Unassigned(activities);
-        const auto words = SubjectWord::Largest(groups);
         std::int64_t all = 0;
-        for (const auto& activity : activities) {
-            all += activity.duration;
-        }
+        const auto groups = ActivityGroup::Unassigned([&](const auto& take) {
+            EachStartingIn(profile, days)([&](const Activity& activity) {
+                all += activity.duration;
+                take(activity);
+            });
+        });
+        const auto words = SubjectWord::Largest(groups);
         std::int64_t unassigned = 0;
         for (const auto& group : groups) {
             unassigned += group.minutes;

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <deque>
 #include <functional>
+#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <unordered_map>
@@ -25,23 +27,27 @@ struct GroupKeyHash
 
 }
 
-std::vector<ActivityGroup> ActivityGroup::Unassigned(const std::vector<Activity>& activities)
+std::vector<ActivityGroup> ActivityGroup::Unassigned(const ActivityStream& activities)
 {
-    std::vector<ActivityGroup> groups;
-    std::unordered_map<GroupKey, std::size_t, GroupKeyHash> places;
-    for (const auto& activity : activities) {
+    // The keys are texts of the groups, which stay where they are.
+    std::deque<ActivityGroup> known;
+    std::unordered_map<GroupKey, ActivityGroup*, GroupKeyHash> places;
+    activities([&](const Activity& activity) {
         if (!IsUnassigned(activity)) {
-            continue;
+            return;
         }
-        const auto [place, isNew] = places.emplace(GroupKey(activity.type, activity.description), groups.size());
-        if (isNew) {
-            groups.push_back({ activity.type, activity.description, 0, 0, activity.start });
+        auto place = places.find({ activity.type, activity.description });
+        if (place == places.end()) {
+            auto& group
+                = known.emplace_back(ActivityGroup { activity.type, activity.description, 0, 0, activity.start });
+            place = places.emplace(GroupKey(group.application, group.description), &group).first;
         }
-        auto& group = groups[place->second];
+        auto& group = *place->second;
         group.minutes += activity.duration;
         ++group.times;
         group.last = std::max(group.last, activity.start);
-    }
+    });
+    std::vector<ActivityGroup> groups(std::make_move_iterator(known.begin()), std::make_move_iterator(known.end()));
     const auto rank = [](const ActivityGroup& group) {
         return std::tuple(-group.minutes, std::string_view(group.application), std::string_view(group.description));
     };

@@ -20,7 +20,7 @@ struct ActivityGroup
     Date last;
 
     /// Groups those activities that have no project, by size and then by name.
-    static std::vector<ActivityGroup> Unassigned(const std::vector<Activity>& activities);
+    static std::vector<ActivityGroup> Unassigned(const ActivityStream& activities);
 };
 
 }

@@ -24,6 +24,15 @@ std::vector<Activity> ActivitiesStartingIn(const Profile& profile, const Period&
     return rows ? rows->StartingIn(days.first, days.last.AddDays(1)) : std::vector<Activity>();
 }
 
+ActivityStream EachStartingIn(const Profile& profile, const Period& days)
+{
+    return [&profile, days](const std::function<void(const Activity&)>& take) {
+        if (const auto rows = RowsOf(profile)) {
+            rows->EachStartingIn(days.first, days.last.AddDays(1), take);
+        }
+    };
+}
+
 std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& days)
 {
     const auto rows = RowsOf(profile);

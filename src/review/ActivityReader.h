@@ -17,6 +17,8 @@ class StoreItem;
 
 /// Those that start in a span of days.
 std::vector<Activity> ActivitiesStartingIn(const Profile& profile, const Period& days);
+/// The same, one by one, which takes no room however many they are. The profile must live as long as this.
+ActivityStream EachStartingIn(const Profile& profile, const Period& days);
 /// Those that have some time in common with the span, wherever they start.
 std::vector<Activity> ActivitiesTouching(const Profile& profile, const Period& days);
 /// When the last one before a moment starts.

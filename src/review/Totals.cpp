@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <deque>
+#include <iterator>
 #include <string_view>
 #include <tuple>
 #include <unordered_map>
@@ -31,27 +33,32 @@ std::size_t ColumnOf(Date moment, const std::vector<Period>& columns)
 
 }
 
-Totals Totals::Of(const std::vector<Activity>& activities, RowKind kind, const std::vector<Period>& columns)
+Totals Totals::Of(const ActivityStream& activities, RowKind kind, const std::vector<Period>& columns)
 {
     Totals totals;
     totals.minutes.resize(columns.size());
-    std::unordered_map<std::string_view, std::size_t> places;
-    for (const auto& activity : activities) {
+    // The names are those of the rows, which stay where they are.
+    std::deque<Row> rows;
+    std::unordered_map<std::string_view, Row*> rowsByName;
+    activities([&](const Activity& activity) {
         if (activity.duration == 0) {
-            continue;
+            return;
         }
-        const auto [place, isNew] = places.emplace(NameIn(activity, kind), totals.rows.size());
-        if (isNew) {
-            totals.rows.push_back({ std::string(place->first), std::vector<std::int64_t>(columns.size()) });
+        const auto name = NameIn(activity, kind);
+        auto known = rowsByName.find(name);
+        if (known == rowsByName.end()) {
+            rows.push_back({ std::string(name), std::vector<std::int64_t>(columns.size()) });
+            known = rowsByName.emplace(rows.back().name, &rows.back()).first;
         }
-        auto& row = totals.rows[place->second];
+        auto& row = *known->second;
         row.total += activity.duration;
         totals.total += activity.duration;
         if (const auto column = ColumnOf(activity.start, columns); column < columns.size()) {
             row.minutes[column] += activity.duration;
             totals.minutes[column] += activity.duration;
         }
-    }
+    });
+    totals.rows.assign(std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
     const auto rank = [kind](const Row& row) {
         return std::tuple(kind == RowKind::Project && row.name == NoProject, -row.total, std::string_view(row.name));
     };

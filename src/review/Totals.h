@@ -31,7 +31,7 @@ struct Totals
     std::int64_t total = 0;
 
     /// Sums up activities; those outside of the columns count in the totals alone.
-    static Totals Of(const std::vector<Activity>& activities, RowKind kind, const std::vector<Period>& columns);
+    static Totals Of(const ActivityStream& activities, RowKind kind, const std::vector<Period>& columns);
 };
 
 }

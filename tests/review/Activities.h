@@ -3,7 +3,10 @@
 #include "review/Activity.h"
 #include "review/Period.h"
 
+#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tempodial {
 
@@ -20,6 +23,16 @@ inline Activity ActivityOn(int day, int from, int to, const std::string& project
     activity.type = type;
     activity.description = description;
     return activity;
+}
+
+/// Gives these activities one by one.
+inline ActivityStream Each(std::vector<Activity> activities)
+{
+    return [activities = std::move(activities)](const std::function<void(const Activity&)>& take) {
+        for (const auto& activity : activities) {
+            take(activity);
+        }
+    };
 }
 
 /// The days from one to another of October 2006.

@@ -37,6 +37,11 @@ std::vector<ActivityRow> ActivityRows::StartingIn(Date from, Date until) const
     return List(from.Seconds(), -SecondsRange::Unbounded, until);
 }
 
+void ActivityRows::EachStartingIn(Date from, Date until, const Taking& take) const
+{
+    Each(from.Seconds(), -SecondsRange::Unbounded, until, take);
+}
+
 std::vector<ActivityRow> ActivityRows::Overlapping(Date from, Date until) const
 {
     return List(-SecondsRange::Unbounded, from.Seconds(), until);
@@ -59,7 +64,12 @@ std::optional<ActivityRow> ActivityRows::Numbered(std::int64_t number) const
     static const std::string sql = "SELECT " + RowColumns + ByNumber;
     Query query(mStore->Database(), sql);
     query.Bind(number).Bind(mFolder).Bind(mMessageClass);
-    return query.Step() ? std::optional(Read(query)) : std::nullopt;
+    if (!query.Step()) {
+        return std::nullopt;
+    }
+    ActivityRow row;
+    Read(query, row);
+    return row;
 }
 
 std::string ActivityRows::BodyOf(std::int64_t number) const
@@ -84,12 +94,7 @@ const std::string& ActivityRows::ListSql()
 std::vector<ActivityRow> ActivityRows::List(std::int64_t startsFrom, std::int64_t endsBehind, Date startsBefore) const
 {
     std::vector<ActivityRow> rows;
-    Query query(mStore->Database(), ListSql());
-    query.Bind(mFolder).Bind(startsFrom).Bind(endsBehind).Bind(startsBefore.Seconds()).Bind(endsBehind);
-    query.Bind(mMessageClass);
-    while (query.Step()) {
-        rows.push_back(Read(query));
-    }
+    Each(startsFrom, endsBehind, startsBefore, [&rows](ActivityRow& row) { rows.push_back(std::move(row)); });
     // Each class comes in order. To merge them here is cheaper than to have SQLite sort rows with all their texts.
     for (auto begin = rows.begin(); begin != rows.end();) {
         const auto end = std::is_sorted_until(begin, rows.end(), IsBefore);
@@ -99,10 +104,22 @@ std::vector<ActivityRow> ActivityRows::List(std::int64_t startsFrom, std::int64_
     return rows;
 }
 
-ActivityRow ActivityRows::Read(const Query& query) const
+void ActivityRows::Each(std::int64_t startsFrom, std::int64_t endsBehind, Date startsBefore, const Taking& take) const
+{
+    Query query(mStore->Database(), ListSql());
+    query.Bind(mFolder).Bind(startsFrom).Bind(endsBehind).Bind(startsBefore.Seconds()).Bind(endsBehind);
+    query.Bind(mMessageClass);
+    // The texts of one row make room for those of the next.
+    ActivityRow row;
+    while (query.Step()) {
+        Read(query, row);
+        take(row);
+    }
+}
+
+void ActivityRows::Read(const Query& query, ActivityRow& row) const
 {
     int column = 0;
-    ActivityRow row;
     row.number = query.Int(column++);
     row.start = Date::FromSeconds(query.Int(column++));
     row.end = Date::FromSeconds(query.Int(column++));
@@ -112,7 +129,6 @@ ActivityRow ActivityRows::Read(const Query& query) const
     const std::array wanted { WantedText { "Type", &row.type }, WantedText { "Project", &row.project },
         WantedText { "Description", &row.description }, WantedText { "People", &row.people } };
     mStore->Database().ReadProperties(query.View(column), wanted);
-    return row;
 }
 
 }

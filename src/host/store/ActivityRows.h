@@ -5,6 +5,7 @@
 #include "platform/objectmodel/MAPIFolder.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,8 +43,13 @@ public:
     /// The activities of a folder are its items of exactly that message class.
     ActivityRows(const Ref<Mailbox>& mailbox, const Ref<MAPIFolder>& folder, std::string messageClass);
 
+    /// Called with one row, which may be taken.
+    using Taking = std::function<void(ActivityRow& row)>;
+
     /// Those that start in a span.
     std::vector<ActivityRow> StartingIn(Date from, Date until) const;
+    /// The same, one by one and in no certain order.
+    void EachStartingIn(Date from, Date until, const Taking& take) const;
     /// Those that have some time in common with a span, wherever they start.
     std::vector<ActivityRow> Overlapping(Date from, Date until) const;
     /// When the last one before a moment starts; nothing when none does.
@@ -59,7 +65,8 @@ public:
 private:
     /// Those that start from a moment on, or end behind another, whichever is later, and before a third.
     std::vector<ActivityRow> List(std::int64_t startsFrom, std::int64_t endsBehind, Date startsBefore) const;
-    ActivityRow Read(const Query& query) const;
+    void Each(std::int64_t startsFrom, std::int64_t endsBehind, Date startsBefore, const Taking& take) const;
+    void Read(const Query& query, ActivityRow& row) const;
 
     Ref<MailboxStore> mStore;
     std::int64_t mFolder;
