@@ -12,8 +12,8 @@
 
 namespace tempodial {
 
-/// Half an hour in front of a desktop, recorded by the built program with a clock that is faster: from a minute past ten
-/// on, on Monday, 23 November 2026.
+/// Half an hour in front of a desktop, recorded by the built program with a clock that is faster: from a minute past
+/// ten on, on Monday, 23 November 2026.
 class DesktopDay
 {
 public:
