@@ -71,6 +71,7 @@ X11Desktop::X11Desktop(const WatchSettings& settings)
     mCompoundAtom = mConnection.Atom("COMPOUND_TEXT");
     mProcessAtom = mConnection.Atom("_NET_WM_PID");
     mConnection.Watch(mConnection.Root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    mIdleWatch.emplace(mConnection.Get(), settings.idleNotice);
 }
 
 int X11Desktop::Descriptor() const
@@ -106,10 +107,20 @@ std::optional<FrontWindow> X11Desktop::Window()
 
 std::optional<std::chrono::milliseconds> X11Desktop::Idle()
 {
+    if (const auto told = mIdleWatch && mConnection.IsOpen() ? mIdleWatch->Idle() : std::nullopt) {
+        return told;
+    }
     const auto idle = mConnection.IdleMilliseconds();
     // Events that came in with the answer show on the descriptor no more.
     TakeEvents();
-    return idle ? std::optional(std::chrono::milliseconds(*idle)) : std::nullopt;
+    if (!idle) {
+        return std::nullopt;
+    }
+    const std::chrono::milliseconds time(*idle);
+    if (mIdleWatch) {
+        mIdleWatch->Asked(time);
+    }
+    return time;
 }
 
 void X11Desktop::TakeEvents()
@@ -133,6 +144,9 @@ void X11Desktop::TakeEvents()
 
 void X11Desktop::TakeEvent(const xcb_generic_event_t& event)
 {
+    if (mIdleWatch) {
+        mIdleWatch->Take(event);
+    }
     const auto kind = event.response_type & ~SentBit;
     if (kind == XCB_PROPERTY_NOTIFY) {
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);

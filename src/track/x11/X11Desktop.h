@@ -2,6 +2,7 @@
 
 #include "track/DesktopSource.h"
 #include "track/x11/X11Connection.h"
+#include "track/x11/X11IdleWatch.h"
 
 #include <chrono>
 #include <optional>
@@ -42,6 +43,7 @@ private:
 
     X11Connection mConnection;
     std::chrono::milliseconds mPatience;
+    std::optional<X11IdleWatch> mIdleWatch;
     xcb_atom_t mActiveAtom = XCB_ATOM_NONE;
     xcb_atom_t mSupportedAtom = XCB_ATOM_NONE;
     xcb_atom_t mNameAtom = XCB_ATOM_NONE;

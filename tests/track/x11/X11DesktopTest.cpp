@@ -140,6 +140,23 @@ TEST_F(X11DesktopTest, Idle_AfterAKey_IsShortAndGrows)
     EXPECT_GE(later->count(), pressed->count() + 50);
 }
 
+TEST_F(X11DesktopTest, Idle_NobodyWasThere_IsToldByTheNextKey)
+{
+    const XServer server(XServer::Manager::Openbox);
+    constexpr std::chrono::milliseconds Notice(200);
+    const auto desktop = Opened(Notice);
+    std::this_thread::sleep_for(Notice * 2);
+    ASSERT_TRUE(desktop->Dispatch());
+    const auto idle = desktop->Idle().value();
+    EXPECT_GE(idle, Notice);
+    EXPECT_GE(desktop->Idle().value(), idle);
+    server.Press("a");
+    pollfd waited { desktop->Descriptor(), POLLIN, 0 };
+    ASSERT_EQ(::poll(&waited, 1, 10000), 1);
+    ASSERT_TRUE(desktop->Dispatch());
+    EXPECT_LT(desktop->Idle().value(), idle);
+}
+
 TEST_F(X11DesktopTest, Idle_AskedBetweenEvents_LosesNone)
 {
     const XServer server(XServer::Manager::Openbox);
