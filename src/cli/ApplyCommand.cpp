@@ -7,6 +7,7 @@
 #include "cli/ProjectChanges.h"
 #include "host/store/StoreItem.h"
 #include "review/ActivityReader.h"
+#include "session/OpenProfile.h"
 #include "session/ProductFacts.h"
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
@@ -65,13 +66,17 @@ private:
         }
         const auto days = ToCount("--days", mDays.value_or(std::to_string(ApplyBackDays)), 1, MostDays);
         const Interruption interruption;
+        if (mIsPreview) {
+            const auto profile = ReadProfile(options);
+            if (const auto known = KnownProject::Find(profile, *mName)) {
+                return PreviewReply(PreviewOfOne(profile, known->name, DaysBack(profile, days), options));
+            }
+        }
+        // A project may be one of those that come with the add-in's first run.
         ConnectedRun run(options);
         const auto name = KnownProject::NameOf(run.AddIn(), *mName);
-        const auto today = run.Host().clock->Now().Day();
-        const Period span { today.AddDays(1 - days), today };
-        const RuleTrial trial(RuledProject::ReadAll(run.Profile()));
-        const auto preview = RulePreview::OfOne(trial, name, ActivitiesStartingIn(run.Profile(), span));
-        TellDisputed(preview, options);
+        const auto span = DaysBack(run.Profile(), days);
+        const auto preview = PreviewOfOne(run.Profile(), name, span, options);
         if (mIsPreview) {
             return run.Concluded(PreviewReply(preview));
         }
@@ -92,12 +97,11 @@ private:
         }
         const auto span = mPeriod.Days(options, "-7d");
         const Interruption interruption;
-        ConnectedRun run(options);
-        const RuleTrial trial(RuledProject::ReadAll(run.Profile()));
-        const auto preview = RulePreview::OfAll(trial, ActivitiesStartingIn(run.Profile(), span), mIsOnlyUnassigned);
         if (mIsPreview) {
-            return run.Concluded(PreviewReply(preview));
+            return PreviewReply(PreviewOfAll(ReadProfile(options), span));
         }
+        ConnectedRun run(options);
+        const auto preview = PreviewOfAll(run.Profile(), span);
         const ProjectChanges changes(run.Profile(), span);
         run.AsStep([&] {
             for (const auto& [activity, project] : preview.targets) {
@@ -108,6 +112,27 @@ private:
             }
         });
         return Changed(run, changes, preview.keptByHand);
+    }
+
+    static Period DaysBack(const Profile& profile, std::int32_t days)
+    {
+        const auto today = profile.Surroundings().clock->Now().Day();
+        return { today.AddDays(1 - days), today };
+    }
+
+    static RulePreview PreviewOfOne(
+        const Profile& profile, const std::string& name, const Period& span, const Options& options)
+    {
+        const RuleTrial trial(RuledProject::ReadAll(profile));
+        auto preview = RulePreview::OfOne(trial, name, ActivitiesStartingIn(profile, span));
+        TellDisputed(preview, options);
+        return preview;
+    }
+
+    RulePreview PreviewOfAll(const Profile& profile, const Period& span) const
+    {
+        const RuleTrial trial(RuledProject::ReadAll(profile));
+        return RulePreview::OfAll(trial, ActivitiesStartingIn(profile, span), mIsOnlyUnassigned);
     }
 
     static void Apply(const ConnectedRun& run, std::int64_t activity, const std::string& project)

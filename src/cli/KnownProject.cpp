@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "cli/CommandError.h"
 #include "cli/ProjectNames.h"
+#include "review/RuledProject.h"
 #include "session/ProductFacts.h"
 #include "terminal/TerminalText.h"
 
@@ -25,7 +26,7 @@ std::vector<std::string> Names(TempodialMain& addIn)
     return names;
 }
 
-std::optional<std::string> Find(TempodialMain& addIn, const std::string& name)
+std::optional<std::string> NameIn(TempodialMain& addIn, const std::string& name)
 {
     const auto names = Names(addIn);
     const auto found = std::find_if(
@@ -53,6 +54,17 @@ KnownProject KnownProject::Read(TempodialMain& addIn, const std::string& name)
         addIn.GetProjectPeopleRule(name) };
 }
 
+std::optional<KnownProject> KnownProject::Find(const Profile& profile, const std::string& name)
+{
+    for (auto& project : RuledProject::ReadAll(profile)) {
+        if (EqualIgnoringCase(project.name, name)) {
+            return KnownProject { project.name, project.precedence, project.subjectRule, project.notSubjectRule,
+                project.peopleRule };
+        }
+    }
+    return std::nullopt;
+}
+
 std::vector<KnownProject> KnownProject::ReadAll(TempodialMain& addIn)
 {
     std::vector<KnownProject> projects;
@@ -64,7 +76,7 @@ std::vector<KnownProject> KnownProject::ReadAll(TempodialMain& addIn)
 
 std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
 {
-    const auto found = Find(addIn, name);
+    const auto found = NameIn(addIn, name);
     if (!found) {
         throw UnknownProject(name, Names(addIn));
     }
@@ -73,12 +85,12 @@ std::string KnownProject::NameOf(TempodialMain& addIn, const std::string& name)
 
 bool KnownProject::IsListed(TempodialMain& addIn, const std::string& name)
 {
-    return Find(addIn, name).has_value();
+    return NameIn(addIn, name).has_value();
 }
 
 std::string KnownProject::NameOrNew(TempodialMain& addIn, const std::string& name)
 {
-    if (const auto known = Find(addIn, name)) {
+    if (const auto known = NameIn(addIn, name)) {
         return *known;
     }
     if (IsNoProject(name)) {

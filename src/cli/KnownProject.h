@@ -1,8 +1,10 @@
 #pragma once
 
 #include "engine/core/TempodialMain.h"
+#include "session/Profile.h"
 #include "terminal/JsonValue.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,9 @@ struct KnownProject
 
     /// The project of that name.
     static KnownProject Read(TempodialMain& addIn, const std::string& name);
+    /// The project of that name in a profile's list, whatever the case of the letters given; nothing when there is
+    /// none.
+    static std::optional<KnownProject> Find(const Profile& profile, const std::string& name);
     /// All projects in the order in which they are tried.
     static std::vector<KnownProject> ReadAll(TempodialMain& addIn);
     /// The name of a project as it is kept, whatever the case of the letters given; fails with a `CommandError` when

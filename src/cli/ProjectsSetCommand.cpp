@@ -9,6 +9,7 @@
 #include "engine/core/ProjectFacts.h"
 #include "review/ActivityReader.h"
 #include "review/RuleTerms.h"
+#include "session/OpenProfile.h"
 #include "terminal/TerminalText.h"
 #include "terminal/UsageError.h"
 
@@ -67,20 +68,44 @@ public:
                 KnownProject::RequireReadableRule(*rule);
             }
         }
+        if (mIsPreview) {
+            const auto profile = ReadProfile(options);
+            if (auto known = KnownProject::Find(profile, mName)) {
+                Change(*known, precedence);
+                return Warned(Preview(profile, *known, span, options), *known);
+            }
+        }
         ConnectedRun run(options);
         auto& addIn = run.AddIn();
         auto project = KnownProject::Read(addIn, KnownProject::NameOrNew(addIn, mName));
+        Change(project, precedence);
+        if (mIsPreview) {
+            if (const auto refusal = addIn.ValidateProject(project.name); !refusal.empty()) {
+                throw CommandError(refusal);
+            }
+            return run.Concluded(Warned(Preview(run.Profile(), project, span, options), project));
+        }
+        return run.Concluded(Warned(Set(run, project), project));
+    }
+
+private:
+    /// What is asked for of a project.
+    void Change(KnownProject& project, const std::optional<std::string>& precedence) const
+    {
         project.subject = SubjectRule(mSubject.value_or(project.subject));
         project.notSubject = mNotSubject.value_or(project.notSubject);
         project.people = mPeople.value_or(project.people);
         project.precedence = precedence.value_or(project.precedence);
-        auto reply = mIsPreview ? Preview(run, project, span, options) : Set(run, project);
-        WarnOfSemicolons(project.subject, mSubject || !mAdded.empty() || !mRemoved.empty(), reply);
-        WarnOfSemicolons(project.notSubject, mNotSubject.has_value(), reply);
-        return run.Concluded(std::move(reply));
     }
 
-private:
+    /// A reply with what is to be said of the new rules.
+    Reply Warned(Reply reply, const KnownProject& project) const
+    {
+        WarnOfSemicolons(project.subject, mSubject || !mAdded.empty() || !mRemoved.empty(), reply);
+        WarnOfSemicolons(project.notSubject, mNotSubject.has_value(), reply);
+        return reply;
+    }
+
     /// A rule with the terms added and taken away.
     std::string SubjectRule(const std::string& rule) const
     {
@@ -122,21 +147,20 @@ private:
     }
 
     static Reply Preview(
-        const ConnectedRun& run, const KnownProject& project, const Period& span, const Options& options)
+        const Profile& profile, const KnownProject& project, const Period& span, const Options& options)
     {
-        if (const auto refusal = run.AddIn().ValidateProject(project.name);
-            !refusal.empty() && !KnownProject::IsListed(run.AddIn(), project.name)) {
-            throw CommandError(refusal);
-        }
-        auto projects = RuledProject::ReadAll(run.Profile());
+        auto projects = RuledProject::ReadAll(profile);
         projects.erase(std::remove_if(projects.begin(), projects.end(),
                            [&project](const auto& known) { return known.name == project.name; }),
             projects.end());
-        projects.push_back({ project.name, project.precedence, ProjectRule::ForSubjects(project.subject),
-            ProjectRule::ForSubjects(project.notSubject), ProjectRule::ForPeople(project.people) });
+        projects.push_back({ .name = project.name,
+            .precedence = project.precedence,
+            .subjectRule = project.subject,
+            .notSubjectRule = project.notSubject,
+            .peopleRule = project.people });
         RuledProject::Sort(projects);
-        const auto preview = RulePreview::OfOne(
-            RuleTrial(std::move(projects)), project.name, ActivitiesStartingIn(run.Profile(), span));
+        const auto preview
+            = RulePreview::OfOne(RuleTrial(std::move(projects)), project.name, ActivitiesStartingIn(profile, span));
         TellDisputed(preview, options);
         return PreviewReply(preview);
     }

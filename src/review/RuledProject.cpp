@@ -22,9 +22,9 @@ std::vector<RuledProject> RuledProject::ReadAll(const Profile& profile)
         if (!isThere) {
             projects.push_back({ .name = std::move(record.name),
                 .precedence = precedence,
-                .subject = ProjectRule::ForSubjects(record.subjectRule),
-                .notSubject = ProjectRule::ForSubjects(record.notSubjectRule),
-                .people = ProjectRule::ForPeople(record.peopleRule) });
+                .subjectRule = std::move(record.subjectRule),
+                .notSubjectRule = std::move(record.notSubjectRule),
+                .peopleRule = std::move(record.peopleRule) });
         }
     }
     Sort(projects);

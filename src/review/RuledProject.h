@@ -14,9 +14,13 @@ struct RuledProject
     std::string name;
     /// "1", "2" or "3".
     std::string precedence;
-    ProjectRule subject;
-    ProjectRule notSubject;
-    ProjectRule people;
+    /// The rules as they are kept.
+    std::string subjectRule;
+    std::string notSubjectRule;
+    std::string peopleRule;
+    ProjectRule subject = ProjectRule::ForSubjects(subjectRule);
+    ProjectRule notSubject = ProjectRule::ForSubjects(notSubjectRule);
+    ProjectRule people = ProjectRule::ForPeople(peopleRule);
 
     /// The projects of a profile's list in the order in which they are tried. The list is as the add-in left it; what
     /// it wouldn't read, and all that comes behind it, is left out.

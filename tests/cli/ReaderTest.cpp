@@ -72,6 +72,7 @@ std::vector<std::vector<std::string>> Readers()
 {
     auto readers = OneOfEachReader();
     readers.push_back({ "doctor" });
+    readers.push_back({ "apply", "--all", "--preview" });
     return readers;
 }
 

@@ -10,8 +10,11 @@ namespace tempodial {
 inline RuledProject Ruled(const std::string& name, const std::string& precedence, const std::string& subject,
     const std::string& notSubject = "", const std::string& people = "")
 {
-    return { name, precedence, ProjectRule::ForSubjects(subject), ProjectRule::ForSubjects(notSubject),
-        ProjectRule::ForPeople(people) };
+    return { .name = name,
+        .precedence = precedence,
+        .subjectRule = subject,
+        .notSubjectRule = notSubject,
+        .peopleRule = people };
 }
 
 }
