@@ -69,9 +69,13 @@ class RecordingTest(unittest.TestCase):
         self.addCleanup(process.kill)
         return process
 
+    def Try(self, *arguments):
+        """Runs a program, which may fail."""
+        return subprocess.run(arguments, env=self.environment, capture_output=True, text=True, check=False, timeout=60)
+
     def Do(self, *arguments, check=True):
-        """What a program prints, None when it fails and may."""
-        run = subprocess.run(arguments, env=self.environment, capture_output=True, text=True, check=False, timeout=60)
+        """What a program prints, also when it fails and may."""
+        run = self.Try(*arguments)
         if check:
             self.assertEqual(run.returncode, 0, (arguments, run.stderr))
         return run.stdout
@@ -86,7 +90,9 @@ class RecordingTest(unittest.TestCase):
         self.fail(f"no window of {name} is shown")
 
     def Focus(self, name):
-        self.Do("xdotool", "search", "--onlyvisible", "--class", name, "windowactivate", "--sync")
+        """Brings a window to the front, once the window manager does that."""
+        activate = ("xdotool", "search", "--onlyvisible", "--class", name, "windowactivate", "--sync")
+        self.assertTrue(WaitUntil(lambda: self.Try(*activate).returncode == 0))
 
     def Hands(self):
         """Presses a key now and then, until it is told to stop."""
