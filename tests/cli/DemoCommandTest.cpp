@@ -137,7 +137,7 @@ TEST_F(DemoCommandTest, Demo_KilledAtAnyPoint_IsMadeGoodByTheNext)
         GTEST_SKIP() << "this system forbids observation";
     }
     const auto expected = Contents();
-    const int points = StopPoints(12, 100);
+    const int points = ShortOrLong(12, 100);
     int unfinished = 0;
     for (int point = 1; point < points; ++point) {
         SCOPED_TRACE(point);

@@ -114,7 +114,7 @@ TEST_F(ForgetAndRestoreTest, Forget_KilledAnywhere_IsWholeOrNotAtAll)
     ASSERT_NE(before, after);
     ASSERT_NE(filesBefore, filesAfter);
     EXPECT_FALSE(HoldsSecret());
-    KillEverywhere(command, original, ShortOrLong(24, 4000), [&](std::int64_t call) {
+    KillEverywhere(command, original, StopPoints(24, 4000), [&](std::int64_t call) {
         // What only reads sees the mailbox as a whole; the next program that writes goes on with the rest.
         const auto seen = State();
         EXPECT_EQ(Run({ "settings", "set", "author", "A" }).status, 0) << call;
@@ -141,7 +141,7 @@ TEST_F(ForgetAndRestoreTest, Restore_KilledAnywhere_IsWholeOrNotAtAll)
         fs::remove_all(former);
         fs::remove_all(mFolder.Path("cut.old-20061010-170000-2"));
     };
-    KillEverywhere({ "restore", backup, "--replace" }, original, ShortOrLong(24, 4000), [&](std::int64_t call) {
+    KillEverywhere({ "restore", backup, "--replace" }, original, StopPoints(24, 4000), [&](std::int64_t call) {
         const auto seen = State();
         const bool isDone = seen == restored;
         EXPECT_TRUE(isDone || seen == before) << call;
@@ -164,7 +164,7 @@ TEST_F(ForgetAndRestoreTest, Backup_KilledAnywhere_FileIsWholeOrAsItWas)
     const auto backup = mFolder.Write("b.tar.gz", "former");
     const auto original = mProfile;
     const auto before = State();
-    KillEverywhere({ "backup", backup }, original, ShortOrLong(16, 2000), [&](std::int64_t call) {
+    KillEverywhere({ "backup", backup }, original, StopPoints(16, 2000), [&](std::int64_t call) {
         EXPECT_EQ(State(), before) << call;
         const bool isDone = mFolder.Read("b.tar.gz") != "former";
         if (isDone) {
