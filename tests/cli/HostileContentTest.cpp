@@ -313,8 +313,13 @@ TEST_F(HostileContentTest, Terminal_Captions_AreShownWithoutHarm)
             EXPECT_TRUE(arguments.back() == "ics" || shown.find("\u2421") != std::string::npos);
         }
     }
-    for (const auto& arguments : { Arguments { "list" }, Arguments { "trace" } }) {
-        EXPECT_EQ(Harm(Run(arguments).out), "") << arguments.front();
+    Json({ "edit", "@1", "--description", mCaptions[3] });
+    for (const auto& arguments :
+        { Arguments { "list" }, Arguments { "trace" }, Arguments { "unassigned", "--rows", "100" },
+            Arguments { "timesheet", "No Project" }, Arguments { "why", "@2" }, Arguments { "log" } }) {
+        const auto result = Run(arguments);
+        EXPECT_EQ(result.status, 0) << result.error;
+        EXPECT_EQ(Harm(result.out + result.error), "") << arguments.front();
     }
     // Each activity has its one line.
     const auto list = Run({ "list", "--quiet" }).out;
