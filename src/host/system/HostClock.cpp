@@ -12,21 +12,31 @@ HostClock::HostClock(std::optional<Date> start)
 
 Date HostClock::Now()
 {
-    if (mStart) {
-        const auto gone = std::chrono::steady_clock::now() - mStartedAt;
-        return mStart->AddSeconds(std::chrono::duration_cast<std::chrono::seconds>(gone).count());
-    }
-    return mLocalTime.At(std::time(nullptr));
+    return mStart ? mStart->AddSeconds(SecondsGone()) : mLocalTime.At(std::time(nullptr));
 }
 
 Date HostClock::UniversalNow()
 {
-    return mStart ? LocalTime::UniversalOf(Now()) : LocalTime::UniversalAt(std::time(nullptr));
+    if (!mStart) {
+        return LocalTime::UniversalAt(std::time(nullptr));
+    }
+    // The system looks at its time zone's file for each conversion, so there is one only.
+    if (!mUniversalStart) {
+        mUniversalStart = LocalTime::UniversalOf(*mStart);
+    }
+    return mUniversalStart->AddSeconds(SecondsGone());
+}
+
+std::int64_t HostClock::SecondsGone() const
+{
+    const auto gone = std::chrono::steady_clock::now() - mStartedAt;
+    return std::chrono::duration_cast<std::chrono::seconds>(gone).count();
 }
 
 void HostClock::Set(Date now)
 {
     mStart = now;
+    mUniversalStart.reset();
     mStartedAt = std::chrono::steady_clock::now();
 }
 

@@ -4,6 +4,7 @@
 #include "platform/system/Clock.h"
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 
 namespace tempodial {
@@ -22,7 +23,11 @@ public:
     void Set(Date now);
 
 private:
+    std::int64_t SecondsGone() const;
+
     std::optional<Date> mStart;
+    /// The same moment in UTC, once it was asked for.
+    std::optional<Date> mUniversalStart;
     std::chrono::steady_clock::time_point mStartedAt;
     LocalTime mLocalTime;
 };

@@ -98,6 +98,9 @@ TEST_F(HostClockTest, UniversalNow_IsTheSameMomentInUniversalTime)
     HostClock fixed(Date::FromParts({ 2006, 10, 10, 2, 0, 0 }));
     EXPECT_GE(fixed.UniversalNow(), Date::FromParts({ 2006, 10, 9, 20, 30, 0 }));
     EXPECT_LT(fixed.UniversalNow(), Date::FromParts({ 2006, 10, 9, 20, 40, 0 }));
+    fixed.Set(Date::FromParts({ 2007, 1, 2, 6, 0, 0 }));
+    EXPECT_GE(fixed.UniversalNow(), Date::FromParts({ 2007, 1, 2, 0, 30, 0 }));
+    EXPECT_LT(fixed.UniversalNow(), Date::FromParts({ 2007, 1, 2, 0, 40, 0 }));
 }
 
 TEST_F(HostClockTest, UniversalOf_ClocksPutForwardAndBack_GoesByThem)
