@@ -1,5 +1,6 @@
 #include "sources/MomentText.h"
 
+#include "base/UnixTime.h"
 #include "slots/PlainText.h"
 
 #include <array>
@@ -10,8 +11,6 @@ namespace tempodial {
 
 namespace {
 
-/// From 1899-12-30 to 1970-01-01.
-constexpr std::int64_t SecondsTo1970 = 25569LL * 86400;
 constexpr std::int64_t SecondsOfHour = 3600;
 constexpr std::int64_t SecondsOfMinute = 60;
 constexpr std::int64_t HoursOfDay = 24;

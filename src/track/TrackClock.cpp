@@ -1,5 +1,7 @@
 #include "track/TrackClock.h"
 
+#include "base/UnixTime.h"
+
 #include <algorithm>
 #include <ctime>
 
@@ -7,31 +9,12 @@ namespace tempodial {
 
 namespace {
 
-/// From 1899-12-30 to 1970-01-01.
-constexpr std::int64_t SecondsTo1970 = std::int64_t { 25569 } * 86400;
-
 std::int64_t Read(clockid_t clock)
 {
     constexpr std::int64_t NanosecondsOfMillisecond = 1000000;
     timespec time {};
     ::clock_gettime(clock, &time);
     return time.tv_sec * MillisecondsOfSecond + time.tv_nsec / NanosecondsOfMillisecond;
-}
-
-/// The moment of a local time, in milliseconds since 1970 began in UTC.
-std::int64_t UniversalOf(Date local)
-{
-    constexpr int FirstYear = 1900;
-    const auto parts = local.ToParts();
-    std::tm fields {};
-    fields.tm_year = parts.year - FirstYear;
-    fields.tm_mon = parts.month - 1;
-    fields.tm_mday = parts.day;
-    fields.tm_hour = parts.hour;
-    fields.tm_min = parts.minute;
-    fields.tm_sec = parts.second;
-    fields.tm_isdst = -1;
-    return std::mktime(&fields) * MillisecondsOfSecond;
 }
 
 /// Seconds by which local time is before UTC.
@@ -50,7 +33,9 @@ TrackClock::TrackClock(std::optional<Date> start, int speed)
     : mSpeed(speed)
 {
     if (start || speed != 1) {
-        mStart = { start ? UniversalOf(*start) : Read(CLOCK_REALTIME), Read(CLOCK_BOOTTIME), Read(CLOCK_MONOTONIC) };
+        const auto universal = start ? UnixTimeOf(*start) : std::nullopt;
+        mStart = { universal ? *universal * MillisecondsOfSecond : Read(CLOCK_REALTIME), Read(CLOCK_BOOTTIME),
+            Read(CLOCK_MONOTONIC) };
     }
 }
 

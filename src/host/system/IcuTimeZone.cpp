@@ -1,6 +1,7 @@
 #include "host/system/IcuTimeZone.h"
 
 #include "base/Failure.h"
+#include "base/UnixTime.h"
 
 #include <unicode/strenum.h>
 #include <unicode/timezone.h>
@@ -11,8 +12,6 @@ namespace {
 
 constexpr std::int64_t SecondsOfQuarter = 900;
 constexpr double Milliseconds = 1000;
-/// From 1899-12-30 to 1970-01-01.
-constexpr std::int64_t SecondsBefore1970 = 25569LL * 86400;
 
 }
 
@@ -57,7 +56,7 @@ std::int64_t IcuTimeZone::MomentOf(Date local)
     // Where the clock is put back the offset before it gives the earlier moment, and where it is put forward the offset
     // before it is that of the clock that wasn't.
     constexpr std::int64_t LongestShift = 86400;
-    const auto seconds = local.Seconds() - SecondsBefore1970;
+    const auto seconds = local.Seconds() - SecondsTo1970;
     const auto before = OffsetAt(seconds - LongestShift);
     const auto behind = OffsetAt(seconds + LongestShift);
     if (OffsetAt(seconds - before) == before) {
