@@ -4,6 +4,7 @@
 #include "slots/PlainText.h"
 #include "sources/CsvRecords.h"
 #include "sources/MomentText.h"
+#include "sources/PageHost.h"
 #include "sources/SourceProblem.h"
 
 #include <algorithm>
@@ -27,19 +28,6 @@ struct DatedRow
     std::optional<std::int64_t> length;
     SourceEntry entry;
 };
-
-/// The site of an address.
-std::string HostOf(std::string_view url)
-{
-    const auto scheme = url.find("://");
-    if (scheme == std::string_view::npos) {
-        return {};
-    }
-    url.remove_prefix(scheme + 3);
-    url = url.substr(0, url.find_first_of("/?#"));
-    url.remove_prefix(url.find('@') == std::string_view::npos ? 0 : url.find('@') + 1);
-    return std::string(url.substr(0, url.find(':')));
-}
 
 /// What an entry of a time sheet is about, empty when it doesn't say.
 std::string TextOf(const std::string& description, const std::string& task)
@@ -146,7 +134,7 @@ private:
             entry.isWindow = true;
             entry.words.program = mRecords.Field(program);
             entry.words.title = mRecords.Field(title);
-            entry.words.host = HostOf(mRecords.Field(url));
+            entry.words.host = PageHost(mRecords.Field(url));
             entry.project = mRecords.Field(project);
             if (from->offset) {
                 TakeMoments(from->Moment(), to->Moment(), std::move(entry));

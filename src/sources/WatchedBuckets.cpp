@@ -2,6 +2,7 @@
 
 #include "slots/PlainText.h"
 #include "sources/MomentText.h"
+#include "sources/PageHost.h"
 
 #include <algorithm>
 #include <functional>
@@ -32,20 +33,6 @@ void Append(std::vector<WatchedBuckets::Event>& events, std::vector<WatchedBucke
     }
 }
 
-/// The site of a page's address.
-std::string HostOfPage(std::string_view url)
-{
-    const auto scheme = url.find("://");
-    if (scheme == std::string_view::npos || !url.starts_with("http")) {
-        return {};
-    }
-    url.remove_prefix(scheme + 3);
-    url = url.substr(0, url.find_first_of("/?#"));
-    const auto account = url.rfind('@');
-    url.remove_prefix(account == std::string_view::npos ? 0 : account + 1);
-    return std::string(url.substr(0, url.find(':')));
-}
-
 /// True when one title begins as the other does, as a window's does that has the page's.
 bool BeginsAlike(std::string_view window, std::string_view page)
 {
@@ -71,7 +58,7 @@ void WatchedBuckets::AddEvent(Bucket& bucket, std::int64_t begin, std::int64_t l
         title = title.substr(0, ComparedTitle);
     }
     const Row row { mTexts.NumberOf(data.app), mTexts.NumberOf(title), mTexts.NumberOf(data.status),
-        mTexts.NumberOf(HostOfPage(data.url)), static_cast<std::uint32_t>(rest), data.isPrivate };
+        mTexts.NumberOf(PageHost(data.url)), static_cast<std::uint32_t>(rest), data.isPrivate };
     constexpr std::size_t Spread = 31;
     std::size_t hash = row.isPrivate ? 1 : 0;
     for (const auto part : { row.status, row.host, row.rest, row.app, row.title }) {
