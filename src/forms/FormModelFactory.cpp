@@ -7,6 +7,7 @@ Ref<Form> FormModelFactory::Create(const FormDefinition& definition)
     const auto form = std::make_shared<FormModel>(definition, ++mLastNumber);
     std::erase_if(mForms, [](const auto& known) { return known.expired(); });
     mForms.push_back(form);
+    mEvents.Raise(&FormModelFactoryEvents::Created, *form);
     return Ref<FormModel>(form);
 }
 

@@ -1,15 +1,25 @@
 #pragma once
 
 #include "base/Ref.h"
+#include "base/Subscription.h"
 #include "forms/FormModel.h"
 #include "platform/controls/Form.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
+
+/// What whoever draws the forms of a factory wants to know.
+struct FormModelFactoryEvents
+{
+    /// A form was made, not yet shown. Whoever draws it doesn't hold it, since it goes with its owner.
+    std::function<void(FormModel& form)> Created;
+};
 
 /// Makes forms as plain models, and finds those that are alive for whoever shows them.
 class FormModelFactory final : public FormFactory
@@ -18,6 +28,8 @@ public:
     /// A new form, not yet shown; its number counts from 1, and no other form gets it.
     Ref<Form> Create(const FormDefinition& definition) override;
 
+    /// Subscribes whoever draws the forms.
+    Subscription SubscribeToForms(FormModelFactoryEvents events) { return mEvents.Subscribe(std::move(events)); }
     /// The forms alive, in the order in which they were made.
     std::vector<Ref<FormModel>> Forms() const;
     /// The newest form of that class that can be seen, nothing when there is none.
@@ -28,6 +40,7 @@ public:
 private:
     std::vector<std::weak_ptr<FormModel>> mForms;
     std::int32_t mLastNumber = 0;
+    EventSource<FormModelFactoryEvents> mEvents;
 };
 
 }

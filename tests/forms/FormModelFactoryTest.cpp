@@ -40,6 +40,23 @@ TEST_F(FormModelFactoryTest, Create_Forms_GetNumbersNeverUsedBefore)
     EXPECT_EQ(Create("B").As<FormModel>()->Number(), 3);
 }
 
+TEST_F(FormModelFactoryTest, Created_IsToldOfAFormThatIsNotYetShown)
+{
+    std::weak_ptr<FormModel> known;
+    const auto watching = mFactory.SubscribeToForms({ [&](FormModel& form) {
+        EXPECT_EQ(form.Number(), 1);
+        EXPECT_FALSE(form.Visible());
+        known = form.weak_from_this();
+    } });
+    auto form = Create("A");
+    EXPECT_EQ(Ref<Form>(Ref<FormModel>(known.lock())), form);
+    int ended = 0;
+    const auto ending = known.lock()->SubscribeToChanges({ .Ended = [&] { ++ended; } });
+    form = nullptr;
+    EXPECT_EQ(ended, 1);
+    EXPECT_TRUE(known.expired());
+}
+
 TEST_F(FormModelFactoryTest, CloseAll_VisibleForms_AreUnloadedWhoeverRefuses)
 {
     const auto hidden = Create("A");
