@@ -49,7 +49,7 @@ std::string StoreItem::Subject() const
 
 void StoreItem::SetSubject(const std::string& subject)
 {
-    Change().subject = subject;
+    Change([&](ItemData& data) { data.subject = subject; });
 }
 
 std::string StoreItem::Body() const
@@ -59,7 +59,7 @@ std::string StoreItem::Body() const
 
 void StoreItem::SetBody(const std::string& body)
 {
-    Change().body = body;
+    Change([&](ItemData& data) { data.body = body; });
 }
 
 Date StoreItem::Start() const
@@ -70,9 +70,10 @@ Date StoreItem::Start() const
 void StoreItem::SetStart(Date start)
 {
     const auto duration = Duration();
-    auto& data = Change();
-    data.start = start;
-    data.end = start.AddMinutes(duration);
+    Change([&](ItemData& data) {
+        data.start = start;
+        data.end = start.AddMinutes(duration);
+    });
 }
 
 Date StoreItem::End() const
@@ -85,7 +86,7 @@ void StoreItem::SetEnd(Date end)
     if (end < Data().start) {
         throw Failure(Error::InvalidCall, "An item can't end before it starts");
     }
-    Change().end = end;
+    Change([&](ItemData& data) { data.end = end; });
 }
 
 std::int32_t StoreItem::Duration() const
@@ -98,8 +99,7 @@ void StoreItem::SetDuration(std::int32_t minutes)
     if (minutes < 0) {
         throw Failure(Error::InvalidCall, "A duration can't be negative");
     }
-    auto& data = Change();
-    data.end = data.start.AddMinutes(minutes);
+    Change([&](ItemData& data) { data.end = data.start.AddMinutes(minutes); });
 }
 
 std::string StoreItem::Mileage() const
@@ -109,7 +109,7 @@ std::string StoreItem::Mileage() const
 
 void StoreItem::SetMileage(const std::string& mileage)
 {
-    Change().mileage = mileage;
+    Change([&](ItemData& data) { data.mileage = mileage; });
 }
 
 std::string StoreItem::BillingInformation() const
@@ -119,7 +119,7 @@ std::string StoreItem::BillingInformation() const
 
 void StoreItem::SetBillingInformation(const std::string& billingInformation)
 {
-    Change().billingInformation = billingInformation;
+    Change([&](ItemData& data) { data.billingInformation = billingInformation; });
 }
 
 bool StoreItem::IsRecurring() const
@@ -257,18 +257,24 @@ void StoreItem::Discard()
     if (mBefore) {
         mData = std::move(*mBefore);
         mBefore.reset();
+        TellOfChange();
     }
 }
 
-Subscription StoreItem::SubscribeLetGo(std::function<void()> letGo)
+Subscription StoreItem::SubscribeWindow(ItemWindowEvents events)
 {
-    return mWindowEvents.Subscribe({ std::move(letGo) });
+    return mWindowEvents.Subscribe(std::move(events));
 }
 
 void StoreItem::RaiseLetGo()
 {
     const auto self = shared_from_this();
-    mWindowEvents.Raise(&WindowEvents::LetGo);
+    mWindowEvents.Raise(&ItemWindowEvents::LetGo);
+}
+
+void StoreItem::SetProjectByHand(bool isByHand)
+{
+    Change([&](ItemData& data) { data.isProjectByHand = isByHand; });
 }
 
 bool StoreItem::HasChanges() const
@@ -287,7 +293,7 @@ const ItemData& StoreItem::Data() const
     return mData;
 }
 
-ItemData& StoreItem::Change()
+ItemData& StoreItem::Changing()
 {
     CheckAlive();
     if (mRow != 0 && !mBefore) {
@@ -306,6 +312,7 @@ void StoreItem::MarkStored(std::int64_t row, std::optional<Date> saved)
     mRow = row;
     mSaved = saved;
     mBefore.reset();
+    TellOfChange();
 }
 
 void StoreItem::MarkDeleted()
@@ -323,6 +330,7 @@ void StoreItem::MarkRestored(StoredItem stored)
     mData = std::move(stored.data);
     mSaved = stored.saved;
     mBefore.reset();
+    TellOfChange();
 }
 
 void StoreItem::MarkUndone(std::optional<StoredItem> stored)
@@ -332,11 +340,12 @@ void StoreItem::MarkUndone(std::optional<StoredItem> stored)
         mRow = 0;
         mBefore.reset();
         mSaved.reset();
-        return;
+    } else {
+        mFolder = stored->folder;
+        mSaved = stored->saved;
+        mBefore = std::move(stored->data);
     }
-    mFolder = stored->folder;
-    mSaved = stored->saved;
-    mBefore = std::move(stored->data);
+    TellOfChange();
 }
 
 void StoreItem::CheckAlive() const

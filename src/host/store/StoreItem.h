@@ -15,6 +15,16 @@ namespace tempodial {
 class LocaleFormats;
 class MailboxStore;
 
+/// What happens to an item that a window shows.
+struct ItemWindowEvents
+{
+    /// That is over, as code has closed the item or it was deleted.
+    std::function<void()> LetGo;
+    /// What it holds has changed, or whether that is saved. It is told in the midst of things, so it is only to be
+    /// taken note of.
+    std::function<void()> Changed;
+};
+
 /// An appointment of the mailbox; there is one object for an item as long as anybody holds it. Once the item is
 /// deleted every member fails (-2147221233). What a failed commit undid is undone here too: an item that was first
 /// saved since the last commit is unsaved again, and what was changed since then is an unsaved change again; one that
@@ -65,8 +75,8 @@ public:
     bool SaveAsPerson();
     /// Drops what wasn't saved, telling nobody.
     void Discard();
-    /// Tells a window that shows the item when that is over, as code has closed the item or it was deleted.
-    Subscription SubscribeLetGo(std::function<void()> letGo);
+    /// Subscribes a window that shows the item.
+    Subscription SubscribeWindow(ItemWindowEvents events);
     /// Tells the windows that show the item that this is over.
     void RaiseLetGo();
     /// The number that it keeps for as long as it is, and that no other item of the mailbox ever has; 0 while it isn't
@@ -76,7 +86,7 @@ public:
     std::optional<Date> SavedAt() const { return mSaved; }
     /// True when a person chose its project.
     bool IsProjectByHand() const { return Data().isProjectByHand; }
-    void SetProjectByHand(bool isByHand) { Change().isProjectByHand = isByHand; }
+    void SetProjectByHand(bool isByHand);
     /// True when something was changed since the last save, or nothing was ever saved.
     bool HasChanges() const;
     /// How texts, dates and numbers are read and written where the mailbox is.
@@ -90,8 +100,12 @@ public:
     std::int64_t FolderRow() const { return mFolder; }
     /// What the item holds now.
     const ItemData& Data() const;
-    /// What the item holds, to be changed.
-    ItemData& Change();
+    /// Changes what the item holds, which stays unsaved.
+    template <class Work> void Change(Work&& work)
+    {
+        work(Changing());
+        TellOfChange();
+    }
     /// What was last saved, null when nothing was changed since.
     const ItemData* DataBefore() const { return mBefore ? &*mBefore : nullptr; }
     /// True once the item is deleted.
@@ -106,13 +120,10 @@ public:
     void MarkUndone(std::optional<StoredItem> stored);
 
 private:
-    /// What happens to an item that a window shows.
-    struct WindowEvents
-    {
-        std::function<void()> LetGo;
-    };
-
     void CheckAlive() const;
+    /// What the item holds, to be changed.
+    ItemData& Changing();
+    void TellOfChange() const { mWindowEvents.Raise(&ItemWindowEvents::Changed); }
     /// Raises `Write`; false when a handler refused it.
     bool RaiseWrite();
 
@@ -126,7 +137,7 @@ private:
     std::string mShownProject;
     bool mDeleted = false;
     EventSource<AppointmentItemEvents> mEvents;
-    EventSource<WindowEvents> mWindowEvents;
+    EventSource<ItemWindowEvents> mWindowEvents;
     Ref<tempodial::FormDescription> mFormDescription;
 };
 

@@ -57,7 +57,7 @@ Ref<UserProperty> StoreUserProperties::Add(const std::string& name, PropertyType
         mItem->Owner()->Tree().AddField(mItem->FolderRow(), name, type);
     }
     if (property == nullptr) {
-        mItem->Change().properties.push_back({ name, type, {} });
+        mItem->Change([&](ItemData& data) { data.properties.push_back({ name, type, {} }); });
     }
     return Item(name);
 }

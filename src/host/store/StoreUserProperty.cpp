@@ -53,8 +53,7 @@ Variant StoreUserProperty::Value() const
 void StoreUserProperty::SetValue(const Variant& value)
 {
     auto converted = Converted(value, Get(*mItem, mName).type, mItem->Formats());
-    mItem->Change();
-    const_cast<ItemProperty&>(Get(*mItem, mName)).value = std::move(converted);
+    mItem->Change([&](const ItemData&) { const_cast<ItemProperty&>(Get(*mItem, mName)).value = std::move(converted); });
 }
 
 }

@@ -14,7 +14,7 @@ const BuiltInCommand* BuiltInCommand::Of(std::int32_t id)
         { PreviousItem, Type::SplitButtonPopup, "Pre&vious Item", {} },
         { NextItem, Type::SplitButtonPopup, "&Next Item", {} },
         { Find, Type::Button, "F&ind", {} },
-        { Help, Type::Button, "Outlook &Help", {} },
+        { Help, Type::Button, "&Help", {} },
         { FileMenu, Type::Popup, "&File", { Print } },
         { EditMenu, Type::Popup, "&Edit", { Delete, Find } },
         { ViewMenu, Type::Popup, "&View", {} },

@@ -13,8 +13,8 @@ namespace tempodial {
 HostApplication::HostApplication(Ref<Mailbox> mailbox, std::string version)
     : mMailbox(std::move(mailbox))
     , mVersion(std::move(version))
-    , mExplorers(MakeRef<HostExplorers>(mMailbox))
-    , mInspectors(MakeRef<HostInspectors>(mMailbox))
+    , mExplorers(MakeRef<HostExplorers>(mMailbox, mOwnerCommands))
+    , mInspectors(MakeRef<HostInspectors>(mMailbox, mOwnerCommands))
 {
     mMailbox->SetDisplay([known = std::weak_ptr(mInspectors.Shared())](const Ref<StoreItem>& item) {
         if (const auto inspectors = known.lock()) {
@@ -58,6 +58,16 @@ Ref<AppointmentItem> HostApplication::CreateItemFromTemplate(const std::string& 
 {
     const auto form = FormTemplateReader::Read(path);
     return mMailbox->NewItem(folder ? folder : mMailbox->NameSpace()->GetDefaultFolder(DefaultFolder::Calendar), form);
+}
+
+Subscription HostApplication::SubscribeToExplorers(HostWindowsEvents<HostExplorer> events)
+{
+    return mExplorers->SubscribeToWindows(std::move(events));
+}
+
+Subscription HostApplication::SubscribeToInspectors(HostWindowsEvents<HostInspector> events)
+{
+    return mInspectors->SubscribeToWindows(std::move(events));
 }
 
 void HostApplication::RaiseMapiLogonComplete()

@@ -6,12 +6,14 @@
 #include "host/windows/HostExplorers.h"
 #include "host/windows/HostInspectors.h"
 #include "host/windows/HostMail.h"
+#include "host/windows/OwnerCommands.h"
 #include "host/windows/Person.h"
 #include "platform/objectmodel/Application.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -37,6 +39,12 @@ public:
     Ref<AppointmentItem> CreateItemFromTemplate(const std::string& path, const Ref<MAPIFolder>& folder) override;
     Subscription Subscribe(ApplicationEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
+    /// Subscribes whoever draws the windows on folders.
+    Subscription SubscribeToExplorers(HostWindowsEvents<HostExplorer> events);
+    /// Subscribes whoever draws the windows on items. One that a handler refused was never on the screen.
+    Subscription SubscribeToInspectors(HostWindowsEvents<HostInspector> events);
+    /// Sets what is done for built-in commands that windows can't do by themselves.
+    void SetOwnerCommands(OwnerCommands commands) { *mOwnerCommands = std::move(commands); }
     /// Tells that the mail session has begun.
     void RaiseMapiLogonComplete();
     /// Tells that the application quits.
@@ -69,6 +77,7 @@ public:
 private:
     Ref<Mailbox> mMailbox;
     std::string mVersion;
+    Ref<OwnerCommands> mOwnerCommands = MakeRef<OwnerCommands>();
     Ref<HostExplorers> mExplorers;
     Ref<HostInspectors> mInspectors;
     std::int32_t mMailNumbers = 0;

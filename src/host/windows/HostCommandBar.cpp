@@ -44,10 +44,10 @@ Ref<HostCommandBarControl> Make(const BuiltInCommand& command)
 
 }
 
-HostCommandBar::HostCommandBar(std::string name, Origin origin, CommandRunner runner)
+HostCommandBar::HostCommandBar(std::string name, Origin origin, std::shared_ptr<HostCommandBarFrame> frame)
     : mName(std::move(name))
     , mOrigin(origin)
-    , mRunner(std::move(runner))
+    , mFrame(std::move(frame))
 {
 }
 
@@ -66,7 +66,9 @@ BarPosition HostCommandBar::Position() const
 void HostCommandBar::SetPosition(BarPosition position)
 {
     CheckThere();
-    mPosition = position;
+    if (std::exchange(mPosition, position) != position) {
+        Changed();
+    }
 }
 
 bool HostCommandBar::Visible() const
@@ -78,7 +80,9 @@ bool HostCommandBar::Visible() const
 void HostCommandBar::SetVisible(bool visible)
 {
     CheckThere();
-    mVisible = visible;
+    if (std::exchange(mVisible, visible) != visible) {
+        Changed();
+    }
 }
 
 Ref<CommandBarControls> HostCommandBar::Controls()
@@ -129,7 +133,7 @@ Ref<HostCommandBarControl> HostCommandBar::Add(const CommandBarAddition& additio
         }
         control = Make(*command);
     }
-    control->Change().parameter = addition.parameter;
+    control->Change(&HostCommandBarControl::State::parameter, addition.parameter);
     Insert(addition.before ? static_cast<std::size_t>(*addition.before) - 1 : mEntries.size(), control);
     return control;
 }
@@ -143,6 +147,14 @@ void HostCommandBar::Remove(const Ref<HostCommandBarControl>& control)
 {
     std::erase(mEntries, control);
     control->MarkGone();
+    Changed();
+}
+
+void HostCommandBar::Changed() const
+{
+    if (mFrame) {
+        mFrame->changes.Tell();
+    }
 }
 
 void HostCommandBar::CheckUsable() const
@@ -156,10 +168,11 @@ void HostCommandBar::CheckUsable() const
     }
 }
 
-void HostCommandBar::Belong(const std::weak_ptr<HostCommandBarControl>& menu, const CommandRunner& runner)
+void HostCommandBar::Belong(
+    const std::weak_ptr<HostCommandBarControl>& menu, const std::shared_ptr<HostCommandBarFrame>& frame)
 {
     mMenu = menu;
-    mRunner = runner;
+    mFrame = frame;
     for (const auto& control : mEntries) {
         control->PutOn(shared_from_this());
     }
@@ -184,6 +197,7 @@ void HostCommandBar::Insert(std::size_t index, const Ref<HostCommandBarControl>&
 {
     mEntries.insert(mEntries.begin() + static_cast<std::ptrdiff_t>(index), control);
     control->PutOn(shared_from_this());
+    Changed();
 }
 
 }

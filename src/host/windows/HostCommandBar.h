@@ -2,11 +2,10 @@
 
 #include "base/Ref.h"
 #include "host/windows/HostCommandBarControl.h"
+#include "host/windows/HostCommandBarFrame.h"
 #include "platform/commandbars/CommandBar.h"
 
 #include <cstddef>
-#include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,11 +20,9 @@ class HostCommandBar final : public CommandBar, public std::enable_shared_from_t
 public:
     /// Who made a bar; one of the host's own stays.
     enum class Origin { BuiltIn, Program };
-    /// Runs the built-in command of a number in the bar's window, which may be gone.
-    using CommandRunner = std::function<void(std::int32_t id)>;
 
-    /// An empty bar, hidden and in no place.
-    HostCommandBar(std::string name, Origin origin, CommandRunner runner = {});
+    /// An empty bar, hidden and in no place; a menu's has no frame until the menu is on a bar.
+    HostCommandBar(std::string name, Origin origin, std::shared_ptr<HostCommandBarFrame> frame = nullptr);
 
     std::string Name() const override;
     BarPosition Position() const override;
@@ -44,12 +41,14 @@ public:
     void Append(const Ref<HostCommandBarControl>& control);
     /// Takes a control off, which is gone from then on.
     void Remove(const Ref<HostCommandBarControl>& control);
-    /// What runs the built-in commands.
-    const CommandRunner& Runner() const { return mRunner; }
+    /// What it shares with the other bars of its window, nothing for a menu that is on no bar.
+    const std::shared_ptr<HostCommandBarFrame>& Frame() const { return mFrame; }
+    /// Tells whoever draws the bars that this one may look otherwise.
+    void Changed() const;
     /// Fails (5) when a person can't see it.
     void CheckUsable() const;
     /// It holds the entries of that menu.
-    void Belong(const std::weak_ptr<HostCommandBarControl>& menu, const CommandRunner& runner);
+    void Belong(const std::weak_ptr<HostCommandBarControl>& menu, const std::shared_ptr<HostCommandBarFrame>& frame);
     /// It is one of those bars, which it takes itself out of when it is deleted.
     void Belong(const std::weak_ptr<HostCommandBars>& bars) { mBars = bars; }
     /// It is gone, with its controls.
@@ -62,7 +61,7 @@ private:
 
     std::string mName;
     Origin mOrigin;
-    CommandRunner mRunner;
+    std::shared_ptr<HostCommandBarFrame> mFrame;
     BarPosition mPosition = BarPosition::Floating;
     bool mVisible = false;
     bool mGone = false;

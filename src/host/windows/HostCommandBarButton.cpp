@@ -14,18 +14,21 @@ void HostCommandBarButton::SetStyle(ButtonStyle style)
 {
     Now();
     mStyle = style;
+    TellOfChange();
 }
 
 void HostCommandBarButton::SetPicture(const Ref<Picture>& picture)
 {
     Now();
     mPicture = picture;
+    TellOfChange();
 }
 
 void HostCommandBarButton::SetMask(const Ref<Picture>& mask)
 {
     Now();
     mMask = mask;
+    TellOfChange();
 }
 
 Subscription HostCommandBarButton::Subscribe(CommandBarButtonEvents events)
@@ -39,12 +42,12 @@ void HostCommandBarButton::Click()
     CheckUsable();
     const auto self = Ref<HostCommandBarControl>(shared_from_this()).As<CommandBarButton>();
     // A handler may close the window, and with it take this button away.
-    const auto run = Bar()->Runner();
+    const auto frame = Bar()->Frame();
     const auto id = Now().id;
     bool cancelDefault = false;
     mEvents.Raise(&CommandBarButtonEvents::Click, self, cancelDefault);
-    if (!cancelDefault && id != OwnId && run) {
-        run(id);
+    if (!cancelDefault && id != OwnId && frame && frame->run) {
+        frame->run(id);
     }
 }
 

@@ -19,12 +19,6 @@ const HostCommandBarControl::State& HostCommandBarControl::Now() const
     return mState;
 }
 
-HostCommandBarControl::State& HostCommandBarControl::Change()
-{
-    Now();
-    return mState;
-}
-
 void HostCommandBarControl::Click()
 {
     throw Failure(Error::InvalidCall, "\"" + Now().caption + "\" is no button");
@@ -71,6 +65,13 @@ Ref<HostCommandBar> HostCommandBarControl::Bar() const
         throw Failure(Error::ObjectNotFound);
     }
     return bar;
+}
+
+void HostCommandBarControl::TellOfChange() const
+{
+    if (const auto bar = mBar.lock()) {
+        bar->Changed();
+    }
 }
 
 }

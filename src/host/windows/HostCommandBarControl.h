@@ -39,8 +39,15 @@ public:
 
     /// What it holds; fails (-2147221233) when it is gone.
     const State& Now() const;
-    /// What it holds, to be changed; fails (-2147221233) when it is gone.
-    State& Change();
+    /// Changes what it holds and tells whoever draws the bars; fails (-2147221233) when it is gone.
+    template <class Value> void Change(Value State::*member, const Value& value)
+    {
+        Now();
+        if (mState.*member != value) {
+            mState.*member = value;
+            TellOfChange();
+        }
+    }
     /// A person works it: a button runs. One that is hidden, disabled, on no visible bar or no button fails (5).
     virtual void Click();
     /// Fails (5) when a person can't work it.
@@ -59,6 +66,8 @@ public:
 protected:
     /// The bar that it is on; fails (-2147221233) when it is gone.
     Ref<HostCommandBar> Bar() const;
+    /// Tells whoever draws the bars that it may look otherwise.
+    void TellOfChange() const;
 
 private:
     State mState;

@@ -37,7 +37,7 @@ Ref<HostCommandBarControl> HostCommandBarPopup::Duplicate() const
 void HostCommandBarPopup::PutOn(const Ref<HostCommandBar>& bar)
 {
     HostControl::PutOn(bar);
-    mMenu->Belong(shared_from_this(), bar->Runner());
+    mMenu->Belong(shared_from_this(), bar->Frame());
 }
 
 void HostCommandBarPopup::MarkGone()

@@ -7,8 +7,8 @@ namespace tempodial {
 void HostCommandBarSplitButton::Click()
 {
     CheckUsable();
-    if (const auto run = Bar()->Runner()) {
-        run(Now().id);
+    if (const auto frame = Bar()->Frame(); frame && frame->run) {
+        frame->run(Now().id);
     }
 }
 

@@ -40,34 +40,31 @@ Ref<CommandBar> HostCommandBars::Add(const std::string& name)
     if (!mReady || Find(name)) {
         throw Failure(Error::InvalidCall);
     }
-    auto bar = MakeRef<HostCommandBar>(name, HostCommandBar::Origin::Program, mRunner);
+    auto bar = MakeRef<HostCommandBar>(name, HostCommandBar::Origin::Program, mFrame);
     bar->Belong(weak_from_this());
     mBars.push_back(bar);
+    bar->Changed();
     return bar;
 }
 
-void HostCommandBars::MakeForExplorer(const HostCommandBar::CommandRunner& runner)
+void HostCommandBars::MakeForExplorer(const std::function<void(std::int32_t id)>& run)
 {
-    CheckOpen();
-    if (std::exchange(mReady, true)) {
+    if (!Begin(run)) {
         return;
     }
     using Command = BuiltInCommand;
-    mRunner = runner;
     AddBuiltIn("Standard", BarPosition::Top, { Command::Print, Command::Delete, Command::Find, Command::Help });
     AddBuiltIn("Menu Bar", BarPosition::MenuBar,
         { Command::FileMenu, Command::EditMenu, Command::ViewMenu, Command::GoMenu, Command::ToolsMenu,
             Command::ActionsMenu, Command::HelpMenu });
 }
 
-void HostCommandBars::MakeForInspector(const HostCommandBar::CommandRunner& runner)
+void HostCommandBars::MakeForInspector(const std::function<void(std::int32_t id)>& run)
 {
-    CheckOpen();
-    if (std::exchange(mReady, true)) {
+    if (!Begin(run)) {
         return;
     }
     using Command = BuiltInCommand;
-    mRunner = runner;
     AddBuiltIn("Standard", BarPosition::Top,
         { Command::SaveAndClose, Command::Print, Command::Delete, Command::PreviousItem, Command::NextItem,
             Command::Help });
@@ -77,6 +74,7 @@ void HostCommandBars::Remove(const Ref<HostCommandBar>& bar)
 {
     std::erase(mBars, bar);
     bar->MarkGone();
+    mFrame->changes.Tell();
 }
 
 void HostCommandBars::MarkGone()
@@ -94,16 +92,27 @@ void HostCommandBars::CheckOpen() const
     }
 }
 
+bool HostCommandBars::Begin(const std::function<void(std::int32_t id)>& run)
+{
+    CheckOpen();
+    if (std::exchange(mReady, true)) {
+        return false;
+    }
+    mFrame->run = run;
+    return true;
+}
+
 void HostCommandBars::AddBuiltIn(
     const std::string& name, BarPosition position, const std::vector<std::int32_t>& commands)
 {
-    const auto bar = MakeRef<HostCommandBar>(name, HostCommandBar::Origin::BuiltIn, mRunner);
+    const auto bar = MakeRef<HostCommandBar>(name, HostCommandBar::Origin::BuiltIn, mFrame);
     bar->SetPosition(position);
     bar->SetVisible(true);
     for (const auto id : commands) {
         bar->Add({ BuiltInCommand::Of(id)->type, id, "", {}, false });
     }
     mBars.push_back(bar);
+    bar->Changed();
 }
 
 Ref<HostCommandBar> HostCommandBars::Find(const std::string& name) const

@@ -5,8 +5,10 @@
 #include "platform/commandbars/CommandBars.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -21,10 +23,12 @@ public:
     Ref<CommandBar> ItemNamed(const std::string& name) override;
     Ref<CommandBar> Add(const std::string& name) override;
 
+    /// Subscribes whoever draws the bars.
+    Subscription SubscribeToChanges(ChangeEvents events) { return mFrame->changes.Subscribe(std::move(events)); }
     /// The bars of a window on a folder come into being: "Standard" and "Menu Bar". Does nothing when they are there.
-    void MakeForExplorer(const HostCommandBar::CommandRunner& runner);
+    void MakeForExplorer(const std::function<void(std::int32_t id)>& run);
     /// The bar of a window on an item comes into being: "Standard". Does nothing when it is there.
-    void MakeForInspector(const HostCommandBar::CommandRunner& runner);
+    void MakeForInspector(const std::function<void(std::int32_t id)>& run);
     /// The bars in their order, none before they came into being and after the window is gone.
     const std::vector<Ref<HostCommandBar>>& All() const { return mBars; }
     /// Takes a bar out, which is gone from then on.
@@ -34,11 +38,13 @@ public:
 
 private:
     void CheckOpen() const;
+    /// True for the first time, when the bars are to come into being.
+    bool Begin(const std::function<void(std::int32_t id)>& run);
     void AddBuiltIn(const std::string& name, BarPosition position, const std::vector<std::int32_t>& commands);
     Ref<HostCommandBar> Find(const std::string& name) const;
 
     std::vector<Ref<HostCommandBar>> mBars;
-    HostCommandBar::CommandRunner mRunner;
+    std::shared_ptr<HostCommandBarFrame> mFrame = std::make_shared<HostCommandBarFrame>();
     bool mReady = false;
     bool mGone = false;
 };

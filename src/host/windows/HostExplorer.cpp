@@ -12,10 +12,12 @@
 
 namespace tempodial {
 
-HostExplorer::HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, const Ref<MAPIFolder>& folder)
+HostExplorer::HostExplorer(
+    std::int32_t number, Ref<Mailbox> mailbox, const Ref<MAPIFolder>& folder, Ref<OwnerCommands> ownerCommands)
     : mNumber(number)
     , mMailbox(std::move(mailbox))
     , mFolder(OwnFolder(folder))
+    , mOwnerCommands(std::move(ownerCommands))
 {
 }
 
@@ -60,6 +62,7 @@ void HostExplorer::SetCurrentView(const std::string& name)
         throw Failure(Error::InvalidCall, "The folder has no view named \"" + name + "\"");
     }
     mViews[mFolder->EntryID()] = view->Name();
+    Changed();
 }
 
 Ref<Selection> HostExplorer::Selection()
@@ -124,11 +127,18 @@ void HostExplorer::Select(std::vector<Ref<OutlookItem>> items)
     RaiseSelectionChange();
 }
 
+void HostExplorer::RaiseActivate()
+{
+    mWindowEvents.Raise(&HostWindowEvents::BroughtToFront);
+    mEvents.Raise(&ExplorerEvents::Activate);
+}
+
 void HostExplorer::MarkGone()
 {
     mGone = true;
     mBars->MarkGone();
     mSelected.clear();
+    mWindowEvents.Raise(&HostWindowEvents::Ended);
 }
 
 void HostExplorer::CheckOpen() const
@@ -148,6 +158,7 @@ void HostExplorer::Show(const Ref<MAPIFolder>& folder)
     const auto self = shared_from_this();
     mFolder = folder;
     mSelected.clear();
+    Changed();
     mEvents.Raise(&ExplorerEvents::FolderSwitch);
     // The window may have gone during the event.
     if (!mGone) {
@@ -158,12 +169,25 @@ void HostExplorer::Show(const Ref<MAPIFolder>& folder)
 void HostExplorer::RaiseSelectionChange()
 {
     const auto self = shared_from_this();
+    Changed();
     mEvents.Raise(&ExplorerEvents::SelectionChange);
 }
 
 void HostExplorer::Run(std::int32_t command)
 {
-    if (command != BuiltInCommand::Delete || mGone || mSelected.empty()) {
+    if (mGone) {
+        return;
+    }
+    if (command == BuiltInCommand::Delete) {
+        DeleteSelected();
+    } else if (const auto run = mOwnerCommands->InExplorer) {
+        run(shared_from_this(), command);
+    }
+}
+
+void HostExplorer::DeleteSelected()
+{
+    if (mSelected.empty()) {
         return;
     }
     for (const auto& item : std::exchange(mSelected, {})) {

@@ -3,6 +3,8 @@
 #include "base/Ref.h"
 #include "host/store/Mailbox.h"
 #include "host/windows/HostCommandBars.h"
+#include "host/windows/HostWindowEvents.h"
+#include "host/windows/OwnerCommands.h"
 #include "platform/objectmodel/Explorer.h"
 
 #include <cstdint>
@@ -19,7 +21,8 @@ class HostExplorer final : public Explorer, public std::enable_shared_from_this<
 {
 public:
     /// A window of that number, which has no command bars yet; fails as `SetCurrentFolder` does.
-    HostExplorer(std::int32_t number, Ref<Mailbox> mailbox, const Ref<MAPIFolder>& folder);
+    HostExplorer(
+        std::int32_t number, Ref<Mailbox> mailbox, const Ref<MAPIFolder>& folder, Ref<OwnerCommands> ownerCommands);
 
     std::string Caption() const override;
     Ref<MAPIFolder> CurrentFolder() override;
@@ -35,6 +38,8 @@ public:
     Ref<tempodial::CommandBars> CommandBars() override;
     Subscription Subscribe(ExplorerEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
+    /// Subscribes whoever draws the window, apart from its bars: caption, folder, view and selection.
+    Subscription SubscribeToChanges(HostWindowEvents events) { return mWindowEvents.Subscribe(std::move(events)); }
     /// The window's number, from 1 and never given again.
     std::int32_t Number() const { return mNumber; }
     /// The command bars come into being; does nothing when they are there.
@@ -52,7 +57,7 @@ public:
     /// True once the window is gone.
     bool IsGone() const { return mGone; }
     /// The window has come to the front.
-    void RaiseActivate() { mEvents.Raise(&ExplorerEvents::Activate); }
+    void RaiseActivate();
     /// The window is about to be gone.
     void RaiseClose() { mEvents.Raise(&ExplorerEvents::Close); }
     /// The window is gone: every member of the object model fails (462) from now on.
@@ -63,12 +68,15 @@ private:
     /// The mailbox's own object for a folder, which may come from elsewhere.
     Ref<MAPIFolder> OwnFolder(const Ref<MAPIFolder>& folder) const;
     void Show(const Ref<MAPIFolder>& folder);
+    void Changed() const { mWindowEvents.Raise(&HostWindowEvents::Changed); }
     void RaiseSelectionChange();
     void Run(std::int32_t command);
+    void DeleteSelected();
 
     std::int32_t mNumber;
     Ref<Mailbox> mMailbox;
     Ref<MAPIFolder> mFolder;
+    Ref<OwnerCommands> mOwnerCommands;
     /// The identities of the folders that stand side by side; none when the current folder stands alone.
     std::vector<std::string> mBeside;
     /// The names of the views applied, by the identities of their folders.
@@ -77,6 +85,7 @@ private:
     Ref<HostCommandBars> mBars = MakeRef<HostCommandBars>();
     bool mGone = false;
     EventSource<ExplorerEvents> mEvents;
+    EventSource<HostWindowEvents> mWindowEvents;
 };
 
 }

@@ -17,12 +17,13 @@ Ref<Explorer> HostExplorers::Item(std::int32_t index)
 
 Ref<HostExplorer> HostExplorers::Open(const Ref<MAPIFolder>& folder, bool barsReady)
 {
-    auto explorer = MakeRef<HostExplorer>(mNumbers + 1, mMailbox, folder);
+    auto explorer = MakeRef<HostExplorer>(mNumbers + 1, mMailbox, folder, mOwnerCommands);
     ++mNumbers;
     if (barsReady) {
         explorer->MakeBarsReady();
     }
     mOpen.push_back(explorer);
+    mWindowsEvents.Raise(&HostWindowsEvents<HostExplorer>::Opened, explorer);
     mEvents.Raise(&ExplorersEvents::NewExplorer, Ref<Explorer>(explorer));
     Activate(explorer);
     return explorer;

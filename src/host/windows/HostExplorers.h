@@ -15,8 +15,9 @@ namespace tempodial {
 class HostExplorers final : public Explorers
 {
 public:
-    explicit HostExplorers(Ref<Mailbox> mailbox)
+    HostExplorers(Ref<Mailbox> mailbox, Ref<OwnerCommands> ownerCommands)
         : mMailbox(std::move(mailbox))
+        , mOwnerCommands(std::move(ownerCommands))
     {
     }
 
@@ -24,6 +25,11 @@ public:
     Ref<Explorer> Item(std::int32_t index) override;
     Subscription Subscribe(ExplorersEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
+    /// Subscribes whoever draws the windows.
+    Subscription SubscribeToWindows(HostWindowsEvents<HostExplorer> events)
+    {
+        return mWindowsEvents.Subscribe(std::move(events));
+    }
     /// A new window on a folder, with or without its command bars: it is told of, then it comes to the front.
     Ref<HostExplorer> Open(const Ref<MAPIFolder>& folder, bool barsReady);
     /// Brings a window to the front and tells of it; does nothing with one that is gone.
@@ -43,11 +49,13 @@ private:
     bool TakeOut(const Ref<HostExplorer>& explorer);
 
     Ref<Mailbox> mMailbox;
+    Ref<OwnerCommands> mOwnerCommands;
     std::int32_t mNumbers = 0;
     std::vector<Ref<HostExplorer>> mOpen;
     /// The windows that have been in front, the one that is so now last.
     std::vector<Ref<HostExplorer>> mByRecency;
     EventSource<ExplorersEvents> mEvents;
+    EventSource<HostWindowsEvents<HostExplorer>> mWindowsEvents;
 };
 
 }

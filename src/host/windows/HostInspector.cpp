@@ -116,6 +116,28 @@ bool HostInspector::Close()
     return true;
 }
 
+std::vector<Ref<StoreItem>> HostInspector::ItemsBeside(std::int32_t command)
+{
+    CheckOpen();
+    const auto windows = mWindows.lock();
+    const auto list = windows ? windows->ForOwner().ItemsBeside : nullptr;
+    return list ? list(shared_from_this(), command) : std::vector<Ref<StoreItem>>();
+}
+
+bool HostInspector::GoTo(const Ref<StoreItem>& item)
+{
+    // What is given may be one of those that go with the window.
+    const auto next = item; // NOLINT(performance-unnecessary-copy-initialization)
+    const auto windows = mWindows.lock();
+    if (!Close()) {
+        return false;
+    }
+    if (windows) {
+        windows->Show(next);
+    }
+    return true;
+}
+
 void HostInspector::Belong(const std::weak_ptr<HostInspectors>& windows)
 {
     mWindows = windows;
@@ -126,18 +148,16 @@ void HostInspector::Belong(const std::weak_ptr<HostInspectors>& windows)
         mailbox->CommitHeld();
     });
     if (mItem) {
-        mItemGone = mItem->SubscribeLetGo([window = weak_from_this()] {
-            if (const auto inspector = window.lock()) {
-                inspector->TakeAway();
-            }
-        });
+        mShown = mItem->SubscribeWindow({ Hearing(&HostInspector::TakeAway), Hearing(&HostInspector::Changed) });
+    } else {
+        mShown = mMail->SubscribeToChanges({ Hearing(&HostInspector::Changed) });
     }
 }
 
 void HostInspector::MarkGone()
 {
     mGone = true;
-    mItemGone.End();
+    mShown.End();
     mBars->MarkGone();
     if (mPage) {
         mPage->MarkGone();
@@ -145,6 +165,7 @@ void HostInspector::MarkGone()
     mPage = nullptr;
     mItem = nullptr;
     mMail = nullptr;
+    mWindowEvents.Raise(&HostWindowEvents::Ended);
 }
 
 void HostInspector::CheckOpen() const
@@ -166,13 +187,37 @@ void HostInspector::Run(std::int32_t command)
     if (mGone) {
         return;
     }
-    if (command == BuiltInCommand::SaveAndClose && Save() && !mGone) {
-        Close();
-    } else if (command == BuiltInCommand::Delete && mItem) {
-        // The window goes with its item.
-        Ref<StoreItem>(mItem)->Delete();
-    } else if (command == BuiltInCommand::Delete) {
-        TakeAway();
+    switch (command) {
+    case BuiltInCommand::SaveAndClose:
+        if (Save() && !mGone) {
+            Close();
+        }
+        break;
+    case BuiltInCommand::Delete:
+        if (mItem) {
+            // The window goes with its item.
+            Ref<StoreItem>(mItem)->Delete();
+        } else {
+            TakeAway();
+        }
+        break;
+    case BuiltInCommand::PreviousItem:
+    case BuiltInCommand::NextItem:
+        if (const auto items = ItemsBeside(command); !items.empty()) {
+            GoTo(items.front());
+        }
+        break;
+    default:
+        RunForOwner(command);
+        break;
+    }
+}
+
+void HostInspector::RunForOwner(std::int32_t command)
+{
+    const auto windows = mWindows.lock();
+    if (const auto run = windows ? windows->ForOwner().InInspector : nullptr) {
+        run(shared_from_this(), command);
     }
 }
 

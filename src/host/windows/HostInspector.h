@@ -5,12 +5,15 @@
 #include "host/windows/HostCommandBars.h"
 #include "host/windows/HostMail.h"
 #include "host/windows/HostPage.h"
+#include "host/windows/HostWindowEvents.h"
 #include "platform/objectmodel/Inspector.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tempodial {
 
@@ -30,6 +33,8 @@ public:
     Ref<Pages> ModifiedFormPages() override;
     Subscription Subscribe(InspectorEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
+    /// Subscribes whoever draws the window, apart from its bars and its page: caption, mail, what is unsaved.
+    Subscription SubscribeToChanges(HostWindowEvents events) { return mWindowEvents.Subscribe(std::move(events)); }
     /// The window's number, from 1 and never given again.
     std::int32_t Number() const { return mNumber; }
     /// A person edits a control of the page, as `HostPageControl.SetValue` does; an unknown one fails (-2147221233).
@@ -38,6 +43,11 @@ public:
     bool Save();
     /// A person closes the window: the item is told and may refuse, which is false; what wasn't saved is dropped.
     bool Close();
+    /// The items to which Previous Item or Next Item can lead, the nearest first.
+    std::vector<Ref<StoreItem>> ItemsBeside(std::int32_t command);
+    /// A person goes on to another item: this window closes, and that item's comes to the front. False when a handler
+    /// kept this one.
+    bool GoTo(const Ref<StoreItem>& item);
     /// The command bars.
     const Ref<HostCommandBars>& Bars() const { return mBars; }
     /// The page, nothing when there is none.
@@ -52,6 +62,8 @@ public:
     // What the windows of the application use.
     /// It is one of those windows from now on, and goes when its item does.
     void Belong(const std::weak_ptr<HostInspectors>& windows);
+    /// The window has come to the front.
+    void RaiseBroughtToFront() const { mWindowEvents.Raise(&HostWindowEvents::BroughtToFront); }
     /// The window is about to be gone.
     void RaiseClose() { mEvents.Raise(&InspectorEvents::Close); }
     /// The window is gone: every member of the object model fails (462) from now on.
@@ -61,7 +73,18 @@ private:
     void CheckOpen() const;
     /// Takes the window out of those that are open.
     void TakeAway();
+    /// Calls a member of the window when something happens, if it is still there.
+    template <class Member> std::function<void()> Hearing(Member member)
+    {
+        return [window = weak_from_this(), member] {
+            if (const auto inspector = window.lock()) {
+                (inspector.get()->*member)();
+            }
+        };
+    }
+    void Changed() const { mWindowEvents.Raise(&HostWindowEvents::Changed); }
     void Run(std::int32_t command);
+    void RunForOwner(std::int32_t command);
 
     std::int32_t mNumber;
     Ref<Mailbox> mMailbox;
@@ -72,9 +95,11 @@ private:
     Ref<HostPage> mPage;
     Ref<HostCommandBars> mBars = MakeRef<HostCommandBars>();
     std::weak_ptr<HostInspectors> mWindows;
-    Subscription mItemGone;
+    /// What the window hears of its item or mail.
+    Subscription mShown;
     bool mGone = false;
     EventSource<InspectorEvents> mEvents;
+    EventSource<HostWindowEvents> mWindowEvents;
 };
 
 }

@@ -30,19 +30,13 @@ Ref<HostInspector> HostInspectors::Open(const Ref<StoreItem>& item)
         Remove(inspector);
         inspector->MarkGone();
     }
-    if (inspector->IsGone()) {
-        return nullptr;
-    }
-    Activate(inspector);
-    return inspector;
+    return PutOnScreen(inspector);
 }
 
 Ref<HostInspector> HostInspectors::Open(const Ref<HostMail>& mail)
 {
     const auto self = shared_from_this();
-    auto inspector = Add(mail);
-    Activate(inspector);
-    return inspector->IsGone() ? nullptr : inspector;
+    return PutOnScreen(Add(mail));
 }
 
 void HostInspectors::Activate(const Ref<HostInspector>& inspector)
@@ -54,6 +48,7 @@ void HostInspectors::Activate(const Ref<HostInspector>& inspector)
     const auto active = inspector; // NOLINT(performance-unnecessary-copy-initialization)
     std::erase(mByRecency, active);
     mByRecency.push_back(active);
+    active->RaiseBroughtToFront();
 }
 
 void HostInspectors::TakeAway(const Ref<HostInspector>& inspector)
@@ -91,6 +86,15 @@ Ref<HostInspector> HostInspectors::Add(const Ref<OutlookItem>& item)
     mOpen.push_back(inspector);
     mEvents.Raise(&InspectorsEvents::NewInspector, Ref<Inspector>(inspector));
     return inspector;
+}
+
+Ref<HostInspector> HostInspectors::PutOnScreen(const Ref<HostInspector>& inspector)
+{
+    if (!inspector->IsGone()) {
+        mWindowsEvents.Raise(&HostWindowsEvents<HostInspector>::Opened, inspector);
+        Activate(inspector);
+    }
+    return inspector->IsGone() ? nullptr : inspector;
 }
 
 }

@@ -5,6 +5,7 @@
 #include "host/store/StoreItem.h"
 #include "host/windows/HostInspector.h"
 #include "host/windows/HostMail.h"
+#include "host/windows/OwnerCommands.h"
 #include "platform/objectmodel/Inspector.h"
 
 #include <cstdint>
@@ -18,8 +19,9 @@ namespace tempodial {
 class HostInspectors final : public Inspectors, public std::enable_shared_from_this<HostInspectors>
 {
 public:
-    explicit HostInspectors(Ref<Mailbox> mailbox)
+    HostInspectors(Ref<Mailbox> mailbox, Ref<OwnerCommands> ownerCommands)
         : mMailbox(std::move(mailbox))
+        , mOwnerCommands(std::move(ownerCommands))
     {
     }
 
@@ -27,6 +29,11 @@ public:
     Ref<Inspector> Item(std::int32_t index) override;
     Subscription Subscribe(InspectorsEvents events) override { return mEvents.Subscribe(std::move(events)); }
 
+    /// Subscribes whoever draws the windows. One that a handler refused was never on the screen, and isn't told of.
+    Subscription SubscribeToWindows(HostWindowsEvents<HostInspector> events)
+    {
+        return mWindowsEvents.Subscribe(std::move(events));
+    }
     /// A new window on an item, in front of the others: it is told of, then the item's `Open` is raised. When that is
     /// refused, or the window was closed meanwhile, the result is nothing.
     Ref<HostInspector> Open(const Ref<StoreItem>& item);
@@ -47,6 +54,8 @@ public:
     void TakeAway(const Ref<HostInspector>& inspector);
     /// The window in front, nothing when there is none.
     Ref<HostInspector> Active() const;
+    /// What the host's owner does for built-in commands.
+    const OwnerCommands& ForOwner() const { return *mOwnerCommands; }
     /// The windows that are open.
     const std::vector<Ref<HostInspector>>& All() const { return mOpen; }
 
@@ -54,15 +63,19 @@ private:
     Ref<HostInspector> Showing(const Ref<OutlookItem>& item) const;
     /// Takes in a new window and tells of it.
     Ref<HostInspector> Add(const Ref<OutlookItem>& item);
+    /// A window comes to the screen, in front of the others; nothing when it is gone after that.
+    Ref<HostInspector> PutOnScreen(const Ref<HostInspector>& inspector);
     /// Takes a window out of those that are open and were in front; false when it wasn't there.
     bool Remove(const Ref<HostInspector>& inspector);
 
     Ref<Mailbox> mMailbox;
+    Ref<OwnerCommands> mOwnerCommands;
     std::int32_t mNumbers = 0;
     std::vector<Ref<HostInspector>> mOpen;
     /// The windows that have been in front, the one that is so now last.
     std::vector<Ref<HostInspector>> mByRecency;
     EventSource<InspectorsEvents> mEvents;
+    EventSource<HostWindowsEvents<HostInspector>> mWindowsEvents;
 };
 
 }

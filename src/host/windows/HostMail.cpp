@@ -31,6 +31,7 @@ public:
     {
         try {
             mMail->mDraft.attachments.push_back({ path.substr(path.find_last_of("/\\") + 1), Read(path), "" });
+            mMail->mChanges.Tell();
         } catch (...) {
             mMail->mNotAttached.push_back(path);
             throw;
@@ -68,7 +69,11 @@ public:
     {
     }
 
-    void Add(const std::string& address) override { mMail->mDraft.recipients.push_back(address); }
+    void Add(const std::string& address) override
+    {
+        mMail->mDraft.recipients.push_back(address);
+        mMail->mChanges.Tell();
+    }
 
 private:
     std::shared_ptr<HostMail> mMail;
@@ -81,16 +86,24 @@ HostMail::HostMail(std::int32_t number, Ref<Mailbox> mailbox, Shower shower)
 {
 }
 
+void HostMail::SetSubject(const std::string& subject)
+{
+    mDraft.subject = subject;
+    mChanges.Tell();
+}
+
 void HostMail::SetBody(const std::string& body)
 {
     mDraft.body = body;
     mDraft.isHtml = false;
+    mChanges.Tell();
 }
 
 void HostMail::SetHTMLBody(const std::string& html)
 {
     mDraft.body = html;
     mDraft.isHtml = true;
+    mChanges.Tell();
 }
 
 Ref<tempodial::Attachments> HostMail::Attachments()

@@ -2,6 +2,7 @@
 
 #include "base/Ref.h"
 #include "host/store/Mailbox.h"
+#include "host/windows/ChangeEvents.h"
 #include "platform/objectmodel/MailItem.h"
 #include "platform/system/MailDraft.h"
 
@@ -28,7 +29,7 @@ public:
     std::string MessageClass() const override { return "IPM.Note"; }
     std::string EntryID() const override { return mRow == 0 ? "" : mMailbox->DraftId(mRow); }
     std::string Subject() const override { return mDraft.subject; }
-    void SetSubject(const std::string& subject) override { mDraft.subject = subject; }
+    void SetSubject(const std::string& subject) override;
     std::string Body() const override { return mDraft.isHtml ? "" : mDraft.body; }
     void SetBody(const std::string& body) override;
     std::string HTMLBody() const override { return mDraft.isHtml ? mDraft.body : ""; }
@@ -37,6 +38,8 @@ public:
     Ref<tempodial::Recipients> Recipients() override;
     void Display() override;
 
+    /// Subscribes whoever draws the mail.
+    Subscription SubscribeToChanges(ChangeEvents events) { return mChanges.Subscribe(std::move(events)); }
     /// The mail's number, from 1 and never given again.
     std::int32_t Number() const { return mNumber; }
     /// A person keeps the mail among the mailbox's drafts, anew when it is gone from there; fails as the store does.
@@ -59,6 +62,7 @@ private:
     std::vector<std::string> mNotAttached;
     /// Its row among the drafts, 0 until the first save.
     std::int64_t mRow = 0;
+    ChangeSource mChanges;
 };
 
 }

@@ -37,10 +37,11 @@ PropertyType TypeOf(const FormPageLayout::Field& field, const FormTemplate& form
 
 HostPage::HostPage(FormPageLayout layout, const FormTemplate& form, const Ref<StoreItem>& item)
     : mLayout(std::move(layout))
+    , mItemChanges(item->SubscribeWindow({ .LetGo = {}, .Changed = [changes = mChanges] { changes->Tell(); } }))
 {
     for (const auto& row : mLayout.rows) {
         for (const auto& field : row) {
-            mControls.push_back(MakeRef<HostPageControl>(field, TypeOf(field, form), item));
+            mControls.push_back(MakeRef<HostPageControl>(field, TypeOf(field, form), item, mChanges));
         }
     }
 }
@@ -62,6 +63,7 @@ const Ref<HostPageControl>& HostPage::Control(const std::string& name) const
 
 void HostPage::MarkGone()
 {
+    mItemChanges.End();
     for (const auto& control : mControls) {
         control->MarkGone();
     }

@@ -3,12 +3,14 @@
 #include "base/Ref.h"
 #include "host/store/FormTemplate.h"
 #include "host/store/StoreItem.h"
+#include "host/windows/ChangeEvents.h"
 #include "host/windows/FormPageLayout.h"
 #include "host/windows/HostPageControl.h"
 #include "platform/objectmodel/Pages.h"
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -21,6 +23,8 @@ public:
 
     Ref<PageControls> Controls() override;
 
+    /// Subscribes whoever draws the page: what its controls show, and their lists.
+    Subscription SubscribeToChanges(ChangeEvents events) { return mChanges->Subscribe(std::move(events)); }
     /// Its name and rows.
     const FormPageLayout& Layout() const { return mLayout; }
     /// The controls from the top left.
@@ -33,6 +37,8 @@ public:
 private:
     FormPageLayout mLayout;
     std::vector<Ref<HostPageControl>> mControls;
+    std::shared_ptr<ChangeSource> mChanges = std::make_shared<ChangeSource>();
+    Subscription mItemChanges;
 };
 
 }

@@ -15,10 +15,12 @@ constexpr auto EndField = "End";
 
 }
 
-HostPageControl::HostPageControl(FormPageLayout::Field layout, PropertyType type, Ref<StoreItem> item)
+HostPageControl::HostPageControl(
+    FormPageLayout::Field layout, PropertyType type, Ref<StoreItem> item, std::shared_ptr<ChangeSource> changes)
     : mLayout(std::move(layout))
     , mType(type)
     , mItem(std::move(item))
+    , mChanges(std::move(changes))
 {
 }
 
@@ -51,6 +53,7 @@ void HostPageControl::SetValue(const Variant& value)
         item.SetEnd(ToMoment(value));
     } else if (mLayout.field.empty()) {
         mOwn = mLayout.kind == FormPageLayout::Kind::Check ? Variant(value.ToBoolean()) : Variant(value.ToText());
+        mChanges->Tell();
     } else {
         // A value that the property can't take must not leave one behind that wasn't there.
         const auto checked = mLayout.kind == FormPageLayout::Kind::Check ? Variant(value.ToBoolean()) : value;
@@ -75,12 +78,14 @@ void HostPageControl::SetList(const std::vector<std::string>& list)
 {
     CheckCombo();
     mList = list;
+    mChanges->Tell();
 }
 
 void HostPageControl::AddItem(const std::string& text)
 {
     CheckCombo();
     mList.push_back(text);
+    mChanges->Tell();
 }
 
 StoreItem& HostPageControl::Item() const

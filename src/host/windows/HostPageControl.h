@@ -2,9 +2,11 @@
 
 #include "base/Ref.h"
 #include "host/store/StoreItem.h"
+#include "host/windows/ChangeEvents.h"
 #include "host/windows/FormPageLayout.h"
 #include "platform/objectmodel/Pages.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,8 +18,10 @@ namespace tempodial {
 class HostPageControl final : public PageControl
 {
 public:
-    /// A control of an item's page; what type a property has that it must add is as the form says.
-    HostPageControl(FormPageLayout::Field layout, PropertyType type, Ref<StoreItem> item);
+    /// A control of an item's page, which it tells of changes; what type a property has that it must add is as the
+    /// form says.
+    HostPageControl(
+        FormPageLayout::Field layout, PropertyType type, Ref<StoreItem> item, std::shared_ptr<ChangeSource> changes);
 
     Variant Value() const override;
     /// Writes the item's field, which stays unsaved. A value that the field can't take fails (13), an end before the
@@ -44,6 +48,7 @@ private:
     FormPageLayout::Field mLayout;
     PropertyType mType;
     Ref<StoreItem> mItem;
+    std::shared_ptr<ChangeSource> mChanges;
     /// What a control holds that isn't bound.
     Variant mOwn;
     std::vector<std::string> mList;

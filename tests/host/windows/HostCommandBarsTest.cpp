@@ -93,7 +93,7 @@ TEST_F(HostCommandBarsTest, Inspector_HasTheCommandsOfAnItem)
         ElementsAre(std::pair(1975, Button), std::pair(2521, Button), std::pair(478, Button), std::pair(359, Split),
             std::pair(360, Split), std::pair(984, Button)));
     EXPECT_THAT(Captions(mStandard->Controls()),
-        ElementsAre("&Save and Close", "&Print", "&Delete", "Pre&vious Item", "&Next Item", "Outlook &Help"));
+        ElementsAre("&Save and Close", "&Print", "&Delete", "Pre&vious Item", "&Next Item", "&Help"));
 }
 
 TEST_F(HostCommandBarsTest, Explorer_HasHelpAtTheEndOfBothBars)
@@ -313,7 +313,7 @@ TEST_F(HostCommandBarsTest, Copy_PlacesAnEqualControlAtTheEnd)
 
     const auto menu = bar->Controls()->Add({ Popup, 30010, "", {}, true });
     const auto menuCopy = menu->Copy(bar).As<CommandBarPopup>();
-    EXPECT_THAT(Captions(menuCopy->Controls()), ElementsAre("Outlook &Help"));
+    EXPECT_THAT(Captions(menuCopy->Controls()), ElementsAre("&Help"));
     EXPECT_EQ(FailureNumber([&] { next->Copy(nullptr); }), 91);
     bar->Delete();
     EXPECT_EQ(FailureNumber([&] { next->Copy(bar); }), Gone);
@@ -432,6 +432,69 @@ TEST_F(HostCommandBarsTest, Bars_LetGo_LeaveNothing)
     for (const auto& object : left) {
         EXPECT_TRUE(object.expired());
     }
+}
+
+TEST_F(HostCommandBarsTest, Changes_OfWhatIsSeen_AreTold)
+{
+    const auto button = AddButton(mStandard, "Own");
+    const auto popup = mStandard->Controls()->Add({ Popup, {}, "", {}, true }).As<HostCommandBarPopup>();
+    const auto entry = AddButton(popup->CommandBar(), "Entry");
+    int told = 0;
+    const auto watching = mBars->SubscribeToChanges({ [&] { ++told; } });
+    const auto tells = [&](const auto& change) {
+        told = 0;
+        change();
+        return told > 0;
+    };
+    EXPECT_TRUE(tells([&] { button->SetCaption("Other"); }));
+    EXPECT_TRUE(tells([&] { button->SetEnabled(false); }));
+    EXPECT_TRUE(tells([&] { button->SetVisible(false); }));
+    EXPECT_TRUE(tells([&] { button->SetBeginGroup(true); }));
+    EXPECT_TRUE(tells([&] { button->SetStyle(ButtonStyle::IconAndCaption); }));
+    EXPECT_TRUE(tells([&] { button->SetPicture(MakeRef<TestPicture>()); }));
+    EXPECT_TRUE(tells([&] { button->SetMask(MakeRef<TestPicture>()); }));
+    EXPECT_TRUE(tells([&] { entry->SetCaption("Deeper"); }));
+    EXPECT_TRUE(tells([&] { AddButton(popup->CommandBar(), "Further"); }));
+    EXPECT_TRUE(tells([&] { entry->Delete(); }));
+    EXPECT_TRUE(tells([&] { mStandard->SetVisible(false); }));
+    EXPECT_TRUE(tells([&] { mStandard->SetPosition(BarPosition::Floating); }));
+    EXPECT_TRUE(tells([&] { NewBar(); }));
+    EXPECT_TRUE(tells([&] { mBars->ItemNamed("Mine")->Delete(); }));
+}
+
+TEST_F(HostCommandBarsTest, Changes_ToWhatItIsAlready_AreNotTold)
+{
+    const auto button = AddButton(mStandard, "Own");
+    int told = 0;
+    const auto watching = mBars->SubscribeToChanges({ [&] { ++told; } });
+    button->SetCaption("Own");
+    button->SetEnabled(true);
+    mStandard->SetVisible(true);
+    mStandard->SetPosition(BarPosition::Top);
+    EXPECT_EQ(told, 0);
+}
+
+TEST_F(HostCommandBarsTest, Changes_BarsComeIntoBeing_IsToldWhenTheyAreThere)
+{
+    const auto bars = MakeRef<HostCommandBars>();
+    std::size_t seen = 0;
+    const auto watching = bars->SubscribeToChanges({ [&] { seen = bars->All().size(); } });
+    bars->MakeForExplorer({});
+    EXPECT_EQ(seen, 2);
+}
+
+TEST_F(HostCommandBarsTest, Changes_OfACopyOnAnotherBar_AreToldThere)
+{
+    const auto button = AddButton(mStandard, "Own");
+    const auto other = NewBars();
+    const auto copy = button->Copy(other->ItemNamed("Standard"));
+    int here = 0;
+    int there = 0;
+    const auto watchingHere = mBars->SubscribeToChanges({ [&] { ++here; } });
+    const auto watchingThere = other->SubscribeToChanges({ [&] { ++there; } });
+    copy->SetCaption("Other");
+    EXPECT_EQ(here, 0);
+    EXPECT_EQ(there, 1);
 }
 
 }

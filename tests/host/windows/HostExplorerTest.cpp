@@ -1,6 +1,7 @@
 #include "host/windows/HostExplorer.h"
 
 #include "host/store/StoreItem.h"
+#include "host/windows/BuiltInCommand.h"
 #include "host/windows/HostApplication.h"
 #include "host/windows/HostCommandBarButton.h"
 #include "support/FailureNumber.h"
@@ -303,6 +304,91 @@ TEST_F(HostExplorerTest, AThousandWindows_LeaveNothing)
         EXPECT_TRUE(bars[index].expired());
     }
     EXPECT_EQ(mApplication->Explorers()->Count(), 0);
+}
+
+TEST_F(HostExplorerTest, Changes_AreToldToWhoeverDrawsIt)
+{
+    mCalendar->Views()->Add("List", ViewType::Table, ViewSaveOption::ThisFolderEveryone)->Save();
+    const auto explorer = mApplication->OpenExplorer(mCalendar);
+    int told = 0;
+    const auto watching = explorer->SubscribeToChanges({ .Changed = [&] { ++told; } });
+    const auto tells = [&](const auto& change) {
+        told = 0;
+        change();
+        return told > 0;
+    };
+    EXPECT_TRUE(tells([&] { explorer->GoTo(mInbox); }));
+    EXPECT_TRUE(tells([&] { explorer->SetCurrentFolder(mCalendar); }));
+    EXPECT_TRUE(tells([&] { explorer->ShowBeside({ mCalendar, mLog }); }));
+    EXPECT_TRUE(tells([&] { explorer->Select({ NewTestItem(mMailbox, "a") }); }));
+    EXPECT_TRUE(tells([&] { explorer->PickView("List"); }));
+    EXPECT_FALSE(tells([&] { FailureNumber([&] { explorer->PickView("Other"); }); }));
+}
+
+TEST_F(HostExplorerTest, Changes_FolderSwitch_IsDrawnBeforeTheAddInHearsOfIt)
+{
+    const auto explorer = mApplication->OpenExplorer(mInbox);
+    std::string drawn;
+    const auto watching
+        = explorer->SubscribeToChanges({ .Changed = [&] { drawn = explorer->CurrentFolder()->Name(); } });
+    std::string atSwitch;
+    const auto hearing = On(explorer, &ExplorerEvents::FolderSwitch, [&] { atSwitch = drawn; });
+    explorer->GoTo(mCalendar);
+    EXPECT_EQ(atSwitch, "Calendar");
+}
+
+TEST_F(HostExplorerTest, BroughtToFront_IsToldBeforeTheActivation)
+{
+    const auto explorer = mApplication->OpenExplorer(mInbox);
+    const auto noting = Note(explorer);
+    const auto watching = explorer->SubscribeToChanges({ .BroughtToFront = [&] { mHeard.emplace_back("front"); } });
+    mApplication->ActivateExplorer(explorer);
+    EXPECT_THAT(mHeard, ElementsAre("front", "1 activate"));
+}
+
+TEST_F(HostExplorerTest, Ended_IsToldOnceWhetherClosedOrKilled)
+{
+    for (const bool isClosed : { true, false }) {
+        const auto explorer = mApplication->OpenExplorer(mInbox);
+        int ended = 0;
+        const auto watching = explorer->SubscribeToChanges({ .Ended = [&] {
+            ++ended;
+            EXPECT_TRUE(explorer->IsGone());
+        } });
+        isClosed ? mApplication->CloseExplorer(explorer) : mApplication->KillExplorer(explorer);
+        mApplication->CloseExplorer(explorer);
+        EXPECT_EQ(ended, 1);
+    }
+}
+
+TEST_F(HostExplorerTest, Opened_IsToldBeforeTheAddInHearsOfTheWindow)
+{
+    Subscription noting;
+    Subscription drawing;
+    const auto watching = mApplication->SubscribeToExplorers({ [&](const Ref<HostExplorer>& explorer) {
+        mHeard.push_back("opened " + explorer->Caption());
+        drawing = explorer->SubscribeToChanges({ .BroughtToFront = [&] { mHeard.emplace_back("front"); } });
+    } });
+    const auto hearing = OnNew([&](const auto& explorer) {
+        mHeard.emplace_back("new");
+        noting = Note(explorer);
+    });
+    mApplication->OpenExplorer(mInbox);
+    EXPECT_THAT(mHeard, ElementsAre("opened Inbox - Mailbox", "new", "front", "1 activate"));
+}
+
+TEST_F(HostExplorerTest, OwnersCommands_AreRunByTheOwner)
+{
+    const auto explorer = mApplication->OpenExplorer(mInbox);
+    Click(explorer, BuiltInCommand::Help);
+    mApplication->SetOwnerCommands({ .InExplorer = [&](const Ref<HostExplorer>& window, std::int32_t command) {
+        mHeard.push_back(std::to_string(window->Number()) + " runs " + std::to_string(command));
+    } });
+    Click(explorer, BuiltInCommand::Print);
+    Click(explorer, BuiltInCommand::Find);
+    Click(explorer, BuiltInCommand::Help);
+    Click(explorer, BuiltInCommand::Delete);
+    EXPECT_THAT(mHeard, ElementsAre("1 runs 2521", "1 runs 141", "1 runs 984"));
 }
 
 }

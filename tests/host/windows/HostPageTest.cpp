@@ -182,4 +182,33 @@ TEST_F(HostPageTest, DeletedItem_ControlsFail)
     EXPECT_EQ(FailureNumber([&] { start->SetValue(At(9)); }), Gone);
 }
 
+TEST_F(HostPageTest, Changes_OfTheItemAndOfLists_AreTold)
+{
+    int told = 0;
+    const auto watching = mInspector->ShownPage()->SubscribeToChanges({ [&] { ++told; } });
+    const auto tells = [&](const auto& change) {
+        told = 0;
+        change();
+        return told > 0;
+    };
+    EXPECT_TRUE(tells([&] { mInspector->Edit("SubjectBox", "other"); }));
+    EXPECT_TRUE(tells([&] { mInspector->Edit("DescCombo", "unbound"); }));
+    EXPECT_TRUE(tells([&] { mItem->UserProperties()->Item("Project")->SetValue("House"); }));
+    EXPECT_TRUE(tells([&] { mItem->SetStart(At(11)); }));
+    EXPECT_TRUE(tells([&] { Control("ProjectComboBox")->SetList({ "House" }); }));
+    EXPECT_TRUE(tells([&] { Control("ProjectComboBox")->AddItem("Garden"); }));
+    EXPECT_TRUE(tells([&] { mItem->Discard(); }));
+}
+
+TEST_F(HostPageTest, Changes_PageThatAnybodyStillHolds_HearsNothingOnceItIsGone)
+{
+    const auto page = mInspector->ShownPage();
+    int told = 0;
+    const auto watching = page->SubscribeToChanges({ [&] { ++told; } });
+    mInspector->Close();
+    told = 0;
+    mItem->SetSubject("other");
+    EXPECT_EQ(told, 0);
+}
+
 }
