@@ -26,6 +26,8 @@ struct HostSettings
     Imports imports = Imports::ByHistory;
     /// Makes what the add-in gets in the place of the application, nothing for the application itself.
     std::function<Ref<Application>(const Ref<Application>& application)> seen = nullptr;
+    /// Called with the host before the first of its windows opens, for whoever draws them.
+    std::function<void(const Ref<HostApplication>& application)> made = nullptr;
     /// Loads the add-in from elsewhere, nothing for the one in this program.
     std::function<Ref<LoadedAddIn>()> load = nullptr;
 };

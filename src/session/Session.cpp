@@ -34,6 +34,9 @@ void Session::Start(Platform surroundings, const HostSettings& settings)
         ? settings.load()
         : Ref<LoadedAddIn>(MakeRef<OwnAddIn>(MakeRef<Platform>(std::move(surroundings)), SupportAddressOf(mProfile)));
     const auto application = MakeRef<HostApplication>(Mailbox(), settings.version);
+    if (settings.made) {
+        settings.made(application);
+    }
     const auto folder
         = settings.folder ? settings.folder : Mailbox()->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox);
     for (std::int32_t i = 0; i < settings.explorers; ++i) {

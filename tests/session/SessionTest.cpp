@@ -77,6 +77,17 @@ TEST_F(SessionTest, Start_Settings_MakeTheHost)
     EXPECT_EQ(mSession.Windows().Version(), "12.0.0.1");
 }
 
+TEST_F(SessionTest, Start_Made_IsCalledBeforeTheFirstWindowOpens)
+{
+    int opened = 0;
+    Subscription watching;
+    Start({ .made = [&](const Ref<HostApplication>& application) {
+        EXPECT_TRUE(application->OpenExplorers().empty());
+        watching = application->SubscribeToExplorers({ [&](const auto&) { ++opened; } });
+    } });
+    EXPECT_EQ(opened, 1);
+}
+
 TEST_F(SessionTest, Start_NoLogon_LetsTheAddInWaitForIt)
 {
     Start({ .logon = false });
