@@ -1,6 +1,10 @@
 # The add-in for Windows, and what it is tested with; only where it is compiled for that system. The folders share one
 # precompiled header, which is most of what they compile.
 
+enable_language(RC)
+
+option(TEMPODIAL_ADDIN_TESTS "Build the tests of the add-in, which Wine runs" ON)
+
 # tempodial_addin_folder(NAME FOLDER [EXCEPT FILE] [LINK TARGET...] [USES TARGET...])
 function(tempodial_addin_folder name folder)
     tempodial_folder(${name} ${folder} ${ARGN})
@@ -17,24 +21,40 @@ function(tempodial_addin_folder name folder)
     endif()
 endfunction()
 
+# tempodial_addin_module(NAME SOURCE... [LINK TARGET...]): a module of the add-in, with the exports of a .def file among
+# its sources. It comes out the same wherever and whenever it is linked.
+function(tempodial_addin_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINK")
+    add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS})
+    target_link_libraries(${name} PRIVATE addin_dll ${arg_LINK})
+    target_link_options(${name} PRIVATE -Wl,--no-insert-timestamp -Wl,--disable-auto-image-base
+        $<$<EQUAL:${CMAKE_SIZEOF_VOID_P},4>:-Wl,--enable-stdcall-fixup> $<$<CONFIG:Release>:-s>)
+    set_target_properties(${name} PROPERTIES PREFIX "" LINKER_LANGUAGE CXX DEFINE_SYMBOL ""
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+endfunction()
+
 tempodial_addin_folder(addin_base src/addin/base LINK base)
 tempodial_addin_folder(addin_com src/addin/com LINK addin_base platform base)
 tempodial_addin_folder(addin_win32 src/addin/win32 LINK addin_com addin_base portable platform base)
-tempodial_addin_folder(addin_dll src/addin/dll OBJECT LINK addin_win32 addin_com addin_base engine platform base)
-tempodial_addin_folder(standin_rig src/standin/rig OBJECT LINK addin_dll addin_win32 forms faults wire)
+tempodial_addin_folder(addin_dll src/addin/dll OBJECT EXCEPT Surroundings.cpp
+    LINK addin_win32 addin_com addin_base engine forms platform base)
 
-# The stand-in for Outlook, and the add-in's module as it is tested with.
-file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/standin/*.cpp")
-add_executable(tempodial-standin ${sources})
-target_link_libraries(tempodial-standin PRIVATE tempodial_options addin_base wire)
-target_precompile_headers(tempodial-standin REUSE_FROM addin_base)
-add_library(TempodialRig MODULE "${PROJECT_SOURCE_DIR}/src/standin/rig/rig.def")
-target_link_libraries(TempodialRig PRIVATE addin_dll standin_rig)
-set_target_properties(TempodialRig PROPERTIES PREFIX "" LINKER_LANGUAGE CXX
-    LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+# What is installed. What the file says of itself is compiled apart, since the options of C++ are unknown there.
+set(dll "${PROJECT_SOURCE_DIR}/src/addin/dll")
+add_library(addin_version OBJECT "${dll}/version.rc")
+target_compile_definitions(addin_version PRIVATE TEMPODIAL_VERSION=${PROJECT_VERSION}
+    "TEMPODIAL_VERSION_NUMBERS=${PROJECT_VERSION_MAJOR},${PROJECT_VERSION_MINOR},${PROJECT_VERSION_PATCH},0")
+tempodial_addin_module(Tempodial "${dll}/Surroundings.cpp" "${dll}/tempodial.def" $<TARGET_OBJECTS:addin_version>)
+target_precompile_headers(Tempodial REUSE_FROM addin_base)
 
-option(TEMPODIAL_ADDIN_TESTS "Build the tests of the add-in, which Wine runs" ON)
 if(TEMPODIAL_ADDIN_TESTS)
+    # The stand-in for Outlook, and the add-in's module as it is tested with.
+    tempodial_addin_folder(standin_rig src/standin/rig OBJECT LINK addin_dll addin_win32 forms faults wire)
+    tempodial_addin_module(TempodialRig "${PROJECT_SOURCE_DIR}/src/standin/rig/rig.def" LINK standin_rig)
+    file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/standin/*.cpp")
+    add_executable(tempodial-standin ${sources})
+    target_link_libraries(tempodial-standin PRIVATE tempodial_options addin_base wire)
+    target_precompile_headers(tempodial-standin REUSE_FROM addin_base)
     enable_testing()
     include(AddInTests)
 endif()
