@@ -37,6 +37,14 @@ target_link_libraries(addin_dll_tests PRIVATE version)
 add_test(NAME addin/exports COMMAND "${PROJECT_SOURCE_DIR}/tools/lint-exports" $<TARGET_FILE:Tempodial>)
 set_tests_properties(addin/exports PROPERTIES TIMEOUT 60 LABELS addin)
 
+# The setup program, and what asks for the add-in that it has installed.
+add_executable(tempodial-probe "${tests}/packaging/main.cpp")
+target_link_libraries(tempodial-probe PRIVATE tempodial_options addin_base)
+target_precompile_headers(tempodial-probe REUSE_FROM addin_base)
+set_target_properties(tempodial-probe PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+add_test(NAME packaging/installer COMMAND "${tests}/packaging/installer_test.py")
+set_tests_properties(packaging/installer PROPERTIES TIMEOUT 300 LABELS packaging RESOURCE_LOCK registry-of-dll)
+
 file(GLOB cases CONFIGURE_DEPENDS "${tests}/rig/cases/*.jsonl")
 foreach(case IN LISTS cases)
     cmake_path(GET case STEM name)

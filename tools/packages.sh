@@ -1,4 +1,4 @@
-# Installing Debian packages and configuring a preset, for ./start, ./check and ./package, which set `here` and read this file.
+# Installing Debian packages and configuring a preset, for ./start, ./check and ./package and others, which set `here` and read this file.
 
 # What the product is built with and from.
 build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev libexpat1-dev libicu-dev
@@ -6,9 +6,12 @@ build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev li
     libarchive-dev libical-dev libsystemd-dev libxcb1-dev libxcb-screensaver0-dev libxcb-sync-dev libwayland-dev)
 
 # What the tests and lints need besides.
-check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64
+check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64 nsis
     dbus python3-dbusmock libemail-outlook-message-perl libemail-address-perl python3-olefile python3-icalendar
     strace xvfb openbox xterm xdotool)
+
+# What the setup program for Windows is built with.
+setup_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix nsis)
 
 # What ./check --browser needs besides.
 browser_packages=(chromium)

@@ -51,6 +51,7 @@ class CheckTest(unittest.TestCase):
     def test_Tests_AreNamedTest(self):
         self.assertEqual(Findings("tests/base/DateTest.cpp", "int a;\n"), [])
         self.Refuses("tests/base/Dates.cpp", "int a;\n", "...Test.cpp")
+        self.assertEqual(Findings("tests/packaging/main.cpp", "int main();\n"), [])
         self.assertEqual(Findings("tests/base/Dates.cpp", "int a;\n", {"tests/base/Dates.h"}), [])
         self.assertEqual(Findings("tests/support/Dates.cpp", "int a;\n"), [])
 
