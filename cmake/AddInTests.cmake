@@ -43,7 +43,7 @@ target_link_libraries(tempodial-probe PRIVATE tempodial_options addin_base)
 target_precompile_headers(tempodial-probe REUSE_FROM addin_base)
 set_target_properties(tempodial-probe PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
 add_test(NAME packaging/installer COMMAND "${tests}/packaging/installer_test.py")
-set_tests_properties(packaging/installer PROPERTIES TIMEOUT 300 LABELS packaging RESOURCE_LOCK registry-of-dll)
+set_tests_properties(packaging/installer PROPERTIES TIMEOUT 300 COST 30 LABELS packaging RESOURCE_LOCK registry-of-dll)
 
 file(GLOB cases CONFIGURE_DEPENDS "${tests}/rig/cases/*.jsonl")
 foreach(case IN LISTS cases)
