@@ -3,7 +3,7 @@
 # What the product is built with and from.
 build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev libexpat1-dev libicu-dev
     libtomlplusplus-dev libcli11-dev nlohmann-json3-dev libgsf-1-dev libgmime-3.0-dev
-    libarchive-dev libical-dev libsystemd-dev libxcb1-dev libxcb-screensaver0-dev libxcb-sync-dev libwayland-dev)
+    libarchive-dev libical-dev libsystemd-dev libxcb1-dev libxcb-screensaver0-dev libxcb-sync-dev libwayland-dev qt6-base-dev)
 
 # What the tests and lints need besides.
 check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64 nsis

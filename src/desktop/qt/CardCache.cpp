@@ -1,0 +1,128 @@
+#include "desktop/qt/CardCache.h"
+
+#include "desktop/qt/QtText.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace tempodial {
+
+namespace {
+
+constexpr double Radius = 4;
+constexpr double MarkWidth = 4;
+/// The side of the picture that holds the corners.
+constexpr double Side = 16;
+
+auto KeyOf(const Colour& colour)
+{
+    return std::tuple(colour.red, colour.green, colour.blue);
+}
+
+/// Lines that rise to the right, as a pattern without seams.
+QBrush Hatching(const QColor& ground, const QColor& line, double distance, double devicePixels)
+{
+    const auto side = distance * 2;
+    QPixmap picture((QSizeF(side, side) * devicePixels).toSize());
+    picture.setDevicePixelRatio(devicePixels);
+    picture.fill(ground);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, distance / 4));
+    for (auto x = -side; x <= side; x += distance) {
+        painter.drawLine(QPointF(x, side), QPointF(x + side, 0));
+    }
+    return { picture };
+}
+
+}
+
+bool operator<(const CardStyle& one, const CardStyle& other)
+{
+    const auto key = [](const CardStyle& style) {
+        return std::tuple(KeyOf(style.colours.mark), KeyOf(style.colours.fill), style.isHatched, style.isStriped,
+            style.isDashed, KeyOf(style.hatch));
+    };
+    return key(one) < key(other);
+}
+
+void CardCache::Use(double devicePixels)
+{
+    mDevicePixels = devicePixels;
+    mPictures.clear();
+}
+
+const CardCache::Pictures& CardCache::Of(const CardStyle& style)
+{
+    const auto known = mPictures.find(style);
+    return known != mPictures.end() ? known->second : mPictures.emplace(style, Made(style)).first->second;
+}
+
+CardCache::Pictures CardCache::Made(const CardStyle& style) const
+{
+    constexpr double HatchDistance = 4;
+    constexpr double StripeDistance = 6;
+    const auto fill = ToQt(style.colours.fill);
+    const auto mark = ToQt(style.colours.mark);
+    Pictures made;
+    made.ground = style.isHatched ? Hatching(fill, ToQt(style.hatch), HatchDistance, mDevicePixels) : QBrush(fill);
+    made.mark = style.isStriped ? Hatching(mark, fill, StripeDistance, mDevicePixels) : QBrush(mark);
+    made.corners = QPixmap((QSizeF(Side, Side) * mDevicePixels).toSize());
+    made.corners.setDevicePixelRatio(mDevicePixels);
+    made.corners.fill(Qt::transparent);
+    QPainter painter(&made.corners);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath path;
+    path.addRoundedRect(QRectF(0, 0, Side, Side), Radius, Radius);
+    painter.setClipPath(path);
+    painter.fillRect(QRectF(0, 0, Side, Side), made.ground);
+    if (!style.isHatched) {
+        painter.fillRect(QRectF(0, 0, MarkWidth, Side), made.mark);
+    }
+    return made;
+}
+
+void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& style)
+{
+    const auto& pictures = Of(style);
+    const auto corner = [&](double x, double y, double fromX, double fromY) {
+        painter.drawPixmap(QRectF(x, y, Radius, Radius), pictures.corners,
+            QRectF(fromX * mDevicePixels, fromY * mDevicePixels, Radius * mDevicePixels, Radius * mDevicePixels));
+    };
+    const auto right = box.right() - Radius;
+    const auto bottom = box.bottom() - Radius;
+    const auto inner = box.width() - 2 * Radius;
+    corner(box.x(), box.y(), 0, 0);
+    corner(right, box.y(), Side - Radius, 0);
+    corner(box.x(), bottom, 0, Side - Radius);
+    corner(right, bottom, Side - Radius, Side - Radius);
+    painter.fillRect(QRectF(box.x() + Radius, box.y(), inner, Radius), pictures.ground);
+    painter.fillRect(QRectF(box.x() + Radius, bottom, inner, Radius), pictures.ground);
+    const auto middle = box.height() - 2 * Radius;
+    painter.fillRect(QRectF(box.x() + Radius, box.y() + Radius, inner + Radius, middle), pictures.ground);
+    painter.fillRect(
+        QRectF(box.x(), box.y() + Radius, Radius, middle), style.isHatched ? pictures.ground : pictures.mark);
+    if (style.isDashed) {
+        QPen pen(ToQt(style.colours.mark), 1);
+        pen.setDashPattern({ 3, 3 });
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(pen);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+        painter.restore();
+    }
+}
+
+void CardCache::DrawStripe(QPainter& painter, const QRectF& box, const CardStyle& style)
+{
+    const auto& pictures = Of(style);
+    painter.fillRect(box, style.isHatched ? pictures.ground : pictures.mark);
+    if (style.isHatched) {
+        painter.setPen(QPen(ToQt(style.colours.mark), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(box.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+}

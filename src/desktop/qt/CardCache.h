@@ -1,0 +1,57 @@
+#pragma once
+
+#include "desktop/Tone.h"
+
+#include <QBrush>
+#include <QPixmap>
+#include <map>
+#include <tuple>
+
+class QPainter;
+class QRectF;
+
+namespace tempodial {
+
+/// How a card is drawn.
+struct CardStyle
+{
+    CardColours colours;
+    /// No project: a fine hatch in that colour, and no mark at the left edge.
+    bool isHatched = false;
+    Colour hatch;
+    /// A dashed outline.
+    bool isDashed = false;
+    /// The mark is striped.
+    bool isStriped = false;
+
+    friend bool operator<(const CardStyle& one, const CardStyle& other);
+};
+
+/// Draws cards of four kept corners and plain fills, without paths and clips, which take most of the time.
+class CardCache
+{
+public:
+    /// The pictures are for a screen of so many device pixels a pixel from now on; all of them go.
+    void Use(double devicePixels);
+
+    /// Draws a card.
+    void Draw(QPainter& painter, const QRectF& box, const CardStyle& style);
+    /// Draws what is too low for a card: a stripe of the mark's colour.
+    void DrawStripe(QPainter& painter, const QRectF& box, const CardStyle& style);
+
+private:
+    struct Pictures
+    {
+        QPixmap corners;
+        QBrush ground;
+        QBrush mark;
+    };
+
+    const Pictures& Of(const CardStyle& style);
+    Pictures Made(const CardStyle& style) const;
+
+    double mDevicePixels = 1;
+    std::map<CardStyle, Pictures> mPictures;
+};
+
+}

@@ -1,0 +1,143 @@
+#include "desktop/qt/Desk.h"
+
+#include "desktop/qt/QtEventPump.h"
+#include "host/files/PathOperations.h"
+#include "host/settings/SettingsText.h"
+#include "host/settings/TomlSettings.h"
+#include "session/ProfileError.h"
+#include "session/ProfileSettings.h"
+#include "session/WorkLogFolder.h"
+#include "session/WorkWeek.h"
+
+#include <cstdlib>
+#include <exception>
+
+namespace tempodial {
+
+namespace {
+
+/// How often the windows follow a job.
+constexpr std::chrono::milliseconds BetweenFollows(250);
+
+std::string ColoursPath(const Profile& profile)
+{
+    return profile.Path() + "/" + ColourBook::FileName;
+}
+
+}
+
+Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& appearance)
+    : mAppearance(appearance)
+    , mSettingsPath(std::move(settingsPath))
+    , mSettings(DesktopSettings::Read(ReadSettingsFile(mSettingsPath)))
+    , mSession(options)
+    , mColours(ReadSettingsFile(ColoursPath(mSession.Profile())))
+    , mWeekStart([first = FirstDayOfWeek(options)] { return first; })
+{
+    mAppearance.Apply(mSettings.appearance);
+}
+
+std::string Desk::UsualSettingsPath()
+{
+    const auto* config = std::getenv("XDG_CONFIG_HOME");
+    if (config != nullptr && *config == '/') {
+        return std::string(config) + "/" + DesktopSettings::FileName;
+    }
+    const auto* home = std::getenv("HOME");
+    if (home == nullptr || *home != '/') {
+        throw ProfileError("the environment names no home: set HOME, or XDG_CONFIG_HOME");
+    }
+    return std::string(home) + "/.config/" + DesktopSettings::FileName;
+}
+
+void Desk::Start(const Ref<MessageBox>& messageBox)
+{
+    auto surroundings = mSession.Surroundings(Imports::ByLines);
+    surroundings.messageBox = messageBox;
+    surroundings.eventPump = MakeRef<QtEventPump>(surroundings.eventPump, [this] { Follow(); });
+    mSession.Start(surroundings, { .imports = Imports::ByLines });
+    Do([this] {
+        if (const auto workLog = WorkLogOf(Profile())) {
+            Windows().OpenExplorers().front()->GoTo(workLog);
+        }
+    });
+}
+
+void Desk::Exit()
+{
+    mSession.Exit();
+    KeepColours();
+}
+
+WorkingHours Desk::Hours() const
+{
+    const auto week = WorkWeek::In(*Profile().Registry());
+    return { week.start, week.end, week.days };
+}
+
+void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
+{
+    const auto before = mSettings.appearance;
+    Remember(change);
+    if (mSettings.appearance != before) {
+        mAppearance.Apply(mSettings.appearance);
+    }
+    mEvents.Raise(&DeskEvents::Restyled);
+}
+
+void Desk::Remember(const std::function<void(DesktopSettings& settings)>& change)
+{
+    const auto before = mSettings;
+    change(mSettings);
+    if (mSettings == before) {
+        return;
+    }
+    try {
+        MakeFoldersAbove(NativePath::Exactly(mSettingsPath));
+        WriteSettingsFile(mSettings.Keep(mSettingsPath));
+    } catch (const Failure& failure) {
+        Fail("The settings couldn't be kept in " + mSettingsPath + ": " + failure.Description());
+    }
+}
+
+void Desk::KeepColours()
+{
+    if (!mColours.HasChanged()) {
+        return;
+    }
+    try {
+        WriteSettingsFile(mColours.Keep());
+    } catch (const Failure& failure) {
+        Fail("The colours couldn't be kept in " + ColoursPath(Profile()) + ": " + failure.Description());
+    }
+}
+
+void Desk::Do(const std::function<void()>& work) noexcept
+{
+    ++mDepth;
+    try {
+        work();
+        mSession.Idle();
+    } catch (const Failure& failure) {
+        Fail(failure.Description());
+    } catch (const std::exception& failure) {
+        Fail(failure.what());
+    }
+    --mDepth;
+    if (mDepth == 0) {
+        mSession.DropReplaced();
+        mEvents.Raise(&DeskEvents::Changed);
+        KeepColours();
+    }
+}
+
+void Desk::Follow()
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (now - mFollowed >= BetweenFollows) {
+        mFollowed = now;
+        mEvents.Raise(&DeskEvents::Changed);
+    }
+}
+
+}

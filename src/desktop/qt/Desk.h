@@ -1,0 +1,93 @@
+#pragma once
+
+#include "base/Subscription.h"
+#include "desktop/ColourBook.h"
+#include "desktop/DesktopSettings.h"
+#include "desktop/Titles.h"
+#include "desktop/WorkingHours.h"
+#include "desktop/qt/Appearance.h"
+#include "platform/controls/MessageBox.h"
+#include "review/Period.h"
+#include "session/ProfileOptions.h"
+#include "session/Session.h"
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+namespace tempodial {
+
+/// What happens on the desk.
+struct DeskEvents
+{
+    /// The log or a window's model may have changed.
+    std::function<void()> Changed;
+    /// The settings have changed, or how the program looks.
+    std::function<void()> Restyled;
+    /// Something went wrong, as the sentence says.
+    std::function<void(const std::string& message)> Failed;
+};
+
+/// What all windows of the program share: the session over a profile, the settings, the colours; and the door through
+/// which all that a person does reaches the product.
+class Desk
+{
+public:
+    /// Opens the profile and reads the settings of that path; fails with `ProfileInUse`, `ProfileError` or
+    /// `SettingsFileError`. The appearance must live as long as this.
+    Desk(const ProfileOptions& options, std::string settingsPath, Appearance& appearance);
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+    /// The path of the user's settings; fails with `ProfileError` when the environment names no home.
+    static std::string UsualSettingsPath();
+
+    /// Starts the host with one window on the work log, the add-in in it, whose messages go there.
+    void Start(const Ref<MessageBox>& messageBox);
+    /// Ends all as a normal exit does, and keeps the settings.
+    void Exit();
+
+    tempodial::Session& Session() { return mSession; }
+    const tempodial::Profile& Profile() const { return mSession.Profile(); }
+    HostApplication& Windows() const { return mSession.Windows(); }
+    const Ref<LocaleFormats>& Formats() const { return Profile().Surroundings().formats; }
+    Date Now() const { return Profile().Clock()->Now(); }
+    /// The day with which a week begins.
+    const Period::WeekStart& WeekStart() const { return mWeekStart; }
+    WorkingHours Hours() const;
+    const Appearance& Look() const { return mAppearance; }
+    ColourBook& Colours() { return mColours; }
+    Titles ShownTitles() const { return mSettings.hidesTitles ? Titles::Hidden : Titles::Shown; }
+    const DesktopSettings& Settings() const { return mSettings; }
+    /// Changes the settings, keeps them and shows the change.
+    void Change(const std::function<void(DesktopSettings& settings)>& change);
+    /// The same of what nobody but the one that changes it looks at.
+    void Remember(const std::function<void(DesktopSettings& settings)>& change);
+
+    /// Does something that a person wants, whatever it meets: a failure is told. Then the mailbox tells what it has to
+    /// tell, and the windows are brought up to date.
+    void Do(const std::function<void()>& work) noexcept;
+    /// True while something is being done.
+    bool IsBusy() const { return mDepth > 0; }
+    /// Brings the windows up to date in the midst of a job, a few times a second.
+    void Follow();
+    /// Tells that something went wrong.
+    void Fail(const std::string& message) { mEvents.Raise(&DeskEvents::Failed, message); }
+
+    Subscription Subscribe(DeskEvents events) { return mEvents.Subscribe(std::move(events)); }
+
+private:
+    void KeepColours();
+
+    Appearance& mAppearance;
+    std::string mSettingsPath;
+    DesktopSettings mSettings;
+    tempodial::Session mSession;
+    ColourBook mColours;
+    Period::WeekStart mWeekStart;
+    int mDepth = 0;
+    std::chrono::steady_clock::time_point mFollowed;
+    EventSource<DeskEvents> mEvents;
+};
+
+}

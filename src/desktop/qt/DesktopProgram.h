@@ -1,0 +1,33 @@
+#pragma once
+
+#include "terminal/ExitStatus.h"
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// The desktop program: its arguments, the profile, the add-in and the windows, until a person quits.
+class DesktopProgram
+{
+public:
+    static constexpr auto Name = "tempodial-desktop";
+
+    DesktopProgram(std::ostream& out, std::ostream& error)
+        : mOut(out)
+        , mError(error)
+    {
+    }
+
+    /// Runs with arguments, the program's name left out.
+    ExitStatus Run(const std::vector<std::string>& arguments) noexcept;
+
+private:
+    ExitStatus Execute(const std::vector<std::string>& arguments);
+
+    std::ostream& mOut;
+    std::ostream& mError;
+};
+
+}

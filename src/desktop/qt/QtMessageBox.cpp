@@ -1,0 +1,66 @@
+#include "desktop/qt/QtMessageBox.h"
+
+#include "desktop/qt/QtText.h"
+#include "session/ProductFacts.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace tempodial {
+
+namespace {
+
+QMessageBox::StandardButton ToButton(Answer answer)
+{
+    switch (answer) {
+    case Answer::Yes:
+        return QMessageBox::Yes;
+    case Answer::No:
+        return QMessageBox::No;
+    case Answer::Cancel:
+        return QMessageBox::Cancel;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon ToIcon(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+}
+
+Answer QtMessageBox::Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon)
+{
+    mMailbox->DeliverEvents();
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(ProductName);
+    // What projects and activities are called is shown as it is, whatever marks it holds.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(text));
+    box.setIcon(ToIcon(icon));
+    for (const auto answer : buttons) {
+        box.addButton(ToButton(answer));
+    }
+    if (!buttons.empty()) {
+        box.setDefaultButton(ToButton(buttons.front()));
+    }
+    const auto pressed = box.exec();
+    for (const auto answer : buttons) {
+        if (ToButton(answer) == pressed) {
+            return answer;
+        }
+    }
+    // Closed by its frame, where there is no Cancel.
+    return buttons.empty() ? Answer::Ok : buttons.back();
+}
+
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/Ref.h"
+#include "host/store/Mailbox.h"
+#include "platform/controls/MessageBox.h"
+
+#include <utility>
+
+namespace tempodial {
+
+/// The product's messages as windows of the toolkit, in front of the window that is worked with.
+class QtMessageBox final : public MessageBox
+{
+public:
+    explicit QtMessageBox(Ref<Mailbox> mailbox)
+        : mMailbox(std::move(mailbox))
+    {
+    }
+
+    Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override;
+
+private:
+    Ref<Mailbox> mMailbox;
+};
+
+}
