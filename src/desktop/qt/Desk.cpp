@@ -124,9 +124,9 @@ void Desk::Do(const std::function<void()>& work) noexcept
         Fail(failure.what());
     }
     --mDepth;
+    mEvents.Raise(&DeskEvents::Changed);
     if (mDepth == 0) {
         mSession.DropReplaced();
-        mEvents.Raise(&DeskEvents::Changed);
         KeepColours();
     }
 }
