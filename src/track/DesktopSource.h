@@ -43,7 +43,8 @@ public:
     virtual DesktopSight Sight() const = 0;
     /// The window in front; nothing when there is none.
     virtual std::optional<FrontWindow> Window() = 0;
-    /// The time since the last input, asked at each tick and when something has come; nothing when it can't be told.
+    /// The time since the last input; nothing when it can't be told. It is asked once a minute, and whenever something
+    /// has come: so something comes when somebody is back after a time without input.
     virtual std::optional<std::chrono::milliseconds> Idle() = 0;
     /// True while the screen is locked; nothing when it can't be told.
     virtual std::optional<bool> IsLocked() = 0;

@@ -15,7 +15,8 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::int64_t StateInterval = 60000;
+/// How long after it was kept the state is again; ticks come a little early or late.
+constexpr std::int64_t StateInterval = 60000 - 7500;
 constexpr std::size_t LargestState = std::size_t { 16 } << 20;
 /// What may be wrong.
 constexpr auto FileTrouble = "file";
@@ -133,10 +134,15 @@ void ProfileRecorder::Tick(const TrackMoment& now)
     if (mIsBlind || mSettings.HasChanged()) {
         ReadSettings();
     }
-    if (now.boot - mKeptAt >= StateInterval) {
+    if (IsStateDue(now)) {
         mKeptAt = now.boot;
         KeepState();
     }
+}
+
+bool ProfileRecorder::IsStateDue(const TrackMoment& now) const
+{
+    return now.boot - mKeptAt >= StateInterval;
 }
 
 void ProfileRecorder::KeepState()

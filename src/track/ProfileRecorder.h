@@ -27,6 +27,8 @@ public:
     void Observe(const TrackMoment& now, Observation seen);
     /// What is done at each tick: settings that have changed are read, and once a minute the state is kept.
     void Tick(const TrackMoment& now);
+    /// True when the next tick keeps the state.
+    bool IsStateDue(const TrackMoment& now) const;
     /// Keeps the state now.
     void KeepState();
     /// Writes what waits, since the run ends.

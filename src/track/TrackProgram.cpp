@@ -103,7 +103,8 @@ int Once(const TrackArguments& arguments)
     std::string why;
     const auto session = OpenSession(settings, why);
     ProgramNames names;
-    const auto seen = Observed(desktop.source.get(), session.get(), names, clock);
+    auto seen = Observed(desktop.source.get(), session.get(), names);
+    seen.idle = IdleTime(desktop.source.get(), session.get(), clock);
     const auto made = seen.window ? views.Make(*seen.window) : Seen {};
     std::cout << (arguments.isJson ? OnceJson(desktop.name, made, seen) : OnceText(made, seen));
     return TrackDone;

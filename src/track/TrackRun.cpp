@@ -4,6 +4,7 @@
 #include "track/ControlPath.h"
 #include "track/TrackError.h"
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdint>
@@ -99,10 +100,18 @@ WatchSettings WatchSettingsAt(const TrackClock& clock)
     return { clock.Real(TickInterval) };
 }
 
-Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramNames& names, const TrackClock& clock)
+std::optional<std::int64_t> IdleTime(DesktopSource* desktop, SessionSource* session, const TrackClock& clock)
+{
+    auto idle = desktop != nullptr ? desktop->Idle() : std::nullopt;
+    if (!idle && session != nullptr) {
+        idle = session->Idle();
+    }
+    return idle ? std::optional(clock.Scaled(*idle)) : std::nullopt;
+}
+
+Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramNames& names)
 {
     Observation seen;
-    std::optional<std::chrono::milliseconds> idle;
     if (desktop == nullptr) {
         seen.isLocked = true; // nobody is in front of a desktop that isn't there
     } else {
@@ -110,16 +119,11 @@ Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramName
             const auto id = ProgramNames::IdOf(*window);
             seen.window = Sighting { id, names.NameOf(id), window->title, "", false };
         }
-        idle = desktop->Idle();
         seen.isLocked = desktop->IsLocked().value_or(false);
     }
     if (session != nullptr) {
-        idle = idle ? idle : session->Idle();
         seen.isLocked = seen.isLocked || session->IsLocked().value_or(false);
         seen.isAsleep = session->IsGoingToSleep();
-    }
-    if (idle) {
-        seen.idle = clock.Scaled(*idle);
     }
     return seen;
 }
@@ -152,7 +156,7 @@ void TrackRun::Run()
     const OwnDescriptor ticks(TickTimer(mClock.Real(TickInterval)));
     const OwnDescriptor clockSet(::timerfd_create(CLOCK_REALTIME, TFD_CLOEXEC | TFD_NONBLOCK));
     WatchClock(clockSet.Number());
-    Observe();
+    Observe(mClock.Now(), true);
     bool rests = false;
     for (;;) {
         std::array<pollfd, Waits::Count> waits {};
@@ -188,7 +192,10 @@ void TrackRun::Run()
         if (mSession && (isTick || waits[Waits::Session].revents != 0) && !mSession->Dispatch()) {
             mSession.reset();
         }
-        Observe();
+        const auto now = mClock.Now();
+        const bool isOnlyTick = isTick
+            && std::count_if(waits.begin(), waits.end(), [](const auto& wait) { return wait.revents != 0; }) == 1;
+        Observe(now, !isOnlyTick || mRecorder.IsStateDue(now));
         if (waits[Waits::Control].revents != 0) {
             mServer.Serve([this](const ControlMessage& request) {
                 auto answer = mRecorder.Answer(request, mClock.Now());
@@ -197,16 +204,25 @@ void TrackRun::Run()
             });
         }
         if (isTick) {
-            Tick();
+            Tick(now);
         }
     }
+    Observe(mClock.Now(), true);
     mRecorder.End(mClock.Now());
 }
 
-void TrackRun::Observe()
+void TrackRun::Observe(const TrackMoment& now, bool asks)
 {
-    const auto seen = Observed(mDesktop.source.get(), mSession.get(), mNames, mClock);
-    mRecorder.Observe(mClock.Now(), seen);
+    if (asks) {
+        // The answer may bring news of the window in front with it, so it comes first.
+        const auto idle = IdleTime(mDesktop.source.get(), mSession.get(), mClock);
+        mInput = idle ? std::optional(now.boot - *idle) : std::nullopt;
+    }
+    auto seen = Observed(mDesktop.source.get(), mSession.get(), mNames);
+    if (mInput) {
+        seen.idle = now.boot - *mInput;
+    }
+    mRecorder.Observe(now, seen);
     if (seen.isAsleep && mLetsSleep) {
         mRecorder.KeepState();
         mSession->LetSleep();
@@ -214,9 +230,8 @@ void TrackRun::Observe()
     mLetsSleep = !seen.isAsleep;
 }
 
-void TrackRun::Tick()
+void TrackRun::Tick(const TrackMoment& now)
 {
-    const auto now = mClock.Now();
     mRecorder.Tick(now);
     if (!mDesktop.source && now.boot >= mNextTrial) {
         mNextTrial = now.boot + TrialInterval;

@@ -25,8 +25,10 @@ struct TrackOptions
 
 /// In what surroundings sources work at a speed.
 WatchSettings WatchSettingsAt(const TrackClock& clock);
-/// What a desktop and a session tell at this moment, by the clock of the recorder.
-Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramNames& names, const TrackClock& clock);
+/// The time without input that a desktop tells, else a session, by the clock of the recorder; nothing when neither can.
+std::optional<std::int64_t> IdleTime(DesktopSource* desktop, SessionSource* session, const TrackClock& clock);
+/// What else they tell at this moment.
+Observation Observed(DesktopSource* desktop, SessionSource* session, ProgramNames& names);
 
 /// A run of the recorder: waits for what desktop, session, clock and other programs have to say, until a signal ends
 /// it.
@@ -45,8 +47,10 @@ public:
 private:
     struct Waits;
 
-    void Observe();
-    void Tick();
+    /// Takes what is seen at a moment. Asks for the last input, which costs an answer's time, or else goes by what was
+    /// told last.
+    void Observe(const TrackMoment& now, bool asks);
+    void Tick(const TrackMoment& now);
     void LoseDesktop();
 
     TrackClock mClock;
@@ -60,6 +64,8 @@ private:
     /// When a desktop is looked for again, since there is none; on the clock that goes on while the machine sleeps.
     std::int64_t mNextTrial = 0;
     bool mLetsSleep = true;
+    /// The last input that was told of, on that clock.
+    std::optional<std::int64_t> mInput;
 };
 
 }

@@ -1,5 +1,6 @@
 /// The module of a desktop that a test directs: it reads lines of a pipe whose path stands in FAKE_DESKTOP, such as
-/// "window editor 0 Title of it", "none", "idle 5000", "lock 1", "sleep 1" and "gone".
+/// "window editor 0 Title of it", "none", "idle 5000", "lock 1", "sees window title", "sleep 1" and "gone". Each time
+/// that it is asked for the last input it adds a letter to the file of that path and ".asked".
 
 #include "track/DesktopSource.h"
 #include "track/SessionSource.h"
@@ -47,6 +48,7 @@ public:
     std::optional<FrontWindow> window;
     std::optional<std::chrono::milliseconds> idle;
     bool isLocked = false;
+    DesktopSight sight { true, true, true, true, "" };
     bool isAsleep = false;
     bool isGone = false;
 
@@ -70,6 +72,14 @@ private:
             idle = std::chrono::milliseconds(milliseconds);
         } else if (what == "lock") {
             words >> isLocked;
+        } else if (what == "sees") {
+            sight = {};
+            while (words >> what) {
+                sight.window = sight.window || what == "window";
+                sight.title = sight.title || what == "title";
+                sight.idle = sight.idle || what == "idle";
+                sight.lock = sight.lock || what == "lock";
+            }
         } else if (what == "sleep") {
             words >> isAsleep;
         } else if (what == "gone") {
@@ -80,6 +90,17 @@ private:
     int mNumber;
     std::string mText;
 };
+
+/// Adds a letter to a file beside the pipe that a variable names.
+void AddLetter(const char* variable, const char* suffix)
+{
+    const auto path = std::string(std::getenv(variable)) + suffix;
+    const auto file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (::write(file, "x", 1) != 1) {
+        std::abort();
+    }
+    ::close(file);
+}
 
 class FakeDesktop final : public DesktopSource
 {
@@ -96,9 +117,13 @@ public:
         mScript.Read();
         return !mScript.isGone;
     }
-    DesktopSight Sight() const override { return { true, true, true, true, "" }; }
+    DesktopSight Sight() const override { return mScript.sight; }
     std::optional<FrontWindow> Window() override { return mScript.window; }
-    std::optional<std::chrono::milliseconds> Idle() override { return mScript.idle; }
+    std::optional<std::chrono::milliseconds> Idle() override
+    {
+        AddLetter("FAKE_DESKTOP", ".asked");
+        return mScript.idle;
+    }
     std::optional<bool> IsLocked() override { return mScript.isLocked; }
 
 private:
@@ -120,14 +145,16 @@ public:
         mScript.Read();
         return true;
     }
-    std::optional<bool> IsLocked() override { return mScript.isLocked; }
+    std::optional<bool> IsLocked() override
+    {
+        return mScript.sight.lock ? std::optional(mScript.isLocked) : std::nullopt;
+    }
     std::optional<std::chrono::milliseconds> Idle() override { return mScript.idle; }
     bool IsGoingToSleep() override { return mScript.isAsleep; }
     void LetSleep() override
     {
         // The test sees that the machine may sleep by a file.
-        const auto file = std::string(std::getenv("FAKE_SESSION")) + ".slept";
-        ::close(::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
+        AddLetter("FAKE_SESSION", ".slept");
     }
 
 private:

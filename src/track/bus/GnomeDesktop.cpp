@@ -10,17 +10,19 @@ namespace {
 constexpr auto ShellService = "org.gnome.Shell";
 constexpr auto WindowsPath = "/org/tempodial/Windows";
 constexpr auto WindowsInterface = "org.tempodial.Windows";
+constexpr auto IdleService = "org.gnome.Mutter.IdleMonitor";
+constexpr auto IdlePath = "/org/gnome/Mutter/IdleMonitor/Core";
 
 }
 
-std::unique_ptr<DesktopSource> GnomeDesktop::Open(const WatchSettings& /*settings*/, DesktopSight& sight)
+std::unique_ptr<DesktopSource> GnomeDesktop::Open(const WatchSettings& settings, DesktopSight& sight)
 {
     auto bus = std::make_unique<Bus>(Bus::Kind::User);
     if (!bus->IsOpen()) {
         sight.why = "the session's message bus doesn't answer: run it inside of a session";
         return nullptr;
     }
-    auto desktop = std::make_unique<GnomeDesktop>(std::move(bus));
+    auto desktop = std::make_unique<GnomeDesktop>(std::move(bus), settings);
     if (!desktop->mShell.IsOwned()) {
         sight.why = "GNOME's shell isn't on the session's message bus: this is no GNOME";
         return nullptr;
@@ -36,12 +38,20 @@ std::unique_ptr<DesktopSource> GnomeDesktop::Open(const WatchSettings& /*setting
     return desktop;
 }
 
-GnomeDesktop::GnomeDesktop(std::unique_ptr<Bus> bus)
+GnomeDesktop::GnomeDesktop(std::unique_ptr<Bus> bus, const WatchSettings& settings)
     : mBus(std::move(bus))
     , mShell(*mBus, ShellService)
     , mLock(*mBus, "org.gnome.ScreenSaver", "/org/gnome/ScreenSaver", "org.gnome.ScreenSaver")
+    , mNotice(settings.idleNotice)
 {
-    sd_bus_match_signal(mBus->Get(), &mSlot, ShellService, WindowsPath, WindowsInterface, "Changed", OnChange, this);
+    sd_bus_match_signal(mBus->Get(), &mChanges, ShellService, WindowsPath, WindowsInterface, "Changed", OnChange, this);
+    sd_bus_match_signal(mBus->Get(), &mReturns, IdleService, IdlePath, IdleService, "WatchFired", OnReturn, this);
+}
+
+GnomeDesktop::~GnomeDesktop()
+{
+    sd_bus_slot_unref(mReturns);
+    sd_bus_slot_unref(mChanges);
 }
 
 std::string GnomeDesktop::Extension() const
@@ -73,7 +83,11 @@ DesktopSight GnomeDesktop::Sight() const
 
 std::optional<std::chrono::milliseconds> GnomeDesktop::Idle()
 {
-    const auto idle = IdleMilliseconds();
+    auto idle = IdleMilliseconds();
+    if (idle && !mIsWatched && std::chrono::milliseconds(*idle) >= mNotice) {
+        WatchForReturn();
+        idle = IdleMilliseconds(); // somebody may have come back meanwhile
+    }
     // What came in with the answer shows on the descriptor no more.
     mBus->Process();
     return idle ? std::optional(std::chrono::milliseconds(*idle)) : std::nullopt;
@@ -83,13 +97,20 @@ std::optional<std::uint64_t> GnomeDesktop::IdleMilliseconds() const
 {
     BusMessage answer;
     std::uint64_t idle = 0;
-    if (sd_bus_call_method(mBus->Get(), "org.gnome.Mutter.IdleMonitor", "/org/gnome/Mutter/IdleMonitor/Core",
-            "org.gnome.Mutter.IdleMonitor", "GetIdletime", nullptr, answer.Place(), "")
+    if (sd_bus_call_method(mBus->Get(), IdleService, IdlePath, IdleService, "GetIdletime", nullptr, answer.Place(), "")
             < 0
         || sd_bus_message_read(answer.Get(), "t", &idle) < 0) {
         return std::nullopt;
     }
     return idle;
+}
+
+void GnomeDesktop::WatchForReturn()
+{
+    BusMessage answer;
+    mIsWatched = sd_bus_call_method(
+                     mBus->Get(), IdleService, IdlePath, IdleService, "AddUserActiveWatch", nullptr, answer.Place(), "")
+        >= 0;
 }
 
 bool GnomeDesktop::AskWindow()
@@ -113,6 +134,13 @@ void GnomeDesktop::Take(sd_bus_message* message)
     }
     const FrontWindow front { program, title, process };
     mFront = front == FrontWindow() ? std::nullopt : std::optional(front);
+}
+
+int GnomeDesktop::OnReturn(sd_bus_message* /*message*/, void* self, sd_bus_error* /*error*/)
+{
+    // Such a watch is gone as soon as it has told.
+    static_cast<GnomeDesktop*>(self)->mIsWatched = false;
+    return 0;
 }
 
 int GnomeDesktop::OnChange(sd_bus_message* message, void* self, sd_bus_error* /*error*/)

@@ -20,8 +20,8 @@ public:
     static std::unique_ptr<DesktopSource> Open(const WatchSettings& settings, DesktopSight& sight);
 
     /// Takes an open connection.
-    explicit GnomeDesktop(std::unique_ptr<Bus> bus);
-    ~GnomeDesktop() override { sd_bus_slot_unref(mSlot); }
+    GnomeDesktop(std::unique_ptr<Bus> bus, const WatchSettings& settings);
+    ~GnomeDesktop() override;
 
     int Descriptor() const override { return mBus->Descriptor(); }
     short Events() const override { return mBus->Events(); }
@@ -33,6 +33,7 @@ public:
 
 private:
     static int OnChange(sd_bus_message* message, void* self, sd_bus_error* error);
+    static int OnReturn(sd_bus_message* message, void* self, sd_bus_error* error);
 
     /// Asks for the window in front; false when the extension isn't there.
     bool AskWindow();
@@ -40,11 +41,16 @@ private:
     /// The name of our extension for this shell.
     std::string Extension() const;
     std::optional<std::uint64_t> IdleMilliseconds() const;
+    /// Lets Mutter tell when somebody is back.
+    void WatchForReturn();
 
     std::unique_ptr<Bus> mBus;
     BusName mShell;
     ScreenLock mLock;
-    sd_bus_slot* mSlot = nullptr;
+    std::chrono::milliseconds mNotice;
+    sd_bus_slot* mChanges = nullptr;
+    sd_bus_slot* mReturns = nullptr;
+    bool mIsWatched = false;
     std::optional<FrontWindow> mFront;
 };
 

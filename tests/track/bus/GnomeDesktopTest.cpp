@@ -63,6 +63,19 @@ TEST_F(GnomeDesktopTest, Window_InFront_IsToldWithItsWords)
     }
 }
 
+TEST_F(GnomeDesktopTest, Idle_NobodyWasThere_IsToldByTheNextKey)
+{
+    TEMPODIAL_DESKTOP_TEST();
+    const DesktopSession session(DesktopSession::Kind::GnomeWithExtension);
+    const auto desktop = Opened();
+    DesktopSession::Wait(2 * static_cast<int>(GnomeNotice.count()));
+    ASSERT_TRUE(desktop->Dispatch());
+    const auto idle = desktop->Idle().value();
+    EXPECT_GE(idle, GnomeNotice);
+    const auto keys = session.Run({ "python3", TEMPODIAL_SOURCE_DIR "/tests/track/bus/press_keys.py" });
+    EXPECT_TRUE(Comes(*desktop, [&] { return desktop->Idle().value() < GnomeNotice; }));
+}
+
 TEST_F(GnomeDesktopTest, Open_WithoutTheExtension_SaysHowToHaveIt)
 {
     TEMPODIAL_DESKTOP_TEST();

@@ -299,6 +299,21 @@ TEST_F(TrackProgramTest, OnceAndProbe_DesktopIsThere_SayWhatTheySee)
     EXPECT_THAT(probe[1]["why"].get<std::string>(), HasSubstr("install"));
 }
 
+TEST_F(TrackProgramTest, Track_NothingComes_AsksForTheLastInputOnceAMinute)
+{
+    mDesktop.Tell("window alpha 0 First");
+    mDesktop.Tell("idle 0");
+    mDesktop.Start({ "--now", Monday, "--speed", "60" });
+    const auto asked = [this] { return mDesktop.Folder().Read("desktop.asked").size(); };
+    const auto begin = std::chrono::steady_clock::now();
+    const auto before = asked();
+    std::this_thread::sleep_for(std::chrono::seconds(4));
+    const auto times = asked() - before;
+    const auto minutes = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+    EXPECT_GE(times, 3U);
+    EXPECT_LE(static_cast<double>(times), minutes + 1);
+}
+
 TEST_F(TrackProgramTest, Desktop_IsGone_IsLookedForAgain)
 {
     mDesktop.Tell("idle 0");
