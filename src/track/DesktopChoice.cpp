@@ -19,6 +19,21 @@ std::string LoadingProblem(const std::string& module)
         + ": install the library that is missing, or the program again";
 }
 
+/// Adds what a session tells, or why nothing is told, to what a desktop does.
+void AddSession(DesktopSight& sight, SessionSource* session, const std::string& sessionTrouble)
+{
+    if (!sight.idle && session != nullptr && session->Idle()) {
+        sight.idle = true;
+        sight.why.clear();
+    }
+    if (!sight.lock && session != nullptr && session->IsLocked()) {
+        sight.lock = true;
+    }
+    if (!sight.lock) {
+        sight.why += (sight.why.empty() ? "" : "; ") + sessionTrouble;
+    }
+}
+
 std::unique_ptr<DesktopSource> OpenDesktop(const std::string& name, const WatchSettings& settings, DesktopSight& sight)
 {
     const auto path = ProgramModule::PathOf(DesktopModulePrefix + name);
@@ -56,12 +71,16 @@ ChosenDesktop ChooseDesktop(const WatchSettings& settings)
 
 std::vector<DesktopTrial> TryDesktops(const WatchSettings& settings)
 {
+    std::string trouble = "the login manager knows no session of yours that could be locked: begin one by its login";
+    const auto session = OpenSession(settings, trouble);
     std::vector<DesktopTrial> trials;
     bool isChosen = false;
     for (const auto name : DesktopNames) {
         DesktopTrial trial { std::string(name), {}, false };
-        trial.isChosen = OpenDesktop(trial.name, settings, trial.sight) != nullptr && !isChosen;
-        isChosen = isChosen || trial.isChosen;
+        if (OpenDesktop(trial.name, settings, trial.sight)) {
+            AddSession(trial.sight, session.get(), trouble);
+            trial.isChosen = !std::exchange(isChosen, true);
+        }
         trials.push_back(std::move(trial));
     }
     return trials;

@@ -29,7 +29,8 @@ struct ChosenDesktop
 
 /// Tries the desktops that are known, each by its module, and takes the first that connects.
 ChosenDesktop ChooseDesktop(const WatchSettings& settings);
-/// Tries all of them, each for itself; the first that connects is the chosen one.
+/// Tries all of them, each for itself; the first that connects is the chosen one. What the session tells in a desktop's
+/// place is seen too.
 std::vector<DesktopTrial> TryDesktops(const WatchSettings& settings);
 /// Connects with the session; nothing when there is none, and then `why` says the reason.
 std::unique_ptr<SessionSource> OpenSession(const WatchSettings& settings, std::string& why);

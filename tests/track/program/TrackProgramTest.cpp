@@ -299,6 +299,22 @@ TEST_F(TrackProgramTest, OnceAndProbe_DesktopIsThere_SayWhatTheySee)
     EXPECT_THAT(probe[1]["why"].get<std::string>(), HasSubstr("install"));
 }
 
+TEST_F(TrackProgramTest, Probe_DesktopTellsNoLocks_AsksTheSession)
+{
+    mDesktop.Tell("sees window title");
+    mDesktop.TellSession("idle 0");
+    const auto whole = Json({ "track", "probe" })[0];
+    EXPECT_EQ(whole["lock"], true);
+    EXPECT_EQ(whole["idle"], true);
+    EXPECT_EQ(whole["why"], nullptr);
+    mDesktop.Tell("sees window title idle");
+    mDesktop.TellSession("sees idle");
+    const auto lacking = Json({ "track", "probe" })[0];
+    EXPECT_EQ(lacking["chosen"], true);
+    EXPECT_EQ(lacking["lock"], false);
+    EXPECT_THAT(lacking["why"].get<std::string>(), HasSubstr("session"));
+}
+
 TEST_F(TrackProgramTest, Track_NothingComes_AsksForTheLastInputOnceAMinute)
 {
     mDesktop.Tell("window alpha 0 First");
