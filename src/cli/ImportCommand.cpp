@@ -314,7 +314,7 @@ private:
         return reply;
     }
 
-    /// Imports what waits, and then what was planned; answers that.
+    /// Imports what waits, and then what was planned; answers that, as far as it was written.
     ImportPlan::Days Write(ImportRun& run, const ImportPlan& plan, const std::pair<Date, Date>& span,
         std::vector<std::string>& remarks) const
     {

@@ -125,10 +125,10 @@ void ImportRun::ClosePlanned()
     }
 }
 
-void ImportRun::Write(const ImportPlan::Days& days)
+void ImportRun::Write(ImportPlan::Days& days)
 {
     Window window;
-    for (const auto& [day, planned] : days) {
+    for (auto& [day, planned] : days) {
         if (planned.lines.empty() || IsWaiting(day)) {
             continue;
         }
@@ -143,7 +143,13 @@ void ImportRun::Write(const ImportPlan::Days& days)
 
 void ImportRun::WriteWindow(const Window& window)
 {
-    if (window.empty() || Interruption::IsRequested()) {
+    if (window.empty()) {
+        return;
+    }
+    if (Interruption::IsRequested()) {
+        for (const auto& [day, planned] : window) {
+            planned->LeaveUnwritten();
+        }
         return;
     }
     for (const auto& [day, planned] : window) {

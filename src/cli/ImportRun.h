@@ -37,13 +37,14 @@ public:
     /// Imports what waits in tracker files, those that a killed run has left among them. Answers the days that are over
     /// and whose files are there all the same.
     std::vector<Date> SyncWaiting();
-    /// Writes what was planned and imports it; ends early when the user asks for it.
-    void Write(const ImportPlan::Days& days);
+    /// Writes what was planned and imports it; ends early when the user asks for it, and then days that it hasn't come
+    /// to have nothing that is written.
+    void Write(ImportPlan::Days& days);
     /// Writes the ledger into its file.
     void SaveLedger();
 
 private:
-    using Window = std::vector<std::pair<Date, const PlannedDay*>>;
+    using Window = std::vector<std::pair<Date, PlannedDay*>>;
 
     void WriteWindow(const Window& window);
     void WriteDay(Date day, const PlannedDay& planned);

@@ -48,6 +48,9 @@ struct PlannedDay
     std::int64_t details = 0;
     /// What the ledger is to hold of it.
     LedgerDay written;
+
+    /// It was planned, and none of it is to be written.
+    void LeaveUnwritten() { slots = entries = minutesWritten = 0; }
 };
 
 /// Decides what of a source comes to the tracker's files: days that are over, times that nothing has taken, and what no

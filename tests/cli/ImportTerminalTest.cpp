@@ -27,6 +27,14 @@ protected:
         }
         return mFolder.Write("export.csv", text);
     }
+    static int Written(const nlohmann::json& answer)
+    {
+        int entries = 0;
+        for (const auto& day : answer.at("days")) {
+            entries += day.at("entries").get<int>();
+        }
+        return entries;
+    }
     std::size_t Items() const { return Json({ "list", "--from", "1996-01-01", "--to", "2006-12-31" }).size(); }
 };
 
@@ -68,9 +76,15 @@ TEST_F(ImportTerminalTest, Import_ControlC_StopsAndTheNextOneGoesOn)
     EXPECT_EQ(program.End(), 130);
     const auto first = nlohmann::json::parse(mFolder.Read("output"));
     EXPECT_LT(first.at("created"), Days);
+    EXPECT_EQ(first.at("days").size(), static_cast<std::size_t>(Days));
+    const auto written = Written(first);
+    EXPECT_LT(written, Days);
+    EXPECT_GE(written, first.at("created"));
+    EXPECT_EQ(first.at("minutes").at("written"), 30 * written);
 
     const auto second = Json({ "import", "csv", file });
     EXPECT_EQ(first.at("created").get<int>() + second.at("created").get<int>(), Days);
+    EXPECT_EQ(written + Written(second), Days) << "each entry is told of once";
     EXPECT_EQ(Items(), static_cast<std::size_t>(Days));
 }
 
