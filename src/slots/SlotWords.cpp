@@ -79,12 +79,14 @@ std::string_view TextNode(int kind)
 void Words::PutInto(SlotLine& line) const
 {
     line.Application(kind);
+    const auto name = NodeText(program, LongestName);
     if (kind == 0) {
-        const auto name = NodeText(program, LongestName);
         line.Node("AppName", name.empty() ? "Unknown" : name);
     }
-    if (const auto node = NodeText(text, LongestText); !node.empty()) {
-        line.Node(TextNode(kind), node);
+    // Without words an activity would be called "Various", which says less than the name twice.
+    const auto node = NodeText(text, LongestText);
+    if (const auto& words = node.empty() ? name : node; !words.empty()) {
+        line.Node(TextNode(kind), words);
     }
     if (!project.empty()) {
         line.Node("Project", project);

@@ -82,7 +82,9 @@ TEST(SlotWordsTest, PutInto_Kinds_HaveTheirNodes)
 {
     EXPECT_EQ(LineOf({ "Atlas", 0, "map", "P" }),
         "<AppType>0</AppType><AppName>Atlas</AppName><WindowText>map</WindowText><Project>P</Project></slot>");
-    EXPECT_EQ(LineOf({ "Atlas", 0, "", "" }), "<AppType>0</AppType><AppName>Atlas</AppName></slot>");
+    EXPECT_EQ(LineOf({ "Atlas", 0, "", "" }),
+        "<AppType>0</AppType><AppName>Atlas</AppName><WindowText>Atlas</WindowText></slot>");
+    EXPECT_EQ(LineOf({ "", 0, "", "" }), "<AppType>0</AppType><AppName>Unknown</AppName></slot>");
     EXPECT_EQ(LineOf({ "", 0, "None", "" }),
         "<AppType>0</AppType><AppName>Unknown</AppName><WindowText>none</WindowText></slot>");
     EXPECT_EQ(LineOf({ "x", 2, "a.docx", "" }), "<AppType>2</AppType><WordDocName>a.docx</WordDocName></slot>");
