@@ -10,11 +10,15 @@ namespace tempodial {
 namespace {
 
 constexpr std::size_t PieceBytes = std::size_t { 4 } << 20;
+/// The most that waits for zones: some calendars name zones that they don't hold.
+constexpr std::size_t WaitingBytes = std::size_t { 32 } << 20;
 constexpr std::string_view Begin = "begin:";
 constexpr std::string_view End = "end:";
 constexpr auto CalendarPart = "vcalendar";
 constexpr auto EventPart = "vevent";
 constexpr auto ZonePart = "vtimezone";
+constexpr std::string_view ZoneName = "TZID:";
+constexpr std::string_view ZoneParameter = ";TZID=";
 constexpr auto CalendarEnd = "END:VCALENDAR\r\n";
 
 /// What a line begins or ends, folded; empty when it does neither.
@@ -79,6 +83,8 @@ void CalendarPieces::TakeLine()
     if (const auto part = PartOf(mLine, Begin); part == CalendarPart) {
         mFrame.clear();
         mEvents.clear();
+        mZones.clear();
+        mAwaitedZones.clear();
         mPart.clear();
         mHasCalendar = true;
         mIsOpen = true;
@@ -95,20 +101,42 @@ void CalendarPieces::TakeLine()
         return;
     }
     if (mPart == EventPart) {
+        NoteZone();
         (mEvents += mLine) += "\r\n";
     } else if (mPart.empty() || mPart == ZonePart) {
+        if (mLine.starts_with(ZoneName)) {
+            const auto zone = mLine.substr(ZoneName.size());
+            mAwaitedZones.erase(zone);
+            mZones.insert(zone);
+        }
         (mFrame += mLine) += "\r\n";
     }
     if (!mPart.empty() && ended == mPart) {
         mPart.clear();
-        if (mEvents.size() >= PieceBytes) {
+        if (mEvents.size() >= (mAwaitedZones.empty() ? PieceBytes : WaitingBytes)) {
             EndPiece();
         }
     }
 }
 
+void CalendarPieces::NoteZone()
+{
+    const auto at = mLine.find(ZoneParameter);
+    if (at == std::string::npos) {
+        return;
+    }
+    auto zone = mLine.substr(at + ZoneParameter.size());
+    const bool isQuoted = zone.starts_with('"');
+    const auto end = isQuoted ? zone.find('"', 1) : zone.find_first_of(":;");
+    zone = zone.substr(0, end).substr(isQuoted ? 1 : 0);
+    if (!mZones.contains(zone)) {
+        mAwaitedZones.insert(std::move(zone));
+    }
+}
+
 void CalendarPieces::EndPiece()
 {
+    mAwaitedZones.clear();
     mPiece = mFrame + std::exchange(mEvents, {}) + CalendarEnd;
 }
 

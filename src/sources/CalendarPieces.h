@@ -3,13 +3,16 @@
 #include "sources/Skipped.h"
 
 #include <cstddef>
+#include <functional>
 #include <istream>
+#include <set>
 #include <string>
 
 namespace tempodial {
 
-/// Takes the text of a calendar apart into smaller ones of some events each, with the zones that stand in front of
-/// them, so that a calendar of any size is read in little memory. Fields that are too long are cut, and counted.
+/// Takes the text of a calendar apart into smaller ones of some events each, with the zones that they are told in, so
+/// that a calendar of any size is read in little memory. Events wait for a zone that stands behind them, up to a limit.
+/// Fields that are too long are cut, and counted.
 class CalendarPieces
 {
 public:
@@ -28,6 +31,8 @@ public:
 private:
     bool ReadLine();
     void TakeLine();
+    /// Notes the zone that an event's line is told in, unless it is known.
+    void NoteZone();
     void EndPiece();
 
     std::istream& mStream;
@@ -36,6 +41,9 @@ private:
     /// What all pieces of a calendar begin with: its own properties and its zones.
     std::string mFrame;
     std::string mEvents;
+    /// The zones of the calendar so far, and those that its events in hand wait for.
+    std::set<std::string, std::less<>> mZones;
+    std::set<std::string, std::less<>> mAwaitedZones;
     std::string mLine;
     /// The part of the calendar that the line in hand belongs to, empty outside of all.
     std::string mPart;

@@ -74,6 +74,39 @@ TEST_F(CalendarPiecesTest, Next_LargeCalendar_ComesInPiecesWithItsZones)
     EXPECT_EQ(mSkipped.Count(Skipped::TooBig), 0);
 }
 
+TEST_F(CalendarPiecesTest, Next_ZonesBehindTheirEvents_AreWaitedFor)
+{
+    std::string text = "BEGIN:VCALENDAR\n";
+    const std::string filling(60000, 'x');
+    const auto events = [&](const std::string& start) {
+        for (int i = 0; i < 100; ++i) {
+            text += Event("DTSTART;" + start + ":20061002T090000\nSUMMARY:" + filling);
+        }
+    };
+    events("TZID=x");
+    events("VALUE=DATE-TIME;TZID=\"y: (north)\"");
+    text += "BEGIN:VTIMEZONE\nTZID:x\nEND:VTIMEZONE\nBEGIN:VTIMEZONE\nTZID:y: (north)\nEND:VTIMEZONE\n";
+    events("TZID=x");
+    const auto pieces = Pieces(text + "END:VCALENDAR\n");
+    EXPECT_EQ(pieces.size(), 3U);
+    for (const auto& piece : pieces) {
+        EXPECT_THAT(piece.substr(0, 200), HasSubstr("TZID:x\r\nEND:VTIMEZONE"));
+        EXPECT_THAT(piece.substr(0, 200), HasSubstr("TZID:y: (north)\r\nEND:VTIMEZONE"));
+    }
+}
+
+TEST_F(CalendarPiecesTest, Next_ZonesThatNeverCome_AreWaitedForUpToALimit)
+{
+    std::string text = "BEGIN:VCALENDAR\n";
+    const auto event = Event("DTSTART;TZID=x:20061002T090000\nSUMMARY:" + std::string(60000, 'x'));
+    for (int i = 0; i < 1000; ++i) {
+        text += event;
+    }
+    const auto pieces = Pieces(text + "END:VCALENDAR\n");
+    ASSERT_EQ(pieces.size(), 2U);
+    EXPECT_LT(pieces[0].size(), std::size_t { 33 } << 20);
+}
+
 TEST_F(CalendarPiecesTest, Next_LongFields_AreCutAndCounted)
 {
     std::string folded = "DESCRIPTION:x\n";
