@@ -1,4 +1,8 @@
 #include "addin/com/Adapter.h"
+#include "addin/com/KeptProperties.h"
+
+#include <map>
+#include <optional>
 
 namespace tempodial {
 
@@ -58,14 +62,26 @@ public:
     Ref<MAPIFolder> Parent() override { return Get<Ref<MAPIFolder>>("Parent"); }
     Ref<tempodial::UserProperties> UserProperties() override
     {
-        return Get<Ref<tempodial::UserProperties>>("UserProperties");
+        if (mProperties) {
+            return mProperties;
+        }
+        auto properties = Get<Ref<tempodial::UserProperties>>("UserProperties");
+        if (KeptProperties::AreWanted()) {
+            mProperties = properties;
+        }
+        return properties;
     }
     Ref<tempodial::FormDescription> FormDescription() override
     {
         return Get<Ref<tempodial::FormDescription>>("FormDescription");
     }
     void Save() override { Do("Save"); }
-    void Close(CloseMode mode) override { Do("Close", mode); }
+    void Close(CloseMode mode) override
+    {
+        // What was changed and isn't saved goes, and with it what was read of it.
+        mProperties = nullptr;
+        Do("Close", mode);
+    }
     void Display() override { Do("Display"); }
     void Delete() override { Do("Delete"); }
     Ref<AppointmentItem> Copy() override { return Call<Ref<AppointmentItem>>("Copy"); }
@@ -80,6 +96,10 @@ public:
                 { ItemWrite, RefusableHandler(std::move(events.Write)) },
                 { ItemClose, RefusableHandler(std::move(events.Close)) } });
     }
+
+private:
+    /// Those that were asked for, when they are kept.
+    Ref<tempodial::UserProperties> mProperties;
 };
 
 class ComMailItem final : public ItemAdapter<ComMailItem, MailItem>
@@ -119,14 +139,28 @@ public:
 
     Ref<UserProperty> Item(const std::string& name) override
     {
+        if (const auto kept = mKept.find(name); kept != mKept.end()) {
+            return kept->second;
+        }
         // The item's own fields are properties of another kind.
         auto found = Call<Ref<UserProperty>>("Find", name);
-        return found ? found : Call<Ref<UserProperty>>("Find", name, false);
+        return Kept(name, found ? std::move(found) : Call<Ref<UserProperty>>("Find", name, false));
     }
     Ref<UserProperty> Add(const std::string& name, PropertyType type, bool addToFolderFields) override
     {
-        return Call<Ref<UserProperty>>("Add", name, type, addToFolderFields);
+        return Kept(name, Call<Ref<UserProperty>>("Add", name, type, addToFolderFields));
     }
+
+private:
+    Ref<UserProperty> Kept(const std::string& name, Ref<UserProperty> property)
+    {
+        if (property && KeptProperties::AreWanted()) {
+            mKept.insert_or_assign(name, property);
+        }
+        return property;
+    }
+
+    std::map<std::string, Ref<UserProperty>> mKept;
 };
 
 class ComUserProperty final : public Adapter<ComUserProperty, UserProperty>

@@ -1,3 +1,4 @@
+#include "addin/com/KeptProperties.h"
 #include "base/Failure.h"
 #include "standin/rig/Rig.h"
 #include "wire/FrameReader.h"
@@ -37,6 +38,8 @@ std::string Answered(std::string bytes)
 /// Connects the module with the program that has loaded it.
 extern "C" void TempodialRigAttach(const RigLink* link)
 {
+    // Calls are counted in both hosts, so that the same ones fail.
+    KeptProperties::AreWanted() = false;
     Rig::Only().Attach(*link);
 }
 
