@@ -48,6 +48,7 @@ void FolderTree::Load()
         nodes[fields.Int(0)].fields.push_back({ fields.Text(1), static_cast<PropertyType>(fields.Int(2)), {} });
     }
     mNodes = std::move(nodes);
+    ++mChanges;
     mDefaults = std::move(defaults);
     // Nothing leads to a parent or a folder that isn't there, nor into a circle of parents.
     if (Get(0).children.size() != 1 || Subtree(0).size() != mNodes.size()) {
@@ -121,6 +122,7 @@ std::int64_t FolderTree::Add(std::int64_t parent, const std::string& name, Defau
     });
     mNodes[folder] = { parent, name, itemKind, {}, {} };
     Change(parent).children.push_back(folder);
+    ++mChanges;
     return folder;
 }
 
@@ -135,6 +137,7 @@ void FolderTree::Rename(std::int64_t folder, const std::string& name)
         .Bind(folder)
         .Run();
     Change(folder).name = name;
+    ++mChanges;
 }
 
 void FolderTree::Move(std::int64_t folder, std::int64_t parent)
@@ -151,6 +154,7 @@ void FolderTree::Move(std::int64_t folder, std::int64_t parent)
     auto& siblings = Change(parent).children;
     siblings.insert(std::upper_bound(siblings.begin(), siblings.end(), folder), folder);
     Change(folder).parent = parent;
+    ++mChanges;
 }
 
 void FolderTree::Delete(std::int64_t folder, const std::function<void()>& preparation)
@@ -166,6 +170,7 @@ void FolderTree::Delete(std::int64_t folder, const std::function<void()>& prepar
         mNodes.erase(gone);
         std::erase_if(mDefaults, [&](const auto& known) { return known.second == gone; });
     }
+    ++mChanges;
 }
 
 void FolderTree::AddField(std::int64_t folder, const std::string& name, PropertyType type)

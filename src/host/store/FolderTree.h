@@ -35,6 +35,8 @@ public:
     /// Reads all folders from the file anew; fails (440) when they don't make one tree.
     void Load();
 
+    /// Changes of folders so far, of the user properties that they know left out.
+    std::int64_t Changes() const { return mChanges; }
     bool Exists(std::int64_t folder) const { return folder != 0 && mNodes.contains(folder); }
     const Node& Get(std::int64_t folder) const;
     /// The folder of that name below a folder, case ignored; 0 when there is none.
@@ -67,6 +69,7 @@ private:
     MailboxDatabase& mDatabase;
     std::unordered_map<std::int64_t, Node> mNodes;
     std::unordered_map<std::int32_t, std::int64_t> mDefaults;
+    std::int64_t mChanges = 0;
 };
 
 }

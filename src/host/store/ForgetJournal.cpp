@@ -102,7 +102,7 @@ void ForgetJournal::Forget(const ForgetOrder& order)
         }
         KeepDue(order);
     });
-    mStore->Table().NoteChange();
+    mStore->NoteForeignChange();
 }
 
 std::optional<ForgetRest> ForgetJournal::Due() const

@@ -52,6 +52,7 @@ MailboxStore::MailboxStore(std::unique_ptr<MailboxDatabase> database, Ref<Locale
     , mViews(std::make_unique<ViewTable>(*mDatabase))
     , mForms(std::make_unique<FormTable>(*mDatabase))
     , mDrafts(std::make_unique<DraftTable>(*mDatabase))
+    , mChanges(std::make_unique<ChangeGathering>(*mIds, *mTree, *mViews))
 {
     mDatabase->mOnUndone = [this] { Undone(); };
 }
@@ -81,7 +82,7 @@ void MailboxStore::DeleteFolder(std::int64_t folder)
 {
     const auto subtree = mTree->Subtree(folder);
     mTree->Delete(folder, [this] { mTable->RetireRows(); });
-    mTable->NoteChange();
+    NoteForeignChange();
     mViews->Forget();
     // Copied, since an item that goes away takes itself out of the map.
     const auto live = mLive;
@@ -159,6 +160,8 @@ void MailboxStore::Save(StoreItem& item, bool refused)
 void MailboxStore::Move(StoreItem& item, std::int64_t folder)
 {
     mTable->Move(item.Row(), folder);
+    mChanges->Gone(item.FolderRow(), item.Row());
+    mChanges->Saved(folder, item.Row());
     Touch(item);
     item.MarkMoved(folder);
     Announce(item.shared_from_this());
@@ -168,10 +171,17 @@ void MailboxStore::Delete(StoreItem& item)
 {
     if (item.Row() != 0) {
         mTable->Delete(item.Row());
+        mChanges->Gone(item.FolderRow(), item.Row());
     }
     // Its windows close first, while whoever watched them can still ask which item it was.
     item.RaiseLetGo();
     item.MarkDeleted();
+}
+
+void MailboxStore::NoteForeignChange()
+{
+    mTable->NoteChange();
+    mChanges->Anything();
 }
 
 void MailboxStore::Refresh(StoreItem& item)
@@ -199,11 +209,17 @@ void MailboxStore::Listen(const Ref<StoreItems>& items)
 
 void MailboxStore::DeliverEvents()
 {
+    const auto self = shared_from_this();
+    DeliverArrivals();
+    mChanges->Tell();
+}
+
+void MailboxStore::DeliverArrivals()
+{
     if (mDelivering) {
         return;
     }
     const FlagGuard delivering(mDelivering);
-    const auto self = shared_from_this();
     bool delivered = true;
     for (int round = 0; round < DeliveryRounds && delivered; ++round) {
         delivered = false;
@@ -218,8 +234,45 @@ void MailboxStore::DeliverEvents()
 
 void MailboxStore::CommitHeld()
 {
-    if (mDatabase->IsHolding() && mCommit) {
+    if (mDatabase->IsHolding() && mCommit && !mTogether) {
         mCommit();
+    }
+}
+
+void MailboxStore::Together(const std::function<void()>& work)
+{
+    if (mTogether) {
+        work();
+        return;
+    }
+    const bool isHeld = mDatabase->IsHolding();
+    if (!isHeld) {
+        mDatabase->Hold();
+    }
+    try {
+        {
+            const FlagGuard together(mTogether);
+            work();
+        }
+        isHeld ? CommitHeld() : CommitTogether();
+    } catch (...) {
+        if (!isHeld) {
+            if (mDatabase->IsHolding()) {
+                mDatabase->DropHeld();
+            }
+            mDatabase->Recover();
+        }
+        throw;
+    }
+}
+
+void MailboxStore::CommitTogether()
+{
+    mDatabase->CheckWhole();
+    // An import that began meanwhile has taken over what was held.
+    if (mDatabase->IsHolding()) {
+        mDatabase->CommitHeld();
+        Committed();
     }
 }
 
@@ -249,6 +302,7 @@ void MailboxStore::Write(StoreItem& item)
         mTree->Get(item.FolderRow());
         item.MarkStored(mTable->Insert(item.FolderRow(), item.Data(), saved), saved);
         mLive[item.Row()] = item.shared_from_this();
+        mChanges->Saved(item.FolderRow(), item.Row());
         ++mStatistics.created;
         Announce(item.shared_from_this());
     } else {
@@ -256,6 +310,7 @@ void MailboxStore::Write(StoreItem& item)
         const bool isChanged = before != nullptr && *before != item.Data();
         if (isChanged) {
             mTable->Update(item.Row(), *before, item.Data(), saved);
+            mChanges->Saved(item.FolderRow(), item.Row());
         } else {
             mDatabase->CheckWhole();
         }
@@ -293,7 +348,7 @@ void MailboxStore::Touch(StoreItem& item)
 
 void MailboxStore::Undone()
 {
-    mTable->NoteChange();
+    NoteForeignChange();
     auto failed = std::move(mStatistics.failed);
     mStatistics = mCommittedStatistics;
     mStatistics.failed = std::move(failed);

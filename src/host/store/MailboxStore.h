@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Ref.h"
+#include "host/store/ChangeGathering.h"
 #include "host/store/DraftTable.h"
 #include "host/store/EntryIds.h"
 #include "host/store/FolderTree.h"
@@ -43,6 +44,8 @@ public:
     FormTable& Forms() { return *mForms; }
     DraftTable& Drafts() { return *mDrafts; }
     const EntryIds& Ids() const { return *mIds; }
+    /// What is told to whoever shows the mailbox.
+    ChangeGathering& Changes() { return *mChanges; }
     LocaleFormats& Formats() { return *mFormats; }
 
     /// The condition of a filter on a folder; fails as `Items.Restrict` does.
@@ -72,6 +75,8 @@ public:
     bool AreChoicesShown() const { return mAreChoicesShown; }
     void Move(StoreItem& item, std::int64_t folder);
     void Delete(StoreItem& item);
+    /// Rows were changed of which it isn't known which they are.
+    void NoteForeignChange();
     /// Takes in that an item's row was changed by itself.
     void Refresh(StoreItem& item);
     void Display(const Ref<StoreItem>& item);
@@ -79,11 +84,14 @@ public:
 
     /// Items of a folder want to hear of those that arrive.
     void Listen(const Ref<StoreItems>& items);
-    /// Tells of the items that arrived, and of those that arrive meanwhile; does nothing within itself.
+    /// Tells of the items that arrived, and of those that arrive meanwhile, which does nothing within itself; then of
+    /// what changed.
     void DeliverEvents();
 
     /// Asks whoever holds writes to commit them; does nothing when none are held.
     void CommitHeld();
+    /// Does work in which nothing asks for that, and does it then; what nobody else holds is held for the work.
+    void Together(const std::function<void()>& work);
     /// Called to ask for the present moment in UTC at each save; without it no item knows when it was saved.
     void SetClock(std::function<Date()> clock) { mClock = std::move(clock); }
     /// Called to commit what is held.
@@ -101,6 +109,8 @@ private:
     void Write(StoreItem& item);
     void MarkChoice(StoreItem& item) const;
     void Announce(const Ref<StoreItem>& item);
+    void DeliverArrivals();
+    void CommitTogether();
     void Touch(StoreItem& item);
     void Undone();
 
@@ -113,6 +123,7 @@ private:
     std::unique_ptr<ViewTable> mViews;
     std::unique_ptr<FormTable> mForms;
     std::unique_ptr<DraftTable> mDrafts;
+    std::unique_ptr<ChangeGathering> mChanges;
     std::unordered_map<std::int64_t, std::weak_ptr<StoreItem>> mLive;
     std::vector<std::weak_ptr<StoreItems>> mListening;
     std::vector<std::weak_ptr<StoreItem>> mTouched;
@@ -125,6 +136,7 @@ private:
     ProjectChoice mChoice = ProjectChoice::Rules;
     bool mAreChoicesShown = false;
     bool mDelivering = false;
+    bool mTogether = false;
 };
 
 }

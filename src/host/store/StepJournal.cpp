@@ -78,9 +78,8 @@ StepItems StepJournal::TakeBack(const Step& step, Date saved)
     BeginRow();
     mStep->undoes = step.number;
     mTable.Restore(step.number, mStep->number, saved);
-    auto& table = mStore->Table();
-    table.RetireRows();
-    table.NoteChange();
+    mStore->Table().RetireRows();
+    mStore->NoteForeignChange();
     for (const auto row : mTable.ItemsOf(mStep->number)) {
         if (const auto item = mStore->Live(row)) {
             mStore->Refresh(*item);

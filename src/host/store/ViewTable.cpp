@@ -47,6 +47,7 @@ void ViewTable::Add(std::int64_t folder, const std::string& name, ViewType type)
     }
     const auto kind = type == ViewType::Calendar ? DefaultFolder::Calendar : DefaultFolder::Inbox;
     Load(folder).push_back({ name, type, MailboxSchema::ViewDefinition(kind, name), false });
+    ++mChanges;
 }
 
 void ViewTable::Set(std::int64_t folder, const std::string& name, ViewType type, const std::string& xml)
@@ -78,6 +79,13 @@ void ViewTable::Delete(std::int64_t folder, const std::string& name)
     mDatabase.CheckWhole();
     Query(mDatabase, "DELETE FROM view WHERE folder = ? AND name = ?").Bind(folder).Bind(known).Run();
     std::erase_if(Load(folder), [&](const Entry& view) { return view.name == known; });
+    ++mChanges;
+}
+
+void ViewTable::Forget()
+{
+    mViews.clear();
+    ++mChanges;
 }
 
 std::vector<ViewTable::Entry>& ViewTable::Load(std::int64_t folder)
@@ -114,6 +122,7 @@ void ViewTable::Write(std::int64_t folder, const Entry& view)
         .Bind(static_cast<std::int64_t>(view.type))
         .Bind(view.xml)
         .Run();
+    ++mChanges;
 }
 
 }

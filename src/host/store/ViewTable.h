@@ -39,7 +39,9 @@ public:
     /// Deletes a view; fails (-2147221233) when there is none of that name.
     void Delete(std::int64_t folder, const std::string& name);
     /// Forgets what was read from the file, and views that weren't saved.
-    void Forget() { mViews.clear(); }
+    void Forget();
+    /// Changes of views so far.
+    std::int64_t Changes() const { return mChanges; }
 
 private:
     std::vector<Entry>& Load(std::int64_t folder);
@@ -48,6 +50,7 @@ private:
 
     MailboxDatabase& mDatabase;
     std::map<std::int64_t, std::vector<Entry>> mViews;
+    std::int64_t mChanges = 0;
 };
 
 }
