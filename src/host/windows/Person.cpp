@@ -1,6 +1,7 @@
 #include "host/windows/Person.h"
 
 #include "base/Failure.h"
+#include "host/store/SavedTogether.h"
 
 namespace tempodial {
 
@@ -39,6 +40,11 @@ void Person::Delete(const Ref<StoreItem>& item) const
 {
     item->Delete();
     mMailbox->CommitHeld();
+}
+
+void Person::Together(const std::function<void()>& work) const
+{
+    SavedTogether(mMailbox, work);
 }
 
 }

@@ -5,6 +5,7 @@
 #include "host/store/Mailbox.h"
 #include "host/store/StoreItem.h"
 
+#include <functional>
 #include <utility>
 
 namespace tempodial {
@@ -26,6 +27,9 @@ public:
     bool Reschedule(const Ref<StoreItem>& item, Date start, Date end) const;
     /// Deletes an item.
     void Delete(const Ref<StoreItem>& item) const;
+    /// Does several of these in one commit, all of them or, when the work fails, none; in the midst of an import or a
+    /// step with what is held there. Fails as the work does.
+    void Together(const std::function<void()>& work) const;
 
 private:
     Ref<Mailbox> mMailbox;

@@ -61,6 +61,28 @@ TEST_F(PersonTest, Reschedule_Refused_ChangesNothing)
     EXPECT_THAT(mHeard, ElementsAre("write"));
 }
 
+TEST_F(PersonTest, Together_DoesAllOrNothing)
+{
+    const auto first = NewActivity();
+    const auto second = NewActivity("b");
+    User().Together([&] {
+        User().Reschedule(first, At(11), At(12));
+        User().Reschedule(second, At(12), At(13));
+    });
+    EXPECT_EQ(Stored(first).start, At(11));
+    EXPECT_EQ(Stored(second).start, At(12));
+    EXPECT_EQ(FailureNumber([&] {
+        User().Together([&] {
+            User().Reschedule(first, At(14), At(15));
+            User().Delete(second);
+            User().Reschedule(first, At(15), At(14));
+        });
+    }),
+        5);
+    EXPECT_EQ(Stored(first).start, At(11));
+    EXPECT_EQ(mCalendar->Items()->Count(), 2);
+}
+
 TEST_F(PersonTest, Delete_RemovesTheItem)
 {
     const auto item = NewActivity();
