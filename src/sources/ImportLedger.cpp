@@ -1,10 +1,12 @@
 #include "sources/ImportLedger.h"
 
+#include "base/Fnv1a.h"
 #include "base/Number.h"
 #include "sources/MomentText.h"
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace tempodial {
 
@@ -80,16 +82,14 @@ void AppendDays(std::string& text, const std::map<Date, LedgerDay>& days, const 
 std::string LedgerDay::EntryKey(std::int64_t start, std::int64_t end, const std::string& source,
     const std::string& text, const std::string& project)
 {
-    constexpr std::uint64_t Basis = 14695981039346656037U;
-    constexpr std::uint64_t Prime = 1099511628211U;
     constexpr unsigned TopShift = 60;
-    auto hash = Basis;
+    constexpr std::string_view End("\0", 1);
+    Fnv1a words;
     for (const auto& part : { source, text, project }) {
-        for (const char byte : part) {
-            hash = (hash ^ static_cast<unsigned char>(byte)) * Prime;
-        }
-        hash = hash * Prime;
+        words.Add(part);
+        words.Add(End);
     }
+    auto hash = words.Hash();
     auto key = std::to_string(start) + "-" + std::to_string(end) + "-";
     for (std::size_t digit = 0; digit < sizeof(hash) * 2; ++digit) {
         key += HexDigits[hash >> TopShift];

@@ -171,6 +171,12 @@ std::string HarmlessLine(std::string_view text)
 
 bool TurnsDirection(std::string_view text)
 {
+    // What comes before the first Hebrew letter is most of what is asked about, and its bytes are below that letter's.
+    constexpr unsigned char FirstByteOfRightToLeft = 0xD6;
+    if (std::none_of(text.begin(), text.end(),
+            [](char byte) { return static_cast<unsigned char>(byte) >= FirstByteOfRightToLeft; })) {
+        return false;
+    }
     bool turns = false;
     ForEach(text, [&turns](const Utf8Character& character, std::string_view) {
         turns |= character.isValid && (IsIn(Directions, character.code) || IsIn(RightToLeft, character.code));

@@ -1,5 +1,6 @@
 #include "track/ControlPath.h"
 
+#include "base/Fnv1a.h"
 #include "base/TrackerFile.h"
 
 #include <array>
@@ -12,17 +13,12 @@ namespace tempodial {
 
 namespace {
 
-/// A short name for a path, of hexadecimal digits (FNV-1a).
-std::string HashOf(const std::string& path)
+/// A short name for a path, of hexadecimal digits.
+std::string NameOf(const std::string& path)
 {
-    constexpr std::uint64_t Basis = 0xcbf29ce484222325;
-    constexpr std::uint64_t Prime = 0x100000001b3;
     constexpr int DigitBits = 4;
     constexpr std::uint64_t DigitMask = 0xf;
-    auto hash = Basis;
-    for (const auto byte : path) {
-        hash = (hash ^ static_cast<unsigned char>(byte)) * Prime;
-    }
+    auto hash = Fnv1a(path).Hash();
     std::array<char, 16> digits {};
     for (auto& digit : digits) {
         digit = "0123456789abcdef"[hash & DigitMask];
@@ -39,7 +35,7 @@ std::string ControlPathOf(const std::string& profile)
     const auto place = real ? std::string(real.get()) : profile;
     const auto* runtime = std::getenv("XDG_RUNTIME_DIR");
     if (runtime != nullptr && *runtime == '/') {
-        auto path = std::string(runtime) + "/tempodial/track-" + HashOf(place) + ".sock";
+        auto path = std::string(runtime) + "/tempodial/track-" + NameOf(place) + ".sock";
         if (path.size() < sizeof(sockaddr_un::sun_path)) {
             return path;
         }

@@ -1,5 +1,6 @@
 #include "host/store/LineMemory.h"
 
+#include "base/Fnv1a.h"
 #include "host/store/Mailbox.h"
 #include "host/store/MailboxDatabase.h"
 #include "host/store/MailboxStore.h"
@@ -15,18 +16,6 @@ namespace {
 constexpr std::size_t HashSize = 8;
 constexpr unsigned int ByteBits = 8;
 constexpr unsigned int LastByte = 0xff;
-
-/// FNV-1a: it stays the same wherever a mailbox is opened.
-std::uint64_t HashOf(std::string_view line)
-{
-    constexpr std::uint64_t offset = 0xcbf29ce484222325;
-    constexpr std::uint64_t prime = 0x100000001b3;
-    auto hash = offset;
-    for (const char character : line) {
-        hash = (hash ^ static_cast<unsigned char>(character)) * prime;
-    }
-    return hash;
-}
 
 std::uint64_t HashAt(std::string_view bytes)
 {
@@ -73,7 +62,7 @@ void LineMemory::Drop(MailboxStore& store, const std::string& dayKey, const std:
 {
     std::unordered_map<std::uint64_t, std::int32_t> gone;
     for (const auto& line : lines) {
-        ++gone[HashOf(line)];
+        ++gone[Fnv1a(line).Hash()];
     }
     std::vector<std::pair<std::int64_t, std::string>> rows;
     {
@@ -121,7 +110,7 @@ std::int32_t LineMemory::BeginDay(const std::string& dayKey, std::int32_t lastCo
 
 bool LineMemory::IsKnown(const std::string& line)
 {
-    mLine = HashOf(line);
+    mLine = Fnv1a(line).Hash();
     const auto known = mKnown.find(mLine);
     if (known == mKnown.end() || known->second == 0) {
         return false;

@@ -34,6 +34,15 @@ TEST(MailboxSchemaTest, Migrate_FailedStep_LeavesTheOldVersion)
     EXPECT_EQ(database.Number("SELECT count(*) FROM sqlite_schema WHERE name = 'two'"), 0);
 }
 
+TEST(MailboxSchemaTest, Fingerprint_IsThatOfWhatTheStepsMake)
+{
+    MailboxDatabase database(":memory:");
+    MailboxSchema::Migrate(database, MailboxSchema::Steps());
+    EXPECT_TRUE(MailboxSchema::IsToldByFingerprint(database)) << "the schema changed: put its fingerprint in its place";
+    database.Execute("CREATE TRIGGER one AFTER INSERT ON item BEGIN DELETE FROM item; END");
+    EXPECT_FALSE(MailboxSchema::IsToldByFingerprint(database));
+}
+
 TEST(MailboxSchemaTest, Migrate_NewerVersion_IsRefused)
 {
     MailboxDatabase database(":memory:");
