@@ -24,14 +24,6 @@ protected:
         WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
         ASSERT_EQ(Run({ "sync" }).status, 0);
     }
-    /// What a run that succeeds prints.
-    std::string Out(const Arguments& arguments) const
-    {
-        const auto result = Run(arguments);
-        EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(result.error, "");
-        return result.out;
-    }
 };
 
 constexpr auto Csv = "start,end,duration,project,application,description,people,subject\r\n"

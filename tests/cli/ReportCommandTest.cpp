@@ -25,13 +25,6 @@ protected:
         WriteTracker("20061009", { WordSlot(32400, 32700, "y.doc") });
         ASSERT_EQ(Run({ "sync" }).status, 0);
     }
-    std::string Out(const Arguments& arguments) const
-    {
-        const auto result = Run(arguments);
-        EXPECT_EQ(result.status, 0);
-        EXPECT_EQ(result.error, "");
-        return result.out;
-    }
     /// True when a report left a table behind.
     bool HasCsvFile() const
     {

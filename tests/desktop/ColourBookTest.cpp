@@ -3,6 +3,7 @@
 #include "desktop/Tone.h"
 #include "host/settings/SettingsText.h"
 #include "host/settings/TomlSettings.h"
+#include "support/SettingsRefusal.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -22,12 +23,7 @@ protected:
     }
     std::string Refusal(const std::string& content)
     {
-        try {
-            Read(content);
-        } catch (const SettingsFileError& error) {
-            return error.what();
-        }
-        return "";
+        return SettingsRefusal([&] { Read(content); });
     }
 
     TempFolder mFolder { TempFolder::InMemory() };

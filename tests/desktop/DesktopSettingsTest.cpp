@@ -2,6 +2,7 @@
 
 #include "host/settings/SettingsText.h"
 #include "host/settings/TomlSettings.h"
+#include "support/SettingsRefusal.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -21,12 +22,7 @@ protected:
     }
     std::string Refusal(const std::string& content)
     {
-        try {
-            Read("[[desktop]]\n" + content);
-        } catch (const SettingsFileError& error) {
-            return error.what();
-        }
-        return "";
+        return SettingsRefusal([&] { Read("[[desktop]]\n" + content); });
     }
 
     TempFolder mFolder { TempFolder::InMemory() };

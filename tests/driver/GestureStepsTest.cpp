@@ -14,16 +14,6 @@ class GestureStepsTest : public DriverFixture
 protected:
     GestureStepsTest() { Do({ { "do", "start" } }); }
 
-    std::string Create(const std::string& folder = "Calendar/Tempodial")
-    {
-        return Do({ { "do", "item.create" }, { "folder", folder }, { "messageClass", "IPM.Appointment.TDActivity1" },
-                      { "subject", "[No Project] Word, a" }, { "start", "2006-10-10T09:00:00" },
-                      { "end", "2006-10-10T09:05:00" },
-                      { "properties",
-                          { { "Project", "No Project" }, { "Type", "Word" }, { "Description", "a" },
-                              { "Day", "2006-10-10T00:00:00" } } } })
-            .at("entryId");
-    }
     int Open(const std::string& entryId)
     {
         return Do({ { "do", "inspector.open" }, { "entryId", entryId } }).at("inspector");
@@ -54,7 +44,7 @@ protected:
 
 TEST_F(GestureStepsTest, ViewGestures_AreStepsThatGoBack)
 {
-    const auto id = Create();
+    const auto id = Activity();
     const auto created = Items();
     Do({ { "do", "item.change" }, { "entryId", id }, { "start", "2006-10-10T10:00:00" } });
     EXPECT_EQ(Items()[0].at("end"), "2006-10-10T10:05:00");
@@ -73,7 +63,7 @@ TEST_F(GestureStepsTest, ViewGestures_AreStepsThatGoBack)
 
 TEST_F(GestureStepsTest, InspectorSave_FieldsAndRules_GoBackTogether)
 {
-    const auto inspector = Open(Create());
+    const auto inspector = Open(Activity());
     const auto before = Items();
     Set(inspector, "SubjectBox", "b");
     Set(inspector, "ProjectComboBox", "Brand New");
@@ -88,8 +78,8 @@ TEST_F(GestureStepsTest, InspectorSave_FieldsAndRules_GoBackTogether)
 
 TEST_F(GestureStepsTest, CommandsOfWindows_AreStepsByTheirCaptions)
 {
-    const auto saved = Create();
-    const auto deleted = Create();
+    const auto saved = Activity();
+    const auto deleted = Activity();
     auto inspector = Open(saved);
     Set(inspector, "SubjectBox", "b");
     Click("inspector", inspector, { "&Save and Close" });
@@ -107,7 +97,7 @@ TEST_F(GestureStepsTest, CommandsOfWindows_AreStepsByTheirCaptions)
 
 TEST_F(GestureStepsTest, ItemsElsewhere_AreNoSteps)
 {
-    const auto id = Create("Calendar");
+    const auto id = Activity("Calendar");
     Do({ { "do", "item.change" }, { "entryId", id }, { "end", "2006-10-10T11:00:00" } });
     const auto inspector = Open(id);
     Do({ { "do", "inspector.save" }, { "inspector", inspector } });
@@ -117,7 +107,7 @@ TEST_F(GestureStepsTest, ItemsElsewhere_AreNoSteps)
 
 TEST_F(GestureStepsTest, GestureInTheMidstOfAnImport_IsDoneAndIsNone)
 {
-    const auto id = Create();
+    const auto id = Activity();
     std::vector<std::string> slots;
     for (int minute = 0; minute < 55; minute += 5) {
         slots.push_back(Slot(10, minute, "document " + std::to_string(minute)));
@@ -131,7 +121,7 @@ TEST_F(GestureStepsTest, GestureInTheMidstOfAnImport_IsDoneAndIsNone)
 
 TEST_F(GestureStepsTest, RefusedGesture_ChangesNothing)
 {
-    const auto id = Create();
+    const auto id = Activity();
     const auto before = Items();
     Refused({ { "do", "item.change" }, { "entryId", id }, { "end", "2006-10-10T08:00:00" } });
     EXPECT_EQ(Items(), before);

@@ -46,16 +46,16 @@ protected:
         }
         return nullptr;
     }
-    /// An activity of the work log, from 9 o'clock to five past.
-    std::string Activity()
+    /// Selects an activity and gives it a project by the dialog.
+    void SetProject(const std::string& id, const std::string& project)
     {
-        return Do({ { "do", "item.create" }, { "folder", LogPath }, { "messageClass", "IPM.Appointment.TDActivity1" },
-                      { "subject", "[No Project] Word, a" }, { "start", "2006-10-10T09:00:00" },
-                      { "end", "2006-10-10T09:05:00" },
-                      { "properties",
-                          { { "Project", "No Project" }, { "Type", "Word" }, { "Description", "a" },
-                              { "Day", "2006-10-10T00:00:00" } } } })
-            .at("entryId");
+        Do({ { "do", "explorer.folder" }, { "explorer", 1 }, { "folder", LogPath } });
+        Do({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { id } } });
+        Do({ { "do", "command" }, { "explorer", 1 }, { "bar", "Menu Bar" },
+            { "path", { "&Tempodial", "Set Project for &Activities..." } } });
+        Do({ { "do", "form.type" }, { "form", "SetProjectForm" }, { "control", "ProjectComboBox" },
+            { "text", project } });
+        Do({ { "do", "form.click" }, { "form", "SetProjectForm" }, { "control", "Command1" } });
     }
     int Open(const std::string& entryId)
     {
@@ -155,12 +155,7 @@ TEST_F(WindowCommandsTest, ExplorerBeside_WithTheWorkLog_DisablesTheListUntilThe
 TEST_F(WindowCommandsTest, ExplorerSelect_Items_AreSelected)
 {
     const auto id = Activity();
-    Do({ { "do", "explorer.folder" }, { "explorer", 1 }, { "folder", LogPath } });
-    Do({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { id } } });
-    Do({ { "do", "command" }, { "explorer", 1 }, { "bar", "Menu Bar" },
-        { "path", { "&Tempodial", "Set Project for &Activities..." } } });
-    Do({ { "do", "form.type" }, { "form", "SetProjectForm" }, { "control", "ProjectComboBox" }, { "text", "Plan" } });
-    Do({ { "do", "form.click" }, { "form", "SetProjectForm" }, { "control", "Command1" } });
+    SetProject(id, "Plan");
     EXPECT_EQ(Do({ { "do", "items" } }).at("items")[0].at("properties").at("Project"), "Plan");
     EXPECT_THAT(
         Refused({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { "x" } } }), HasSubstr("no item"));
@@ -169,12 +164,7 @@ TEST_F(WindowCommandsTest, ExplorerSelect_Items_AreSelected)
 TEST_F(WindowCommandsTest, SetProjectDialog_ProjectsOfAPerson_AreAStep)
 {
     const auto id = Activity();
-    Do({ { "do", "explorer.folder" }, { "explorer", 1 }, { "folder", LogPath } });
-    Do({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { id } } });
-    Do({ { "do", "command" }, { "explorer", 1 }, { "bar", "Menu Bar" },
-        { "path", { "&Tempodial", "Set Project for &Activities..." } } });
-    Do({ { "do", "form.type" }, { "form", "SetProjectForm" }, { "control", "ProjectComboBox" }, { "text", "Plan" } });
-    Do({ { "do", "form.click" }, { "form", "SetProjectForm" }, { "control", "Command1" } });
+    SetProject(id, "Plan");
     const auto& host = mDriver->Host();
     EXPECT_TRUE(host.Mailbox()->ItemById(id)->IsProjectByHand());
     Steps steps(host.Profile());

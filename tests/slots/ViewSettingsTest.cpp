@@ -1,5 +1,7 @@
 #include "slots/ViewSettings.h"
 
+#include "support/SettingsRefusal.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -21,12 +23,7 @@ SettingsFile File(const std::string& kind, Settings settings)
 
 template <class Reader> std::string Refusal(Reader&& reader, const SettingsFile& file)
 {
-    try {
-        reader(file);
-    } catch (const SettingsFileError& error) {
-        return error.what();
-    }
-    return "";
+    return SettingsRefusal([&] { reader(file); });
 }
 
 using Texts = std::vector<std::string>;

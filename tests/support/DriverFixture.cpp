@@ -31,6 +31,17 @@ void DriverFixture::Restart()
     mDriver = std::make_unique<Driver>(mOptions);
 }
 
+std::string DriverFixture::Activity(const std::string& folder)
+{
+    return Do(
+        { { "do", "item.create" }, { "folder", folder }, { "messageClass", "IPM.Appointment.TDActivity1" },
+            { "subject", "[No Project] Word, a" }, { "start", "2006-10-10T09:00:00" }, { "end", "2006-10-10T09:05:00" },
+            { "properties",
+                { { "Project", "No Project" }, { "Type", "Word" }, { "Description", "a" },
+                    { "Day", "2006-10-10T00:00:00" } } } })
+        .at("entryId");
+}
+
 std::string DriverFixture::DataPath(const std::string& name) const
 {
     return mFolder.Path("Tempodial/" + name);

@@ -26,6 +26,8 @@ protected:
     std::string Refused(const Json& command);
     /// Ends the driver and starts another one over the same profile.
     void Restart();
+    /// Makes an activity from 9 o'clock to five past, and answers its entry id.
+    std::string Activity(const std::string& folder = "Calendar/Tempodial");
     std::string DataPath(const std::string& name) const;
     /// Writes a day's tracker file of slots.
     void WriteTracker(const std::string& dayKey, const std::vector<std::string>& slots) const;

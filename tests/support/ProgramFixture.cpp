@@ -19,13 +19,18 @@ ProgramResult ProgramFixture::Run(const Arguments& arguments) const
     return RunTempodial(Whole(arguments));
 }
 
-nlohmann::json ProgramFixture::Json(Arguments arguments) const
+std::string ProgramFixture::Out(const Arguments& arguments) const
 {
-    arguments.insert(arguments.begin(), "--json");
     const auto result = Run(arguments);
     EXPECT_EQ(result.status, 0) << result.error;
     EXPECT_EQ(result.error, "");
-    return nlohmann::json::parse(result.out);
+    return result.out;
+}
+
+nlohmann::json ProgramFixture::Json(Arguments arguments) const
+{
+    arguments.insert(arguments.begin(), "--json");
+    return nlohmann::json::parse(Out(arguments));
 }
 
 std::string ProgramFixture::Refusal(const Arguments& arguments, int status) const

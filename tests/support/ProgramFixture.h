@@ -27,7 +27,9 @@ protected:
     /// The arguments with those of the surroundings in front.
     Arguments Whole(const Arguments& arguments) const;
     ProgramResult Run(const Arguments& arguments) const;
-    /// Runs a command that must succeed without a word on standard error, and reads its JSON.
+    /// What a command prints that must succeed without a word on standard error.
+    std::string Out(const Arguments& arguments) const;
+    /// The same as JSON.
     nlohmann::json Json(Arguments arguments) const;
     /// Runs a command that must fail with that status, one message and nothing else.
     std::string Refusal(const Arguments& arguments, int status) const;

@@ -1,6 +1,7 @@
 #include "track/ProfileRecorder.h"
 
 #include "base/SettingsFile.h"
+#include "support/SettingsRefusal.h"
 #include "support/TempFolder.h"
 #include "track/TrackError.h"
 
@@ -79,12 +80,7 @@ TEST_F(ProfileRecorderTest, Make_RulesCantBeRead_FailsWithFileAndLine)
 {
     mRecorder.reset();
     mFolder.Write("track.toml", "[[rule]]\ntitle = \"a\"\ndo = \"hide\"\n");
-    try {
-        Make();
-        FAIL();
-    } catch (const SettingsFileError& error) {
-        EXPECT_THAT(error.what(), HasSubstr("track.toml, line 3"));
-    }
+    EXPECT_THAT(SettingsRefusal([&] { Make(); }), HasSubstr("track.toml, line 3"));
 }
 
 TEST_F(ProfileRecorderTest, Observe_FilesAreTheUsersAlone)

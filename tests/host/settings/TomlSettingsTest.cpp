@@ -1,5 +1,6 @@
 #include "host/settings/TomlSettings.h"
 
+#include "support/SettingsRefusal.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
@@ -17,12 +18,7 @@ protected:
     SettingsFile Read(const std::string& content) { return ReadSettingsFile(mFolder.Write("a.toml", content)); }
     std::string Refusal(const std::string& content)
     {
-        try {
-            Read(content);
-        } catch (const SettingsFileError& error) {
-            return error.what();
-        }
-        return "";
+        return SettingsRefusal([&] { Read(content); });
     }
 
     TempFolder mFolder { TempFolder::InMemory() };

@@ -1,5 +1,6 @@
 #include "host/store/ImportStep.h"
 
+#include "host/store/StepFixture.h"
 #include "host/store/StepJournal.h"
 #include "host/store/StoreImportJournal.h"
 #include "support/FailureNumber.h"
@@ -21,7 +22,7 @@ using testing::IsEmpty;
 
 const Date Moment = Date::FromParts({ 2006, 10, 10, 17, 0, 0 });
 
-class ImportStepTest : public testing::Test
+class ImportStepTest : public StepFixture
 {
 protected:
     std::unique_ptr<ImportStep> BeginStep(const Ref<Mailbox>& mailbox)
@@ -50,21 +51,8 @@ protected:
         journal.End();
         return items;
     }
-    Ref<StoreItem> Saved(const std::string& subject)
-    {
-        auto item = NewTestItem(mMailbox, subject);
-        item->Save();
-        return item;
-    }
-    void Change(const Ref<StoreItem>& item, const std::string& subject)
-    {
-        item->SetSubject(subject);
-        item->Save();
-    }
 
-    Ref<Mailbox> mMailbox = OpenTestMailbox();
     StoreImportJournal mImport { mMailbox };
-    std::string mRules = "rules";
     bool mBelongs = true;
 };
 

@@ -1,6 +1,7 @@
 #include "host/store/StepJournal.h"
 
 #include "host/store/Query.h"
+#include "host/store/StepFixture.h"
 #include "host/store/StoreImportJournal.h"
 #include "support/FailureNumber.h"
 #include "support/TestDatabase.h"
@@ -17,7 +18,7 @@ using testing::IsEmpty;
 
 constexpr std::int64_t All = 1000;
 
-class StepJournalTest : public testing::Test
+class StepJournalTest : public StepFixture
 {
 protected:
     void Begin(const std::string& command)
@@ -38,17 +39,6 @@ protected:
         mJournal.End();
         return items;
     }
-    Ref<StoreItem> Saved(const std::string& subject)
-    {
-        auto item = NewTestItem(mMailbox, subject);
-        item->Save();
-        return item;
-    }
-    void Change(const Ref<StoreItem>& item, const std::string& subject)
-    {
-        item->SetSubject(subject);
-        item->Save();
-    }
     std::vector<std::string> Commands()
     {
         std::vector<std::string> commands;
@@ -68,10 +58,8 @@ protected:
         return subjects;
     }
 
-    Ref<Mailbox> mMailbox = OpenTestMailbox();
     StepJournal mJournal { mMailbox };
     Date mNow = Date::FromParts({ 2006, 10, 10, 17, 0, 0 });
-    std::string mRules = "rules";
 };
 
 }

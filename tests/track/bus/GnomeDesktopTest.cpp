@@ -1,5 +1,6 @@
 #include "track/bus/GnomeDesktop.h"
 
+#include "support/DesktopSourceFixture.h"
 #include "support/DesktopTests.h"
 #include "support/WaitingFor.h"
 #include "track/bus/DesktopSession.h"
@@ -15,26 +16,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr std::chrono::milliseconds GnomeNotice { 300 };
-
-class GnomeDesktopTest : public testing::Test
-{
-protected:
-    static std::unique_ptr<DesktopSource> Opened()
-    {
-        DesktopSight sight;
-        auto desktop = GnomeDesktop::Open({ GnomeNotice }, sight);
-        EXPECT_TRUE(desktop) << sight.why;
-        return desktop;
-    }
-    static std::string Refusal()
-    {
-        DesktopSight sight;
-        EXPECT_FALSE(GnomeDesktop::Open({}, sight));
-        EXPECT_FALSE(sight.window || sight.title || sight.idle || sight.lock);
-        return sight.why;
-    }
-};
+using GnomeDesktopTest = DesktopSourceFixture<GnomeDesktop>;
 
 }
 
@@ -68,12 +50,12 @@ TEST_F(GnomeDesktopTest, Idle_NobodyWasThere_IsToldByTheNextKey)
     TEMPODIAL_DESKTOP_TEST();
     const DesktopSession session(DesktopSession::Kind::GnomeWithExtension);
     const auto desktop = Opened();
-    DesktopSession::Wait(2 * static_cast<int>(GnomeNotice.count()));
+    DesktopSession::Wait(2 * static_cast<int>(Notice.count()));
     ASSERT_TRUE(desktop->Dispatch());
     const auto idle = desktop->Idle().value();
-    EXPECT_GE(idle, GnomeNotice);
+    EXPECT_GE(idle, Notice);
     const auto keys = session.Run({ "python3", TEMPODIAL_SOURCE_DIR "/tests/track/bus/press_keys.py" });
-    EXPECT_TRUE(Comes(*desktop, [&] { return desktop->Idle().value() < GnomeNotice; }));
+    EXPECT_TRUE(Comes(*desktop, [&] { return desktop->Idle().value() < Notice; }));
 }
 
 TEST_F(GnomeDesktopTest, Open_WithoutTheExtension_SaysHowToHaveIt)

@@ -1,5 +1,6 @@
 #include "track/bus/KWinDesktop.h"
 
+#include "support/DesktopSourceFixture.h"
 #include "support/DesktopTests.h"
 #include "support/WaitingFor.h"
 #include "track/bus/DesktopSession.h"
@@ -15,26 +16,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr std::chrono::milliseconds KWinNotice { 300 };
-
-class KWinDesktopTest : public testing::Test
-{
-protected:
-    static std::unique_ptr<DesktopSource> Opened()
-    {
-        DesktopSight sight;
-        auto desktop = KWinDesktop::Open({ KWinNotice }, sight);
-        EXPECT_TRUE(desktop) << sight.why;
-        return desktop;
-    }
-    static std::string Refusal()
-    {
-        DesktopSight sight;
-        EXPECT_FALSE(KWinDesktop::Open({}, sight));
-        EXPECT_FALSE(sight.window || sight.title || sight.idle || sight.lock);
-        return sight.why;
-    }
-};
+using KWinDesktopTest = DesktopSourceFixture<KWinDesktop>;
 
 }
 

@@ -1,5 +1,6 @@
 #include "track/wayland/WlrDesktop.h"
 
+#include "support/DesktopSourceFixture.h"
 #include "support/DesktopTests.h"
 #include "support/WaitingFor.h"
 #include "track/wayland/Compositor.h"
@@ -17,26 +18,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr std::chrono::milliseconds Notice { 300 };
-
-class WlrDesktopTest : public testing::Test
-{
-protected:
-    static std::unique_ptr<DesktopSource> Opened()
-    {
-        DesktopSight sight;
-        auto desktop = WlrDesktop::Open({ Notice }, sight);
-        EXPECT_TRUE(desktop) << sight.why;
-        return desktop;
-    }
-    static std::string Refusal()
-    {
-        DesktopSight sight;
-        EXPECT_FALSE(WlrDesktop::Open({}, sight));
-        EXPECT_FALSE(sight.window || sight.title || sight.idle || sight.lock);
-        return sight.why;
-    }
-};
+using WlrDesktopTest = DesktopSourceFixture<WlrDesktop>;
 
 }
 
