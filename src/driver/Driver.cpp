@@ -56,8 +56,8 @@ Json RefusalOfCurrentException()
 
 }
 
-Driver::Driver(const ProfileOptions& options, const std::string& addInFolder)
-    : mHost(options, addInFolder)
+Driver::Driver(const ProfileOptions& options, std::optional<RemotePrograms> programs)
+    : mHost(options, std::move(programs))
 {
     mHostCommands.AddTo(mCommands);
     mMailboxCommands.AddTo(mCommands);

@@ -8,6 +8,7 @@
 #include "driver/WindowCommands.h"
 #include "session/ProfileOptions.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,9 +18,9 @@ namespace tempodial {
 class Driver
 {
 public:
-    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The folder is that of the add-in for Windows,
-    /// empty for the one in this program.
-    explicit Driver(const ProfileOptions& options, const std::string& addInFolder = {});
+    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The programs are those of the add-in for
+    /// Windows; without them it is the one in this program.
+    explicit Driver(const ProfileOptions& options, std::optional<RemotePrograms> programs = std::nullopt);
     ~Driver();
     Driver(const Driver&) = delete;
     Driver& operator=(const Driver&) = delete;

@@ -1,18 +1,36 @@
 #include "driver/DriverHost.h"
 
+#include "base/Text.h"
 #include "driver/RequestError.h"
 #include "faults/Wrapped.h"
 #include "host/files/ProgramFolder.h"
 #include "host/system/HostShell.h"
 #include "host/system/IcuLocaleFormats.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace tempodial {
 
-DriverHost::DriverHost(const ProfileOptions& options, std::string addInFolder)
+namespace {
+
+/// True for a call that the add-in doesn't make to the object model.
+bool IsOfSurroundings(const std::string& call)
+{
+    constexpr std::array<std::string_view, 9> Classes { "FileSystem", "FileSystemObject", "PictureLoader", "Registry",
+        "Shell", "TextStream", "XmlDocument", "XmlFactory", "XmlNode" };
+    const auto name = call.substr(0, call.find('.'));
+    return std::any_of(
+        Classes.begin(), Classes.end(), [&](const auto className) { return EqualIgnoringCase(name, className); });
+}
+
+}
+
+DriverHost::DriverHost(const ProfileOptions& options, std::optional<RemotePrograms> programs)
     : mSession(options)
-    , mAddInFolder(std::move(addInFolder))
+    , mPrograms(std::move(programs))
     , mLocale(options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment())
 {
 }
@@ -24,7 +42,7 @@ void DriverHost::Start(HostSettings settings)
     }
     settings.seen = [faults = mFaults](const Ref<Application>& application) { return Wrapped(application, faults); };
     const auto surroundings = Surroundings(settings.imports);
-    if (!mAddInFolder.empty()) {
+    if (mPrograms) {
         if (settings.imports == Imports::ByLines) {
             throw RequestError("the add-in for Windows can't remember what it has imported: leave out \"remember\"");
         }
@@ -43,7 +61,7 @@ void DriverHost::Stop()
 Ref<LoadedAddIn> DriverHost::LoadRemote(const Platform& surroundings)
 {
     const auto& folder = surroundings.fileSystem->GetSpecialFolder(SpecialFolder::Temporary);
-    const auto remote = MakeRef<RemoteAddIn>(RemoteSettings { .programs = mAddInFolder,
+    const auto remote = MakeRef<RemoteAddIn>(RemoteSettings { .programs = *mPrograms,
                                                  .profile = folder,
                                                  .installFolder = InProgramFolder("share/tempodial"),
                                                  .locale = mLocale },
@@ -58,10 +76,14 @@ Ref<LoadedAddIn> DriverHost::LoadRemote(const Platform& surroundings)
 void DriverHost::Add(const FaultPlan::Fault& fault)
 {
     // The calls of the object model are made here, all others there.
+    const bool isInstalled = mPrograms && !mPrograms->installed.empty();
+    if (isInstalled && IsOfSurroundings(fault.call)) {
+        throw RequestError("the call \"" + fault.call + "\" can't fail in the add-in as it is installed");
+    }
     mFaults->Add(fault);
-    if (mRemote) {
+    if (mRemote && !isInstalled) {
         mRemote->Add(fault);
-    } else if (!mAddInFolder.empty()) {
+    } else if (mPrograms && mPrograms->installed.empty()) {
         mPlanned.push_back(fault);
     }
 }

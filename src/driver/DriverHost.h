@@ -4,6 +4,7 @@
 #include "driver/DriverEventPump.h"
 #include "driver/DriverMessageBox.h"
 #include "driver/remote/RemoteAddIn.h"
+#include "driver/remote/RemotePrograms.h"
 #include "faults/FaultPlan.h"
 #include "forms/ModelHands.h"
 #include "host/store/Mailbox.h"
@@ -15,6 +16,7 @@
 #include "session/ProfileOptions.h"
 #include "session/Session.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,9 +26,9 @@ namespace tempodial {
 class DriverHost
 {
 public:
-    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The folder is that of the add-in for Windows,
-    /// which takes the place of the one in this program; empty for that one.
-    explicit DriverHost(const ProfileOptions& options, std::string addInFolder = {});
+    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The programs are those of the add-in for
+    /// Windows, which takes the place of the one in this program.
+    explicit DriverHost(const ProfileOptions& options, std::optional<RemotePrograms> programs = std::nullopt);
 
     /// Starts a host in which the add-in sees what may fail; fails with `RequestError` when one is connected already.
     void Start(HostSettings settings);
@@ -47,7 +49,7 @@ public:
     FormHands& Forms() { return mRemote ? static_cast<FormHands&>(*mRemote) : mHands; }
     /// The calls that are made in this program, and which of them are to fail.
     FaultPlan& Faults() { return *mFaults; }
-    /// Lets calls of the add-in fail, wherever it runs.
+    /// Lets calls of the add-in fail, wherever it runs; fails with `RequestError` when it runs where they can't.
     void Add(const FaultPlan::Fault& fault);
     /// A value of the add-in's registry, nothing when there is none.
     Variant RegistryValue(Hive hive, const std::string& key, const std::string& value) const;
@@ -69,7 +71,7 @@ private:
     Ref<DriverEventPump> mEventPump = MakeRef<DriverEventPump>(Profile().Surroundings().eventPump);
     Ref<FaultPlan> mFaults = MakeRef<FaultPlan>();
     ModelHands mHands { *mSession.Forms() };
-    std::string mAddInFolder;
+    std::optional<RemotePrograms> mPrograms;
     std::string mLocale;
     /// The add-in for Windows while it is connected.
     Ref<RemoteAddIn> mRemote;

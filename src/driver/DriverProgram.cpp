@@ -30,14 +30,28 @@ constexpr auto Footer = "An example:\n"
                         "Exit status: 0 done; 1 not done; 2 unusable arguments; 3 the profile is in use by\n"
                         "another process.";
 
-/// The folder of the add-in that is named.
-std::string AddInFolder(const std::string& addIn)
+/// What is set in the environment, else another.
+std::string SetOr(const char* variable, const std::string& other)
 {
-    if (addIn != "wine") {
-        throw UsageError("there is no add-in \"" + addIn + "\": give wine");
+    const auto* set = std::getenv(variable);
+    return set != nullptr && *set != '\0' ? set : other;
+}
+
+/// The programs of the add-in that is named, nothing for the one in this program.
+std::optional<RemotePrograms> ProgramsOf(const std::optional<std::string>& addIn)
+{
+    if (!addIn) {
+        return std::nullopt;
     }
-    const auto* folder = std::getenv("TEMPODIAL_ADDIN_DIR");
-    return folder != nullptr && *folder != '\0' ? folder : InProgramFolder("lib/tempodial/windows");
+    const bool isInstalled = *addIn == "wine-shipped";
+    if (!isInstalled && *addIn != "wine") {
+        throw UsageError("there is no add-in \"" + *addIn + "\": give wine or wine-shipped");
+    }
+    RemotePrograms programs { .folder = SetOr("TEMPODIAL_ADDIN_DIR", InProgramFolder("lib/tempodial/windows")) };
+    if (isInstalled) {
+        programs.installed = SetOr("TEMPODIAL_ADDIN_MODULE", programs.folder + "/Tempodial.dll");
+    }
+    return programs;
 }
 
 }
@@ -54,14 +68,16 @@ ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
     std::optional<std::string> addIn;
     auto list = parser.Arguments();
     profile.Declare(list);
-    list.Optional(
-        "--addin WHERE", addIn, "\"wine\" for the add-in for Windows, run by Wine; else the one in this program");
+    list.Optional("--addin WHERE", addIn,
+        "\"wine\" for the add-in for Windows, run by Wine, \"wine-shipped\" for\nits module as it is installed; else "
+        "the "
+        "one in this program");
     if (!parser.Parse(arguments, mOut)) {
         return ExitStatus::Done;
     }
     auto options = profile.Options();
     options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
-    Driver driver(options, addIn ? AddInFolder(*addIn) : std::string());
+    Driver driver(options, ProgramsOf(addIn));
     LineReader lines(mInput, LongestLine);
     for (auto line = lines.Next(); line && mOut; line = lines.Next()) {
         mOut << (line->isTooLong ? driver.Refuse("the line is too long") : driver.Answer(line->text)) << '\n';

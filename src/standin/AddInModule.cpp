@@ -1,6 +1,7 @@
 #include "standin/AddInModule.h"
 
 #include "addin/base/SystemText.h"
+#include "standin/ImportHooks.h"
 #include "wire/WireFailure.h"
 
 #include <bit>
@@ -50,7 +51,12 @@ AddInModule::AddInModule(const std::string& path, Conversation& host)
         throw WireFailure(WireFailure::Refused,
             "the add-in's module " + path + " can't be loaded, error " + std::to_string(GetLastError()));
     }
-    Find<RigAttach>(RigAttachName)(&mLink);
+    // The module that is installed knows nothing of tests.
+    if (GetProcAddress(mModule, RigAttachName) != nullptr) {
+        Find<RigAttach>(RigAttachName)(&mLink);
+    } else {
+        ImportHooks::Set(mModule, host);
+    }
     ComRef<IClassFactory> factory;
     RequireDone(Find<GetClassObject>("DllGetClassObject")(AddInClass, IID_IClassFactory, factory.PutAny()),
         "asking for the add-in's class");

@@ -101,7 +101,7 @@ TEST_F(DriverProgramTest, Run_BadArguments_AreStatusTwo)
     EXPECT_THAT(Refusal({ "--profile" }, 2), HasSubstr("exactly one value"));
     EXPECT_THAT(Refusal({ "start" }, 2), HasSubstr("\"start\" isn't expected here: see \"tempodial-drive --help\""));
     EXPECT_THAT(Refusal({ "--json" }, 2), HasSubstr("\"--json\" isn't expected here"));
-    EXPECT_THAT(Refusal({ "--addin", "outlook" }, 2), HasSubstr("no add-in \"outlook\": give wine"));
+    EXPECT_THAT(Refusal({ "--addin", "outlook" }, 2), HasSubstr("no add-in \"outlook\": give wine or wine-shipped"));
 }
 
 TEST_F(DriverProgramTest, Run_HelpAndVersion_ArePrinted)

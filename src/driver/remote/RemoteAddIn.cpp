@@ -97,7 +97,7 @@ RemoteAddIn::RemoteAddIn(RemoteSettings settings, Platform surroundings, Ref<Tom
     : mSettings(std::move(settings))
     , mSurroundings(std::move(surroundings))
     , mRegistry(std::move(registry))
-    , mProcess({ "wine", mSettings.programs + "/" + StandInName }, Patience)
+    , mProcess({ "wine", mSettings.programs.folder + "/" + StandInName }, Patience)
     , mConversation(mProcess, [this](FrameType type, FrameReader& body) { return Serve(type, body); })
     , mObjects([this](std::int64_t object, std::int32_t event, const std::vector<WireValue>& arguments) {
         return Raise(object, event, arguments);
@@ -108,9 +108,13 @@ RemoteAddIn::RemoteAddIn(RemoteSettings settings, Platform surroundings, Ref<Tom
             Do("environment", { WireValue::Text(name), WireValue::Text(ToWindowsPath(mSettings.profile)) });
         }
         FillRegistry();
-        Do("load", { WireValue::Text(ToWindowsPath(mSettings.programs + "/" + ModuleName)) });
-        Do("locale", { WireValue::Text(LocaleForWindows(mSettings.locale)) });
-        Do("install", { WireValue::Text(ToWindowsPath(mSettings.installFolder)) });
+        const auto& installed = mSettings.programs.installed;
+        const auto& module = installed.empty() ? mSettings.programs.folder + "/" + ModuleName : installed;
+        Do("load", { WireValue::Text(ToWindowsPath(module)) });
+        if (installed.empty()) {
+            Do("locale", { WireValue::Text(LocaleForWindows(mSettings.locale)) });
+            Do("install", { WireValue::Text(ToWindowsPath(mSettings.installFolder)) });
+        }
     } catch (const WireFailure& failure) {
         throw Failure(Error::CannotCreateObject, failure.what());
     }

@@ -3,6 +3,7 @@
 #include "base/Ref.h"
 #include "driver/remote/ChildProcess.h"
 #include "driver/remote/FaceObjects.h"
+#include "driver/remote/RemotePrograms.h"
 #include "faults/FaultPlan.h"
 #include "forms/FormHands.h"
 #include "host/system/TomlRegistry.h"
@@ -19,8 +20,7 @@ namespace tempodial {
 /// How the add-in for Windows is started.
 struct RemoteSettings
 {
-    /// The folder with the program that stands in for Outlook and the add-in's module.
-    std::string programs;
+    RemotePrograms programs;
     /// The folder that stands in for the temporary folder.
     std::string profile;
     /// The folder of templates.

@@ -34,7 +34,8 @@ protected:
         std::ofstream(wine) << "#!/bin/sh\n" << script << "\n";
         std::filesystem::permissions(wine, std::filesystem::perms::owner_all);
         ::setenv("PATH", (mFolder.Path() + ":" + mPath).c_str(), 1);
-        mDriver.emplace(ProfileOptions { .profile = mFolder.Path("profile"), .locale = "en_US" }, "/no/add-in");
+        mDriver.emplace(ProfileOptions { .profile = mFolder.Path("profile"), .locale = "en_US" },
+            RemotePrograms { .folder = "/no/add-in" });
         return mDriver->Do({ { "do", "start" } });
     }
 
@@ -68,10 +69,21 @@ TEST_F(RemoteAddInTest, Start_ProgramRefuses_TellsWhy)
 
 TEST_F(RemoteAddInTest, Start_ThatRemembers_IsRefused)
 {
-    mDriver.emplace(ProfileOptions { .profile = mFolder.Path("profile"), .locale = "en_US" }, "/no/add-in");
+    mDriver.emplace(ProfileOptions { .profile = mFolder.Path("profile"), .locale = "en_US" },
+        RemotePrograms { .folder = "/no/add-in" });
     const auto answer = mDriver->Do({ { "do", "start" }, { "remember", true } });
     EXPECT_EQ(answer.at("ok"), false);
     EXPECT_THAT(answer.at("error").get<std::string>(), HasSubstr("remember"));
+}
+
+TEST_F(RemoteAddInTest, Fail_OfWhatOnlyTheOtherModuleLetsFail_IsRefused)
+{
+    mDriver.emplace(ProfileOptions { .profile = mFolder.Path("profile"), .locale = "en_US" },
+        RemotePrograms { .folder = "/no/add-in", .installed = "/no/add-in/Tempodial.dll" });
+    const auto fail = [this](const char* call) { return mDriver->Do({ { "do", "fail" }, { "call", call } }); };
+    EXPECT_EQ(fail("AppointmentItem.Save").at("ok"), true);
+    EXPECT_EQ(fail("textstream.ReadLine:x").at("ok"), false);
+    EXPECT_THAT(fail("FileSystem.OpenTextFile").at("error").get<std::string>(), HasSubstr("as it is installed"));
 }
 
 }
