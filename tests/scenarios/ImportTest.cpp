@@ -30,14 +30,23 @@ std::string OutputOf(const std::string& command)
 class ImportTest : public ProgramFixture
 {
 protected:
-    /// An invented export of days that end yesterday; its seconds of presence by day come to `present`.
-    std::string Export(int days, json& present) const
+    /// An invented export of days that end yesterday, or so many days earlier; the seconds of presence of each day go
+    /// to the file `present`.
+    std::string Export(int days, int earlier = 0) const
     {
-        const auto told = mFolder.Path("present");
         const auto text = OutputOf("/usr/bin/python3 " TEMPODIAL_SOURCE_DIR "/tests/sources/data/make-export "
-            + std::to_string(days) + " 2>" + told);
-        present = json::parse(mFolder.Read("present"));
+            + std::to_string(days) + " " + std::to_string(earlier) + " 2>" + mFolder.Path("present"));
         return mFolder.Write("export" + std::to_string(days) + ".json", text);
+    }
+    /// A table of an entry a day, from 1 August 2006 on.
+    std::string Table(int days) const
+    {
+        std::string text = "start,end,program,title,project\n";
+        for (int day = 1; day <= days; ++day) {
+            const auto date = "2006-08-" + std::string(day < 10 ? "0" : "") + std::to_string(day);
+            text += date + "T09:00," + date + "T09:17,atlas,map,Riverside\n";
+        }
+        return mFolder.Write("table" + std::to_string(days) + ".csv", text);
     }
     /// Imports an export like that, in which one bucket is of no use.
     json Import(Arguments options) const
@@ -65,8 +74,8 @@ protected:
 
 TEST_F(ImportTest, Import_ExportWithEveryFault_KeepsThePresenceOfEachDay)
 {
-    json present;
-    const auto file = Export(60, present);
+    const auto file = Export(60);
+    const auto present = json::parse(mFolder.Read("present"));
     const auto answer = Import({ file });
     EXPECT_EQ(answer.at("skipped").at("bucket"), 1);
     EXPECT_GT(answer.at("skipped").at("duplicate"), 0);
@@ -95,8 +104,7 @@ TEST_F(ImportTest, Import_ExportWithEveryFault_KeepsThePresenceOfEachDay)
 
 TEST_F(ImportTest, Import_InPieces_EndsAsAllAtOnce)
 {
-    json present;
-    const auto file = Export(35, present);
+    const auto file = Export(35);
     Import({ file });
     const auto atOnce = Activities();
     std::filesystem::remove_all(mProfile);
@@ -107,15 +115,35 @@ TEST_F(ImportTest, Import_InPieces_EndsAsAllAtOnce)
     EXPECT_EQ(Activities(), atOnce);
 }
 
+TEST_F(ImportTest, Import_LongerExportAndTheFirstAgain_EndsAsTheLongerOneAlone)
+{
+    const auto longer = Export(35);
+    const auto first = Export(25, 10);
+    Import({ longer });
+    const auto alone = Activities();
+    std::filesystem::remove_all(mProfile);
+    for (const auto& file : { first, first, longer, first }) {
+        Import({ file });
+    }
+    EXPECT_EQ(Activities(), alone);
+
+    Arguments deleting { "delete" };
+    const auto items = Log();
+    for (std::size_t i = 0; i < items.size(); i += 2) {
+        deleting.push_back("@" + std::to_string(items[i].at("id").get<int>()));
+    }
+    Json(deleting);
+    const auto kept = Activities();
+    EXPECT_EQ(kept.size(), alone.size() / 2);
+    EXPECT_EQ(Import({ longer }).at("created"), 0);
+    EXPECT_EQ(Import({ first }).at("created"), 0);
+    EXPECT_EQ(Activities(), kept);
+}
+
 TEST_F(ImportTest, Import_KilledAnywhere_EndsAsAnUndisturbedOne)
 {
-    std::string text = "start,end,program,title,project\n";
-    for (int day = 1; day <= 28; ++day) {
-        const auto date = "2006-08-" + std::string(day < 10 ? "0" : "") + std::to_string(day);
-        text += date + "T09:00," + date + "T09:17,atlas,map,Riverside\n";
-    }
-    const auto file = mFolder.Write("table.csv", text);
-    const Arguments import { "import", "csv", file, "--quiet" };
+    const Arguments first { "import", "csv", Table(20), "--quiet" };
+    const Arguments import { "import", "csv", Table(28), "--quiet" };
     const auto counted = RunTempodialKilledAt(Whole(import), 0);
     if (!counted) {
         GTEST_SKIP() << "this system forbids observation";
@@ -127,10 +155,12 @@ TEST_F(ImportTest, Import_KilledAnywhere_EndsAsAnUndisturbedOne)
         const auto call = counted->systemCalls * point / (points + 1);
         SCOPED_TRACE("killed at system call " + std::to_string(call));
         std::filesystem::remove_all(mProfile);
+        RunTempodialKilledAt(Whole(first), call);
         RunTempodialKilledAt(Whole(import), call);
         EXPECT_EQ(Run(import).status, 0);
         EXPECT_EQ(Activities(), undisturbed);
         EXPECT_EQ(Json(import).at("created"), 0);
+        EXPECT_EQ(Json(first).at("created"), 0);
     }
 }
 
