@@ -157,18 +157,24 @@ TEST_F(TrackProgramTest, Track_TitlesThatAreMadeToDoHarm_GoThroughAllOutputs)
     mDesktop.Tell("idle 0");
     mDesktop.Tell("window alpha 0 \xc3\x84rger & <b>]]> \xe2\x80\xae"
                   "evil \xf0\x9f\x98\x80 "
-        + std::string(3000, 'x'));
+        + std::string(10000, 'x'));
     Record();
     Until(11);
     EXPECT_EQ(mDesktop.Stop(SIGTERM), 0);
     const auto day = Day();
     EXPECT_TRUE(std::all_of(day.begin(), day.end(), [](char byte) { return static_cast<unsigned char>(byte) < 0x7f; }));
+    EXPECT_THAT(day, Not(HasSubstr(std::string(200, 'x')))) << "texts are cut";
     EXPECT_THAT(day, HasSubstr("&#196;rger &amp; &lt;b&gt;]]&gt; evil &#128512;"));
     const std::string now = "2026-11-23T18:00:00";
     EXPECT_EQ(mDesktop.Run({ "--now", now, "sync" }).status, 0);
     EXPECT_THAT(Json({ "--now", now, "list" }).dump(), HasSubstr("rger & <b>]]> evil"));
-    EXPECT_EQ(mDesktop.Run({ "--now", now, "report", "--text" }).status, 0);
-    EXPECT_EQ(mDesktop.Run({ "--now", now, "export", "--format", "csv" }).status, 0);
+    const auto page = mDesktop.Run({ "--now", now, "report" });
+    EXPECT_EQ(page.status, 0);
+    EXPECT_THAT(page.out, HasSubstr("rger &amp; &lt;b&gt;]]&gt; evil"));
+    EXPECT_THAT(page.out, Not(HasSubstr("<b>]]>")));
+    EXPECT_THAT(mDesktop.Run({ "--now", now, "report", "--text" }).out, HasSubstr("rger & <b>]]> evil"));
+    EXPECT_THAT(
+        mDesktop.Run({ "--now", now, "export", "--format", "csv" }).out, HasSubstr("\xc3\x84rger & <b>]]> evil"));
 }
 
 TEST_F(TrackProgramTest, Track_AnotherRuns_IsRefusedWithThree)
