@@ -54,6 +54,7 @@ public:
     }
 
     std::size_t ErrorAt() const { return mErrorAt; }
+    bool HasBegun() const { return mHasBegun; }
 
 private:
     bool Told(const JsonScalar& value)
@@ -66,6 +67,7 @@ private:
 
     bool Opened(bool isArray)
     {
+        mHasBegun = true;
         if (mTooDeep > 0 || mPath.size() >= MostLevels) {
             mSkipped.Add(Skipped::TooDeep, mTooDeep == 0 ? 1 : 0);
             ++mTooDeep;
@@ -93,6 +95,7 @@ private:
     /// Levels below the deepest that is read.
     std::size_t mTooDeep = 0;
     std::size_t mErrorAt = 0;
+    bool mHasBegun = false;
 };
 
 }
@@ -100,9 +103,9 @@ private:
 void ReadJson(std::istream& stream, JsonListener& listener, Skipped& skipped)
 {
     PathKeeper keeper(listener, skipped);
-    if (!nlohmann::json::sax_parse(stream, &keeper)) {
+    if (!nlohmann::json::sax_parse(stream, &keeper) && keeper.HasBegun()) {
         throw BrokenSource(
-            "the file is cut off or no JSON, at byte " + std::to_string(keeper.ErrorAt()) + ": export it again");
+            "the file is cut off or damaged, at byte " + std::to_string(keeper.ErrorAt()) + ": export it again");
     }
 }
 

@@ -59,13 +59,15 @@ std::string_view SourceThatBegins(std::string_view beginning)
     if (beginning.starts_with("BEGIN:VCALENDAR")) {
         return "ics";
     }
-    const auto heading = Fold(beginning.substr(0, beginning.find_first_of("\r\n")));
+    const auto written = beginning.substr(0, beginning.find_first_of("\r\n"));
+    const auto heading = Fold(written);
     const auto has = [&heading](std::string_view words) { return heading.find(words) != std::string::npos; };
     if (has("time spent (seconds)")) {
         return "rescuetime";
     }
     if (has("start date") && has("start time")) {
-        return has("duration (h)") || has("duration (decimal)") ? "clockify" : "toggl";
+        const bool isClockify = has("duration (h)") || written.find("Start Date") != std::string_view::npos;
+        return isClockify ? "clockify" : "toggl";
     }
     if (has("timestamp") && has("duration")) {
         return "activitywatch's csv";

@@ -236,7 +236,10 @@ TEST_F(ImportCommandTest, Import_WrongArguments_AreUsageErrors)
     EXPECT_THAT(RefusalOf("manictime", ""), HasSubstr("csv"));
     EXPECT_THAT(RefusalOf("csv", ""), HasSubstr("empty"));
     EXPECT_THAT(RefusalOf("csv", "{\"buckets\":{}}"), HasSubstr("activitywatch"));
-    EXPECT_THAT(RefusalOf("toggl", "id,timestamp,duration,data,app\n"), HasSubstr("csv --as sightings"));
+    EXPECT_THAT(RefusalOf("activitywatch", "id,timestamp,duration,data,app\n"), HasSubstr("csv --as sightings"));
+    EXPECT_THAT(RefusalOf("arbtt", "BEGIN:VCALENDAR\n"), HasSubstr("tempodial import ics"));
+    EXPECT_THAT(RefusalOf("csv", "Start Date,Start Time,End Date,End Time\n"), HasSubstr("tempodial import clockify"));
+    EXPECT_THAT(RefusalOf("csv", "Start date,Start time,End date,End time\n"), HasSubstr("tempodial import toggl"));
     EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--zone", "Europe/Zurik" }), HasSubstr("Europe/Zurich"));
     EXPECT_THAT(RefusalOf("toggl", Table(2, 2), 2, { "--as", "sightings" }), HasSubstr("--as"));
     EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--dates", "ymd" }), HasSubstr("mdy"));

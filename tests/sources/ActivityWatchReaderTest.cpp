@@ -147,7 +147,9 @@ TEST_F(ActivityWatchReaderTest, Read_WhatIsNoExport_IsRefused)
     EXPECT_THAT(Refusal("activitywatch", "[]"), HasSubstr("no export of ActivityWatch"));
     EXPECT_THAT(Refusal("activitywatch", "{}"), HasSubstr("no export of ActivityWatch"));
     EXPECT_THAT(Breakage("activitywatch", R"({"buckets":{"a":{"type":"currentwi)"), HasSubstr("cut off"));
-    EXPECT_THAT(Breakage("activitywatch", "timestamp,duration\n"), HasSubstr("cut off or no JSON"));
+    EXPECT_THAT(Breakage("activitywatch", R"({"buckets":{]})"), HasSubstr("cut off or damaged, at byte 13"));
+    EXPECT_THAT(Refusal("activitywatch", "timestamp,duration\n"), HasSubstr("no export of ActivityWatch"));
+    EXPECT_THAT(Refusal("arbtt", "BEGIN:VCALENDAR\n"), HasSubstr("no dump of arbtt"));
 }
 
 TEST_F(ActivityWatchReaderTest, Arbtt_Samples_StandForTheTimeBeforeThem)
