@@ -21,8 +21,9 @@ namespace {
 constexpr std::int64_t TickInterval = 15000;
 /// How long after a desktop was lost, or not found, one is looked for again.
 constexpr std::int64_t TrialInterval = 60000;
-/// How long a desktop isn't listened to that has just told something: some titles change ten times a second.
-constexpr std::int64_t DesktopRest = 200;
+/// How long a desktop isn't listened to that has just told something: some titles change ten times a second, and each
+/// look at one costs answers.
+constexpr std::int64_t DesktopRest = 1000;
 constexpr std::int64_t NanosecondsOfMillisecond = 1000000;
 
 /// A descriptor of the system's that is closed at its end.

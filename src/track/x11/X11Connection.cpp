@@ -64,7 +64,37 @@ xcb_atom_t X11Connection::Atom(const std::string& name) const
 
 std::optional<X11Property> X11Connection::Property(xcb_window_t window, xcb_atom_t name) const
 {
-    const auto request = ::xcb_get_property(mConnection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, MostUnits);
+    return Answer(Ask(window, name));
+}
+
+X11Look X11Connection::Look(xcb_window_t window, std::span<const xcb_atom_t> names) const
+{
+    const auto attributes = ::xcb_get_window_attributes(mConnection, window);
+    std::vector<xcb_get_property_cookie_t> requests;
+    requests.reserve(names.size());
+    for (const auto name : names) {
+        requests.push_back(Ask(window, name));
+    }
+    X11Look look;
+    xcb_generic_error_t* failure = nullptr;
+    const X11Answer<xcb_get_window_attributes_reply_t> answer(
+        ::xcb_get_window_attributes_reply(mConnection, attributes, &failure));
+    const X11Answer<xcb_generic_error_t> error(failure);
+    look.isShown = answer && answer->map_state == XCB_MAP_STATE_VIEWABLE;
+    look.properties.reserve(names.size());
+    for (const auto request : requests) {
+        look.properties.push_back(Answer(request));
+    }
+    return look;
+}
+
+xcb_get_property_cookie_t X11Connection::Ask(xcb_window_t window, xcb_atom_t name) const
+{
+    return ::xcb_get_property(mConnection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, MostUnits);
+}
+
+std::optional<X11Property> X11Connection::Answer(xcb_get_property_cookie_t request) const
+{
     xcb_generic_error_t* failure = nullptr;
     const X11Answer<xcb_get_property_reply_t> answer(::xcb_get_property_reply(mConnection, request, &failure));
     const X11Answer<xcb_generic_error_t> error(failure);
@@ -81,16 +111,6 @@ void X11Connection::Watch(xcb_window_t window, std::uint32_t events) const
     // A window that is gone is no fault: the error comes as an event that nobody looks at.
     ::xcb_change_window_attributes(mConnection, window, XCB_CW_EVENT_MASK, &events);
     ::xcb_flush(mConnection);
-}
-
-bool X11Connection::IsShown(xcb_window_t window) const
-{
-    const auto request = ::xcb_get_window_attributes(mConnection, window);
-    xcb_generic_error_t* failure = nullptr;
-    const X11Answer<xcb_get_window_attributes_reply_t> answer(
-        ::xcb_get_window_attributes_reply(mConnection, request, &failure));
-    const X11Answer<xcb_generic_error_t> error(failure);
-    return answer && answer->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
 bool X11Connection::HasExtension(const std::string& name) const

@@ -4,7 +4,9 @@
 #include <cstdlib>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 #include <xcb/screensaver.h>
 #include <xcb/xcb.h>
 
@@ -30,6 +32,14 @@ struct X11Property
     bool Has(std::uint32_t number) const;
 };
 
+/// What is known of a window.
+struct X11Look
+{
+    bool isShown = false;
+    /// What it says under each of the names in question; nothing when it is gone.
+    std::vector<std::optional<X11Property>> properties;
+};
+
 /// A connection with the X server that DISPLAY names.
 class X11Connection
 {
@@ -50,8 +60,8 @@ public:
     std::optional<X11Property> Property(xcb_window_t window, xcb_atom_t name) const;
     /// Asks for the events of a window that are of use, or for none of them any more.
     void Watch(xcb_window_t window, std::uint32_t events) const;
-    /// True for a window that is there and shown.
-    bool IsShown(xcb_window_t window) const;
+    /// Looks at a window and at what it says under some names, which takes one answer's time.
+    X11Look Look(xcb_window_t window, std::span<const xcb_atom_t> names) const;
     bool HasExtension(const std::string& name) const;
     /// Milliseconds since the last input; nothing when the server can't tell.
     std::optional<std::uint32_t> IdleMilliseconds() const;
@@ -59,6 +69,9 @@ public:
     X11Answer<xcb_generic_event_t> NextEvent() const;
 
 private:
+    xcb_get_property_cookie_t Ask(xcb_window_t window, xcb_atom_t name) const;
+    std::optional<X11Property> Answer(xcb_get_property_cookie_t request) const;
+
     xcb_connection_t* mConnection;
     xcb_window_t mRoot = XCB_WINDOW_NONE;
     bool mHasScreenSaver = false;

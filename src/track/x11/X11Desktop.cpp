@@ -30,6 +30,30 @@ std::string AsUtf8(const std::string& text)
     return IsUtf8(text) ? text : FromLatin1(text);
 }
 
+/// The program that a window's class tells.
+std::string ProgramOf(const std::optional<X11Property>& words)
+{
+    if (!words) {
+        return {};
+    }
+    // The instance and the class, each with an end.
+    const auto instance = words->bytes.substr(0, words->bytes.find('\0'));
+    const auto rest = words->bytes.substr(std::min(instance.size() + 1, words->bytes.size()));
+    const auto name = rest.substr(0, rest.find('\0'));
+    return AsUtf8(name.empty() ? instance : name);
+}
+
+/// The number of the process that a window belongs to, if it runs on this machine, else 0.
+std::int64_t ProcessOf(const std::optional<X11Property>& machine, const std::optional<X11Property>& process)
+{
+    std::array<char, HOST_NAME_MAX + 1> host {};
+    ::gethostname(host.data(), host.size() - 1);
+    if (!machine || (machine->type != XCB_ATOM_NONE && machine->bytes != host.data())) {
+        return 0;
+    }
+    return process ? process->Number().value_or(0) : 0;
+}
+
 }
 
 std::unique_ptr<DesktopSource> X11Desktop::Open(const WatchSettings& settings, DesktopSight& sight)
@@ -189,13 +213,19 @@ void X11Desktop::FindActive()
 
 void X11Desktop::ReadWindow()
 {
+    enum Name { Words, NewTitle, OldTitle, Machine, Process };
+    const std::array<xcb_atom_t, Name::Process + 1> names { XCB_ATOM_WM_CLASS, mNameAtom, XCB_ATOM_WM_NAME,
+        XCB_ATOM_WM_CLIENT_MACHINE, mProcessAtom };
+    const auto look = mConnection.Look(mWindow, names);
     // Managers may leave the last window active that is closed or hidden.
-    if (!mConnection.IsShown(mWindow)) {
+    if (!look.isShown) {
         mLostAt = mLostAt ? mLostAt : std::optional(Clock::now());
         return;
     }
     mLostAt.reset();
-    mFront = FrontWindow { ProgramOf(mWindow), TitleOf(mWindow), ProcessOf(mWindow) };
+    const auto& told = look.properties;
+    mFront = FrontWindow { ProgramOf(told[Name::Words]), TitleOf(told[Name::NewTitle], told[Name::OldTitle]),
+        ProcessOf(told[Name::Machine], told[Name::Process]) };
 }
 
 bool X11Desktop::HasManager() const
@@ -222,15 +252,13 @@ xcb_window_t X11Desktop::Focused() const
     return XCB_WINDOW_NONE;
 }
 
-std::string X11Desktop::TitleOf(xcb_window_t window) const
+std::string X11Desktop::TitleOf(const std::optional<X11Property>& name, const std::optional<X11Property>& old) const
 {
     constexpr int Bytes = 8;
     // Its type is often another than it should be.
-    const auto name = mConnection.Property(window, mNameAtom);
     if (name && name->format == Bytes && !name->bytes.empty() && IsUtf8(name->bytes)) {
         return name->bytes;
     }
-    const auto old = mConnection.Property(window, XCB_ATOM_WM_NAME);
     if (!old || old->format != Bytes) {
         return {};
     }
@@ -238,31 +266,6 @@ std::string X11Desktop::TitleOf(xcb_window_t window) const
         return FromCompoundText(old->bytes);
     }
     return old->type == mUtf8Atom ? AsUtf8(old->bytes) : FromLatin1(old->bytes);
-}
-
-std::string X11Desktop::ProgramOf(xcb_window_t window) const
-{
-    const auto words = mConnection.Property(window, XCB_ATOM_WM_CLASS);
-    if (!words) {
-        return {};
-    }
-    // The instance and the class, each with an end.
-    const auto instance = words->bytes.substr(0, words->bytes.find('\0'));
-    const auto rest = words->bytes.substr(std::min(instance.size() + 1, words->bytes.size()));
-    const auto name = rest.substr(0, rest.find('\0'));
-    return AsUtf8(name.empty() ? instance : name);
-}
-
-std::int64_t X11Desktop::ProcessOf(xcb_window_t window) const
-{
-    std::array<char, HOST_NAME_MAX + 1> host {};
-    ::gethostname(host.data(), host.size() - 1);
-    const auto machine = mConnection.Property(window, XCB_ATOM_WM_CLIENT_MACHINE);
-    if (!machine || (machine->type != XCB_ATOM_NONE && machine->bytes != host.data())) {
-        return 0;
-    }
-    const auto process = mConnection.Property(window, mProcessAtom);
-    return process ? process->Number().value_or(0) : 0;
 }
 
 }

@@ -37,9 +37,8 @@ private:
     bool HasManager() const;
     /// The window that has the focus, or the one that holds it: that of a program.
     xcb_window_t Focused() const;
-    std::string TitleOf(xcb_window_t window) const;
-    std::string ProgramOf(xcb_window_t window) const;
-    std::int64_t ProcessOf(xcb_window_t window) const;
+    /// The title that a window says under its newer name, or else under the old one.
+    std::string TitleOf(const std::optional<X11Property>& name, const std::optional<X11Property>& old) const;
 
     X11Connection mConnection;
     std::chrono::milliseconds mPatience;
