@@ -12,8 +12,7 @@ import threading
 import time
 import unittest
 
-BUILD = pathlib.Path(os.environ["TEMPODIAL_BUILD_DIR"])
-PROGRAM = BUILD / "bin/tempodial"
+PROGRAM = pathlib.Path(os.environ["TEMPODIAL_EXECUTABLE"])
 NEEDED = ("Xvfb", "openbox", "xterm", "xdotool", "strace")
 # So much faster than the wall's clock are those of the recorder.
 SPEED = 150
