@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "driver/RequestError.h"
+#include "host/system/IcuLocaleFormats.h"
 
 #include <nlohmann/json.hpp>
 
@@ -57,7 +58,20 @@ Json RefusalOfCurrentException()
 }
 
 Driver::Driver(const ProfileOptions& options, std::optional<RemotePrograms> programs)
-    : mHost(options, std::move(programs))
+    : Driver(std::make_unique<Session>(options),
+        DriverSurroundings { .programs = std::move(programs),
+            .locale = options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment() })
+{
+}
+
+Driver::Driver(std::unique_ptr<Session> session, DriverSurroundings surroundings)
+    : Driver(*session, std::move(surroundings))
+{
+    mSession = std::move(session);
+}
+
+Driver::Driver(Session& session, DriverSurroundings surroundings)
+    : mHost(session, std::move(surroundings))
 {
     mHostCommands.AddTo(mCommands);
     mMailboxCommands.AddTo(mCommands);
@@ -116,6 +130,10 @@ Json Driver::Execute(const Json& command)
         answer = RefusalOfCurrentException();
     }
     mHost.Session().Idle();
+    if (const auto differences = mHost.Differences(); !differences.empty()) {
+        answer["ok"] = false;
+        answer["differences"] = differences;
+    }
     return answer;
 }
 

@@ -8,6 +8,7 @@
 #include "driver/WindowCommands.h"
 #include "session/ProfileOptions.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,8 @@ public:
     /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The programs are those of the add-in for
     /// Windows; without them it is the one in this program.
     explicit Driver(const ProfileOptions& options, std::optional<RemotePrograms> programs = std::nullopt);
+    /// Works in a session, which must outlive it, with other surroundings.
+    Driver(Session& session, DriverSurroundings surroundings);
     ~Driver();
     Driver(const Driver&) = delete;
     Driver& operator=(const Driver&) = delete;
@@ -38,6 +41,8 @@ public:
     DriverHost& Host() { return mHost; }
 
 private:
+    Driver(std::unique_ptr<Session> session, DriverSurroundings surroundings);
+
     /// The answer to the command of a source, with all that was shown and done meanwhile.
     template <class Source> Json Concluded(Source&& source);
     /// Does a command: its own answer, whatever goes wrong.
@@ -46,6 +51,8 @@ private:
     Json PutOff(const Request& request);
     void RunPutOff(const Json& command);
 
+    /// The session when it is its own.
+    std::unique_ptr<Session> mSession;
     DriverHost mHost;
     HostCommands mHostCommands { mHost };
     MailboxCommands mMailboxCommands { mHost };

@@ -1,11 +1,11 @@
 #include "driver/DriverHost.h"
 
 #include "base/Text.h"
+#include "driver/ModelHand.h"
 #include "driver/RequestError.h"
 #include "faults/Wrapped.h"
 #include "host/files/ProgramFolder.h"
 #include "host/system/HostShell.h"
-#include "host/system/IcuLocaleFormats.h"
 
 #include <algorithm>
 #include <array>
@@ -28,12 +28,19 @@ bool IsOfSurroundings(const std::string& call)
 
 }
 
-DriverHost::DriverHost(const ProfileOptions& options, std::optional<RemotePrograms> programs)
-    : mSession(options)
-    , mPrograms(std::move(programs))
-    , mLocale(options.locale ? *options.locale : IcuLocaleFormats::FromEnvironment())
+DriverHost::DriverHost(tempodial::Session& session, DriverSurroundings surroundings)
+    : mSession(session)
+    , mSurroundings(std::move(surroundings))
+    , mMessageBox(MakeRef<DriverMessageBox>(Mailbox(), mSurroundings.showMessage))
+    , mEventPump(MakeRef<DriverEventPump>(
+          mSurroundings.eventPump ? mSurroundings.eventPump : Profile().Surroundings().eventPump))
 {
+    if (!mSurroundings.hand) {
+        mSurroundings.hand = MakeRef<ModelHand>(*this);
+    }
 }
+
+DriverHost::~DriverHost() = default;
 
 void DriverHost::Start(HostSettings settings)
 {
@@ -42,7 +49,7 @@ void DriverHost::Start(HostSettings settings)
     }
     settings.seen = [faults = mFaults](const Ref<Application>& application) { return Wrapped(application, faults); };
     const auto surroundings = Surroundings(settings.imports);
-    if (mPrograms) {
+    if (mSurroundings.programs) {
         if (settings.imports == Imports::ByLines) {
             throw RequestError("the add-in for Windows can't remember what it has imported: leave out \"remember\"");
         }
@@ -58,13 +65,18 @@ void DriverHost::Stop()
     mRemote = nullptr;
 }
 
+std::vector<std::string> DriverHost::Differences() const
+{
+    return mSurroundings.differences ? mSurroundings.differences() : std::vector<std::string>();
+}
+
 Ref<LoadedAddIn> DriverHost::LoadRemote(const Platform& surroundings)
 {
     const auto& folder = surroundings.fileSystem->GetSpecialFolder(SpecialFolder::Temporary);
-    const auto remote = MakeRef<RemoteAddIn>(RemoteSettings { .programs = *mPrograms,
+    const auto remote = MakeRef<RemoteAddIn>(RemoteSettings { .programs = *mSurroundings.programs,
                                                  .profile = folder,
                                                  .installFolder = InProgramFolder("share/tempodial"),
-                                                 .locale = mLocale },
+                                                 .locale = mSurroundings.locale },
         surroundings, Profile().Registry());
     for (const auto& fault : std::exchange(mPlanned, {})) {
         remote->Add(fault);
@@ -76,14 +88,14 @@ Ref<LoadedAddIn> DriverHost::LoadRemote(const Platform& surroundings)
 void DriverHost::Add(const FaultPlan::Fault& fault)
 {
     // The calls of the object model are made here, all others there.
-    const bool isInstalled = mPrograms && !mPrograms->installed.empty();
+    const bool isInstalled = mSurroundings.programs && !mSurroundings.programs->installed.empty();
     if (isInstalled && IsOfSurroundings(fault.call)) {
         throw RequestError("the call \"" + fault.call + "\" can't fail in the add-in as it is installed");
     }
     mFaults->Add(fault);
     if (mRemote && !isInstalled) {
         mRemote->Add(fault);
-    } else if (mPrograms && mPrograms->installed.empty()) {
+    } else if (mSurroundings.programs && mSurroundings.programs->installed.empty()) {
         mPlanned.push_back(fault);
     }
 }

@@ -3,6 +3,7 @@
 #include "base/Ref.h"
 #include "driver/DriverEventPump.h"
 #include "driver/DriverMessageBox.h"
+#include "driver/DriverSurroundings.h"
 #include "driver/remote/RemoteAddIn.h"
 #include "driver/remote/RemotePrograms.h"
 #include "faults/FaultPlan.h"
@@ -26,9 +27,11 @@ namespace tempodial {
 class DriverHost
 {
 public:
-    /// Opens the profile; fails with `ProfileInUse` or `ProfileError`. The programs are those of the add-in for
-    /// Windows, which takes the place of the one in this program.
-    explicit DriverHost(const ProfileOptions& options, std::optional<RemotePrograms> programs = std::nullopt);
+    /// The session must outlive it.
+    DriverHost(tempodial::Session& session, DriverSurroundings surroundings);
+    ~DriverHost();
+    DriverHost(const DriverHost&) = delete;
+    DriverHost& operator=(const DriverHost&) = delete;
 
     /// Starts a host in which the add-in sees what may fail; fails with `RequestError` when one is connected already.
     void Start(HostSettings settings);
@@ -45,7 +48,11 @@ public:
     tempodial::Session& Session() { return mSession; }
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mSession.Mailbox(); }
-    /// A person at the add-in's forms.
+    /// The person who does what commands ask for.
+    tempodial::Hand& Hand() { return *mSurroundings.hand; }
+    /// What can be seen otherwise than the models have it.
+    std::vector<std::string> Differences() const;
+    /// A person at the models of the add-in's forms.
     FormHands& Forms() { return mRemote ? static_cast<FormHands&>(*mRemote) : mHands; }
     /// The calls that are made in this program, and which of them are to fail.
     FaultPlan& Faults() { return *mFaults; }
@@ -66,13 +73,12 @@ private:
     Ref<LoadedAddIn> LoadRemote(const Platform& surroundings);
     void RequireStarted() const;
 
-    tempodial::Session mSession;
-    Ref<DriverMessageBox> mMessageBox = MakeRef<DriverMessageBox>(Mailbox());
-    Ref<DriverEventPump> mEventPump = MakeRef<DriverEventPump>(Profile().Surroundings().eventPump);
+    tempodial::Session& mSession;
+    DriverSurroundings mSurroundings;
+    Ref<DriverMessageBox> mMessageBox;
+    Ref<DriverEventPump> mEventPump;
     Ref<FaultPlan> mFaults = MakeRef<FaultPlan>();
     ModelHands mHands { *mSession.Forms() };
-    std::optional<RemotePrograms> mPrograms;
-    std::string mLocale;
     /// The add-in for Windows while it is connected.
     Ref<RemoteAddIn> mRemote;
     /// Faults that were planned while none was.

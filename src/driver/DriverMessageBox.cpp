@@ -47,8 +47,9 @@ const char* Word(MessageIcon icon)
 
 }
 
-DriverMessageBox::DriverMessageBox(Ref<Mailbox> mailbox)
+DriverMessageBox::DriverMessageBox(Ref<Mailbox> mailbox, Shower shower)
     : mMailbox(std::move(mailbox))
+    , mShower(std::move(shower))
 {
 }
 
@@ -63,6 +64,9 @@ Answer DriverMessageBox::Show(const std::string& text, const std::vector<Answer>
             answer = mAnswers.front();
         }
         mAnswers.pop_front();
+    }
+    if (mShower) {
+        answer = mShower(text, buttons, icon, answer);
     }
     auto words = Json::array();
     for (const auto button : buttons) {

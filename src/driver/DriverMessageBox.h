@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,12 @@ namespace tempodial {
 class DriverMessageBox final : public MessageBox
 {
 public:
-    /// A box lets in what that mailbox has to tell.
-    explicit DriverMessageBox(Ref<Mailbox> mailbox);
+    /// Shows a box on a screen until it is answered in that way, and answers what it got.
+    using Shower = std::function<Answer(
+        const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon, Answer answer)>;
+
+    /// A box lets in what that mailbox has to tell. Without something that shows it it is answered at once.
+    explicit DriverMessageBox(Ref<Mailbox> mailbox, Shower shower = {});
     ~DriverMessageBox() override;
     DriverMessageBox(const DriverMessageBox&) = delete;
     DriverMessageBox& operator=(const DriverMessageBox&) = delete;
@@ -36,6 +41,7 @@ public:
 
 private:
     Ref<Mailbox> mMailbox;
+    Shower mShower;
     std::deque<Answer> mAnswers;
     std::vector<Json> mShown;
 };

@@ -2,14 +2,10 @@
 
 #include "driver/FormJson.h"
 #include "driver/RequestError.h"
-#include "session/FormClick.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
-#include <cstdint>
 #include <string>
-#include <variant>
 
 namespace tempodial {
 
@@ -34,50 +30,34 @@ void FormCommands::AddTo(CommandTable& table)
 {
     table["forms"] = [this](const Request&) { return Forms(); };
     table["form.type"] = [this](const Request& request) {
-        mHost.Forms().Type(FormOf(request), request.Text("control"), request.Text("text"));
+        mHost.Hand().Type(FormOf(request), request.Text("control"), request.Text("text"));
         return Json::object();
     };
     table["form.choose"] = [this](const Request& request) {
-        mHost.Forms().Choose(FormOf(request), request.Text("control"), EntryOf(request));
+        mHost.Hand().Choose(FormOf(request), request.Text("control"), EntryOf(request));
         return Json::object();
     };
     table["form.check"] = [this](const Request& request) {
-        mHost.Forms().Check(FormOf(request), request.Text("control"), request.Flag("checked"));
+        mHost.Hand().Check(FormOf(request), request.Text("control"), request.Flag("checked"));
         return Json::object();
     };
-    table["form.click"] = [this](const Request& request) { return Click(request); };
+    table["form.click"] = [this](const Request& request) {
+        const auto form = FormOf(request);
+        mHost.Hand().Click(form, request.Text("control"));
+        return Json::object();
+    };
     table["form.close"] = [this](const Request& request) -> Json {
-        return { { "cancelled", !mHost.Forms().Close(FormOf(request)) } };
+        return { { "cancelled", !mHost.Hand().Close(FormOf(request)) } };
     };
 }
 
 Json FormCommands::Forms()
 {
     auto list = Json::array();
-    for (const auto& form : mHost.Forms().Forms()) {
+    for (const auto& form : mHost.Hand().Forms()) {
         list.push_back(FormJson(form));
     }
     return { { "forms", list } };
-}
-
-Json FormCommands::Click(const Request& request)
-{
-    const auto key = FormOf(request);
-    const auto control = request.Text("control");
-    const auto click = [&] { mHost.Forms().Click(key, control); };
-    const auto forms = mHost.Forms().Forms();
-    // The newest of a class comes last.
-    const auto form = std::find_if(forms.rbegin(), forms.rend(), [&](const FormSnapshot& known) {
-        const auto* name = std::get_if<std::string>(&key);
-        return name == nullptr ? known.number == std::get<std::int32_t>(key)
-                               : known.visible && known.className == *name;
-    });
-    if (form == forms.rend()) {
-        click();
-    } else {
-        ClickAsStep(mHost.Profile(), form->className, form->title, click);
-    }
-    return Json::object();
 }
 
 }

@@ -18,7 +18,6 @@ public:
 
 private:
     Json Forms();
-    Json Click(const Request& request);
 
     DriverHost& mHost;
 };

@@ -166,11 +166,7 @@ Json MailboxCommands::ChangeItem(const Request& request)
     const auto start = request.Has("start") ? request.Moment("start") : item->Start();
     const auto end
         = request.Has("end") ? request.Moment("end") : start.AddSeconds(SecondsBetween(item->Start(), item->End()));
-    const bool isMoved = SecondsBetween(start, end) == SecondsBetween(item->Start(), item->End());
-    bool isDone = false;
-    GestureAsStep(mHost.Profile(), { item }, isMoved ? "Move" : "Resize",
-        [&] { isDone = Person(mHost.Mailbox()).Reschedule(item, start, end); });
-    if (!isDone) {
+    if (!mHost.Hand().Reschedule(item, start, end)) {
         throw RequestError("the change was refused");
     }
     return Json::object();
@@ -178,8 +174,7 @@ Json MailboxCommands::ChangeItem(const Request& request)
 
 Json MailboxCommands::DeleteItem(const Request& request)
 {
-    const auto item = Item(request);
-    GestureAsStep(mHost.Profile(), { item }, "Delete", [&] { Person(mHost.Mailbox()).Delete(item); });
+    mHost.Hand().Delete(Item(request));
     return Json::object();
 }
 

@@ -2,13 +2,12 @@
 
 #include "driver/CommandBarsJson.h"
 #include "driver/RequestError.h"
-#include "host/windows/BuiltInCommand.h"
-#include "session/ActivityGesture.h"
 #include "terminal/Arguments.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace tempodial {
 
@@ -56,16 +55,6 @@ Json ValueJson(const Variant& value)
     return value.ToText();
 }
 
-std::vector<Ref<OutlookItem>> Selected(HostExplorer& explorer)
-{
-    std::vector<Ref<OutlookItem>> items;
-    const auto selection = explorer.Selection();
-    for (std::int32_t i = 1; i <= selection->Count(); ++i) {
-        items.push_back(selection->Item(i));
-    }
-    return items;
-}
-
 /// What a person enters into a control of a page, read as what the control holds.
 Variant ToValue(const HostPageControl& control, const Request& request)
 {
@@ -102,7 +91,7 @@ void WindowCommands::AddTo(CommandTable& table)
 Json WindowCommands::OpenExplorer(const Request& request)
 {
     const auto folder = mHost.Folder(request.Text("folder", "Inbox"));
-    return { { "explorer", Application().OpenExplorer(folder, request.Flag("commandBars", true))->Number() } };
+    return { { "explorer", Hand().OpenExplorer(folder, request.Flag("commandBars", true))->Number() } };
 }
 
 Json WindowCommands::MakeBarsReady(const Request& request)
@@ -113,13 +102,13 @@ Json WindowCommands::MakeBarsReady(const Request& request)
 
 Json WindowCommands::ActivateExplorer(const Request& request)
 {
-    Application().ActivateExplorer(Explorer(request));
+    Hand().Activate(Explorer(request));
     return Json::object();
 }
 
 Json WindowCommands::CloseExplorer(const Request& request)
 {
-    Application().CloseExplorer(Explorer(request));
+    Hand().Close(Explorer(request));
     return Json::object();
 }
 
@@ -132,7 +121,8 @@ Json WindowCommands::KillExplorer(const Request& request)
 Json WindowCommands::GoTo(const Request& request)
 {
     const auto folder = mHost.Folder(request.Text("folder"));
-    Explorer(request)->GoTo(folder);
+    const auto explorer = Explorer(request);
+    Hand().GoTo(explorer, folder);
     return Json::object();
 }
 
@@ -145,7 +135,8 @@ Json WindowCommands::ShowBeside(const Request& request)
     if (folders.empty()) {
         throw RequestError(R"(the field "folders" names no folder)");
     }
-    Explorer(request)->ShowBeside(folders);
+    const auto explorer = Explorer(request);
+    Hand().ShowBeside(explorer, folders);
     return Json::object();
 }
 
@@ -155,13 +146,15 @@ Json WindowCommands::Select(const Request& request)
     for (const auto& entryId : request.Texts("items")) {
         items.emplace_back(mHost.Item(entryId));
     }
-    Explorer(request)->Select(std::move(items));
+    const auto explorer = Explorer(request);
+    Hand().Select(explorer, items);
     return Json::object();
 }
 
 Json WindowCommands::PickView(const Request& request)
 {
-    Explorer(request)->PickView(request.Text("name"));
+    const auto explorer = Explorer(request);
+    Hand().PickView(explorer, request.Text("name"));
     return Json::object();
 }
 
@@ -175,12 +168,11 @@ Json WindowCommands::ExplorerState(const Request& request)
 
 Json WindowCommands::OpenInspector(const Request& request)
 {
-    auto& application = Application();
     Ref<HostInspector> inspector;
     if (request.Has("entryId")) {
-        inspector = application.OpenInspector(mHost.Item(request.Text("entryId")));
+        inspector = Hand().Open(mHost.Item(request.Text("entryId")));
     } else if (request.Text("kind") == "mail") {
-        inspector = application.OpenMail(application.CreateItem().As<HostMail>());
+        inspector = Hand().Open(Application().CreateItem().As<HostMail>());
     } else {
         throw RequestError("there is no kind of item \"" + request.Text("kind") + "\": give mail, or an entryId");
     }
@@ -200,21 +192,20 @@ Json WindowCommands::Edit(const Request& request)
     if (control == controls.end()) {
         throw RequestError("the page has no control \"" + name + "\"");
     }
-    inspector->Edit(name, ToValue(**control, request));
+    Hand().Edit(inspector, name, ToValue(**control, request));
     return Json::object();
 }
 
 Json WindowCommands::Save(const Request& request)
 {
     const auto inspector = Inspector(request);
-    bool isSaved = false;
-    GestureAsStep(mHost.Profile(), { inspector->CurrentItem() }, "Save", [&] { isSaved = inspector->Save(); });
-    return { { "cancelled", !isSaved } };
+    return { { "cancelled", !Hand().Save(inspector) } };
 }
 
 Json WindowCommands::Close(const Request& request)
 {
-    return { { "cancelled", !Inspector(request)->Close() } };
+    const auto inspector = Inspector(request);
+    return { { "cancelled", !Hand().Close(inspector) } };
 }
 
 Json WindowCommands::InspectorState(const Request& request)
@@ -242,15 +233,17 @@ Json WindowCommands::Click(const Request& request)
     if (request.Has("explorer") == request.Has("inspector")) {
         throw RequestError(R"(give either the field "explorer" or the field "inspector")");
     }
-    const auto explorer = request.Has("explorer") ? Explorer(request) : nullptr;
-    const auto inspector = explorer ? nullptr : Inspector(request);
-    const auto bars = explorer ? explorer->Bars() : inspector->Bars();
-    const auto control = FindCommand(*bars, request.Text("bar"), request.Texts("path"));
-    std::vector<Ref<OutlookItem>> changed;
-    if (const auto id = control->Now().id; id == BuiltInCommand::SaveAndClose || id == BuiltInCommand::Delete) {
-        changed = explorer ? Selected(*explorer) : std::vector { inspector->CurrentItem() };
+    const auto pathOf = [&] {
+        auto captions = request.Texts("path");
+        return CommandPath { request.Text("bar"), std::move(captions) };
+    };
+    if (request.Has("explorer")) {
+        const auto explorer = Explorer(request);
+        Hand().ClickCommand(explorer, pathOf());
+    } else {
+        const auto inspector = Inspector(request);
+        Hand().ClickCommand(inspector, pathOf());
     }
-    GestureAsStep(mHost.Profile(), changed, control->Now().caption, [&] { control->Click(); });
     return Json::object();
 }
 

@@ -38,6 +38,12 @@ private:
     Json Windows();
     Json Click(const Request& request);
 
+    /// The person; fails when no host was started.
+    tempodial::Hand& Hand()
+    {
+        Application();
+        return mHost.Hand();
+    }
     /// The host's windows; fails when no host was started.
     HostApplication& Application() const { return mHost.Windows(); }
     /// The window of a number; one that isn't open fails.

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/Ref.h"
+#include "driver/DriverMessageBox.h"
+#include "driver/Hand.h"
+#include "driver/remote/RemotePrograms.h"
+#include "platform/controls/EventPump.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tempodial {
+
+/// What a driver has around it; what is left out is that of a program without a screen.
+struct DriverSurroundings
+{
+    /// The programs of the add-in for Windows, which takes the place of the one in this program, and the name of the
+    /// locale that it is to have.
+    std::optional<RemotePrograms> programs {};
+    std::string locale {};
+    /// Lets pending messages be processed.
+    Ref<EventPump> eventPump = nullptr;
+    /// Shows message boxes.
+    DriverMessageBox::Shower showMessage {};
+    /// The person who does what commands ask for.
+    Ref<Hand> hand = nullptr;
+    /// What can be seen otherwise than the models have it, each a text; asked behind each command.
+    std::function<std::vector<std::string>()> differences {};
+};
+
+}
