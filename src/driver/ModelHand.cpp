@@ -2,7 +2,6 @@
 
 #include "driver/CommandBarsJson.h"
 #include "driver/DriverHost.h"
-#include "host/windows/BuiltInCommand.h"
 #include "session/ActivityGesture.h"
 #include "session/FormClick.h"
 
@@ -12,20 +11,6 @@
 #include <variant>
 
 namespace tempodial {
-
-namespace {
-
-std::vector<Ref<OutlookItem>> Selected(HostExplorer& explorer)
-{
-    std::vector<Ref<OutlookItem>> items;
-    const auto selection = explorer.Selection();
-    for (std::int32_t i = 1; i <= selection->Count(); ++i) {
-        items.push_back(selection->Item(i));
-    }
-    return items;
-}
-
-}
 
 Ref<HostExplorer> ModelHand::OpenExplorer(const Ref<MAPIFolder>& folder, bool barsReady)
 {
@@ -65,7 +50,7 @@ void ModelHand::PickView(const Ref<HostExplorer>& window, const std::string& nam
 void ModelHand::ClickCommand(const Ref<HostExplorer>& window, const CommandPath& command)
 {
     const auto control = FindCommand(*window->Bars(), command.bar, command.captions);
-    Click(*control, Selected(*window));
+    ClickCommandAsStep(mHost.Profile(), *window, *control);
 }
 
 Ref<HostInspector> ModelHand::Open(const Ref<StoreItem>& item)
@@ -98,7 +83,7 @@ bool ModelHand::Close(const Ref<HostInspector>& window)
 void ModelHand::ClickCommand(const Ref<HostInspector>& window, const CommandPath& command)
 {
     const auto control = FindCommand(*window->Bars(), command.bar, command.captions);
-    Click(*control, { window->CurrentItem() });
+    ClickCommandAsStep(mHost.Profile(), *window, *control);
 }
 
 bool ModelHand::Reschedule(const Ref<StoreItem>& item, Date start, Date end)
@@ -155,14 +140,6 @@ void ModelHand::Click(const FormKey& form, const std::string& control)
 bool ModelHand::Close(const FormKey& form)
 {
     return mHost.Forms().Close(form);
-}
-
-void ModelHand::Click(HostCommandBarControl& command, const std::vector<Ref<OutlookItem>>& items)
-{
-    const auto id = command.Now().id;
-    const bool isChange = id == BuiltInCommand::SaveAndClose || id == BuiltInCommand::Delete;
-    GestureAsStep(mHost.Profile(), isChange ? items : std::vector<Ref<OutlookItem>>(), command.Now().caption,
-        [&] { command.Click(); });
 }
 
 }

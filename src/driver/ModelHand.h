@@ -43,9 +43,6 @@ public:
     bool Close(const FormKey& form) override;
 
 private:
-    /// Clicks a command, which changes those items if it changes any.
-    void Click(HostCommandBarControl& command, const std::vector<Ref<OutlookItem>>& items);
-
     DriverHost& mHost;
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "host/store/StoreItem.h"
+#include "host/windows/BuiltInCommand.h"
 #include "session/Steps.h"
 #include "session/WorkLogFolder.h"
 
@@ -17,6 +18,13 @@ bool BelongsTo(const Ref<MAPIFolder>& folder, const Ref<OutlookItem>& item)
     return stored && stored->Parent()->EntryID() == folder->EntryID();
 }
 
+/// True for a command of the host's own that changes items.
+bool ChangesItems(const HostCommandBarControl& command)
+{
+    const auto id = command.Now().id;
+    return id == BuiltInCommand::SaveAndClose || id == BuiltInCommand::Delete;
+}
+
 }
 
 void GestureAsStep(const Profile& profile, const std::vector<Ref<OutlookItem>>& items, const std::string& caption,
@@ -30,6 +38,31 @@ void GestureAsStep(const Profile& profile, const std::vector<Ref<OutlookItem>>& 
     } else {
         work();
     }
+}
+
+void ClickCommandAsStep(const Profile& profile, HostExplorer& window, HostCommandBarControl& command)
+{
+    const auto changed = ChangesItems(command) ? SelectedItems(window) : std::vector<Ref<OutlookItem>>();
+    GestureAsStep(profile, changed, command.Now().caption, [&] { command.Click(); });
+}
+
+void ClickCommandAsStep(const Profile& profile, HostInspector& window, HostCommandBarControl& command)
+{
+    std::vector<Ref<OutlookItem>> changed;
+    if (ChangesItems(command)) {
+        changed.push_back(window.CurrentItem());
+    }
+    GestureAsStep(profile, changed, command.Now().caption, [&] { command.Click(); });
+}
+
+std::vector<Ref<OutlookItem>> SelectedItems(HostExplorer& window)
+{
+    std::vector<Ref<OutlookItem>> items;
+    const auto selection = window.Selection();
+    for (std::int32_t i = 1; i <= selection->Count(); ++i) {
+        items.push_back(selection->Item(i));
+    }
+    return items;
 }
 
 }

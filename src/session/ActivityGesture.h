@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/windows/HostExplorer.h"
+#include "host/windows/HostInspector.h"
 #include "platform/objectmodel/OutlookItem.h"
 #include "session/Profile.h"
 
@@ -14,5 +16,13 @@ namespace tempodial {
 /// work does, and as the profile's mailbox and registry do; then nothing has changed.
 void GestureAsStep(const Profile& profile, const std::vector<Ref<OutlookItem>>& items, const std::string& caption,
     const std::function<void()>& work);
+
+/// A person clicks a command of a window's bars, which is a step as above where it changes the items that are selected
+/// there, or shown. Fails as the click does.
+void ClickCommandAsStep(const Profile& profile, HostExplorer& window, HostCommandBarControl& command);
+void ClickCommandAsStep(const Profile& profile, HostInspector& window, HostCommandBarControl& command);
+
+/// What is selected in a window.
+std::vector<Ref<OutlookItem>> SelectedItems(HostExplorer& window);
 
 }

@@ -6,6 +6,9 @@
 #include "desktop/qt/QtText.h"
 #include "terminal/TerminalText.h"
 
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -36,6 +39,7 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     , mLog(log)
     , mPainter(desk.Look())
     , mHead(new DayHead(desk.Look(), this))
+    , mNote(new QLabel(this))
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
@@ -46,7 +50,12 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setMouseTracking(true);
     constexpr int Step = 30;
+    constexpr int Margin = 16;
     verticalScrollBar()->setSingleStep(Step);
+    mNote->setMargin(Margin);
+    mNote->setTextFormat(Qt::RichText);
+    mNote->hide();
+    connect(mNote, &QLabel::linkActivated, this, [this] { mWishes.followLink(); });
     TakeFont();
     Follow();
 }
@@ -63,15 +72,29 @@ void AgendaView::TakeFont()
 
 void AgendaView::Follow()
 {
-    mFocus.reset();
     mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.Days(), Place());
     MakeWords();
     MakeCards();
     mPainter.Texts().Forget();
     Put();
+    FindFocus();
     if (mFitted != mLog.Days()) {
         Fit();
     }
+}
+
+void AgendaView::FollowClock()
+{
+    MakeWords();
+    Put();
+}
+
+void AgendaView::FindFocus()
+{
+    const auto& pieces = mScene->Layout().Pieces();
+    const auto found = std::find_if(pieces.begin(), pieces.end(),
+        [this](const AgendaPiece& piece) { return mScene->ActivityOf(piece).number == mFocusNumber; });
+    mFocus = found == pieces.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - pieces.begin()));
 }
 
 void AgendaView::MakeWords()
@@ -98,24 +121,13 @@ void AgendaView::MakeCards()
         card.title = LineOf(words.Title(activity));
         card.detail = LineOf(words.Detail(activity, mLog.ColouredBy()));
         card.times = ToQt(words.Times(activity));
-        card.style = StyleOf(activity);
+        card.style = mDesk.StyleOf(mLog.ColouredBy(), mLog.ColourNameOf(activity));
+        card.style.isDashed = IsUnassigned(activity);
         card.isSelected = mSelected.count(activity.number) > 0;
+        card.isFaded = !mOnly.empty() && mOnly.count(mLog.ColourNameOf(activity)) == 0;
         card.isSoft = DragGesture::MayGrow(activity.end, mDesk.Now());
         mCards.push_back(std::move(card));
     }
-}
-
-CardStyle AgendaView::StyleOf(const Activity& activity)
-{
-    const auto& look = mDesk.Look();
-    const auto use = mDesk.Colours().ToneOf(mLog.ColouredBy(), mLog.ColourNameOf(activity));
-    CardStyle style;
-    style.colours = look.CardOf(use);
-    style.isHatched = !use;
-    style.hatch = look.Colours().hatch;
-    style.isDashed = IsUnassigned(activity);
-    style.isStriped = use && use->isStriped;
-    return style;
 }
 
 TimeScale AgendaView::Scale() const
@@ -185,7 +197,7 @@ void AgendaView::MakeHead()
     mHead->setGeometry(0, 0, viewport()->width(), mHead->sizeHint().height());
 }
 
-StackedBar AgendaView::BarOf(std::size_t day) const
+StackedBar AgendaView::BarOf(std::size_t day)
 {
     const auto& colours = mDesk.Look().Colours();
     const auto& sums = mLog.Sums();
@@ -193,8 +205,8 @@ StackedBar AgendaView::BarOf(std::size_t day) const
     bar.track = ToQt(colours.track);
     bar.scale = std::max(BarMinutes, *std::max_element(sums.minutes.begin(), sums.minutes.end()));
     for (const auto& row : sums.rows) {
-        const auto use = mDesk.Colours().ToneOf(mLog.ColouredBy(), row.name);
-        bar.parts.push_back({ ToQt(mDesk.Look().CardOf(use).mark), row.minutes[day], !use });
+        const auto style = mDesk.StyleOf(mLog.ColouredBy(), row.name);
+        bar.parts.push_back({ ToQt(style.colours.mark), row.minutes[day], style.isHatched });
     }
     return bar;
 }
@@ -209,7 +221,14 @@ void AgendaView::Fit()
     verticalScrollBar()->setValue(static_cast<int>(mScene->Scale().PlaceOf(from)));
 }
 
-void AgendaView::ShowSelected(const std::set<std::int64_t>& numbers)
+void AgendaView::ShowOnly(const std::set<std::string>& names)
+{
+    mOnly = names;
+    MakeCards();
+    viewport()->update();
+}
+
+void AgendaView::ShowSelected(const Numbers& numbers)
 {
     mSelected = numbers;
     for (std::size_t i = 0; i < mCards.size(); ++i) {
@@ -237,10 +256,205 @@ void AgendaView::paintEvent(QPaintEvent* event)
             .width = static_cast<double>(viewport()->width()),
             .gutter = mGutter },
         QRectF(event->rect()).translated(0, scroll));
+    PaintGhost(painter);
+}
+
+void AgendaView::PaintGhost(QPainter& painter) const
+{
+    const auto accent = ToQt(mDesk.Look().Colours().accent);
+    auto shade = accent;
+    constexpr float Shade = 0.15F;
+    shade.setAlphaF(Shade);
+    painter.setPen(QPen(accent, 2));
+    painter.setBrush(shade);
+    if (mGhost) {
+        Activity ghost;
+        ghost.start = mGhost->start;
+        ghost.end = mGhost->end;
+        const AgendaLayout layout({ ghost }, mLog.Days());
+        for (const auto& piece : layout.Pieces()) {
+            painter.drawRect(ToQt(mScene->Geometry().LaneOf(piece)));
+        }
+    }
+    if (!mBand.isEmpty()) {
+        painter.setPen(QPen(accent, 1));
+        painter.drawRect(mBand);
+    }
+}
+
+void AgendaView::ShowGhost(const std::optional<TimeSpan>& times, const QRectF& band)
+{
+    mGhost = times;
+    mBand = band;
+    viewport()->update();
+}
+
+void AgendaView::SayTimes(const TimeSpan& times, const TimeSpan& before) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    Activity shown;
+    shown.start = times.start;
+    shown.end = times.end;
+    shown.duration = MinutesBetween(times.start, times.end);
+    auto text = words.Summary(shown);
+    if (DragGesture::MayGrow(before.end, mDesk.Now())) {
+        text += PartSeparator + std::string(MayGrowText);
+    }
+    mWishes.say(ToQt(text));
+}
+
+void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
+{
+    mFocus = piece;
+    mFocusNumber = piece ? std::optional(ActivityOf(*piece).number) : std::nullopt;
+    viewport()->update();
+    if (!piece) {
+        return;
+    }
+    const auto box = mScene->Geometry().BoxOf(mScene->Layout().Pieces()[*piece]);
+    auto* bar = verticalScrollBar();
+    constexpr int Around = 8;
+    const auto top = static_cast<int>(box.top) - Around;
+    const auto bottom = static_cast<int>(box.Bottom()) + Around;
+    if (bottom > bar->value() + viewport()->height()) {
+        bar->setValue(bottom - viewport()->height());
+    }
+    if (top < bar->value()) {
+        bar->setValue(top);
+    }
+}
+
+const Activity& AgendaView::ActivityOf(std::size_t piece) const
+{
+    return mScene->ActivityOf(mScene->Layout().Pieces()[piece]);
+}
+
+QPointF AgendaView::InScene(const QPointF& place) const
+{
+    return { place.x(), place.y() + verticalScrollBar()->value() };
+}
+
+QRectF AgendaView::InView(const PixelBox& box) const
+{
+    return ToQt(box).translated(0, -verticalScrollBar()->value());
+}
+
+QString AgendaView::ToolTipOf(const Activity& activity) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    return LineOf(words.Title(activity)) + "\n" + LineOf(words.Detail(activity, Coloured::Project)) + "\n"
+        + ToQt(words.Times(activity) + PartSeparator + LengthText(activity.duration));
+}
+
+void AgendaView::ApplyZoom(double pixelsPerMinute, double place)
+{
+    const auto before = mScene->Scale();
+    const auto scroll = verticalScrollBar()->value();
+    mDesk.Remember([pixelsPerMinute](DesktopSettings& settings) {
+        settings.zoom = pixelsPerMinute == 0 ? DesktopSettings::FittingZoom : std::lround(pixelsPerMinute / Hundredth);
+    });
+    Put();
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(mScene->Scale().ScrollFrom(before, scroll, place))));
+}
+
+void AgendaView::Zoom(double notches, std::optional<double> place)
+{
+    ApplyZoom(mScene->Scale().Zoomed(notches).PixelsPerMinute(), place.value_or(viewport()->height() / 2.0));
+}
+
+void AgendaView::ZoomToFit()
+{
+    ApplyZoom(0, 0);
+    Fit();
+}
+
+void AgendaView::mousePressEvent(QMouseEvent* event)
+{
+    mMouse.Press(*event);
+}
+
+void AgendaView::mouseMoveEvent(QMouseEvent* event)
+{
+    mMouse.Move(*event);
+}
+
+void AgendaView::mouseReleaseEvent(QMouseEvent* event)
+{
+    mMouse.Release(*event);
+}
+
+void AgendaView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mMouse.DoubleClick(*event);
+}
+
+void AgendaView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard && mFocus) {
+        const auto box = InView(mScene->Geometry().BoxOf(mScene->Layout().Pieces()[*mFocus]));
+        mWishes.menu(viewport()->mapToGlobal(box.center().toPoint()));
+    } else {
+        mWishes.menu(event->globalPos());
+    }
+}
+
+void AgendaView::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QAbstractScrollArea::wheelEvent(event);
+        return;
+    }
+    constexpr double Notch = 120;
+    Zoom(event->angleDelta().y() / Notch, event->position().y());
+}
+
+void AgendaView::keyPressEvent(QKeyEvent* event)
+{
+    if (!mMouse.Key(*event) && !mKeys.Press(*event) && !mWishes.key(*event)) {
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+void AgendaView::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+void AgendaView::focusOutEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
+}
+
+bool AgendaView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        mMouse.ToolTip(*static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+void AgendaView::ShowNote(const QString& text, const QString& link)
+{
+    const auto step = link.isEmpty() ? QString() : "<br><br><a href=\"#\">" + link.toHtmlEscaped() + "</a>";
+    mNote->setText("<center>" + text.toHtmlEscaped() + step + "</center>");
+    mNote->setVisible(!text.isEmpty());
+    PlaceNote();
+}
+
+void AgendaView::PlaceNote()
+{
+    mNote->adjustSize();
+    auto place = mNote->rect();
+    place.moveCenter(viewport()->geometry().center());
+    mNote->move(place.topLeft());
 }
 
 void AgendaView::resizeEvent(QResizeEvent* /*event*/)
 {
+    PlaceNote();
     Put();
     if (mFitted != mLog.Days()) {
         Fit();

@@ -2,6 +2,9 @@
 
 #include "desktop/AgendaScene.h"
 #include "desktop/ShownLog.h"
+#include "desktop/TimeSpan.h"
+#include "desktop/qt/AgendaKeys.h"
+#include "desktop/qt/AgendaMouse.h"
 #include "desktop/qt/AgendaPainter.h"
 #include "desktop/qt/DayHead.h"
 #include "desktop/qt/Desk.h"
@@ -14,6 +17,8 @@
 #include <string>
 #include <vector>
 
+class QLabel;
+
 namespace tempodial {
 
 /// The activities of a day or a week as an agenda.
@@ -24,22 +29,82 @@ public:
     AgendaView(Desk& desk, const ShownLog& log, QWidget* parent);
     ~AgendaView() override;
 
+    using Numbers = std::set<std::int64_t>;
+
+    /// What a person wants.
+    struct Wishes
+    {
+        /// Those are selected from now on.
+        std::function<void(const Numbers& numbers)> select;
+        std::function<void(std::int64_t number)> open;
+        std::function<void(std::int64_t number, const TimeSpan& times)> move;
+        std::function<void(const TimeSpan& times)> create;
+        /// The selected ones were dropped at a point of the screen, outside of the agenda.
+        std::function<void(const QPoint& place)> drop;
+        /// The menu of what is selected, at a point of the screen.
+        std::function<void(const QPoint& place)> menu;
+        /// A key that means nothing to the agenda itself; true when it was taken.
+        std::function<bool(QKeyEvent& event)> key;
+        /// A sentence about what is being done, empty when it is over.
+        std::function<void(const QString& text)> say;
+        /// The step that the note offers.
+        std::function<void()> followLink;
+    };
+    Wishes mWishes;
+
     /// The log has changed, or how things look.
     void Follow();
+    /// The present moment has moved on.
+    void FollowClock();
     /// The activities of those numbers are selected.
-    void ShowSelected(const std::set<std::int64_t>& numbers);
+    void ShowSelected(const Numbers& numbers);
+    const Numbers& Selected() const { return mSelected; }
+    /// Only the activities with those names of what gives them their colour are shown in full; none for all.
+    void ShowOnly(const std::set<std::string>& names);
+    /// Says in the middle why there is nothing, with the step that helps; nothing ends it.
+    void ShowNote(const QString& text, const QString& link);
+    /// Zooms by notches, so that the moment at a place of the viewport stays there; nothing for its middle.
+    void Zoom(double notches, std::optional<double> place = std::nullopt);
+    /// Zooms so that all can be seen.
+    void ZoomToFit();
     /// Scrolls to the first activity, and to a zoom at which all can be seen unless a person has chosen one.
     void Fit();
 
     DayHead& Head() { return *mHead; }
     const AgendaScene& Scene() const { return *mScene; }
     const std::vector<AgendaCard>& Cards() const { return mCards; }
+    /// The piece that has the focus.
+    std::optional<std::size_t> Focus() const { return mFocus; }
+    /// Gives a piece the focus and scrolls to it.
+    void SetFocusOn(std::optional<std::size_t> piece);
+    /// The activity of a piece.
+    const Activity& ActivityOf(std::size_t piece) const;
+    /// A place of the viewport in those of the scene.
+    QPointF InScene(const QPointF& place) const;
+    /// A box of the scene in places of the viewport.
+    QRectF InView(const PixelBox& box) const;
+    /// What is said of an activity to who rests on it.
+    QString ToolTipOf(const Activity& activity) const;
+    /// Shows times that something would have, and a band around what is being selected.
+    void ShowGhost(const std::optional<TimeSpan>& times, const QRectF& band);
+    /// Says what times something would have, and what is to be known of that.
+    void SayTimes(const TimeSpan& times, const TimeSpan& before) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     void TakeFont();
@@ -50,20 +115,31 @@ private:
     void Put();
     AgendaScene::Place Place() const;
     TimeScale Scale() const;
-    CardStyle StyleOf(const Activity& activity);
-    StackedBar BarOf(std::size_t day) const;
+    StackedBar BarOf(std::size_t day);
+    void FindFocus();
+    void PaintGhost(QPainter& painter) const;
+    void PlaceNote();
+    void ApplyZoom(double pixelsPerMinute, double place);
 
     Desk& mDesk;
     const ShownLog& mLog;
     AgendaPainter mPainter;
     DayHead* mHead;
+    QLabel* mNote;
     std::unique_ptr<AgendaScene> mScene;
     std::vector<AgendaCard> mCards;
     std::vector<QString> mLabels;
     std::vector<QString> mGaps;
     std::vector<QString> mHourNames;
-    std::set<std::int64_t> mSelected;
+    Numbers mSelected;
+    std::set<std::string> mOnly;
     std::optional<std::size_t> mFocus;
+    /// The activity whose piece it is, by which it is found again when the log has changed.
+    std::optional<std::int64_t> mFocusNumber;
+    std::optional<TimeSpan> mGhost;
+    QRectF mBand;
+    AgendaMouse mMouse { *this };
+    AgendaKeys mKeys { *this };
     double mGutter = 0;
     /// The days to which the view was last scrolled.
     std::optional<Period> mFitted;

@@ -75,6 +75,16 @@ WorkingHours Desk::Hours() const
     return { week.start, week.end, week.days };
 }
 
+CardStyle Desk::StyleOf(Coloured kind, const std::string& name)
+{
+    const auto use = mColours.ToneOf(kind, name);
+    return { .colours = mAppearance.CardOf(use),
+        .isHatched = !use,
+        .hatch = mAppearance.Colours().hatch,
+        .isDashed = !use,
+        .isStriped = use && use->isStriped };
+}
+
 void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
 {
     const auto before = mSettings.appearance;

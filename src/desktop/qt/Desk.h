@@ -6,6 +6,7 @@
 #include "desktop/Titles.h"
 #include "desktop/WorkingHours.h"
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/CardCache.h"
 #include "platform/controls/MessageBox.h"
 #include "review/Period.h"
 #include "session/ProfileOptions.h"
@@ -56,7 +57,8 @@ public:
     const Period::WeekStart& WeekStart() const { return mWeekStart; }
     WorkingHours Hours() const;
     const Appearance& Look() const { return mAppearance; }
-    ColourBook& Colours() { return mColours; }
+    /// How what has that name is drawn.
+    CardStyle StyleOf(Coloured kind, const std::string& name);
     Titles ShownTitles() const { return mSettings.hidesTitles ? Titles::Hidden : Titles::Shown; }
     const DesktopSettings& Settings() const { return mSettings; }
     /// Changes the settings, keeps them and shows the change.

@@ -1,0 +1,116 @@
+#include "desktop/LogDoings.h"
+
+#include "base/Failure.h"
+#include "desktop/DesktopStrings.h"
+#include "host/store/StoreItem.h"
+#include "review/ActivityReader.h"
+#include "session/ActivityGesture.h"
+#include "session/Steps.h"
+#include "session/WorkLogFolder.h"
+
+#include <optional>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto UndoName = "Undo";
+constexpr auto RedoName = "Redo";
+
+std::string Sentence(const char* verb, const UndoneStep& undone)
+{
+    auto text = std::string(verb) + ": " + undone.step.command + PartSeparator + ActivitiesText(undone.items.restored);
+    if (undone.items.kept > 0) {
+        text += PartSeparator + std::to_string(undone.items.kept) + " changed since and kept";
+    }
+    return text;
+}
+
+}
+
+std::vector<Ref<OutlookItem>> LogDoings::ItemsOf(const Numbers& numbers) const
+{
+    std::vector<Ref<OutlookItem>> items;
+    for (const auto number : numbers) {
+        // What is gone since it was drawn isn't selected any more.
+        if (ActivityNumbered(mSession.Profile(), number)) {
+            items.emplace_back(ItemNumbered(mSession.Profile(), number));
+        }
+    }
+    return items;
+}
+
+void LogDoings::AsStep(const Numbers& numbers, const std::string& caption, const std::function<void()>& work) const
+{
+    GestureAsStep(mSession.Profile(), ItemsOf(numbers), caption, work);
+}
+
+void LogDoings::Select(HostExplorer& window, const Numbers& numbers) const
+{
+    window.Select(ItemsOf(numbers));
+}
+
+void LogDoings::Open(std::int64_t number) const
+{
+    mSession.Windows().OpenInspector(ItemNumbered(mSession.Profile(), number));
+}
+
+void LogDoings::SetProject(HostExplorer& window, const std::string& project) const
+{
+    GestureAsStep(mSession.Profile(), SelectedItems(window), "Set project " + project, [&] {
+        mSession.Mailbox()->ChoosingProjects(
+            ProjectChoice::Person, [&] { mSession.AddIn().SetProjectForItems(project, true, false, {}, {}, true); });
+    });
+}
+
+void LogDoings::Delete(const Numbers& numbers) const
+{
+    AsStep(numbers, "Delete", [&] {
+        for (const auto& item : ItemsOf(numbers)) {
+            mSession.Windows().User().Delete(item.As<StoreItem>());
+        }
+    });
+}
+
+bool LogDoings::Move(std::int64_t number, const TimeSpan& times) const
+{
+    bool isMoved = false;
+    AsStep({ number }, "Move", [&] {
+        isMoved
+            = mSession.Windows().User().Reschedule(ItemNumbered(mSession.Profile(), number), times.start, times.end);
+    });
+    return isMoved;
+}
+
+void LogDoings::Create(const TimeSpan& times) const
+{
+    ItemData appointment;
+    appointment.messageClass = "IPM.Appointment";
+    appointment.start = times.start;
+    appointment.end = times.end;
+    mSession.Windows().User().Create(WorkLogOf(mSession.Profile()), std::move(appointment));
+}
+
+std::string LogDoings::Undo() const
+{
+    return Sentence("Undone", Steps(mSession.Profile()).Undo(std::nullopt, UndoName));
+}
+
+std::string LogDoings::Redo() const
+{
+    Steps steps(mSession.Profile());
+    const auto newest = steps.Newest(1);
+    if (newest.empty() || !newest.front().undoes || newest.front().isTakenBack) {
+        throw StepError("there is nothing to do again: the last thing done was no undo");
+    }
+    return Sentence("Done again", steps.Undo(newest.front().number, RedoName));
+}
+
+std::vector<std::string> LogDoings::Projects() const
+{
+    std::vector<std::string> projects;
+    mSession.AddIn().GetProjects(projects, false, false, false);
+    return projects;
+}
+
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "desktop/AgendaHits.h"
+#include "desktop/DragGesture.h"
+
+#include <QPointF>
+#include <cstdint>
+#include <optional>
+#include <set>
+
+class QHelpEvent;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace tempodial {
+
+class AgendaView;
+
+/// What a person does in an agenda with the pointer: selecting, also with a band, dragging, opening.
+class AgendaMouse
+{
+public:
+    /// The view must live as long as this.
+    explicit AgendaMouse(AgendaView& view)
+        : mView(view)
+    {
+    }
+
+    void Press(const QMouseEvent& event);
+    void Move(const QMouseEvent& event);
+    void Release(const QMouseEvent& event);
+    void DoubleClick(const QMouseEvent& event);
+    void ToolTip(const QHelpEvent& event) const;
+    /// Escape ends what has been begun; true when there was something.
+    bool Key(const QKeyEvent& event);
+    /// True while something is dragged or selected by a band.
+    bool IsBusy() const { return mHasMoved; }
+
+private:
+    AgendaHit HitAt(const QPointF& place) const;
+    void PressOn(std::size_t piece, const QMouseEvent& event);
+    void SelectRun(const AgendaHit& hit, bool adds);
+    void ShowCursor(const AgendaHit& hit) const;
+    void Drag(const QMouseEvent& event);
+    void Band(const QMouseEvent& event);
+    void Forget();
+    /// The place that is meant by one beyond the upper or lower edge, towards which it scrolls.
+    QPointF ScrolledTo(const QPointF& place) const;
+
+    AgendaView& mView;
+    bool mIsDown = false;
+    bool mHasMoved = false;
+    QPointF mFrom;
+    AgendaHit mHit;
+    std::optional<DragGesture> mDrag;
+    std::optional<TimeSpan> mTimes;
+    std::int64_t mNumber = 0;
+    /// A click without a drag selects this one alone of several.
+    bool mIsAloneOnRelease = false;
+    /// What was selected before a band was drawn with Ctrl.
+    std::set<std::int64_t> mKept;
+};
+
+}

@@ -1,0 +1,233 @@
+#include "desktop/qt/MiniMonth.h"
+
+#include "desktop/ActivityWords.h"
+#include "desktop/DesktopStrings.h"
+#include "desktop/qt/Glyphs.h"
+#include "desktop/qt/QtText.h"
+#include "review/ActivityReader.h"
+#include "review/PeriodColumns.h"
+#include "review/Totals.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+namespace tempodial {
+
+namespace {
+
+constexpr double CellSpacing = 8;
+
+QFont SmallFont(QFont font)
+{
+    constexpr double Size = 0.82;
+    font.setPointSizeF(font.pointSizeF() * Size);
+    return font;
+}
+
+}
+
+MiniMonth::MiniMonth(Desk& desk, QWidget* parent)
+    : QWidget(parent)
+    , mDesk(desk)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName("Calendar");
+    setObjectName("month");
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+double MiniMonth::CellHeight() const
+{
+    return QFontMetricsF(SmallFont(font())).height() + CellSpacing;
+}
+
+QSize MiniMonth::sizeHint() const
+{
+    // The name of the month, those of the days, and the weeks.
+    return { 0, static_cast<int>((Weeks + 2) * CellHeight()) };
+}
+
+void MiniMonth::Follow(const Period& shown)
+{
+    if (mShown != shown) {
+        mShown = shown;
+        mCursor = shown.first;
+        mMonth = Period::MonthOf(shown.last).first;
+    }
+    Read();
+    Say();
+}
+
+void MiniMonth::Page(int months)
+{
+    const auto parts = mMonth.ToParts();
+    mMonth = Date::FromYearMonthDay(parts.year, parts.month + months, 1);
+    Read();
+}
+
+void MiniMonth::Read()
+{
+    mFirst = Period::WeekOf(mMonth, mDesk.WeekStart()).first;
+    const Period days { mFirst, mFirst.AddDays(Weeks * DaysOfWeek - 1) };
+    mMinutes
+        = Totals::Of(EachStartingIn(mDesk.Profile(), days), RowKind::Project, ColumnsOf(days, ColumnSize::Day, nullptr))
+              .minutes;
+    update();
+}
+
+void MiniMonth::Say()
+{
+    const auto place = DaysBetween(mFirst, mCursor);
+    const auto isSeen = place >= 0 && place < static_cast<int>(mMinutes.size());
+    const auto minutes = isSeen ? mMinutes[static_cast<std::size_t>(place)] : 0;
+    setAccessibleDescription(ToQt(mDesk.Formats()->LongDate(mCursor) + PartSeparator + LengthText(minutes)));
+}
+
+void MiniMonth::paintEvent(QPaintEvent* /*event*/)
+{
+    const auto& colours = mDesk.Look().Colours();
+    const auto width = CellWidth();
+    const auto height = CellHeight();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    auto title = font();
+    title.setWeight(QFont::DemiBold);
+    painter.setFont(title);
+    painter.setPen(ToQt(colours.text));
+    const auto parts = mMonth.ToParts();
+    painter.drawText(QRectF(0, 0, this->width(), height), Qt::AlignVCenter,
+        ToQt(mDesk.Formats()->MonthAbbreviation(parts.month)) + " " + QString::number(parts.year));
+    PaintGlyph(painter, Glyph::Back, ArrowBox(-1), ToQt(colours.quietText));
+    PaintGlyph(painter, Glyph::Forward, ArrowBox(1), ToQt(colours.quietText));
+    painter.setFont(SmallFont(font()));
+    painter.setPen(ToQt(colours.faintText));
+    for (int day = 0; day < DaysOfWeek; ++day) {
+        const auto name = ToQt(WeekdayText(mFirst.AddDays(day).Weekday())).left(1);
+        painter.drawText(QRectF((day + 1) * width, height, width, height), Qt::AlignCenter, name);
+    }
+    const auto most = mMinutes.empty() ? 0 : *std::max_element(mMinutes.begin(), mMinutes.end());
+    for (int week = 0; week < Weeks; ++week) {
+        const auto first = mFirst.AddDays(week * DaysOfWeek);
+        const auto top = (week + 2) * height;
+        const auto name = ActivityWords::WeekTitle({ first, first.AddDays(DaysOfWeek - 1) });
+        painter.setFont(SmallFont(font()));
+        painter.setPen(ToQt(colours.faintText));
+        painter.drawText(QRectF(0, top, width, height), Qt::AlignCenter, ToQt(name.substr(name.find(' ') + 1)));
+        for (int day = 0; day < DaysOfWeek; ++day) {
+            PaintDay(painter, first.AddDays(day), { (day + 1) * width, top, width, height }, most);
+        }
+    }
+}
+
+void MiniMonth::PaintDay(QPainter& painter, Date day, const QRectF& cell, std::int64_t most)
+{
+    const auto& colours = mDesk.Look().Colours();
+    const auto isToday = day == mDesk.Now().Day();
+    if (day >= mShown.first && day <= mShown.last) {
+        painter.fillRect(cell.adjusted(0, 1, 0, -1), ToQt(colours.band));
+    }
+    const auto radius = std::min(cell.width(), cell.height()) / 2;
+    if (isToday) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ToQt(colours.accent));
+        painter.drawEllipse(cell.center(), radius, radius);
+    }
+    const bool isOfMonth = day.ToParts().month == mMonth.ToParts().month;
+    const auto ink = isOfMonth ? colours.text : colours.faintText;
+    painter.setPen(ToQt(isToday ? colours.accentText : ink));
+    painter.drawText(cell.adjusted(0, -1, 0, -1), Qt::AlignCenter, QString::number(day.ToParts().day));
+    const auto minutes = mMinutes[static_cast<std::size_t>(DaysBetween(mFirst, day))];
+    if (minutes > 0 && !isToday) {
+        constexpr double Stroke = 2;
+        const auto longest = cell.width() - CellSpacing;
+        const auto length = std::max(longest * static_cast<double>(minutes) / static_cast<double>(most), Stroke);
+        painter.fillRect(QRectF(cell.x() + CellSpacing / 2, cell.bottom() - Stroke - 1, length, Stroke),
+            ToQt(isOfMonth ? colours.accent : colours.faintText));
+    }
+    if (hasFocus() && day == mCursor) {
+        painter.setPen(QPen(ToQt(colours.text), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(cell.adjusted(1, 1, -1, -1), 4, 4);
+    }
+}
+
+QRectF MiniMonth::ArrowBox(int direction) const
+{
+    constexpr double Side = 16;
+    const auto left = width() - (direction < 0 ? 2 * CellWidth() : CellWidth()) + (CellWidth() - Side) / 2;
+    return { left, (CellHeight() - Side) / 2, Side, Side };
+}
+
+Date MiniMonth::DayAt(const QPointF& place) const
+{
+    const auto column = static_cast<int>(place.x() / CellWidth()) - 1;
+    const auto row = static_cast<int>(place.y() / CellHeight()) - 2;
+    return mFirst.AddDays(row * DaysOfWeek + std::clamp(column, 0, DaysOfWeek - 1));
+}
+
+void MiniMonth::mouseReleaseEvent(QMouseEvent* event)
+{
+    const auto place = event->position();
+    if (event->button() != Qt::LeftButton || !QRectF(rect()).contains(place)) {
+        return;
+    }
+    if (place.y() >= 2 * CellHeight()) {
+        mGoTo(DayAt(place));
+    } else if (place.y() < CellHeight() && place.x() >= width() - 2 * CellWidth()) {
+        Page(place.x() < width() - CellWidth() ? -1 : 1);
+    }
+}
+
+void MiniMonth::wheelEvent(QWheelEvent* event)
+{
+    Page(event->angleDelta().y() > 0 ? -1 : 1);
+}
+
+void MiniMonth::keyPressEvent(QKeyEvent* event)
+{
+    const auto go = [this](int days) {
+        mCursor = mCursor.AddDays(days);
+        mMonth = Period::MonthOf(mCursor).first;
+        Read();
+        Say();
+        QAccessibleEvent change(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&change);
+    };
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return go(-1);
+    case Qt::Key_Right:
+        return go(1);
+    case Qt::Key_Up:
+        return go(-DaysOfWeek);
+    case Qt::Key_Down:
+        return go(DaysOfWeek);
+    case Qt::Key_PageUp:
+        return go(DaysBetween(mCursor, Date::FromYearMonthDay(mCursor.ToParts().year, mCursor.ToParts().month - 1, 1)));
+    case Qt::Key_PageDown:
+        return go(DaysBetween(mCursor, Date::FromYearMonthDay(mCursor.ToParts().year, mCursor.ToParts().month + 1, 1)));
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        return mGoTo(mCursor);
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void MiniMonth::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void MiniMonth::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+}

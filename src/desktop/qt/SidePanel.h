@@ -1,0 +1,35 @@
+#pragma once
+
+#include "desktop/qt/MiniMonth.h"
+#include "desktop/qt/ProjectRows.h"
+
+#include <QWidget>
+
+namespace tempodial {
+
+/// The panel at the left: a month in small, and the time of the days that are shown.
+class SidePanel final : public QWidget
+{
+public:
+    static constexpr int Width = 262;
+
+    /// The log must live as long as this.
+    SidePanel(Desk& desk, const ShownLog& log, QWidget* parent);
+
+    /// The log has changed, or how things look.
+    void Follow(const QString& title);
+
+    MiniMonth& Month() { return *mMonth; }
+    ProjectRows& Projects() { return *mProjects; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Desk& mDesk;
+    const ShownLog& mLog;
+    MiniMonth* mMonth;
+    ProjectRows* mProjects;
+};
+
+}
