@@ -10,8 +10,10 @@ namespace tempodial {
 /// What whoever draws a form wants to know.
 struct FormModelEvents
 {
-    /// Something that is seen may have changed, or is to be drawn at once.
+    /// Something that is seen may have changed.
     std::function<void()> Changed;
+    /// The form is to be drawn at once, after `Changed`.
+    std::function<void()> Refreshed;
     /// The form is to stand in front of other windows.
     std::function<void()> BroughtToFront;
     /// The form is gone for good.
@@ -37,6 +39,11 @@ public:
 
     /// Tells whoever draws the form.
     void Changed() const { mEvents.Raise(&FormModelEvents::Changed); }
+    void Refresh() const
+    {
+        Changed();
+        mEvents.Raise(&FormModelEvents::Refreshed);
+    }
     void BringToFront() const { mEvents.Raise(&FormModelEvents::BroughtToFront); }
     Subscription Subscribe(FormModelEvents events) { return mEvents.Subscribe(std::move(events)); }
 

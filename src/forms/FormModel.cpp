@@ -90,7 +90,7 @@ void FormModel::BringToFront()
 
 void FormModel::Refresh()
 {
-    mFrame->Changed();
+    mFrame->Refresh();
 }
 
 bool FormModel::CloseByFrame()

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 
 namespace tempodial {
 namespace {
@@ -158,6 +159,17 @@ TEST_F(FormModelTest, Unload_ByHand_AsksNobody)
     const auto subscription = mForm->Subscribe({ .QueryClose = [&](bool&) { asked = true; } });
     mForm->Unload();
     EXPECT_FALSE(asked);
+}
+
+TEST_F(FormModelTest, Refresh_IsToldAsAChangeAndThenToBeDrawnAtOnce)
+{
+    std::string told;
+    const auto subscription = mForm->SubscribeToChanges(
+        { .Changed = [&] { told += "changed "; }, .Refreshed = [&] { told += "refreshed "; } });
+    mForm->SetCaption("Other");
+    EXPECT_EQ(told, "changed ");
+    mForm->Refresh();
+    EXPECT_EQ(told, "changed changed refreshed ");
 }
 
 }
