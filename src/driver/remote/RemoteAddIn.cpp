@@ -5,6 +5,7 @@
 #include "platform/controls/EventPump.h"
 #include "platform/controls/MessageBox.h"
 #include "wire/WireFailure.h"
+#include "wire/forms/FormWire.h"
 
 #include <algorithm>
 #include <chrono>
@@ -26,12 +27,6 @@ std::string LocaleForWindows(const std::string& name)
     return other == "C" || other == "POSIX" ? "en-US" : other;
 }
 
-WireValue ToWire(const FormKey& key)
-{
-    const auto* name = std::get_if<std::string>(&key);
-    return name == nullptr ? WireValue::Number(std::get<std::int32_t>(key)) : WireValue::Text(*name);
-}
-
 WireValue ToWire(const Variant& data)
 {
     if (const auto* number = data.If<std::int32_t>()) {
@@ -46,44 +41,6 @@ Variant DataFromWire(const WireValue& value)
         return static_cast<std::int32_t>(value.number);
     }
     return value.kind == WireKind::Text ? Variant(value.text) : Variant();
-}
-
-std::int32_t NumberIn(const WireValue& value)
-{
-    return static_cast<std::int32_t>(value.number);
-}
-
-ControlSnapshot ControlFromWire(const WireValue& value)
-{
-    const auto& fields = value.list;
-    ControlSnapshot control { .name = fields.at(0).text,
-        .kind = static_cast<ControlKind>(fields.at(1).number),
-        .text = fields.at(2).text,
-        .index = NumberIn(fields.at(4)),
-        .checked = fields.at(5).number != 0,
-        .enabled = fields.at(6).number != 0,
-        .visible = fields.at(7).number != 0,
-        .tip = fields.at(8).text,
-        .min = NumberIn(fields.at(9)),
-        .max = NumberIn(fields.at(10)),
-        .value = NumberIn(fields.at(11)) };
-    for (const auto& entry : fields.at(3).list) {
-        control.list.push_back(entry.text);
-    }
-    return control;
-}
-
-FormSnapshot FormFromWire(const WireValue& value)
-{
-    const auto& fields = value.list;
-    FormSnapshot form { .number = NumberIn(fields.at(0)),
-        .className = fields.at(1).text,
-        .title = fields.at(2).text,
-        .visible = fields.at(3).number != 0 };
-    for (const auto& control : fields.at(4).list) {
-        form.controls.push_back(ControlFromWire(control));
-    }
-    return form;
 }
 
 WireValue HiveToWire(Hive hive)
@@ -150,11 +107,7 @@ TempodialMain& RemoteAddIn::Members() const
 
 std::vector<FormSnapshot> RemoteAddIn::Forms()
 {
-    std::vector<FormSnapshot> forms;
-    for (const auto& form : Do("forms").list) {
-        forms.push_back(FormFromWire(form));
-    }
-    return forms;
+    return FormsFromWire(Do("forms"));
 }
 
 void RemoteAddIn::Type(const FormKey& form, const std::string& control, const std::string& text)
