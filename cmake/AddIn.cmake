@@ -14,7 +14,7 @@ function(tempodial_addin_folder name folder)
             WIN32_LEAN_AND_MEAN NOMINMAX)
         # The interfaces of COM have no virtual destructors, since their objects end themselves.
         target_compile_options(addin_base PUBLIC -Wno-non-virtual-dtor)
-        target_link_libraries(addin_base PUBLIC ole32 oleaut32 uuid)
+        target_link_libraries(addin_base PUBLIC ole32 oleaut32 uuid gdi32 comctl32)
         target_precompile_headers(addin_base PRIVATE "${PROJECT_SOURCE_DIR}/src/addin/base/Windows.h")
     elseif(NOT type STREQUAL "INTERFACE_LIBRARY")
         target_precompile_headers(${name} REUSE_FROM addin_base)
@@ -35,9 +35,9 @@ endfunction()
 
 tempodial_addin_folder(addin_base src/addin/base LINK base)
 tempodial_addin_folder(addin_com src/addin/com LINK addin_base platform base)
-tempodial_addin_folder(addin_win32 src/addin/win32 LINK addin_com addin_base portable platform base)
+tempodial_addin_folder(addin_win32 src/addin/win32 LINK addin_com addin_base forms portable platform base)
 tempodial_addin_folder(addin_dll src/addin/dll OBJECT EXCEPT Surroundings.cpp
-    LINK addin_win32 addin_com addin_base engine forms platform base)
+    LINK addin_win32 addin_com addin_base engine platform base)
 
 # What is installed. What the file says of itself is compiled apart, since the options of C++ are unknown there.
 set(dll "${PROJECT_SOURCE_DIR}/src/addin/dll")
@@ -49,11 +49,11 @@ target_precompile_headers(Tempodial REUSE_FROM addin_base)
 
 if(TEMPODIAL_ADDIN_TESTS)
     # The stand-in for Outlook, and the add-in's module as it is tested with.
-    tempodial_addin_folder(standin_rig src/standin/rig OBJECT LINK addin_dll addin_win32 forms faults wire)
+    tempodial_addin_folder(standin_rig src/standin/rig OBJECT LINK addin_dll addin_win32 forms faults wire_forms wire)
     tempodial_addin_module(TempodialRig "${PROJECT_SOURCE_DIR}/src/standin/rig/rig.def" LINK standin_rig)
     file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/standin/*.cpp")
     add_executable(tempodial-standin ${sources})
-    target_link_libraries(tempodial-standin PRIVATE tempodial_options addin_base wire)
+    target_link_libraries(tempodial-standin PRIVATE tempodial_options addin_base wire_forms wire forms)
     target_precompile_headers(tempodial-standin REUSE_FROM addin_base)
     enable_testing()
     include(AddInTests)

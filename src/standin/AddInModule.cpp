@@ -52,7 +52,7 @@ AddInModule::AddInModule(const std::string& path, Conversation& host)
             "the add-in's module " + path + " can't be loaded, error " + std::to_string(GetLastError()));
     }
     // The module that is installed knows nothing of tests.
-    if (GetProcAddress(mModule, RigAttachName) != nullptr) {
+    if (IsForTests()) {
         Find<RigAttach>(RigAttachName)(&mLink);
     } else {
         ImportHooks::Set(mModule, host);

@@ -26,6 +26,8 @@ public:
     /// Begins the shut-down, disconnects the add-in and lets its object go. True when the module could be unloaded
     /// then.
     bool Disconnect();
+    /// True for the test build of the module.
+    bool IsForTests() const { return GetProcAddress(mModule, RigAttachName) != nullptr; }
     /// Does what the test build of the module offers, by the word and its arguments.
     WireValue Do(const std::string& word, const std::vector<WireValue>& arguments);
 

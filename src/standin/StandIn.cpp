@@ -1,8 +1,12 @@
 #include "standin/StandIn.h"
 
 #include "addin/base/SystemText.h"
+#include "forms/FormRefusal.h"
 #include "standin/StandInObject.h"
+#include "standin/WindowEyes.h"
 #include "wire/WireFailure.h"
+#include "wire/forms/FormRequest.h"
+#include "wire/forms/FormWire.h"
 
 namespace tempodial {
 
@@ -80,8 +84,51 @@ WireValue StandIn::Do(FrameReader& body)
 {
     const auto word = body.Text();
     const auto arguments = body.Values();
+    if (IsFormRequest(word)) {
+        return DoWithWindows(word, arguments);
+    }
     const auto found = mWorks.find(word);
     return found == mWorks.end() ? Module().Do(word, arguments) : found->second(arguments);
+}
+
+WireValue StandIn::DoWithWindows(const std::string& word, const std::vector<WireValue>& arguments)
+{
+    WireValue done;
+    try {
+        done = DoFormRequest(mHands, word, arguments);
+    } catch (const FormRefusal& refusal) {
+        if (!Module().IsForTests()) {
+            throw;
+        }
+        Module().Do(word, arguments);
+        throw WireFailure(
+            WireFailure::Refused, std::string("the windows refuse what the models do: ") + refusal.what());
+    }
+    if (!Module().IsForTests()) {
+        return done;
+    }
+    const auto forms = ComparedForms();
+    return word == "forms" ? forms : done;
+}
+
+WireValue StandIn::ComparedForms()
+{
+    auto forms = Module().Do("forms", {});
+    auto visible = FormsFromWire(forms);
+    std::erase_if(visible, [](const FormSnapshot& form) { return !form.visible; });
+    const auto seen = mHands.Forms();
+    if (seen.size() != visible.size()) {
+        throw WireFailure(WireFailure::Refused,
+            std::to_string(visible.size()) + " forms can be seen, and " + std::to_string(seen.size())
+                + " windows show one");
+    }
+    for (std::size_t position = 0; position < seen.size(); ++position) {
+        const auto difference = WindowEyes::Difference(visible[position], seen[position]);
+        if (!difference.empty()) {
+            throw WireFailure(WireFailure::Refused, difference);
+        }
+    }
+    return forms;
 }
 
 AddInModule& StandIn::Module()

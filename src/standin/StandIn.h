@@ -4,6 +4,7 @@
 #include "standin/ObjectTable.h"
 #include "standin/PrivateRegistry.h"
 #include "standin/StandardChannel.h"
+#include "standin/WindowHands.h"
 #include "wire/Conversation.h"
 
 #include <functional>
@@ -30,6 +31,12 @@ private:
     WireValue Serve(FrameType type, FrameReader& body);
     WireValue Raise(FrameReader& body);
     WireValue Do(FrameReader& body);
+    /// Does what is asked of forms with their windows. Where the module is that for tests, what these refuse must be
+    /// refused by the models, too, in whose words it is told; and each must show what its model holds. Fails with
+    /// `WireFailure` otherwise.
+    WireValue DoWithWindows(const std::string& word, const std::vector<WireValue>& arguments);
+    /// What the module's models hold, when the windows show the same.
+    WireValue ComparedForms();
     AddInModule& Module();
 
     StandardChannel mChannel;
@@ -38,6 +45,7 @@ private:
     std::optional<PrivateRegistry> mRegistry;
     std::optional<AddInModule> mModule;
     std::map<std::string, Work> mWorks;
+    WindowHands mHands;
 };
 
 }

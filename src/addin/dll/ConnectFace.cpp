@@ -47,9 +47,9 @@ STDMETHODIMP ConnectFace::OnConnection(
 {
     return Guarded([&] {
         const ComRef<ConnectFace> held(this);
-        mConnect.emplace(Surroundings());
-        mConnect->OnConnection(
-            Adapted<Application>(ComRef<IDispatch>(application)), ProgIdOf(ComRef<IDispatch>(addInInstance)));
+        const ComRef<IDispatch> host(application);
+        mConnect.emplace(Surroundings(host));
+        mConnect->OnConnection(Adapted<Application>(host), ProgIdOf(ComRef<IDispatch>(addInInstance)));
     });
 }
 

@@ -5,6 +5,8 @@
 #include "addin/dll/ModuleUse.h"
 #include "addin/dll/Registration.h"
 #include "addin/win32/ModuleFolder.h"
+#include "addin/win32/forms/DialogKeys.h"
+#include "addin/win32/forms/FormWindow.h"
 
 #include <new>
 
@@ -23,7 +25,9 @@ STDAPI DllGetClassObject(REFCLSID itsClass, REFIID iid, void** object)
 
 STDAPI DllCanUnloadNow()
 {
-    return tempodial::ModuleUse::Uses() == 0 && tempodial::EventSink::Count() == 0 ? S_OK : S_FALSE;
+    const auto isUsed = tempodial::ModuleUse::Uses() != 0 || tempodial::EventSink::Count() != 0
+        || tempodial::FormWindow::Count() != 0 || tempodial::DialogKeys::IsHooked();
+    return isUsed ? S_FALSE : S_OK;
 }
 
 STDAPI DllRegisterServer()

@@ -3,8 +3,10 @@
 #include "addin/win32/ModuleFolder.h"
 #include "addin/win32/UserLocale.h"
 #include "addin/win32/Win32Surroundings.h"
+#include "addin/win32/forms/Win32FormFactory.h"
 #include "engine/core/ProductWords.h"
-#include "forms/FormModelFactory.h"
+
+#include <utility>
 
 namespace tempodial {
 
@@ -17,24 +19,23 @@ std::string InstallFolder()
     return folder.substr(0, folder.find_last_of('\\'));
 }
 
-Ref<FormModelFactory>& Forms()
+Ref<Win32FormFactory>& Forms()
 {
-    static Ref<FormModelFactory> forms;
+    static Ref<Win32FormFactory> forms;
     return forms;
 }
 
 }
 
-Ref<const Platform> Surroundings()
+Ref<const Platform> Surroundings(const ComRef<IDispatch>& application)
 {
-    auto platform = Win32Surroundings({ .text = FileText::OfSystem(),
+    Forms() = MakeRef<Win32FormFactory>(HostsWindow(application));
+    return MakeRef<Platform>(Win32Surroundings({ .text = FileText::OfSystem(),
         .title = ProductName,
         .installPlace = { ProductKey, InstallFolderValue },
         .installFolder = InstallFolder(),
-        .locale = PatternsOfUser() });
-    Forms() = MakeRef<FormModelFactory>();
-    platform.forms = Forms();
-    return MakeRef<Platform>(std::move(platform));
+        .locale = PatternsOfUser(),
+        .forms = Forms() }));
 }
 
 void EndSurroundings()

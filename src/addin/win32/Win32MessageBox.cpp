@@ -34,7 +34,7 @@ unsigned Win32MessageBox::Kind(const std::vector<Answer>& buttons, MessageIcon i
 
 Answer Win32MessageBox::Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon)
 {
-    switch (MessageBoxW(GetForegroundWindow(), Wide(text).c_str(), Wide(mTitle).c_str(), Kind(buttons, icon))) {
+    switch (MessageBoxW(mOwner.Get(), Wide(text).c_str(), Wide(mTitle).c_str(), Kind(buttons, icon))) {
     case IDYES:
         return Answer::Yes;
     case IDNO:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addin/win32/forms/MessageOwner.h"
 #include "platform/controls/MessageBox.h"
 
 #include <string>
@@ -8,12 +9,13 @@
 
 namespace tempodial {
 
-/// Message boxes of the system, in front of the window that is in front.
+/// Message boxes of the system, in front of the window that owns them.
 class Win32MessageBox final : public MessageBox
 {
 public:
-    explicit Win32MessageBox(std::string title)
+    Win32MessageBox(std::string title, MessageOwner owner)
         : mTitle(std::move(title))
+        , mOwner(std::move(owner))
     {
     }
 
@@ -24,6 +26,7 @@ public:
 
 private:
     std::string mTitle;
+    MessageOwner mOwner;
 };
 
 }

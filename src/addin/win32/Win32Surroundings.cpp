@@ -27,8 +27,8 @@ Platform Win32Surroundings(Win32Options options)
         .xml = MakeRef<TreeXmlFactory>(std::make_shared<MsxmlParser>()),
         .pictures = MakeRef<OlePictureLoader>(),
         .importJournal = MakeRef<NoImportJournal>(),
-        .forms = nullptr,
-        .messageBox = MakeRef<Win32MessageBox>(std::move(options.title)),
+        .forms = options.forms,
+        .messageBox = MakeRef<Win32MessageBox>(std::move(options.title), MessageOwner(options.forms)),
         .eventPump = MakeRef<Win32EventPump>() };
 }
 

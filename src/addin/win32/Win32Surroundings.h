@@ -1,6 +1,7 @@
 #pragma once
 
 #include "addin/win32/FileText.h"
+#include "addin/win32/forms/Win32FormFactory.h"
 #include "platform/Platform.h"
 #include "portable/InstalledRegistry.h"
 #include "portable/PatternFormats.h"
@@ -19,9 +20,11 @@ struct Win32Options
     InstalledRegistry::Place installPlace;
     std::string installFolder;
     LocalePatterns locale;
+    /// What makes forms, of which one owns message boxes.
+    Ref<Win32FormFactory> forms;
 };
 
-/// The surroundings that the system gives, but for forms.
+/// The surroundings that the system gives.
 Platform Win32Surroundings(Win32Options options);
 
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "addin/base/ComRef.h"
+#include "addin/win32/forms/Win32FormFactory.h"
 #include "base/Ref.h"
 #include "faults/FaultPlan.h"
-#include "forms/FormModelFactory.h"
-#include "forms/ModelHands.h"
 #include "platform/Platform.h"
 #include "standin/rig/RigHost.h"
 #include "wire/WireValue.h"
@@ -31,7 +31,7 @@ public:
     /// Does what the host asks for; an unknown word fails with `WireFailure`.
     WireValue Do(const std::string& word, const std::vector<WireValue>& arguments);
     /// The surroundings of the shipped module, with what the host answers.
-    Platform Surroundings();
+    Platform Surroundings(const ComRef<IDispatch>& application);
     /// Closes the forms for good.
     void End();
 
@@ -42,8 +42,7 @@ private:
     std::string mLocale;
     std::string mInstallFolder;
     Ref<FaultPlan> mFaults = MakeRef<FaultPlan>();
-    Ref<FormModelFactory> mForms = MakeRef<FormModelFactory>();
-    ModelHands mHands { *mForms };
+    Ref<Win32FormFactory> mForms;
     std::map<std::string, std::function<WireValue(const Arguments& arguments)>> mWorks;
 };
 

@@ -5,9 +5,9 @@
 
 namespace tempodial {
 
-Ref<const Platform> Surroundings()
+Ref<const Platform> Surroundings(const ComRef<IDispatch>& application)
 {
-    return MakeRef<Platform>(Rig::Only().Surroundings());
+    return MakeRef<Platform>(Rig::Only().Surroundings(application));
 }
 
 void EndSurroundings()

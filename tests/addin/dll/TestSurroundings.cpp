@@ -11,7 +11,7 @@ SurroundingsUse& UseOfSurroundings()
     return use;
 }
 
-Ref<const Platform> Surroundings()
+Ref<const Platform> Surroundings(const ComRef<IDispatch>& /*application*/)
 {
     ++UseOfSurroundings().made;
     if (UseOfSurroundings().fails) {
