@@ -5,7 +5,7 @@ function(tempodial_resources)
     set(from "${PROJECT_SOURCE_DIR}/resources")
     set(to "${CMAKE_BINARY_DIR}/share/tempodial")
     file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE "${from}" "${from}/*")
-    list(FILTER files EXCLUDE REGEX "^(README\\.md|CMakeLists\\.txt|gnome-shell/.*)$")
+    list(FILTER files EXCLUDE REGEX "^(README\\.md|CMakeLists\\.txt|(gnome-shell|desktop)/.*)$")
     set(copies "")
     foreach(file IN LISTS files)
         add_custom_command(OUTPUT "${to}/${file}"
