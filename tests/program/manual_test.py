@@ -29,7 +29,7 @@ class ManualTest(shells.Shells):
 
     def test_Pages_AreThereForEachCommandAndEachFile(self):
         expected = {"-".join(["tempodial", *command["name"].split()]) + ".1" for command in self.commands}
-        expected |= {page.name for page in (ROOT / "docs/man").glob("*.5")}
+        expected |= {page.name for page in (ROOT / "docs/man").glob("*.[15]")}
         self.assertEqual(set(self.pages), expected)
 
     def test_Page_OfACommand_HasItsArguments(self):
@@ -39,6 +39,14 @@ class ManualTest(shells.Shells):
                 if argument["names"][-1] != "--help":
                     self.assertIn(argument["names"][-1], page, command["name"])
                     self.assertIn(" ".join(argument["help"].split()[:3]), page.replace("\n", " "), command["name"])
+
+    def test_Page_OfTheDesktop_HasItsOptions(self):
+        program = shells.PROGRAM.with_name("tempodial-desktop")
+        if not program.exists():
+            self.skipTest("it isn't built")
+        told = re.findall(r"^  (?:-h,)?--(\S+)", self.Run(program, "--help"), re.MULTILINE)
+        page = self.pages["tempodial-desktop.1"].read_text(encoding="utf-8")
+        self.assertEqual(sorted(told), sorted(set(re.findall(r"^\.It .*Fl -(\S+)", page, re.MULTILINE))))
 
     def test_Examples_StandAsTheyAre(self):
         for command in self.commands:
