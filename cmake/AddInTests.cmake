@@ -46,12 +46,27 @@ add_executable(tempodial-probe "${tests}/packaging/main.cpp")
 target_link_libraries(tempodial-probe PRIVATE tempodial_options addin_base)
 target_precompile_headers(tempodial-probe REUSE_FROM addin_base)
 set_target_properties(tempodial-probe PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-add_test(NAME packaging/installer COMMAND "${tests}/packaging/installer_test.py")
-set_tests_properties(packaging/installer PROPERTIES TIMEOUT 300 COST 30 LABELS packaging RESOURCE_LOCK registry-of-dll)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_test(NAME packaging/installer COMMAND "${tests}/packaging/installer_test.py")
+    set_tests_properties(packaging/installer PROPERTIES TIMEOUT 300 COST 30 LABELS packaging
+        RESOURCE_LOCK registry-of-dll)
+endif()
 
 file(GLOB cases CONFIGURE_DEPENDS "${tests}/rig/cases/*.jsonl")
 foreach(case IN LISTS cases)
     cmake_path(GET case STEM name)
     add_test(NAME rig/${name} COMMAND "${tests}/rig/compare-all" "${case}")
-    set_tests_properties(rig/${name} PROPERTIES TIMEOUT 600 LABELS rig)
+    list(APPEND comparisons rig/${name})
 endforeach()
+add_test(NAME rig/faults COMMAND "${tests}/rig/compare-all" --faults 30 "${tests}/rig/cases/morning.jsonl")
+set_tests_properties(${comparisons} rig/faults PROPERTIES TIMEOUT 600 LABELS rig
+    ENVIRONMENT "TEMPODIAL_WINDOWS_BUILD=${CMAKE_BINARY_DIR}")
+set_tests_properties(rig/faults rig/thousand-windows PROPERTIES COST 20)
+set_tests_properties(rig/faults PROPERTIES PROCESSORS 2)
+
+# The driver with the add-in for Windows, as a program of its own; the one without it is that of dev.
+file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/bin/tempodial-drive-wine" CONTENT
+"#!/bin/bash
+TEMPODIAL_ADDIN_DIR='${CMAKE_BINARY_DIR}/bin' exec '${PROJECT_SOURCE_DIR}/tools/with-wine' \"\${TEMPODIAL_NATIVE_BUILD:-${PROJECT_SOURCE_DIR}/build/dev}/bin/tempodial-drive\" --addin wine \"$@\"
+"
+    FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -41,12 +41,15 @@ public:
 
     /// Asks the host; fails with `WireFailure`. When the host is gone, so is this program.
     WireValue Ask(FrameWriter& request) const;
+    /// How often it was asked.
+    std::size_t Asked() const { return mAsked; }
 
 private:
     WireValue ListToWire(SAFEARRAY* array) const;
     WireValue ObjectToWire(IDispatch* object) const;
 
     Conversation& mHost;
+    mutable std::size_t mAsked = 0;
     std::map<std::int64_t, StandInObject*> mObjects;
 };
 

@@ -1,6 +1,7 @@
 #include "standin/StandIn.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 
 int main()
@@ -12,6 +13,9 @@ int main()
     try {
         tempodial::StandIn standIn;
         standIn.Run();
+        if (std::getenv("TEMPODIAL_STANDIN_FIGURES") != nullptr) {
+            (void)std::fprintf(stderr, "object calls: %zu\n", standIn.ObjectCalls());
+        }
     } catch (const std::exception& error) {
         (void)std::fprintf(stderr, "tempodial-standin: %s\n", error.what());
         status = 1;

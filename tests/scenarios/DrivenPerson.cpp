@@ -31,6 +31,7 @@ DrivenPerson::~DrivenPerson()
 
 Json DrivenPerson::Do(const Json& command)
 {
+    mCase.Did(command);
     auto answer = mDriver->Do(command);
     if (answer.at("ok") != true) {
         mRefusals.push_back(command.dump() + " " + answer.dump());
@@ -80,7 +81,10 @@ void DrivenPerson::WriteTracker() const
 void DrivenPerson::WriteDay(const std::string& dayKey, const std::vector<std::string>& slots) const
 {
     std::filesystem::create_directories(mFolder.Path("Tempodial"));
-    std::ofstream(mFolder.Path("Tempodial/tracker_granules" + dayKey + ".out"), std::ios::binary) << TrackerText(slots);
+    const auto name = "tracker_granules" + dayKey + ".out";
+    const auto text = TrackerText(slots);
+    std::ofstream(mFolder.Path("Tempodial/" + name), std::ios::binary) << text;
+    mCase.Wrote(name, text);
 }
 
 void DrivenPerson::WriteSlots() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "driver/Driver.h"
+#include "scenarios/KeptCase.h"
 #include "support/TempFolder.h"
 
 #include <nlohmann/json.hpp>
@@ -87,6 +88,7 @@ public:
 
 private:
     TempFolder mFolder { TempFolder::InMemory() };
+    mutable KeptCase mCase;
     std::unique_ptr<Driver> mDriver;
     std::vector<std::string> mRefusals;
     std::vector<Json> mMessages;
