@@ -31,8 +31,15 @@ foreach(part base com win32 dll)
     target_link_libraries(${program} PRIVATE tempodial_options addin_${part} addin_googletest)
     target_compile_options(${program} PRIVATE -Wno-subobject-linkage)
     set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    gtest_discover_tests(${program} TEST_PREFIX "addin/${part}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-        NO_PRETTY_VALUES PROPERTIES TIMEOUT 60 LABELS addin RESOURCE_LOCK registry-of-${part})
+    if(TEMPODIAL_TESTS_TOGETHER)
+        # To start Wine takes longer than most of these tests.
+        add_test(NAME addin/${part} WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests"
+            COMMAND ${program} --gtest_brief=1 "--gtest_output=xml:addin_${part}.xml")
+        set_tests_properties(addin/${part} PROPERTIES TIMEOUT 300 LABELS addin RESOURCE_LOCK registry-of-${part})
+    else()
+        gtest_discover_tests(${program} TEST_PREFIX "addin/${part}/" DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+            NO_PRETTY_VALUES PROPERTIES TIMEOUT 60 LABELS addin RESOURCE_LOCK registry-of-${part})
+    endif()
 endforeach()
 
 # These look at the module that is installed, and register it.

@@ -77,6 +77,8 @@ protected:
     {
         EXPECT_EQ(Regsvr32(L"/u "), 0U);
         CoUninitialize();
+        // Another test in this process finds the user's own.
+        SetEnvironmentVariableW(L"TMP", nullptr);
     }
 
     ScratchFolder mFolder;
