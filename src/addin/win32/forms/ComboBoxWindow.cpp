@@ -17,8 +17,8 @@ constexpr int OpenHeight = 9;
 }
 
 ComboBoxWindow::ComboBoxWindow(HWND form, const ControlDefinition& definition, WORD number, DWORD group)
-    : ControlWindow(form, definition, number,
-        { L"COMBOBOX", WS_TABSTOP | group | CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL })
+    : ControlWindow(
+        form, definition, number, { L"COMBOBOX", WS_TABSTOP | group | CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL })
 {
     // As long as can be; the system would stop the person earlier than the engine does.
     Send(CB_LIMITTEXT);

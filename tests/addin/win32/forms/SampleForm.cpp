@@ -2,6 +2,8 @@
 
 #include "addin/base/WindowText.h"
 
+#include <string>
+
 namespace tempodial {
 
 FormDefinition SampleDefinition()
@@ -22,8 +24,24 @@ FormDefinition SampleDefinition()
             { { .name = "Outside", .kind = Button, .text = "&Nowhere", .onForm = false } } } };
 }
 
+namespace {
+
+/// Lets this process have a desktop of its own, on which no other one takes the keys away.
+void TakeOwnDesktop()
+{
+    static const auto taken = [] {
+        const auto name = L"tests-" + std::to_wstring(GetCurrentProcessId());
+        return SetThreadDesktop(
+            CreateDesktopW(name.c_str(), nullptr, nullptr, 0, GENERIC_ALL | DESKTOP_SWITCHDESKTOP, nullptr));
+    }();
+    ASSERT_NE(taken, FALSE);
+}
+
+}
+
 SampleForm::SampleForm()
 {
+    TakeOwnDesktop();
     const auto on
         = [this](const std::string& name, const char* what) { return [this, name, what] { Happens(name, what); }; };
     for (const auto* name : { "Subject", "Lines" }) {
