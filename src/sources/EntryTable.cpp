@@ -195,28 +195,24 @@ private:
 
     void TakeMoments(std::int64_t from, std::int64_t to, SourceEntry entry)
     {
-        if (mSettings.asSightings && to - from <= LongestEntry) {
-            ForLocalTimes(mSettings.zone, from, to,
-                [&](std::int64_t begin, std::int64_t end) { TakeWindow(begin, end, entry.words); });
-            return;
-        }
         entry.start = LocalSeconds(mSettings.zone, from);
         entry.end = entry.start + (to - from);
-        Take(std::move(entry));
+        if (!mSettings.asSightings || to <= from || to - from > LongestEntry) {
+            Take(std::move(entry));
+            return;
+        }
+        ForLocalTimes(mSettings.zone, from, to,
+            [&](std::int64_t begin, std::int64_t end) { TakeWindow(begin, end, entry.words); });
     }
 
     void TakeLocal(Date from, Date to, std::optional<std::int64_t> length, SourceEntry entry)
     {
         entry.start = from.Seconds();
         entry.end = to.Seconds();
-        if (mSettings.asSightings) {
-            TakeWindow(entry.start, entry.end, entry.words);
-            return;
-        }
         // Where the clock was put forward or back in between, the true length is another.
         const auto trueLength = mSettings.zone.MomentOf(to) - mSettings.zone.MomentOf(from);
         const auto local = entry.end - entry.start;
-        if (local > 0 && trueLength > 0 && trueLength != local) {
+        if (!mSettings.asSightings && local > 0 && trueLength > 0 && trueLength != local) {
             entry.end = entry.start + (length && *length > 0 ? *length : trueLength);
         }
         Take(std::move(entry));
@@ -236,6 +232,8 @@ private:
             mData.skipped.Add(Skipped::ZeroLength);
         } else if (entry.end < entry.start) {
             mData.skipped.Add(Skipped::Unreadable);
+        } else if (mSettings.asSightings) {
+            TakeWindow(entry.start, entry.end, entry.words);
         } else if (entry.end - entry.start > LongestEntry) {
             mData.skipped.Add(Skipped::TooLong);
         } else {

@@ -27,7 +27,6 @@ WindowTimeline::WindowTimeline(SourceData& data, const ViewMaker& views, std::fu
     , mViews(views)
     , mIsInQuestion(std::move(isInQuestion))
 {
-    std::erase_if(mData.windows, [](const SeenWindow& window) { return window.end <= window.begin; });
     // Of two that come at once the shorter one is in front.
     std::sort(mData.windows.begin(), mData.windows.end(), [](const SeenWindow& a, const SeenWindow& b) {
         return std::tuple(a.begin, b.end, a.sighting) < std::tuple(b.begin, a.end, b.sighting);
@@ -36,6 +35,7 @@ WindowTimeline::WindowTimeline(SourceData& data, const ViewMaker& views, std::fu
 
 void WindowTimeline::Make(Skipped& skipped, const std::function<void(Day)>& take)
 {
+    CutLong(skipped);
     FindPresence(skipped);
     Presence all;
     for (const auto& presence : mPresence) {
@@ -61,6 +61,22 @@ void WindowTimeline::Make(Skipped& skipped, const std::function<void(Day)>& take
             take(Picked(midnight, present, pieces, skipped));
         }
     }
+}
+
+void WindowTimeline::CutLong(Skipped& skipped)
+{
+    constexpr auto Never = std::numeric_limits<std::int64_t>::max();
+    std::vector<std::int64_t> next(mData.computers.size(), Never);
+    for (auto window = mData.windows.rbegin(); window != mData.windows.rend(); ++window) {
+        auto& neighbour = next[window->computer];
+        if (window->end - window->begin > DaySeconds) {
+            const bool isNear = neighbour != Never && neighbour - window->begin <= DaySeconds;
+            skipped.Add(isNear ? Skipped::Cut : Skipped::TooLong);
+            window->end = isNear ? neighbour : window->begin;
+        }
+        neighbour = window->begin;
+    }
+    std::erase_if(mData.windows, [](const SeenWindow& window) { return window.end <= window.begin; });
 }
 
 void WindowTimeline::FindPresence(Skipped& skipped)

@@ -45,6 +45,8 @@ private:
 
     static std::vector<Piece> InFront(std::vector<Piece> pieces);
 
+    /// Lets windows of more than a day end when the computer's next one begins, or leaves them out.
+    void CutLong(Skipped& skipped);
     void FindPresence(Skipped& skipped);
     /// Makes the windows that the day behind a midnight has a part of the open ones.
     void GoOnTo(std::int64_t midnight);

@@ -115,6 +115,18 @@ TEST_F(EntryTableTest, Csv_AsSightings_AreWindows)
     EXPECT_TRUE(data.entries.empty());
 }
 
+TEST_F(EntryTableTest, Csv_SightingsWithoutALength_AreCounted)
+{
+    const auto data = Read("csv",
+        "start,end,program\n2026-11-02T09:00,2026-11-02T09:00,a\n2026-11-02T09:00,2026-11-02T08:00,a\n"
+        "2026-11-02T09:00Z,2026-11-02T09:00Z,a\n2026-11-02T09:00Z,2026-11-02T08:00Z,a\n"
+        "2026-11-02T09:00Z,4052-11-02T08:00Z,a\n",
+        true);
+    EXPECT_EQ(data.windows.size(), 1U);
+    EXPECT_EQ(data.skipped.Count(Skipped::ZeroLength), 2);
+    EXPECT_EQ(data.skipped.Count(Skipped::Unreadable), 2);
+}
+
 TEST_F(EntryTableTest, Csv_OtherEncodingAndLongFields_AreTaken)
 {
     const auto data = Read("csv",

@@ -219,6 +219,20 @@ TEST_F(ImportPlanTest, Make_WindowsThatComeAtOnce_LeaveTheShorterInFront)
     EXPECT_NE(days.at(Monday).lines[1].find("Atlas"), std::string::npos);
 }
 
+TEST_F(ImportPlanTest, Make_WindowsOfMoreThanADay_EndAtTheNextOneOrAreLeftOut)
+{
+    constexpr std::int64_t Millennia = 2000LL * 366 * 86400;
+    See(Monday, Ten, Ten + Millennia, "atlas", "map");
+    See(Monday, Ten + 10 * Minute, Ten + 20 * Minute, "ledger", "sum");
+    See(Monday, Ten + 30 * Minute, Ten + Millennia, "quarry", "stone");
+    const auto plan = Plan();
+    const auto days = plan.Make(mTaken, mLedger);
+    ASSERT_EQ(days.size(), 1U);
+    EXPECT_EQ(days.at(Monday).slots, 4);
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::Cut), 1);
+    EXPECT_EQ(plan.LeftOut().Count(Skipped::TooLong), 1);
+}
+
 TEST_F(ImportPlanTest, Make_TwoComputers_ShareTheTime)
 {
     See(Monday, Ten, Ten + 10 * Minute, "atlas", "map");
