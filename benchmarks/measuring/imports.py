@@ -204,7 +204,7 @@ class Imports:
         product.Sync()
         cost = programs.Run(profile, "import", "activitywatch", export, day=product.LAST + datetime.timedelta(days=1))
         items = programs.Items(profile)
-        if items < days * 10:
+        if items < days * 5:
             raise processes.RunError(f"the import made only {items} items of {days} days")
         os.remove(export)
         shutil.rmtree(profile)
