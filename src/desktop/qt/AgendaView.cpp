@@ -1,11 +1,8 @@
 #include "desktop/qt/AgendaView.h"
 
-#include "desktop/ActivityWords.h"
-#include "desktop/DesktopStrings.h"
-#include "desktop/DragGesture.h"
 #include "desktop/qt/QtText.h"
-#include "terminal/TerminalText.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLabel>
@@ -19,17 +16,9 @@ namespace tempodial {
 
 namespace {
 
-constexpr int HoursOfDay = 24;
 constexpr double Hundredth = 0.01;
 /// What is shown of a day without activities.
 constexpr DaySpan UsualHours { 28800, 64800 };
-/// The minutes that a day's bar stands for, unless a day is longer.
-constexpr std::int64_t BarMinutes = 600;
-
-QString LineOf(const std::string& text)
-{
-    return ToQt(IsolatedLine(text));
-}
 
 }
 
@@ -37,6 +26,7 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     : QAbstractScrollArea(parent)
     , mDesk(desk)
     , mLog(log)
+    , mContents(desk, log)
     , mPainter(desk.Look())
     , mHead(new DayHead(desk.Look(), this))
     , mNote(new QLabel(this))
@@ -73,8 +63,8 @@ void AgendaView::TakeFont()
 void AgendaView::Follow()
 {
     mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.Days(), Place());
-    MakeWords();
-    MakeCards();
+    mContents.Fill();
+    mGutter = mPainter.GutterFor(mContents.HourNames());
     mPainter.Texts().Forget();
     Put();
     FindFocus();
@@ -85,7 +75,7 @@ void AgendaView::Follow()
 
 void AgendaView::FollowClock()
 {
-    MakeWords();
+    mContents.FillHours();
     Put();
 }
 
@@ -95,39 +85,6 @@ void AgendaView::FindFocus()
     const auto found = std::find_if(pieces.begin(), pieces.end(),
         [this](const AgendaPiece& piece) { return mScene->ActivityOf(piece).number == mFocusNumber; });
     mFocus = found == pieces.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - pieces.begin()));
-}
-
-void AgendaView::MakeWords()
-{
-    const auto& formats = mDesk.Formats();
-    mHourNames.clear();
-    for (int hour = 0; hour < HoursOfDay; ++hour) {
-        mHourNames.push_back(ToQt(formats->ShortTime(mLog.Days().first.AddMinutes(std::int64_t { hour } * 60))));
-    }
-    mHourNames.push_back(ToQt(formats->ShortTime(mDesk.Now())));
-    mGutter = mPainter.GutterFor(mHourNames);
-    mGaps.clear();
-    for (const auto& gap : mScene->Gaps()) {
-        mGaps.push_back(ToQt(GapText(gap.minutes)));
-    }
-}
-
-void AgendaView::MakeCards()
-{
-    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    mCards.clear();
-    for (const auto& activity : mLog.Activities()) {
-        AgendaCard card;
-        card.title = LineOf(words.Title(activity));
-        card.detail = LineOf(words.Detail(activity, mLog.ColouredBy()));
-        card.times = ToQt(words.Times(activity));
-        card.style = mDesk.StyleOf(mLog.ColouredBy(), mLog.ColourNameOf(activity));
-        card.style.isDashed = IsUnassigned(activity);
-        card.isSelected = mSelected.count(activity.number) > 0;
-        card.isFaded = !mOnly.empty() && mOnly.count(mLog.ColourNameOf(activity)) == 0;
-        card.isSoft = DragGesture::MayGrow(activity.end, mDesk.Now());
-        mCards.push_back(std::move(card));
-    }
 }
 
 TimeScale AgendaView::Scale() const
@@ -151,64 +108,13 @@ AgendaScene::Place AgendaView::Place() const
 void AgendaView::Put()
 {
     mScene->Put(Place());
-    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    mLabels.clear();
-    for (const auto& run : mScene->Runs()) {
-        std::vector<Activity> activities;
-        for (auto i = run.pieces.begin; i < run.pieces.end; ++i) {
-            activities.push_back(mScene->ActivityOf(mScene->Layout().Pieces()[i]));
-        }
-        mLabels.push_back(LineOf(words.ShortLabel(activities)));
-    }
-    for (std::size_t i = 0; i < mGaps.size(); ++i) {
-        if (!ShowsLengthOf(mScene->Gaps()[i], mScene->Scale(), mScene->Layout().Days())) {
-            mGaps[i].clear();
-        } else if (mGaps[i].isEmpty()) {
-            mGaps[i] = ToQt(GapText(mScene->Gaps()[i].minutes));
-        }
-    }
-    MakeHead();
+    mContents.FillPlaced(*mScene);
+    mHead->Show(mContents.Heads(*mScene));
+    mHead->setGeometry(0, 0, viewport()->width(), mHead->sizeHint().height());
     const auto height = static_cast<int>(std::ceil(mScene->Scale().DayHeight()));
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
     viewport()->update();
-}
-
-void AgendaView::MakeHead()
-{
-    std::vector<DayHead::Day> days;
-    for (int day = 0; day < mLog.DayCount(); ++day) {
-        const auto date = mLog.Days().first.AddDays(day);
-        const auto minutes = mLog.Sums().minutes[static_cast<std::size_t>(day)];
-        const auto column = mScene->Geometry().Column(day);
-        DayHead::Day head;
-        head.number = QString::number(date.ToParts().day);
-        head.name = ToQt(WeekdayText(date.Weekday()));
-        head.total = minutes == 0 ? QString() : ToQt(LengthText(minutes));
-        head.spoken = ToQt(mDesk.Formats()->LongDate(date) + PartSeparator + LengthText(minutes));
-        head.bar = BarOf(static_cast<std::size_t>(day));
-        head.isToday = date == mDesk.Now().Day();
-        head.isQuiet = mDesk.Hours().HoursOf(date).Seconds() == 0;
-        head.left = column.left;
-        head.width = column.width;
-        days.push_back(std::move(head));
-    }
-    mHead->Show(std::move(days));
-    mHead->setGeometry(0, 0, viewport()->width(), mHead->sizeHint().height());
-}
-
-StackedBar AgendaView::BarOf(std::size_t day)
-{
-    const auto& colours = mDesk.Look().Colours();
-    const auto& sums = mLog.Sums();
-    StackedBar bar;
-    bar.track = ToQt(colours.track);
-    bar.scale = std::max(BarMinutes, *std::max_element(sums.minutes.begin(), sums.minutes.end()));
-    for (const auto& row : sums.rows) {
-        const auto style = mDesk.StyleOf(mLog.ColouredBy(), row.name);
-        bar.parts.push_back({ ToQt(style.colours.mark), row.minutes[day], style.isHatched });
-    }
-    return bar;
 }
 
 void AgendaView::Fit()
@@ -223,17 +129,18 @@ void AgendaView::Fit()
 
 void AgendaView::ShowOnly(const std::set<std::string>& names)
 {
-    mOnly = names;
-    MakeCards();
+    mContents.ShowOnly(names);
     viewport()->update();
 }
 
 void AgendaView::ShowSelected(const Numbers& numbers)
 {
-    mSelected = numbers;
-    for (std::size_t i = 0; i < mCards.size(); ++i) {
-        mCards[i].isSelected = mSelected.count(mLog.Activities()[i].number) > 0;
+    if (mSelected != numbers) {
+        QAccessibleEvent event(this, QAccessible::SelectionWithin);
+        QAccessible::updateAccessibility(&event);
     }
+    mSelected = numbers;
+    mContents.Select(numbers);
     viewport()->update();
 }
 
@@ -245,12 +152,12 @@ void AgendaView::paintEvent(QPaintEvent* event)
     const auto hours = mDesk.Hours();
     mPainter.Paint(painter,
         { .scene = *mScene,
-            .cards = mCards,
-            .labels = mLabels,
-            .gaps = mGaps,
+            .cards = mContents.Cards(),
+            .labels = mContents.Labels(),
+            .gaps = mContents.Gaps(),
             .hours = hours,
             .now = mDesk.Now(),
-            .hourNames = mHourNames,
+            .hourNames = mContents.HourNames(),
             .focus = hasFocus() ? mFocus : std::nullopt,
             .foldsShortOnes = mDesk.Settings().foldsShortOnes,
             .width = static_cast<double>(viewport()->width()),
@@ -291,16 +198,21 @@ void AgendaView::ShowGhost(const std::optional<TimeSpan>& times, const QRectF& b
 
 void AgendaView::SayTimes(const TimeSpan& times, const TimeSpan& before) const
 {
-    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    Activity shown;
-    shown.start = times.start;
-    shown.end = times.end;
-    shown.duration = MinutesBetween(times.start, times.end);
-    auto text = words.Summary(shown);
-    if (DragGesture::MayGrow(before.end, mDesk.Now())) {
-        text += PartSeparator + std::string(MayGrowText);
+    mWishes.say(mContents.WordsOf(times, before.end));
+}
+
+QString AgendaView::SpokenOf(const Activity& activity) const
+{
+    return mContents.SpokenOf(activity);
+}
+
+void AgendaView::TellFocus()
+{
+    if (mFocus && hasFocus()) {
+        QAccessibleEvent event(this, QAccessible::Focus);
+        event.setChild(static_cast<int>(*mFocus));
+        QAccessible::updateAccessibility(&event);
     }
-    mWishes.say(ToQt(text));
 }
 
 void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
@@ -311,6 +223,7 @@ void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
     if (!piece) {
         return;
     }
+    TellFocus();
     const auto box = mScene->Geometry().BoxOf(mScene->Layout().Pieces()[*piece]);
     auto* bar = verticalScrollBar();
     constexpr int Around = 8;
@@ -337,13 +250,6 @@ QPointF AgendaView::InScene(const QPointF& place) const
 QRectF AgendaView::InView(const PixelBox& box) const
 {
     return ToQt(box).translated(0, -verticalScrollBar()->value());
-}
-
-QString AgendaView::ToolTipOf(const Activity& activity) const
-{
-    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    return LineOf(words.Title(activity)) + "\n" + LineOf(words.Detail(activity, Coloured::Project)) + "\n"
-        + ToQt(words.Times(activity) + PartSeparator + LengthText(activity.duration));
 }
 
 void AgendaView::ApplyZoom(double pixelsPerMinute, double place)
@@ -418,6 +324,7 @@ void AgendaView::keyPressEvent(QKeyEvent* event)
 void AgendaView::focusInEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusInEvent(event);
+    TellFocus();
     viewport()->update();
 }
 

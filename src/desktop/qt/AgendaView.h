@@ -3,6 +3,7 @@
 #include "desktop/AgendaScene.h"
 #include "desktop/ShownLog.h"
 #include "desktop/TimeSpan.h"
+#include "desktop/qt/AgendaContents.h"
 #include "desktop/qt/AgendaKeys.h"
 #include "desktop/qt/AgendaMouse.h"
 #include "desktop/qt/AgendaPainter.h"
@@ -47,6 +48,9 @@ public:
         std::function<bool(QKeyEvent& event)> key;
         /// A sentence about what is being done, empty when it is over.
         std::function<void(const QString& text)> say;
+        /// What is selected gets a project, or goes.
+        std::function<void()> chooseProject;
+        std::function<void()> remove;
         /// The step that the note offers.
         std::function<void()> followLink;
     };
@@ -72,7 +76,7 @@ public:
 
     DayHead& Head() { return *mHead; }
     const AgendaScene& Scene() const { return *mScene; }
-    const std::vector<AgendaCard>& Cards() const { return mCards; }
+    const std::vector<AgendaCard>& Cards() const { return mContents.Cards(); }
     /// The piece that has the focus.
     std::optional<std::size_t> Focus() const { return mFocus; }
     /// Gives a piece the focus and scrolls to it.
@@ -84,7 +88,9 @@ public:
     /// A box of the scene in places of the viewport.
     QRectF InView(const PixelBox& box) const;
     /// What is said of an activity to who rests on it.
-    QString ToolTipOf(const Activity& activity) const;
+    QString ToolTipOf(const Activity& activity) const { return mContents.ToolTipOf(activity); }
+    /// What a screen reader says of an activity.
+    QString SpokenOf(const Activity& activity) const;
     /// Shows times that something would have, and a band around what is being selected.
     void ShowGhost(const std::optional<TimeSpan>& times, const QRectF& band);
     /// Says what times something would have, and what is to be known of that.
@@ -108,31 +114,24 @@ protected:
 
 private:
     void TakeFont();
-    void MakeCards();
-    void MakeWords();
-    void MakeHead();
     /// Lays the scene out anew for the width and the zoom.
     void Put();
     AgendaScene::Place Place() const;
     TimeScale Scale() const;
-    StackedBar BarOf(std::size_t day);
     void FindFocus();
+    void TellFocus();
     void PaintGhost(QPainter& painter) const;
     void PlaceNote();
     void ApplyZoom(double pixelsPerMinute, double place);
 
     Desk& mDesk;
     const ShownLog& mLog;
+    AgendaContents mContents;
     AgendaPainter mPainter;
     DayHead* mHead;
     QLabel* mNote;
     std::unique_ptr<AgendaScene> mScene;
-    std::vector<AgendaCard> mCards;
-    std::vector<QString> mLabels;
-    std::vector<QString> mGaps;
-    std::vector<QString> mHourNames;
     Numbers mSelected;
-    std::set<std::string> mOnly;
     std::optional<std::size_t> mFocus;
     /// The activity whose piece it is, by which it is found again when the log has changed.
     std::optional<std::int64_t> mFocusNumber;

@@ -70,8 +70,10 @@ void DayHead::Paint(QPainter& painter, const Day& day) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(QRectF(day.left, height() - 2 * HeadMargin - BarHeight, 1, height()), ToQt(colours.hourLine));
     const auto number = NumberFont(font());
-    const auto width = std::max(line, QFontMetricsF(number).horizontalAdvance(day.number) + 2);
-    const QRectF circle(day.left + HeadMargin, HeadMargin, width, line);
+    // As large as two digits need, whatever this day's are, so that all names begin at one place.
+    constexpr double AroundDigits = 10;
+    const auto side = std::max(line, QFontMetricsF(number).horizontalAdvance("00") + AroundDigits);
+    const QRectF circle(day.left + HeadMargin / 2, HeadMargin + (line - side) / 2, side, side);
     if (day.isToday) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ToQt(colours.accent));
@@ -86,7 +88,7 @@ void DayHead::Paint(QPainter& painter, const Day& day) const
     bold.setWeight(QFont::DemiBold);
     const auto totalWidth = QFontMetricsF(bold).horizontalAdvance(day.total);
     const auto right = day.left + day.width - HeadMargin;
-    const QRectF rest(circle.right() + HeadMargin, HeadMargin, right - circle.right() - HeadMargin, line);
+    const QRectF rest(circle.right() + HeadMargin / 2, HeadMargin, right - circle.right() - HeadMargin / 2, line);
     painter.setFont(font());
     painter.setPen(day.isToday ? ToQt(colours.link) : quiet);
     const auto name = QFontMetricsF(font()).elidedText(day.name, Qt::ElideRight, rest.width() - totalWidth - 4);

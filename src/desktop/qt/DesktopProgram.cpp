@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Desk.h"
 #include "desktop/qt/HostWindows.h"
+#include "desktop/qt/PeriodicImport.h"
 #include "desktop/qt/QtMessageBox.h"
 #include "session/InstalledForm.h"
 #include "terminal/ArgumentParser.h"
@@ -50,6 +51,7 @@ ExitStatus DesktopProgram::Execute(const std::vector<std::string>& arguments)
     desk.Start(MakeRef<QtMessageBox>(desk.Session().Mailbox()));
     {
         HostWindows windows(desk);
+        const PeriodicImport import(desk);
         windows.mWhenAllClosed = [] { QCoreApplication::quit(); };
         QApplication::exec();
         desk.Exit();

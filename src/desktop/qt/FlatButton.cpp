@@ -64,7 +64,10 @@ double FlatButton::HintWidth() const
 QSize FlatButton::sizeHint() const
 {
     auto bold = font();
-    bold.setWeight(QFont::DemiBold);
+    if (isCheckable()) {
+        // As wide as it is when it is chosen.
+        bold.setWeight(QFont::DemiBold);
+    }
     const QFontMetricsF metrics(bold);
     const auto words = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
     auto width = text().isEmpty() ? 0 : std::max<double>(words, metrics.size(Qt::TextShowMnemonic, text()).width());

@@ -1,5 +1,6 @@
 #include "desktop/qt/HostWindows.h"
 
+#include "desktop/qt/AgendaAccess.h"
 #include "desktop/qt/MainWindow.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ HostWindows::HostWindows(Desk& desk)
     : mDesk(desk)
     , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
 {
+    AgendaAccess::Install();
     Follow();
 }
 

@@ -4,12 +4,14 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/ViewDays.h"
 #include "desktop/WhyWords.h"
+#include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
+#include "desktop/qt/JobStrip.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
-#include "host/windows/BuiltInCommand.h"
+#include "desktop/qt/SortOutView.h"
 #include "review/ActivityReader.h"
 #include "review/LikelyProjects.h"
 
@@ -17,8 +19,8 @@
 #include <QCloseEvent>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
+#include <QStackedWidget>
 #include <QTimer>
 
 namespace tempodial {
@@ -41,6 +43,8 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     , mView(desk.Settings().view)
     , mDay(desk.Now().Day())
     , mBar(new NavigationBar(desk, this))
+    , mCommands(*this, desk)
+    , mSearch(desk)
     , mClock(new QTimer(this))
 {
     setWindowTitle(ProductName);
@@ -49,9 +53,8 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     Assemble();
     Connect();
     ConnectAgenda();
-    MakeActions();
-    MakeViewActions();
-    mMenu = std::make_unique<MainMenu>(desk, mExplorer, *menuBar(), mBar->Buttons(), mActions.All());
+    ConnectOthers();
+    mMenu = std::make_unique<MainMenu>(desk, mExplorer, *menuBar(), mBar->Buttons(), mCommands.Actions().All());
     mEvents = desk.Subscribe({ .Changed = [this] { Follow(); },
         .Restyled = [this] { Follow(); },
         .Failed = [this](const std::string& message) { mFoot->Say(ToQt(message)); } });
@@ -76,9 +79,18 @@ void MainWindow::Assemble()
     mAgenda = new AgendaView(mDesk, mLog, content);
     mFoot = new SelectionBar(mDesk, content);
     middle->addWidget(mSide);
-    middle->addWidget(mAgenda, 1);
+    mPages = new QStackedWidget(content);
+    mList = new ActivityList(mDesk, mPages);
+    mSortOut = new SortOutView(mDesk, mLog, mPages);
+    for (auto* page :
+        { static_cast<QWidget*>(mAgenda), static_cast<QWidget*>(mList), static_cast<QWidget*>(mSortOut) }) {
+        mPages->addWidget(page);
+    }
+    mJob = new JobStrip(mDesk, content);
+    middle->addWidget(mPages, 1);
     layout->addWidget(mBar);
     layout->addLayout(middle, 1);
+    layout->addWidget(mJob);
     layout->addWidget(mFoot);
     setCentralWidget(content);
     constexpr int Minute = 60000;
@@ -89,13 +101,15 @@ void MainWindow::Assemble()
 void MainWindow::Connect()
 {
     mBar->mPage = [this](int pages) { Page(pages); };
-    mBar->mGoToToday = [this] { Show(mView, mDesk.Now().Day()); };
+    mBar->mGoToToday = [this] { GoToToday(); };
     mBar->mShow = [this](View view) { Show(view, mDay); };
     mBar->mSearch = [this](const QString& words) {
+        mSearch.End();
         mLog.Search(SearchTerms(FromQt(words)));
         FollowLog();
     };
-    mBar->mSearchAll = [] {};
+    mBar->mSearchAll = [this] { SearchAll(); };
+    mSearch.mWhenFound = [this] { FollowLog(); };
     mSide->Month().mGoTo = [this](Date day) { Show(mView, day); };
     mSide->Projects().mShowOnly = [this](const auto& names) { mAgenda->ShowOnly(names); };
     mSide->Projects().mSortOut = [this] { Show(View::SortOut, mDay); };
@@ -126,9 +140,11 @@ void MainWindow::ConnectAgenda()
             SetProject(*project);
         }
     };
-    wishes.menu = [this](const QPoint& place) { ShowMenu(place); };
-    wishes.key = [this](QKeyEvent& event) { return TakeKey(event); };
+    wishes.menu = [this](const QPoint& place) { mCommands.ShowMenu(place); };
+    wishes.key = [this](QKeyEvent& event) { return mCommands.TakeKey(event); };
     wishes.say = [this](const QString& text) { mFoot->Say(text); };
+    wishes.chooseProject = [this] { mFoot->ShowAllProjects(); };
+    wishes.remove = [this] { DeleteSelected(); };
     wishes.followLink = [this] {
         if (const auto last = LastStartBefore(mDesk.Profile(), mLog.Days().first)) {
             Show(mView, last->Day());
@@ -138,82 +154,53 @@ void MainWindow::ConnectAgenda()
         = [this](std::size_t day) { Show(View::Day, mLog.Days().first.AddDays(static_cast<int>(day))); };
 }
 
-void MainWindow::MakeActions()
+void MainWindow::ConnectOthers()
 {
-    using Command = BuiltInCommand;
-    mActions.Add(Command::FileMenu, "New &Window", QKeySequence::New,
-        [this] { mDesk.Do([this] { mDesk.Windows().OpenExplorer(mExplorer->CurrentFolder()); }); });
-    mActions.Add(Command::FileMenu, "&Close", QKeySequence::Close, [this] { close(); });
-    mActions.Add(Command::FileMenu, "&Quit", QKeySequence::Quit, [] { QCoreApplication::quit(); });
-    mActions.Add(Command::EditMenu, "&Undo", QKeySequence::Undo, [this] { Undo(); });
-    mActions.Add(Command::EditMenu, "&Redo", QKeySequence("Ctrl+Shift+Z"), [this] { Redo(); });
-    mActions.AddLine(Command::EditMenu);
-    mActions.Add(Command::EditMenu, "Select &All", QKeySequence::SelectAll, [this] { SelectAll(); });
-    mActions.Add(Command::EditMenu, "&Search", QKeySequence::Find, [this] {
-        mBar->SearchField().setFocus(Qt::ShortcutFocusReason);
-        mBar->SearchField().selectAll();
-    });
-    mActions.Add(Command::GoMenu, "&Today", {}, [this] { Show(mView, mDesk.Now().Day()); });
-    mActions.Add(Command::GoMenu, "&Back", QKeySequence("Alt+Left"), [this] { Page(-1); });
-    mActions.Add(Command::GoMenu, "&Forward", QKeySequence("Alt+Right"), [this] { Page(1); });
-    mActions.Add(Command::GoMenu, "&Date\u2026", QKeySequence("Ctrl+G"), [this] { GoToDate(); });
-    mActions.Add(Command::ActionsMenu, "&Open", {}, [this] { OpenSelected(); });
-    mActions.Add(Command::ActionsMenu, "Set &Project\u2026", QKeySequence("F2"), [this] {
-        if (!mSelected.empty()) {
-            mFoot->ShowAllProjects();
-        }
-    });
-    mActions.Add(Command::ActionsMenu, "&Why This Project?", {}, [this] { AskWhy(); });
-    mActions.Add(Command::ActionsMenu, "Make a &Rule\u2026", {}, [this] { MakeRule(); });
-    mActions.Add(Command::ToolsMenu, "Refresh &Now", QKeySequence("F5"),
-        [this] { mDesk.Do([this] { mDesk.Session().AddIn().SyncData(SavedDataDays, true); }); });
+    const auto select = [this](const Numbers& numbers) { Select(numbers); };
+    const auto open = [this](std::int64_t number) { mDesk.Do([&] { mDoings.Open(number); }); };
+    const auto key = [this](QKeyEvent& event) { return mCommands.TakeKey(event); };
+    mList->mWishes = {
+        .select = select, .open = open, .menu = [this](const QPoint& place) { mCommands.ShowMenu(place); }, .key = key
+    };
+    mSortOut->mSelect = select;
+    mSortOut->mOpen = open;
+    mSortOut->mKey = key;
 }
 
-void MainWindow::MakeViewActions()
+void MainWindow::SearchAll()
 {
-    constexpr auto Menu = BuiltInCommand::ViewMenu;
-    constexpr std::array views { std::pair(View::Day, "&Day"), std::pair(View::Week, "&Week"),
-        std::pair(View::List, "&List"), std::pair(View::SortOut, "&Sort Out") };
-    for (const auto& [view, text] : views) {
-        const auto key = QKeySequence("Ctrl+" + QString::number(static_cast<int>(view) + 1));
-        mActions.AddSwitch(
-            Menu, text, key, [this, view = view] { return mView == view; },
-            [this, view = view](bool) { Show(view, mDay); });
+    const SearchTerms terms(FromQt(mBar->SearchField().text()));
+    if (!terms.AreEmpty()) {
+        Show(View::List, mDay);
+        mSearch.Begin(terms);
     }
-    mActions.AddLine(Menu);
-    mActions.Add(Menu, "Zoom &In", QKeySequence::ZoomIn, [this] { mAgenda->Zoom(1); });
-    mActions.Add(Menu, "Zoom &Out", QKeySequence::ZoomOut, [this] { mAgenda->Zoom(-1); });
-    mActions.Add(Menu, "Zoom to &Fit", QKeySequence("Ctrl+0"), [this] { mAgenda->ZoomToFit(); });
-    mActions.AddLine(Menu);
-    const auto addSetting = [this](const char* text, const char* keys, bool DesktopSettings::*setting) {
-        mActions.AddSwitch(
-            Menu, text, QKeySequence(keys), [this, setting] { return mDesk.Settings().*setting; },
-            [this, setting](
-                bool on) { mDesk.Change([setting, on](DesktopSettings& settings) { settings.*setting = on; }); });
-    };
-    addSetting("Fold Short &Ones", "", &DesktopSettings::foldsShortOnes);
-    addSetting("Hide &Titles", "Ctrl+Shift+H", &DesktopSettings::hidesTitles);
-    addSetting("Side &Panel", "F9", &DesktopSettings::hasSidePanel);
-    mActions.AddLine(Menu);
-    using Look = DesktopSettings::Appearance;
-    for (const auto& [look, text] :
-        { std::pair(Look::System, "Colours of the S&ystem"), std::pair(Look::Light, "L&ight"),
-            std::pair(Look::Dark, "Dar&k"), std::pair(Look::HighContrast, "&High Contrast") }) {
-        mActions.AddSwitch(
-            Menu, text, {}, [this, look = look] { return mDesk.Settings().appearance == look; },
-            [this, look = look](
-                bool) { mDesk.Change([look](DesktopSettings& settings) { settings.appearance = look; }); });
-    }
+}
+
+const std::vector<Activity>& MainWindow::ShownActivities() const
+{
+    return mSearch.IsOn() ? mSearch.Found() : mLog.Activities();
 }
 
 void MainWindow::Show(View view, Date day)
 {
+    const bool isOther = view != mView;
+    mSearch.End();
     mDesk.Do([&] {
         mLog.Show(DaysOfView(view, day, mDesk.WeekStart()));
         mView = view;
         mDay = day;
         mDesk.Remember([view](DesktopSettings& settings) { settings.view = view; });
     });
+    if (isOther && view == View::SortOut) {
+        mSortOut->Begin();
+    } else if (isOther) {
+        mPages->currentWidget()->setFocus();
+    }
+}
+
+void MainWindow::GoToToday()
+{
+    Show(mView, mDesk.Now().Day());
 }
 
 void MainWindow::Page(int pages)
@@ -240,7 +227,7 @@ void MainWindow::Select(const Numbers& numbers)
 void MainWindow::SelectAll()
 {
     Numbers all;
-    for (const auto& activity : mLog.Activities()) {
+    for (const auto& activity : ShownActivities()) {
         all.insert(activity.number);
     }
     Select(all);
@@ -308,7 +295,7 @@ void MainWindow::OpenSelected()
 std::vector<Activity> MainWindow::SelectedActivities() const
 {
     std::vector<Activity> selected;
-    for (const auto& activity : mLog.Activities()) {
+    for (const auto& activity : ShownActivities()) {
         if (mSelected.count(activity.number) > 0) {
             selected.push_back(activity);
         }
@@ -334,12 +321,31 @@ void MainWindow::FollowLog()
     const auto isNow = mDesk.Now().Day() >= mLog.Days().first && mDesk.Now().Day() <= mLog.Days().last;
     mSide->Follow(!isNow ? days : (mLog.DayCount() == 1 ? QString("Today") : QString("This week")));
     mAgenda->Follow();
+    FollowPages();
     FollowSelection();
+    mJob->Follow();
     ShowSidePanel();
     ShowEmpty();
-    mActions.Follow();
+    mCommands.Actions().Follow();
     if (mMenu) {
         mMenu->Follow();
+    }
+}
+
+void MainWindow::FollowPages()
+{
+    static const std::vector<Activity> none;
+    QWidget* page = mAgenda;
+    if (mView == View::List) {
+        page = mList;
+    } else if (mView == View::SortOut) {
+        page = mSortOut;
+    }
+    mPages->setCurrentWidget(page);
+    // Those that aren't seen hold nothing of the log, which may change without them.
+    mList->Show(page == mList ? ShownActivities() : none, mLog.ColouredBy());
+    if (page == mSortOut) {
+        mSortOut->Follow();
     }
 }
 
@@ -351,10 +357,14 @@ void MainWindow::FollowSelection()
         mSelected.insert(activity.number);
     }
     mAgenda->ShowSelected(mSelected);
+    mList->ShowSelected(mSelected);
     if (selected.empty()) {
         const bool hasNoProjects
             = mLog.HasAny() && ColouredBy(ColourChoice::Automatic, mLog.Activities()) == Coloured::Application;
-        const auto count = ActivitiesText(static_cast<std::int64_t>(mLog.Activities().size()));
+        auto count = ActivitiesText(static_cast<std::int64_t>(ShownActivities().size()));
+        if (mSearch.IsOn()) {
+            count += mSearch.IsDone() ? " found in the whole log" : " found so far";
+        }
         mFoot->ShowNothing(
             hasNoProjects ? NoProjectsYet : ToQt(count), hasNoProjects ? NoProjectsYetHelp : "", hasNoProjects);
         return;
@@ -384,86 +394,6 @@ void MainWindow::ShowEmpty()
 void MainWindow::ShowSidePanel()
 {
     mSide->setVisible(mDesk.Settings().hasSidePanel && width() >= LeastWidthWithPanel);
-}
-
-void MainWindow::ShowMenu(const QPoint& place)
-{
-    if (mSelected.empty()) {
-        return;
-    }
-    QMenu menu(this);
-    connect(menu.addAction("&Open"), &QAction::triggered, this, [this] { OpenSelected(); });
-    mFoot->FillMenu(*menu.addMenu("Set &Project"));
-    connect(menu.addAction("&Why This Project?"), &QAction::triggered, this, [this] { AskWhy(); });
-    connect(menu.addAction("Make a &Rule\u2026"), &QAction::triggered, this, [this] { MakeRule(); });
-    menu.addSeparator();
-    connect(menu.addAction("&Delete"), &QAction::triggered, this, [this] { DeleteSelected(); });
-    menu.exec(place);
-}
-
-bool MainWindow::TakeKey(const QKeyEvent& event)
-{
-    if (event.modifiers() != Qt::NoModifier && event.modifiers() != Qt::KeypadModifier) {
-        return false;
-    }
-    switch (event.key()) {
-    case Qt::Key_PageUp:
-        Page(-1);
-        return true;
-    case Qt::Key_PageDown:
-        Page(1);
-        return true;
-    case Qt::Key_Delete:
-        DeleteSelected();
-        return true;
-    case Qt::Key_Escape:
-        if (!mBar->SearchField().text().isEmpty()) {
-            mBar->SearchField().clear();
-            return true;
-        }
-        return mSide->Projects().ShowAll();
-    default:
-        break;
-    }
-    const auto place = event.key() - Qt::Key_1;
-    if (place >= 0 && place < 9) {
-        const auto& projects = mFoot->Projects();
-        if (!mSelected.empty() && static_cast<std::size_t>(place) < projects.size()) {
-            // The list changes when the project is set.
-            SetProject(std::string(projects[static_cast<std::size_t>(place)]));
-        }
-        return true;
-    }
-    return mDesk.Settings().hasLetterKeys && TakeLetter(event.key());
-}
-
-bool MainWindow::TakeLetter(int key)
-{
-    switch (key) {
-    case Qt::Key_T:
-        Show(mView, mDesk.Now().Day());
-        return true;
-    case Qt::Key_D:
-        Show(View::Day, mDay);
-        return true;
-    case Qt::Key_W:
-        Show(View::Week, mDay);
-        return true;
-    case Qt::Key_L:
-        Show(View::List, mDay);
-        return true;
-    case Qt::Key_S:
-        Show(View::SortOut, mDay);
-        return true;
-    case Qt::Key_R:
-        MakeRule();
-        return true;
-    case Qt::Key_Y:
-        AskWhy();
-        return true;
-    default:
-        return false;
-    }
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event)

@@ -4,7 +4,9 @@
 #include "desktop/LogDoings.h"
 #include "desktop/ShownLog.h"
 #include "desktop/qt/Desk.h"
-#include "desktop/qt/WindowActions.h"
+#include "desktop/qt/LogSearch.h"
+#include "desktop/qt/MainCommands.h"
+#include "desktop/qt/MainMenu.h"
 #include "host/windows/HostExplorer.h"
 
 #include <QMainWindow>
@@ -14,14 +16,18 @@
 #include <string>
 #include <vector>
 
+class QStackedWidget;
 class QTimer;
 
 namespace tempodial {
 
+class ActivityList;
 class AgendaView;
+class JobStrip;
 class NavigationBar;
 class SelectionBar;
 class SidePanel;
+class SortOutView;
 
 /// The window of an explorer: the activities of some days, and what can be done with them.
 class MainWindow final : public QMainWindow
@@ -37,12 +43,21 @@ public:
     SidePanel& Side() { return *mSide; }
     SelectionBar& Foot() { return *mFoot; }
     AgendaView& Agenda() { return *mAgenda; }
+    ActivityList& List() { return *mList; }
+    SortOutView& SortOut() { return *mSortOut; }
+    JobStrip& Job() { return *mJob; }
     const ShownLog& Log() const { return mLog; }
     const Numbers& Selected() const { return mSelected; }
 
     /// Shows the days around one of them in a view.
     void Show(View view, Date day);
+    /// The same days in another view, and the same view around another day.
+    void Show(View view) { Show(view, mDay); }
     void Page(int pages);
+    void GoToToday();
+    /// Goes to a day that a person types.
+    void GoToDate();
+    View ShownView() const { return mView; }
     /// Selects activities in the model, which tells the product.
     void Select(const Numbers& numbers);
     void SelectAll();
@@ -63,21 +78,20 @@ protected:
 
 private:
     void Assemble();
-    void MakeActions();
-    void MakeViewActions();
     void Connect();
     void ConnectAgenda();
+    void ConnectOthers();
+    void FollowPages();
+    void SearchAll();
+    /// What is shown: the days, or what a search has found.
+    const std::vector<Activity>& ShownActivities() const;
     /// The model has changed, or how things look.
     void Follow();
     void FollowLog();
     void FollowSelection();
     void ShowEmpty();
-    void ShowMenu(const QPoint& place);
     void ShowSidePanel();
-    bool TakeKey(const QKeyEvent& event);
-    bool TakeLetter(int key);
     std::vector<Activity> SelectedActivities() const;
-    void GoToDate();
 
     Desk& mDesk;
     Ref<HostExplorer> mExplorer;
@@ -90,8 +104,13 @@ private:
     SidePanel* mSide = nullptr;
     SelectionBar* mFoot = nullptr;
     AgendaView* mAgenda = nullptr;
-    WindowActions mActions { *this };
+    QStackedWidget* mPages = nullptr;
+    ActivityList* mList = nullptr;
+    SortOutView* mSortOut = nullptr;
+    JobStrip* mJob = nullptr;
+    MainCommands mCommands;
     std::unique_ptr<MainMenu> mMenu;
+    LogSearch mSearch;
     QTimer* mClock;
     Subscription mEvents;
 };

@@ -82,6 +82,18 @@ FlatButton* NavigationBar::Button(const QString& text)
     return new FlatButton(mDesk.Look(), text, this);
 }
 
+void NavigationBar::StyleSearchField()
+{
+    const auto& colours = mDesk.Look().Colours();
+    const auto style = QString("QLineEdit { border: 1px solid %1; border-radius: 6px; padding: 0 8px; background: %2; }"
+                               "QLineEdit:focus { border: 2px solid %3; }")
+                           .arg(ToQt(colours.border).name(), ToQt(colours.paper).name(), ToQt(colours.accent).name());
+    // The toolkit would take the same style for a new one.
+    if (mSearchField->styleSheet() != style) {
+        mSearchField->setStyleSheet(style);
+    }
+}
+
 void NavigationBar::Follow(const QString& days, const QString& week, View view, std::int64_t unassignedMinutes)
 {
     constexpr double TitleSize = 1.25;
@@ -94,6 +106,7 @@ void NavigationBar::Follow(const QString& days, const QString& week, View view, 
     auto quiet = palette();
     quiet.setColor(QPalette::WindowText, ToQt(mDesk.Look().Colours().quietText));
     mWeek->setPalette(quiet);
+    StyleSearchField();
     ButtonOf(view).setChecked(true);
     auto& sortOut = ButtonOf(View::SortOut);
     const auto length = unassignedMinutes == 0 ? QString() : ToQt(LengthText(unassignedMinutes));

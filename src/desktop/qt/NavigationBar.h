@@ -41,6 +41,7 @@ public:
 
 private:
     FlatButton* Button(const QString& text);
+    void StyleSearchField();
 
     Desk& mDesk;
     QLabel* mDays;

@@ -1,0 +1,100 @@
+#include "desktop/qt/ActivityAccess.h"
+
+#include "desktop/qt/AgendaView.h"
+
+#include <QStringList>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto OpenAction = "Open";
+constexpr auto SetProjectAction = "Set Project";
+constexpr auto DeleteAction = "Delete";
+
+}
+
+ActivityAccess::ActivityAccess(AgendaView& view, std::size_t piece)
+    : mAlive(&view)
+    , mView(view)
+    , mPiece(piece)
+{
+}
+
+bool ActivityAccess::isValid() const
+{
+    return mAlive && mPiece < mView.Scene().Layout().Pieces().size();
+}
+
+QAccessibleInterface* ActivityAccess::parent() const
+{
+    return QAccessible::queryAccessibleInterface(mAlive.data());
+}
+
+QString ActivityAccess::text(QAccessible::Text kind) const
+{
+    if (!isValid() || (kind != QAccessible::Name && kind != QAccessible::Description)) {
+        return {};
+    }
+    const auto& activity = mView.ActivityOf(mPiece);
+    return kind == QAccessible::Name ? mView.SpokenOf(activity) : mView.ToolTipOf(activity);
+}
+
+QRect ActivityAccess::rect() const
+{
+    if (!isValid()) {
+        return {};
+    }
+    const auto box = mView.InView(mView.Scene().Geometry().BoxOf(mView.Scene().Layout().Pieces()[mPiece]));
+    return { mView.viewport()->mapToGlobal(box.topLeft().toPoint()), box.size().toSize() };
+}
+
+QAccessible::State ActivityAccess::state() const
+{
+    QAccessible::State state;
+    if (!isValid()) {
+        state.invalid = true;
+        return state;
+    }
+    const auto& activity = mView.ActivityOf(mPiece);
+    state.focusable = true;
+    state.selectable = true;
+    state.multiSelectable = true;
+    state.selected = mView.Selected().count(activity.number) > 0;
+    state.focused = mView.hasFocus() && mView.Focus() == mPiece;
+    const auto box = mView.InView(mView.Scene().Geometry().BoxOf(mView.Scene().Layout().Pieces()[mPiece]));
+    state.offscreen = !box.intersects(mView.viewport()->rect());
+    return state;
+}
+
+void* ActivityAccess::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+}
+
+QStringList ActivityAccess::actionNames() const
+{
+    return { OpenAction, SetProjectAction, DeleteAction, setFocusAction() };
+}
+
+void ActivityAccess::doAction(const QString& name)
+{
+    if (!isValid()) {
+        return;
+    }
+    const auto number = mView.ActivityOf(mPiece).number;
+    if (name == OpenAction) {
+        mView.mWishes.open(number);
+        return;
+    }
+    mView.setFocus();
+    mView.SetFocusOn(mPiece);
+    mView.mWishes.select({ number });
+    if (name == SetProjectAction) {
+        mView.mWishes.chooseProject();
+    } else if (name == DeleteAction) {
+        mView.mWishes.remove();
+    }
+}
+
+}

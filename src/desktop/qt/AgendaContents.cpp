@@ -1,0 +1,157 @@
+#include "desktop/qt/AgendaContents.h"
+
+#include "desktop/ActivityWords.h"
+#include "desktop/DesktopStrings.h"
+#include "desktop/DragGesture.h"
+#include "desktop/qt/QtText.h"
+#include "terminal/TerminalText.h"
+
+#include <algorithm>
+
+namespace tempodial {
+
+namespace {
+
+constexpr int HoursOfDay = 24;
+/// The minutes that a day's bar stands for, unless a day is longer.
+constexpr std::int64_t BarMinutes = 600;
+
+QString LineOf(const std::string& text)
+{
+    return ToQt(IsolatedLine(text));
+}
+
+}
+
+void AgendaContents::Fill()
+{
+    FillHours();
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    mCards.clear();
+    for (const auto& activity : mLog.Activities()) {
+        AgendaCard card;
+        card.title = LineOf(words.Title(activity));
+        card.detail = LineOf(words.Detail(activity, mLog.ColouredBy()));
+        card.times = ToQt(words.Times(activity));
+        card.style = mDesk.StyleOf(mLog.ColouredBy(), mLog.ColourNameOf(activity));
+        card.style.isDashed = IsUnassigned(activity);
+        card.isSelected = mSelected.count(activity.number) > 0;
+        card.isFaded = IsFaded(activity);
+        card.isSoft = DragGesture::MayGrow(activity.end, mDesk.Now());
+        mCards.push_back(std::move(card));
+    }
+}
+
+void AgendaContents::FillHours()
+{
+    const auto& formats = mDesk.Formats();
+    mHourNames.clear();
+    for (int hour = 0; hour < HoursOfDay; ++hour) {
+        mHourNames.push_back(ToQt(formats->ShortTime(mLog.Days().first.AddMinutes(std::int64_t { hour } * 60))));
+    }
+    mHourNames.push_back(ToQt(formats->ShortTime(mDesk.Now())));
+}
+
+void AgendaContents::FillPlaced(const AgendaScene& scene)
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    mLabels.clear();
+    for (const auto& run : scene.Runs()) {
+        std::vector<Activity> activities;
+        for (auto i = run.pieces.begin; i < run.pieces.end; ++i) {
+            activities.push_back(scene.ActivityOf(scene.Layout().Pieces()[i]));
+        }
+        mLabels.push_back(LineOf(words.ShortLabel(activities)));
+    }
+    mGaps.clear();
+    for (const auto& gap : scene.Gaps()) {
+        const bool isTold = ShowsLengthOf(gap, scene.Scale(), scene.Layout().Days());
+        mGaps.push_back(isTold ? ToQt(GapText(gap.minutes)) : QString());
+    }
+}
+
+void AgendaContents::Select(const Numbers& numbers)
+{
+    mSelected = numbers;
+    for (std::size_t i = 0; i < mCards.size(); ++i) {
+        mCards[i].isSelected = mSelected.count(mLog.Activities()[i].number) > 0;
+    }
+}
+
+void AgendaContents::ShowOnly(const Names& names)
+{
+    mOnly = names;
+    for (std::size_t i = 0; i < mCards.size(); ++i) {
+        mCards[i].isFaded = IsFaded(mLog.Activities()[i]);
+    }
+}
+
+bool AgendaContents::IsFaded(const Activity& activity) const
+{
+    return !mOnly.empty() && mOnly.count(mLog.ColourNameOf(activity)) == 0;
+}
+
+std::vector<DayHead::Day> AgendaContents::Heads(const AgendaScene& scene) const
+{
+    std::vector<DayHead::Day> days;
+    const auto hours = mDesk.Hours();
+    for (int day = 0; day < mLog.DayCount(); ++day) {
+        const auto date = mLog.Days().first.AddDays(day);
+        const auto minutes = mLog.Sums().minutes[static_cast<std::size_t>(day)];
+        const auto column = scene.Geometry().Column(day);
+        DayHead::Day head;
+        head.number = QString::number(date.ToParts().day);
+        head.name = ToQt(WeekdayText(date.Weekday()));
+        head.total = minutes == 0 ? QString() : ToQt(LengthText(minutes));
+        head.spoken = ToQt(mDesk.Formats()->LongDate(date) + PartSeparator + LengthText(minutes));
+        head.bar = BarOf(static_cast<std::size_t>(day));
+        head.isToday = date == mDesk.Now().Day();
+        head.isQuiet = hours.HoursOf(date).Seconds() == 0;
+        head.left = column.left;
+        head.width = column.width;
+        days.push_back(std::move(head));
+    }
+    return days;
+}
+
+StackedBar AgendaContents::BarOf(std::size_t day) const
+{
+    const auto& sums = mLog.Sums();
+    StackedBar bar;
+    bar.track = ToQt(mDesk.Look().Colours().track);
+    bar.scale = std::max(BarMinutes, *std::max_element(sums.minutes.begin(), sums.minutes.end()));
+    for (const auto& row : sums.rows) {
+        const auto style = mDesk.StyleOf(mLog.ColouredBy(), row.name);
+        bar.parts.push_back({ ToQt(style.colours.mark), row.minutes[day], style.isHatched });
+    }
+    return bar;
+}
+
+QString AgendaContents::ToolTipOf(const Activity& activity) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    return LineOf(words.Title(activity)) + "\n" + LineOf(words.Detail(activity, Coloured::Project)) + "\n"
+        + ToQt(words.Times(activity) + PartSeparator + LengthText(activity.duration));
+}
+
+QString AgendaContents::SpokenOf(const Activity& activity) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    return LineOf(words.Spoken(activity, mSelected.count(activity.number) > 0));
+}
+
+QString AgendaContents::WordsOf(const TimeSpan& times, Date endBefore) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    Activity shown;
+    shown.start = times.start;
+    shown.end = times.end;
+    shown.duration = MinutesBetween(times.start, times.end);
+    auto text = words.Summary(shown);
+    if (DragGesture::MayGrow(endBefore, mDesk.Now())) {
+        text += PartSeparator + std::string(MayGrowText);
+    }
+    return ToQt(text);
+}
+
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "desktop/SearchWalk.h"
+#include "desktop/qt/Desk.h"
+
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace tempodial {
+
+/// A search through all of the log, in slices between which the windows move.
+class LogSearch
+{
+public:
+    explicit LogSearch(Desk& desk);
+
+    /// More was found, or all was seen.
+    std::function<void()> mWhenFound;
+
+    void Begin(const SearchTerms& terms);
+    void End();
+    /// True from its begin to its end, also when all was seen.
+    bool IsOn() const { return static_cast<bool>(mWalk); }
+    bool IsDone() const { return mWalk && mWalk->IsDone(); }
+    /// What was found so far, newest first.
+    const std::vector<Activity>& Found() const { return mFound; }
+
+private:
+    void GoOn();
+
+    Desk& mDesk;
+    QTimer mTimer;
+    std::unique_ptr<SearchWalk> mWalk;
+    std::vector<Activity> mFound;
+};
+
+}

@@ -1,0 +1,179 @@
+#include "desktop/qt/MainCommands.h"
+
+#include "desktop/qt/AgendaView.h"
+#include "desktop/qt/MainWindow.h"
+#include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/SidePanel.h"
+#include "host/windows/BuiltInCommand.h"
+#include "session/ProductFacts.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <array>
+
+namespace tempodial {
+
+MainCommands::MainCommands(MainWindow& window, Desk& desk)
+    : mWindow(window)
+    , mDesk(desk)
+    , mActions(window)
+{
+    MakeActions();
+    MakeViewActions();
+}
+
+void MainCommands::MakeActions()
+{
+    using Command = BuiltInCommand;
+    mActions.Add(Command::FileMenu, "New &Window", QKeySequence::New, [this] {
+        mDesk.Do([this] { mDesk.Windows().OpenExplorer(mDesk.Windows().ActiveExplorer()->CurrentFolder()); });
+    });
+    mActions.Add(Command::FileMenu, "&Close", QKeySequence::Close, [this] { mWindow.close(); });
+    mActions.Add(Command::FileMenu, "&Quit", QKeySequence::Quit, [] { QCoreApplication::quit(); });
+    mActions.Add(Command::EditMenu, "&Undo", QKeySequence::Undo, [this] { mWindow.Undo(); });
+    mActions.Add(Command::EditMenu, "&Redo", QKeySequence("Ctrl+Shift+Z"), [this] { mWindow.Redo(); });
+    mActions.AddLine(Command::EditMenu);
+    mActions.Add(Command::EditMenu, "Select &All", QKeySequence::SelectAll, [this] { mWindow.SelectAll(); });
+    mActions.Add(Command::EditMenu, "&Search", QKeySequence::Find, [this] {
+        mWindow.Bar().SearchField().setFocus(Qt::ShortcutFocusReason);
+        mWindow.Bar().SearchField().selectAll();
+    });
+    mActions.Add(Command::GoMenu, "&Today", {}, [this] { mWindow.GoToToday(); });
+    mActions.Add(Command::GoMenu, "&Back", QKeySequence("Alt+Left"), [this] { mWindow.Page(-1); });
+    mActions.Add(Command::GoMenu, "&Forward", QKeySequence("Alt+Right"), [this] { mWindow.Page(1); });
+    mActions.Add(Command::GoMenu, "&Date\u2026", QKeySequence("Ctrl+G"), [this] { mWindow.GoToDate(); });
+    mActions.Add(Command::ActionsMenu, "&Open", {}, [this] { mWindow.OpenSelected(); });
+    mActions.Add(Command::ActionsMenu, "Set &Project\u2026", QKeySequence("F2"), [this] {
+        if (!mWindow.Selected().empty()) {
+            mWindow.Foot().ShowAllProjects();
+        }
+    });
+    mActions.Add(Command::ActionsMenu, "&Why This Project?", {}, [this] { mWindow.AskWhy(); });
+    mActions.Add(Command::ActionsMenu, "Make a &Rule\u2026", {}, [this] { mWindow.MakeRule(); });
+    mActions.Add(Command::ToolsMenu, "Refresh &Now", QKeySequence("F5"),
+        [this] { mDesk.Do([this] { mDesk.Session().AddIn().SyncData(SavedDataDays, true); }); });
+}
+
+void MainCommands::MakeViewActions()
+{
+    constexpr auto Menu = BuiltInCommand::ViewMenu;
+    constexpr std::array views { std::pair(View::Day, "&Day"), std::pair(View::Week, "&Week"),
+        std::pair(View::List, "&List"), std::pair(View::SortOut, "&Sort Out") };
+    for (const auto& [view, text] : views) {
+        const auto key = QKeySequence("Ctrl+" + QString::number(static_cast<int>(view) + 1));
+        mActions.AddSwitch(
+            Menu, text, key, [this, view = view] { return mWindow.ShownView() == view; },
+            [this, view = view](bool) { mWindow.Show(view); });
+    }
+    mActions.AddLine(Menu);
+    mActions.Add(Menu, "Zoom &In", QKeySequence::ZoomIn, [this] { mWindow.Agenda().Zoom(1); });
+    mActions.Add(Menu, "Zoom &Out", QKeySequence::ZoomOut, [this] { mWindow.Agenda().Zoom(-1); });
+    mActions.Add(Menu, "Zoom to &Fit", QKeySequence("Ctrl+0"), [this] { mWindow.Agenda().ZoomToFit(); });
+    mActions.AddLine(Menu);
+    const auto addSetting = [this](const char* text, const char* keys, bool DesktopSettings::*setting) {
+        mActions.AddSwitch(
+            Menu, text, QKeySequence(keys), [this, setting] { return mDesk.Settings().*setting; },
+            [this, setting](
+                bool on) { mDesk.Change([setting, on](DesktopSettings& settings) { settings.*setting = on; }); });
+    };
+    addSetting("Fold Short &Ones", "", &DesktopSettings::foldsShortOnes);
+    addSetting("Hide &Titles", "Ctrl+Shift+H", &DesktopSettings::hidesTitles);
+    addSetting("Side &Panel", "F9", &DesktopSettings::hasSidePanel);
+    mActions.AddLine(Menu);
+    using Look = DesktopSettings::Appearance;
+    for (const auto& [look, text] :
+        { std::pair(Look::System, "Colours of the S&ystem"), std::pair(Look::Light, "L&ight"),
+            std::pair(Look::Dark, "Dar&k"), std::pair(Look::HighContrast, "&High Contrast") }) {
+        mActions.AddSwitch(
+            Menu, text, {}, [this, look = look] { return mDesk.Settings().appearance == look; },
+            [this, look = look](
+                bool) { mDesk.Change([look](DesktopSettings& settings) { settings.appearance = look; }); });
+    }
+}
+
+void MainCommands::ShowMenu(const QPoint& place)
+{
+    if (mWindow.Selected().empty()) {
+        return;
+    }
+    QMenu menu(&mWindow);
+    QObject::connect(menu.addAction("&Open"), &QAction::triggered, &mWindow, [this] { mWindow.OpenSelected(); });
+    mWindow.Foot().FillMenu(*menu.addMenu("Set &Project"));
+    QObject::connect(menu.addAction("&Why This Project?"), &QAction::triggered, &mWindow, [this] { mWindow.AskWhy(); });
+    QObject::connect(
+        menu.addAction("Make a &Rule\u2026"), &QAction::triggered, &mWindow, [this] { mWindow.MakeRule(); });
+    menu.addSeparator();
+    QObject::connect(menu.addAction("&Delete"), &QAction::triggered, &mWindow, [this] { mWindow.DeleteSelected(); });
+    menu.exec(place);
+}
+
+bool MainCommands::TakeKey(const QKeyEvent& event)
+{
+    if (event.modifiers() != Qt::NoModifier && event.modifiers() != Qt::KeypadModifier) {
+        return false;
+    }
+    switch (event.key()) {
+    case Qt::Key_PageUp:
+        mWindow.Page(-1);
+        return true;
+    case Qt::Key_PageDown:
+        mWindow.Page(1);
+        return true;
+    case Qt::Key_Delete:
+        mWindow.DeleteSelected();
+        return true;
+    case Qt::Key_Escape:
+        if (!mWindow.Bar().SearchField().text().isEmpty()) {
+            mWindow.Bar().SearchField().clear();
+            return true;
+        }
+        return mWindow.Side().Projects().ShowAll();
+    default:
+        break;
+    }
+    const auto place = event.key() - Qt::Key_1;
+    if (place >= 0 && place < 9) {
+        const auto& projects = mWindow.Foot().Projects();
+        if (!mWindow.Selected().empty() && static_cast<std::size_t>(place) < projects.size()) {
+            // The list changes when the project is set.
+            mWindow.SetProject(std::string(projects[static_cast<std::size_t>(place)]));
+        }
+        return true;
+    }
+    return mDesk.Settings().hasLetterKeys && TakeLetter(event.key());
+}
+
+bool MainCommands::TakeLetter(int key)
+{
+    switch (key) {
+    case Qt::Key_T:
+        mWindow.GoToToday();
+        return true;
+    case Qt::Key_D:
+        mWindow.Show(View::Day);
+        return true;
+    case Qt::Key_W:
+        mWindow.Show(View::Week);
+        return true;
+    case Qt::Key_L:
+        mWindow.Show(View::List);
+        return true;
+    case Qt::Key_S:
+        mWindow.Show(View::SortOut);
+        return true;
+    case Qt::Key_R:
+        mWindow.MakeRule();
+        return true;
+    case Qt::Key_Y:
+        mWindow.AskWhy();
+        return true;
+    default:
+        return false;
+    }
+}
+
+}

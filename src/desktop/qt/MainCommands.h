@@ -1,0 +1,39 @@
+#pragma once
+
+#include "desktop/DesktopSettings.h"
+#include "desktop/qt/Desk.h"
+#include "desktop/qt/WindowActions.h"
+
+class QKeyEvent;
+class QPoint;
+
+namespace tempodial {
+
+class MainWindow;
+
+/// The desktop's own commands of a window: in its menus, in the menu of what is selected, and by single keys.
+class MainCommands
+{
+public:
+    /// Both must live as long as this.
+    MainCommands(MainWindow& window, Desk& desk);
+
+    WindowActions& Actions() { return mActions; }
+    /// Opens the menu of what is selected, at a point of the screen.
+    void ShowMenu(const QPoint& place);
+    /// Takes a key that no view wants; true when it means something.
+    bool TakeKey(const QKeyEvent& event);
+
+private:
+    using View = DesktopSettings::View;
+
+    void MakeActions();
+    void MakeViewActions();
+    bool TakeLetter(int key);
+
+    MainWindow& mWindow;
+    Desk& mDesk;
+    WindowActions mActions;
+};
+
+}

@@ -1,0 +1,172 @@
+#include "desktop/qt/SortOutView.h"
+
+#include "desktop/ActivityWords.h"
+#include "desktop/DesktopStrings.h"
+#include "desktop/qt/QtText.h"
+#include "desktop/qt/RoomyRows.h"
+#include "terminal/TerminalText.h"
+
+#include <QBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTimer>
+#include <QTreeWidget>
+#include <algorithm>
+
+namespace tempodial {
+
+namespace {
+
+/// Where an activity's number is kept in its line.
+constexpr int NumberRole = Qt::UserRole;
+
+}
+
+SortOutView::SortOutView(Desk& desk, const ShownLog& log, QWidget* parent)
+    : QWidget(parent)
+    , mDesk(desk)
+    , mLog(log)
+    , mTitle(new QLabel(this))
+    , mLeft(new QProgressBar(this))
+    , mList(new QTreeWidget(this))
+{
+    constexpr int Margin = 16;
+    constexpr int BarHeight = 8;
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, 0);
+    layout->setSpacing(Margin / 2);
+    layout->addWidget(mTitle);
+    layout->addWidget(mLeft);
+    layout->addWidget(mList, 1);
+    mLeft->setTextVisible(false);
+    mLeft->setFixedHeight(BarHeight);
+    mLeft->setAccessibleName("Time without a project");
+    mList->setHeaderLabels({ "Time", "Application", "Description", "Times", "Last" });
+    mList->setFrameShape(QFrame::NoFrame);
+    mList->setUniformRowHeights(true);
+    mList->setItemDelegate(new RoomyRows(mList));
+    mList->setAllColumnsShowFocus(true);
+    mList->setAccessibleName("Without a project, largest first");
+    mList->setObjectName("sort-out");
+    mList->installEventFilter(this);
+    connect(mList, &QTreeWidget::currentItemChanged, this, [this] { SelectCurrent(); });
+    connect(mList, &QTreeWidget::itemDoubleClicked, this, [this](const QTreeWidgetItem* item) {
+        if (item->parent() != nullptr) {
+            mOpen(item->data(0, NumberRole).toLongLong());
+        }
+    });
+}
+
+void SortOutView::Follow()
+{
+    auto title = font();
+    title.setWeight(QFont::DemiBold);
+    mTitle->setFont(title);
+    const auto total = mLog.Sums().total;
+    const auto unassigned = mLog.UnassignedMinutes();
+    mTitle->setText(unassigned == 0 ? QString("All of these days has a project.")
+                                    : ToQt("No project: " + LengthText(unassigned) + " of " + LengthText(total)));
+    mLeft->setRange(0, static_cast<int>(std::max<std::int64_t>(total, 1)));
+    mLeft->setValue(static_cast<int>(unassigned));
+    Fill();
+}
+
+void SortOutView::Fill()
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    const auto row = std::max(mList->indexOfTopLevelItem(mList->currentItem()), 0);
+    mGroups = ActivityGroup::Unassigned([this](const std::function<void(const Activity& activity)>& take) {
+        std::for_each(mLog.Activities().begin(), mLog.Activities().end(), take);
+    });
+    mIsFilling = true;
+    mList->clear();
+    for (const auto& group : mGroups) {
+        auto* item = new QTreeWidgetItem(mList);
+        const auto isHidden = mDesk.ShownTitles() == Titles::Hidden;
+        item->setText(0, ToQt(LengthText(group.minutes)));
+        item->setText(1, ToQt(IsolatedLine(group.application)));
+        item->setText(2, isHidden ? QString() : ToQt(IsolatedLine(group.description)));
+        item->setText(3, ToQt(ActivitiesText(group.times)));
+        item->setText(4, ToQt(WeekdayText(group.last.Weekday()) + " " + mDesk.Formats()->ShortTime(group.last)));
+        for (const auto& activity : mLog.Activities()) {
+            if (IsUnassigned(activity) && activity.type == group.application
+                && activity.description == group.description) {
+                auto* single = new QTreeWidgetItem(item);
+                single->setText(0, ToQt(LengthText(activity.duration)));
+                single->setText(2, ToQt(IsolatedLine(words.Summary(activity))));
+                single->setData(0, NumberRole, static_cast<qlonglong>(activity.number));
+            }
+        }
+    }
+    for (int column = 0; column < mList->columnCount(); ++column) {
+        mList->resizeColumnToContents(column);
+    }
+    // The next group takes the place of one that has got its project.
+    if (!mGroups.empty()) {
+        mList->setCurrentItem(mList->topLevelItem(std::min(row, static_cast<int>(mGroups.size()) - 1)));
+    }
+    mIsFilling = false;
+    const auto* current = mList->currentItem();
+    if (current != nullptr && NumbersOf(mGroups[static_cast<std::size_t>(mList->currentIndex().row())]) != mTold) {
+        // This may be in the midst of what has changed the log.
+        QTimer::singleShot(0, this, [this] { SelectCurrent(); });
+    }
+}
+
+void SortOutView::Begin()
+{
+    SelectCurrent();
+    mList->setFocus();
+}
+
+SortOutView::Numbers SortOutView::NumbersOf(const ActivityGroup& group) const
+{
+    Numbers numbers;
+    for (const auto& activity : mLog.Activities()) {
+        if (IsUnassigned(activity) && activity.type == group.application && activity.description == group.description) {
+            numbers.insert(activity.number);
+        }
+    }
+    return numbers;
+}
+
+void SortOutView::SelectCurrent()
+{
+    auto* item = mList->currentItem();
+    if (mIsFilling || !isVisible()) {
+        return;
+    }
+    if (item == nullptr) {
+        mTold.clear();
+    } else if (item->parent() != nullptr) {
+        mTold = { item->data(0, NumberRole).toLongLong() };
+    } else {
+        mTold = NumbersOf(mGroups[static_cast<std::size_t>(mList->indexOfTopLevelItem(item))]);
+    }
+    mSelect(mTold);
+}
+
+bool SortOutView::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        auto& key = static_cast<QKeyEvent&>(*event); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
+        auto* item = mList->currentItem();
+        if (key.key() == Qt::Key_Space && item != nullptr) {
+            item->setExpanded(!item->isExpanded());
+            return true;
+        }
+        if (key.key() == Qt::Key_S && item != nullptr) {
+            // Later: the next one.
+            if (auto* next = mList->itemBelow(item)) {
+                mList->setCurrentItem(next);
+            }
+            return true;
+        }
+        return mKey(key);
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+}

@@ -1,0 +1,59 @@
+#include "desktop/WhyWords.h"
+
+#include <gtest/gtest.h>
+
+namespace tempodial {
+
+namespace {
+
+RuledProject Ruled(const std::string& name, const std::string& subject, const std::string& people)
+{
+    return { .name = name, .precedence = "2", .subjectRule = subject, .peopleRule = people };
+}
+
+class WhyWordsTest : public testing::Test
+{
+protected:
+    std::string Why(const std::string& project, bool isByHand, const std::string& description)
+    {
+        Activity activity;
+        activity.type = "Writer";
+        activity.description = description;
+        activity.people = "Ann Berger";
+        activity.project = project;
+        activity.isProjectByHand = isByHand;
+        return WhySentence(activity, mRules);
+    }
+
+    RuleTrial mRules { { Ruled("Alpha", "plan", ""), Ruled("Beta", "sheet", "") } };
+};
+
+}
+
+TEST_F(WhyWordsTest, WhySentence_GivenByARule_NamesItsTerm)
+{
+    EXPECT_EQ(Why("Alpha", false, "the plan"), "Given by the subject rule \"plan\" of Alpha.");
+    EXPECT_EQ(Why("Alpha", true, "the plan"), "Set by hand; the subject rule \"plan\" of Alpha would give it, too.");
+}
+
+TEST_F(WhyWordsTest, WhySentence_NoRule_SaysSo)
+{
+    EXPECT_EQ(Why("", false, "letter"), "No rule of a project matches it.");
+    EXPECT_EQ(Why("", true, "letter"), "Set by hand; no rule matches it either.");
+    EXPECT_EQ(Why("Gamma", true, "letter"), "Set by hand; no rule matches it.");
+}
+
+TEST_F(WhyWordsTest, WhySentence_RulesGiveAnother_SaysWhich)
+{
+    EXPECT_EQ(Why("Alpha", true, "sheet"), "Set by hand; the rules would give Beta.");
+    EXPECT_EQ(Why("Alpha", false, "sheet"), "Alpha is from before; now the rules would give Beta.");
+    EXPECT_EQ(Why("Gamma", false, "letter"), "Gamma is from before; now no rule matches it.");
+}
+
+TEST_F(WhyWordsTest, WhySentence_RuleForPeople_SaysSo)
+{
+    mRules = RuleTrial({ Ruled("Alpha", "", "berger") });
+    EXPECT_EQ(Why("Alpha", false, "letter"), "Given by the people rule \"berger\" of Alpha.");
+}
+
+}
