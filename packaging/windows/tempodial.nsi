@@ -72,19 +72,20 @@ Var All ; 1 for all users
     SetShellVarContext current
 !macroend
 
-; Takes away a folder of a version. What Outlook holds goes at the next start of Windows, or of the user's session.
+; Takes away a folder of a version. One whose module Outlook holds stays whole, since it is in use, and goes when the user,
+; or an administrator, signs in again, or with the next setup.
 ; "For" is "" in the setup and "un." in the program that uninstalls, which can't share functions.
 !macro Functions For
 Function ${For}RemoveVersion
     Exch $R0
-    DeleteRegValue HKCU "${RUNONCE}" "Tempodial $R0"
-    RMDir /r "$INSTDIR\$R0"
-    ${If} ${FileExists} "$INSTDIR\$R0\*"
-        ${If} $All = 1
-            RMDir /r /REBOOTOK "$INSTDIR\$R0"
-        ${Else}
-            WriteRegStr HKCU "${RUNONCE}" "Tempodial $R0" '"$SYSDIR\cmd.exe" /d /c rmdir /s /q "$INSTDIR\$R0"'
-        ${EndIf}
+    Delete "$INSTDIR\$R0\x64\Tempodial.dll"
+    Delete "$INSTDIR\$R0\x86\Tempodial.dll"
+    ${If} ${FileExists} "$INSTDIR\$R0\x64\Tempodial.dll"
+    ${OrIf} ${FileExists} "$INSTDIR\$R0\x86\Tempodial.dll"
+        WriteRegStr SHCTX "${RUNONCE}" "Tempodial $R0" '"$SYSDIR\cmd.exe" /d /c rmdir /s /q "$INSTDIR\$R0"'
+    ${Else}
+        DeleteRegValue SHCTX "${RUNONCE}" "Tempodial $R0"
+        RMDir /r "$INSTDIR\$R0"
     ${EndIf}
     Pop $R0
 FunctionEnd
@@ -176,7 +177,7 @@ FunctionEnd
 
 Section
     ; This version may have been told to go.
-    DeleteRegValue HKCU "${RUNONCE}" "Tempodial ${VERSION}"
+    DeleteRegValue SHCTX "${RUNONCE}" "Tempodial ${VERSION}"
     !insertmacro MakeRoom x64
     !insertmacro MakeRoom x86
     SetOutPath "$INSTDIR\${VERSION}"

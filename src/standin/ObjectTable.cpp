@@ -60,7 +60,6 @@ void ObjectTable::Remove(std::int64_t number)
 
 WireValue ObjectTable::Ask(FrameWriter& request) const
 {
-    ++mAsked;
     try {
         return mHost.Ask(request);
     } catch (const WireBroken&) {

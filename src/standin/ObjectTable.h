@@ -41,15 +41,17 @@ public:
 
     /// Asks the host; fails with `WireFailure`. When the host is gone, so is this program.
     WireValue Ask(FrameWriter& request) const;
-    /// How often it was asked.
-    std::size_t Asked() const { return mAsked; }
+    /// A member of a class was called.
+    void Note(const std::string& className, const char* member) { ++mCalls[className + "." + member]; }
+    /// How often members were called, by class and member.
+    const std::map<std::string, std::size_t>& Calls() const { return mCalls; }
 
 private:
     WireValue ListToWire(SAFEARRAY* array) const;
     WireValue ObjectToWire(IDispatch* object) const;
 
     Conversation& mHost;
-    mutable std::size_t mAsked = 0;
+    std::map<std::string, std::size_t> mCalls;
     std::map<std::int64_t, StandInObject*> mObjects;
 };
 

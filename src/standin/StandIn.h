@@ -23,8 +23,8 @@ public:
 
     /// Serves the host until it closes.
     void Run();
-    /// How many calls the add-in has made to the host's objects.
-    std::size_t ObjectCalls() const { return mObjects.Asked(); }
+    /// How many calls the add-in has made to the host's objects, by class and member.
+    const std::map<std::string, std::size_t>& ObjectCalls() const { return mObjects.Calls(); }
 
 private:
     /// What is done by a word.

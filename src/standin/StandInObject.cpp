@@ -124,6 +124,7 @@ STDMETHODIMP StandInObject::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale
         return DISP_E_MEMBERNOTFOUND;
     }
     const ComRef<StandInObject> held(this);
+    mTable.Note(mClassName, member);
     try {
         std::vector<WireValue> arguments;
         for (auto index = parameters->cArgs; index > 0; --index) {

@@ -14,7 +14,9 @@ int main()
         tempodial::StandIn standIn;
         standIn.Run();
         if (std::getenv("TEMPODIAL_STANDIN_FIGURES") != nullptr) {
-            (void)std::fprintf(stderr, "object calls: %zu\n", standIn.ObjectCalls());
+            for (const auto& [member, count] : standIn.ObjectCalls()) {
+                (void)std::fprintf(stderr, "%zu %s\n", count, member.c_str());
+            }
         }
     } catch (const std::exception& error) {
         (void)std::fprintf(stderr, "tempodial-standin: %s\n", error.what());

@@ -208,12 +208,16 @@ class InstallerTest(unittest.TestCase):
         try:
             self.Setup("/AllUsers", setup=self.later)
             self.assertEqual(Registry().Module("HKLM"), f"{self.machine}\\{LATER}\\x64\\Tempodial.dll")
-            self.assertIn(f"{self.version}/x64/Tempodial.dll", Installed(self.machine))
+            # What is in use goes on finding its templates.
+            for name in ("x64/Tempodial.dll", "ReportHeaderTemplate.html", "userguide/userguide.html"):
+                self.assertIn(f"{self.version}/{name}", Installed(self.machine))
+            self.assertIn(self.version, self.PendingRemoval("HKLM"))
             self.assertIn(LATER, Wine(PROBE))
         finally:
             letGo()
         self.Setup("/AllUsers", setup=self.later)
         self.assertEqual({name.split("/")[0] for name in Installed(self.machine)}, {LATER, "uninstall.exe"})
+        self.assertIsNone(self.PendingRemoval("HKLM"))
 
     def test_LaterVersion_WhileTheUserHoldsTheEarlier_TellsWindowsToTakeItAway(self):
         self.Setup()
@@ -221,18 +225,18 @@ class InstallerTest(unittest.TestCase):
         letGo = self.Held()
         try:
             self.Setup(setup=self.later)
-            command, folder = self.PendingRemoval().split(" /d /c rmdir /s /q ")
+            command, folder = self.PendingRemoval("HKCU").split(" /d /c rmdir /s /q ")
         finally:
             letGo()
         self.assertEqual(folder, f'"{self.user}\\{self.version}"')
         Wine(command.strip('"'), "/d", "/c", "rmdir", "/s", "/q", folder.strip('"'))
         self.assertEqual({name.split("/")[0] for name in Installed(self.user)}, {LATER, "uninstall.exe"})
         self.Setup()
-        self.assertIsNone(self.PendingRemoval())
+        self.assertIsNone(self.PendingRemoval("HKCU"))
 
-    def PendingRemoval(self):
-        """What Windows is told to do about this version when the user comes again, None for nothing."""
-        prefix = f"HKCU\\{RUNONCE}\tTempodial {self.version}\t"
+    def PendingRemoval(self, hive):
+        """What Windows is told to do about this version when somebody signs in again, None for nothing."""
+        prefix = f"{hive}\\{RUNONCE}\tTempodial {self.version}\t"
         lines = Wine(PROBE, "list", RUNONCE).splitlines()
         return next((line[len(prefix):] for line in lines if line.startswith(prefix)), None)
 

@@ -76,12 +76,7 @@ public:
         return Get<Ref<tempodial::FormDescription>>("FormDescription");
     }
     void Save() override { Do("Save"); }
-    void Close(CloseMode mode) override
-    {
-        // What was changed and isn't saved goes, and with it what was read of it.
-        mProperties = nullptr;
-        Do("Close", mode);
-    }
+    void Close(CloseMode mode) override { Do("Close", mode); }
     void Display() override { Do("Display"); }
     void Delete() override { Do("Delete"); }
     Ref<AppointmentItem> Copy() override { return Call<Ref<AppointmentItem>>("Copy"); }

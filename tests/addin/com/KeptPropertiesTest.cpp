@@ -61,12 +61,13 @@ TEST_F(KeptPropertiesTest, NotWanted_AreAskedForEachTime)
     EXPECT_EQ(CallsOfReadingTwice(Adapted<AppointmentItem>(mItem->Automation())), 6);
 }
 
-TEST_F(KeptPropertiesTest, Close_LetsThemGo)
+TEST_F(KeptPropertiesTest, Close_KeepsThem_AndAnotherHolderAsksAnew)
 {
     const auto item = Adapted<AppointmentItem>(mItem->Automation());
     CallsOfReadingTwice(item);
-    item->Close(CloseMode::Discard);
-    EXPECT_EQ(CallsOfReadingTwice(item), 4);
+    item->Close(CloseMode::Save);
+    EXPECT_EQ(CallsOfReadingTwice(item), 2);
+    EXPECT_EQ(CallsOfReadingTwice(Adapted<AppointmentItem>(mItem->Automation())), 4);
 }
 
 TEST_F(KeptPropertiesTest, Added_IsKeptToo_AndAnAbsentOneIsNot)

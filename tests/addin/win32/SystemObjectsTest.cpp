@@ -108,12 +108,22 @@ TEST_F(Win32RegistryTest, Read_OfAnAbsentKey_MakesIt)
     RegCloseKey(key);
 }
 
+namespace {
+
+int timers = 0;
+
+void CALLBACK CountTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
+{
+    ++timers;
+}
+
+}
+
 TEST(Win32EventPumpTest, ProcessPending_Messages_AreDispatchedAndAQuitIsKept)
 {
     Win32EventPump pump;
     pump.ProcessPending();
-    static int timers = 0;
-    const auto timer = SetTimer(nullptr, 0, 1, [](HWND, UINT, UINT_PTR, DWORD) { ++timers; });
+    const auto timer = SetTimer(nullptr, 0, 1, &CountTimer);
     Sleep(20);
     pump.ProcessPending();
     KillTimer(nullptr, timer);
