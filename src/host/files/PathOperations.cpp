@@ -70,29 +70,17 @@ void RenameToAbsent(const NativePath& source, const NativePath& target)
     Rename(source, target);
 }
 
-bool ExchangeNames(const NativePath& one, const NativePath& other)
-{
-    if (::renameat2(AT_FDCWD, one.CText(), AT_FDCWD, other.CText(), RENAME_EXCHANGE) == 0) {
-        return true;
-    }
-    if (errno != EINVAL && errno != ENOSYS && errno != ENOENT) {
-        throw other.FailureOf(errno);
-    }
-    return false;
-}
-
 void TakePlaceOf(const NativePath& fresh, const NativePath& place, const NativePath& former)
 {
     RenameToAbsent(fresh, former);
-    try {
-        if (ExchangeNames(former, place)) {
-            return;
-        }
-    } catch (const Failure&) {
-        Rename(former, fresh);
-        throw;
+    if (::renameat2(AT_FDCWD, former.CText(), AT_FDCWD, place.CText(), RENAME_EXCHANGE) == 0) {
+        return;
     }
+    const int error = errno;
     Rename(former, fresh);
+    if (error != EINVAL && error != ENOSYS) {
+        throw place.FailureOf(error);
+    }
     // A file system without that call.
     RenameToAbsent(place, former);
     Rename(fresh, place);

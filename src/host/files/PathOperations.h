@@ -24,8 +24,6 @@ NativePath BehindLinks(NativePath path);
 void Rename(const NativePath& source, const NativePath& target);
 /// Gives a file a name that nothing has; fails (58) when something does.
 void RenameToAbsent(const NativePath& source, const NativePath& target);
-/// Gives two files or folders each other's names at once; false when one is absent or the file system can't.
-bool ExchangeNames(const NativePath& one, const NativePath& other);
 /// Puts a folder in the place of another, which gets a name that nothing has; at each moment there is one of both in
 /// the place, where the file system can do that.
 void TakePlaceOf(const NativePath& fresh, const NativePath& place, const NativePath& former);

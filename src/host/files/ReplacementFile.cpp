@@ -86,9 +86,7 @@ void ReplacementFile::Commit()
 {
     RequireWhole();
     mFile.Sync();
-    mFile.Close();
-    Rename(mNewPath, mPath);
-    mHasTakenPlace = true;
+    TakePlace();
     FolderDescriptor(NativePath::Exactly(mPath.Folder())).Sync();
 }
 
@@ -96,13 +94,7 @@ void ReplacementFile::TakePlace()
 {
     RequireWhole();
     mFile.Close();
-    // A file system may wait for the disk when a file takes the place of another by its name, but not when the two
-    // change places.
-    if (ExchangeNames(mNewPath, mPath)) {
-        Discard(mNewPath);
-    } else {
-        Rename(mNewPath, mPath);
-    }
+    Rename(mNewPath, mPath);
     mHasTakenPlace = true;
 }
 

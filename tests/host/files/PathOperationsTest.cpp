@@ -100,16 +100,6 @@ TEST_F(PathOperationsTest, AbsolutePath_IsWithoutDetours)
     EXPECT_EQ(AbsolutePath("a").Text(), (fs::current_path() / "a").string());
 }
 
-TEST_F(PathOperationsTest, ExchangeNames_BothAreThere_GivesEachTheOthers)
-{
-    mFolder.Write("one", "1");
-    EXPECT_FALSE(ExchangeNames(At("one"), At("other")));
-    mFolder.Write("other", "2");
-    EXPECT_TRUE(ExchangeNames(At("one"), At("other")));
-    EXPECT_EQ(mFolder.Read("one"), "2");
-    EXPECT_EQ(mFolder.Read("other"), "1");
-}
-
 TEST_F(PathOperationsTest, TakePlaceOf_Folder_StandsThereAndTheFormerBeside)
 {
     for (const auto* folder : { "fresh", "place" }) {

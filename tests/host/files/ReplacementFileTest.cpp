@@ -33,17 +33,6 @@ TEST_F(ReplacementFileTest, Commit_TakesTheFilesPlace)
     EXPECT_FALSE(mFolder.Has(".file.new"));
 }
 
-TEST_F(ReplacementFileTest, TakePlace_WithOrWithoutAnOldFile_LeavesOnlyTheNewOne)
-{
-    for (const auto* content : { "first", "second, longer", "3" }) {
-        ReplacementFile file(NativePath(mFolder.Path("file")));
-        file.Write(content);
-        file.TakePlace();
-        EXPECT_EQ(mFolder.Read("file"), content);
-        EXPECT_FALSE(mFolder.Has(".file.new"));
-    }
-}
-
 TEST_F(ReplacementFileTest, NotCommitted_LeavesTheOldFile)
 {
     mFolder.Write("file", "old");
