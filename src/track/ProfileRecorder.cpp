@@ -8,6 +8,7 @@
 #include "host/files/ReplacementFile.h"
 #include "track/TrackError.h"
 
+#include <algorithm>
 #include <charconv>
 #include <utility>
 
@@ -62,6 +63,23 @@ std::string StateText(const std::string& path)
     } catch (const Failure&) {
         return {}; // absent, or nothing to go on with
     }
+}
+
+/// Replaces the state where it lies, in one write, which a kill can't part: a file that takes another's place waits for
+/// the disk. What is left of a longer one becomes empty lines.
+void KeepText(const std::string& path, std::string text)
+{
+    const auto native = NativePath::Exactly(path);
+    if (!StatusAt(native, Links::Taken)) {
+        ReplacementFile file(native);
+        file.Write(text);
+        file.TakePlace();
+        return;
+    }
+    const FileDescriptor file(native, Opening::Writing);
+    file.RequireWritable();
+    text.resize(std::max(text.size(), static_cast<std::size_t>(file.Status().size)), '\n');
+    file.Write(text);
 }
 
 std::int64_t MidnightOf(const TrackMoment& moment)
@@ -152,9 +170,7 @@ void ProfileRecorder::KeepState()
         return;
     }
     try {
-        ReplacementFile file(NativePath::Exactly(mFolder + StateFileName));
-        file.Write(text);
-        file.TakePlace();
+        KeepText(mFolder + StateFileName, text);
         mKeptState = std::move(text);
         mComplaints.erase(StateTrouble);
     } catch (const Failure& failure) {

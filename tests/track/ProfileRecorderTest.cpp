@@ -201,6 +201,21 @@ TEST_F(ProfileRecorderTest, Answer_Forget_TakesOutLinesAndWhatWaits)
     EXPECT_EQ(Ask("do=forget\nlast=7200000\ntaken=1").Get("kept"), "1");
 }
 
+TEST_F(ProfileRecorderTest, State_ShorterThanBefore_KeepsNothingOfThat)
+{
+    Work(4, "a title that is to be forgotten");
+    EXPECT_THAT(mFolder.Read("Tempodial/track.state"), HasSubstr("to be forgotten"));
+    Ask("do=forget\nlast=3600000\ntaken=0");
+    EXPECT_EQ(mFolder.Read("Tempodial/track.state").find("forgotten"), std::string::npos);
+    EXPECT_FALSE(mFolder.Has("Tempodial/.track.state.new"));
+    Work(2, "b");
+    Make();
+    Work(9, "b");
+    mRecorder->End(mNow);
+    EXPECT_EQ(Day().find("forgotten"), std::string::npos);
+    EXPECT_THAT(Day(), HasSubstr("<EndTime>36600</EndTime>"));
+}
+
 TEST_F(ProfileRecorderTest, Answer_UnknownRequest_IsRefused)
 {
     EXPECT_TRUE(Ask("do=dance").Has("error"));
