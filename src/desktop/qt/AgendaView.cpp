@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tempodial {
 
@@ -68,7 +69,8 @@ void AgendaView::Follow()
     mPainter.Texts().Forget();
     Put();
     FindFocus();
-    if (mFitted != mLog.Days()) {
+    const bool wasEmpty = std::exchange(mIsEmpty, mLog.Activities().empty());
+    if (mFitted != mLog.Days() || (wasEmpty && !mIsEmpty)) {
         Fit();
     }
 }

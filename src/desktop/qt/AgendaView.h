@@ -140,6 +140,7 @@ private:
     AgendaMouse mMouse { *this };
     AgendaKeys mKeys { *this };
     double mGutter = 0;
+    bool mIsEmpty = true;
     /// The days to which the view was last scrolled.
     std::optional<Period> mFitted;
 };

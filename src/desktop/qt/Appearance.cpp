@@ -35,6 +35,13 @@ void Appearance::Apply(Choice choice)
     SetPalette();
 }
 
+bool Appearance::SetSystemDark(bool isDark)
+{
+    const bool isOther = mIsSystemDark != isDark;
+    mIsSystemDark = isDark;
+    return isOther;
+}
+
 void Appearance::SetPalette() const
 {
     const auto& colours = *mColours;

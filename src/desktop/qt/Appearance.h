@@ -18,6 +18,8 @@ public:
     /// Gives the application its style and the palette of a theme. The system's own is dark when the palette is with
     /// which the application began.
     void Apply(Choice choice);
+    /// Says that the desktop is dark, or light; true when it was taken for the other.
+    bool SetSystemDark(bool isDark);
 
     const ThemeColours& Colours() const { return *mColours; }
     bool IsDark() const { return mIsDark; }

@@ -95,6 +95,14 @@ void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
     mEvents.Raise(&DeskEvents::Restyled);
 }
 
+void Desk::FollowSystem(bool isDark)
+{
+    if (mAppearance.SetSystemDark(isDark)) {
+        mAppearance.Apply(mSettings.appearance);
+        Guarded([this] { mEvents.Raise(&DeskEvents::Restyled); });
+    }
+}
+
 void Desk::Remember(const std::function<void(DesktopSettings& settings)>& change)
 {
     const auto before = mSettings;
@@ -125,19 +133,26 @@ void Desk::KeepColours()
 void Desk::Do(const std::function<void()>& work) noexcept
 {
     ++mDepth;
-    try {
+    Guarded([&] {
         work();
         mSession.Idle();
-    } catch (const Failure& failure) {
-        Fail(failure.Description());
+    });
+    --mDepth;
+    Guarded([this] { mEvents.Raise(&DeskEvents::Changed); });
+    if (mDepth == 0) {
+        Guarded([this] {
+            mSession.DropReplaced();
+            KeepColours();
+        });
+    }
+}
+
+void Desk::Guarded(const std::function<void()>& work)
+{
+    try {
+        work();
     } catch (const std::exception& failure) {
         Fail(failure.what());
-    }
-    --mDepth;
-    mEvents.Raise(&DeskEvents::Changed);
-    if (mDepth == 0) {
-        mSession.DropReplaced();
-        KeepColours();
     }
 }
 
@@ -146,7 +161,8 @@ void Desk::Follow()
     const auto now = std::chrono::steady_clock::now();
     if (now - mFollowed >= BetweenFollows) {
         mFollowed = now;
-        mEvents.Raise(&DeskEvents::Changed);
+        // The job goes on although a window couldn't be drawn.
+        Guarded([this] { mEvents.Raise(&DeskEvents::Changed); });
     }
 }
 

@@ -73,12 +73,16 @@ public:
     bool IsBusy() const { return mDepth > 0; }
     /// Brings the windows up to date in the midst of a job, a few times a second.
     void Follow();
+    /// The desktop is dark, or light, which matters when the program is to look as it does.
+    void FollowSystem(bool isDark);
     /// Tells that something went wrong.
     void Fail(const std::string& message) { mEvents.Raise(&DeskEvents::Failed, message); }
 
     Subscription Subscribe(DeskEvents events) { return mEvents.Subscribe(std::move(events)); }
 
 private:
+    /// Does work; what it fails with is told.
+    void Guarded(const std::function<void()>& work);
     void KeepColours();
 
     Appearance& mAppearance;

@@ -4,6 +4,7 @@
 #include "desktop/qt/HostWindows.h"
 #include "desktop/qt/PeriodicImport.h"
 #include "desktop/qt/QtMessageBox.h"
+#include "desktop/qt/SystemTheme.h"
 #include "session/InstalledForm.h"
 #include "terminal/ArgumentParser.h"
 #include "terminal/ProfileArguments.h"
@@ -52,6 +53,7 @@ ExitStatus DesktopProgram::Execute(const std::vector<std::string>& arguments)
     {
         HostWindows windows(desk);
         const PeriodicImport import(desk);
+        const SystemTheme theme([&desk](bool isDark) { desk.FollowSystem(isDark); });
         windows.mWhenAllClosed = [] { QCoreApplication::quit(); };
         QApplication::exec();
         desk.Exit();

@@ -6,14 +6,17 @@
 #include "desktop/WhyWords.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
+#include "desktop/qt/ExampleProgram.h"
 #include "desktop/qt/JobStrip.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
+#include "desktop/qt/WelcomePage.h"
 #include "review/ActivityReader.h"
 #include "review/LikelyProjects.h"
+#include "session/TrackerFiles.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -86,6 +89,8 @@ void MainWindow::Assemble()
         { static_cast<QWidget*>(mAgenda), static_cast<QWidget*>(mList), static_cast<QWidget*>(mSortOut) }) {
         mPages->addWidget(page);
     }
+    mWelcome = new WelcomePage(mDesk, mPages);
+    mPages->addWidget(mWelcome);
     mJob = new JobStrip(mDesk, content);
     middle->addWidget(mPages, 1);
     layout->addWidget(mBar);
@@ -162,6 +167,9 @@ void MainWindow::ConnectOthers()
     mList->mWishes = {
         .select = select, .open = open, .menu = [this](const QPoint& place) { mCommands.ShowMenu(place); }, .key = key
     };
+    mWelcome->mOpenFolder
+        = [this](const std::string& path) { mDesk.Do([&] { mDesk.Profile().Surroundings().shell->Open(path); }); };
+    mWelcome->mShowExample = [this] { mDesk.Do([this] { ExampleProgram::Open(mDesk.Profile()); }); };
     mSortOut->mSelect = select;
     mSortOut->mOpen = open;
     mSortOut->mKey = key;
@@ -332,6 +340,12 @@ void MainWindow::FollowLog()
     }
 }
 
+bool MainWindow::IsNew() const
+{
+    return !mLog.HasAny() && !LastStartBefore(mDesk.Profile(), Period::Always().last)
+        && !TrackerFiles::Of(mDesk.Profile()).latest;
+}
+
 void MainWindow::FollowPages()
 {
     static const std::vector<Activity> none;
@@ -340,6 +354,9 @@ void MainWindow::FollowPages()
         page = mList;
     } else if (mView == View::SortOut) {
         page = mSortOut;
+    }
+    if (IsNew()) {
+        page = mWelcome;
     }
     mPages->setCurrentWidget(page);
     // Those that aren't seen hold nothing of the log, which may change without them.

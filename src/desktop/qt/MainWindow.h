@@ -28,6 +28,7 @@ class NavigationBar;
 class SelectionBar;
 class SidePanel;
 class SortOutView;
+class WelcomePage;
 
 /// The window of an explorer: the activities of some days, and what can be done with them.
 class MainWindow final : public QMainWindow
@@ -46,6 +47,7 @@ public:
     ActivityList& List() { return *mList; }
     SortOutView& SortOut() { return *mSortOut; }
     JobStrip& Job() { return *mJob; }
+    WelcomePage& Welcome() { return *mWelcome; }
     const ShownLog& Log() const { return mLog; }
     const Numbers& Selected() const { return mSelected; }
 
@@ -82,6 +84,8 @@ private:
     void ConnectAgenda();
     void ConnectOthers();
     void FollowPages();
+    /// True while there is neither an activity nor a tracker's file.
+    bool IsNew() const;
     void SearchAll();
     /// What is shown: the days, or what a search has found.
     const std::vector<Activity>& ShownActivities() const;
@@ -107,6 +111,7 @@ private:
     QStackedWidget* mPages = nullptr;
     ActivityList* mList = nullptr;
     SortOutView* mSortOut = nullptr;
+    WelcomePage* mWelcome = nullptr;
     JobStrip* mJob = nullptr;
     MainCommands mCommands;
     std::unique_ptr<MainMenu> mMenu;

@@ -97,7 +97,7 @@ void SelectionBar::Show(const std::vector<Activity>& selected, std::vector<std::
     const bool isOne = selected.size() == 1;
     mTitleText = isOne ? ToQt(IsolatedLine(words.Title(selected.front()))) : ToQt(ActivityWords::Summary(selected));
     mPlainText = isOne ? ToQt(IsolatedLine(words.Summary(selected.front()))) : QString();
-    mSaid.clear();
+    Forget(selected);
     mProjects = std::move(projects);
     for (std::size_t i = 0; i < Chips; ++i) {
         auto& chip = *mChips[i];
@@ -114,8 +114,22 @@ void SelectionBar::Show(const std::vector<Activity>& selected, std::vector<std::
     ShowTexts();
 }
 
+void SelectionBar::Forget(const std::vector<Activity>& selected)
+{
+    std::vector<std::int64_t> numbers;
+    for (const auto& activity : selected) {
+        numbers.push_back(activity.number);
+    }
+    // What was said stays as long as it may be about what is selected.
+    if (numbers != mNumbers && !numbers.empty()) {
+        mSaid.clear();
+    }
+    mNumbers = std::move(numbers);
+}
+
 void SelectionBar::ShowNothing(const QString& title, const QString& text, bool offersSorting)
 {
+    Forget({});
     mTitleText = title;
     mPlainText = text;
     ShowGroups(false, offersSorting);

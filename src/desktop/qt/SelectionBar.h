@@ -4,6 +4,7 @@
 #include "desktop/qt/Desk.h"
 
 #include <QWidget>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -64,6 +65,8 @@ protected:
 
 private:
     FlatButton* Button(QBoxLayout& layout, const QString& text, std::function<void()> SelectionBar::Wishes::*wish);
+    /// Lets go of what was said when others are selected.
+    void Forget(const std::vector<Activity>& selected);
     void ShowTexts();
     void ShowGroups(bool hasSelection, bool offersSorting);
 
@@ -77,6 +80,8 @@ private:
     std::vector<FlatButton*> mChips;
     FlatButton* mMore = nullptr;
     std::vector<std::string> mProjects;
+    /// What is selected.
+    std::vector<std::int64_t> mNumbers;
     QString mTitleText;
     QString mPlainText;
     QString mSaid;

@@ -248,6 +248,15 @@ TEST_F(AgendaViewTest, ProjectRow_Clicked_FadesOthersAndEscapeEndsIt)
     EXPECT_FALSE(faded("Plan"));
 }
 
+TEST_F(AgendaViewTest, Failure_WhileSomethingIsSelected_StaysUntilOthersAre)
+{
+    Click("Inbox");
+    mDesk->Do([] { throw std::runtime_error("it can't be done: try later"); });
+    EXPECT_EQ(mWindow->Foot().Text(), "it can't be done: try later");
+    Click("Plan");
+    EXPECT_TRUE(mWindow->Foot().Text().startsWith("Wed"));
+}
+
 TEST_F(AgendaViewTest, Why_SaysWhereTheProjectIsFrom)
 {
     Click("Inbox");

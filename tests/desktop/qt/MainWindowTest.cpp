@@ -4,7 +4,10 @@
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/FlatButton.h"
 #include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/WelcomePage.h"
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 
@@ -36,6 +39,7 @@ TEST_F(MainWindowTest, Opened_ShowsTheWeekOfToday)
 
 TEST_F(MainWindowTest, ViewButton_Day_ShowsThatDayAlone)
 {
+    Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10));
     auto& window = Open();
     QTest::mouseClick(&window.Bar().ButtonOf(View::Day), Qt::LeftButton);
     ASSERT_EQ(window.Agenda().Head().Days().size(), 1U);
@@ -45,6 +49,7 @@ TEST_F(MainWindowTest, ViewButton_Day_ShowsThatDayAlone)
 
 TEST_F(MainWindowTest, DayHead_Clicked_ShowsThatDay)
 {
+    Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10));
     auto& window = Open();
     auto& head = window.Agenda().Head();
     QTest::mouseClick(&head, Qt::LeftButton, {}, QPoint(static_cast<int>(head.Days()[1].left) + 20, 10));
@@ -68,6 +73,55 @@ TEST_F(MainWindowTest, Log_Changed_IsShownAtOnce)
     auto& window = Open();
     mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10)); });
     EXPECT_EQ(window.Agenda().Cards().size(), 1U);
+}
+
+TEST_F(MainWindowTest, New_UntilThereIsAnActivity_TellsWhereTheTrackersFilesAre)
+{
+    auto& window = Open();
+    EXPECT_TRUE(window.Welcome().isVisible());
+    QTest::mouseClick(&window.Welcome().CopyButton(), Qt::LeftButton);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), mDesk->Profile().DataFolder());
+    Picture(window, "welcome");
+    mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10)); });
+    EXPECT_FALSE(window.Welcome().isVisible());
+    EXPECT_TRUE(window.Agenda().isVisible());
+}
+
+TEST_F(MainWindowTest, New_TrackerFileIsThere_ShowsTheDays)
+{
+    mFolder.Write("profile/Tempodial/" + TrackerFileName(On(17, 0).DayKey()), "<slots>\n");
+    auto& window = Open();
+    EXPECT_FALSE(window.Welcome().isVisible());
+}
+
+TEST_F(MainWindowTest, Log_FirstActivitiesCome_AreScrolledTo)
+{
+    auto& window = Open();
+    mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(15, 1), On(15, 2)); });
+    Settle();
+    const auto& scene = window.Agenda().Scene();
+    const auto box = window.Agenda().InView(scene.Geometry().BoxOf(scene.Layout().Pieces().front()));
+    EXPECT_GE(box.y(), 0);
+    EXPECT_LT(box.bottom(), window.Agenda().viewport()->height());
+}
+
+TEST_F(MainWindowTest, Work_Fails_IsToldAtTheFoot)
+{
+    auto& window = Open();
+    mDesk->Do([] { throw std::runtime_error("it can't be done: try later"); });
+    EXPECT_EQ(window.Foot().Text(), "it can't be done: try later");
+    EXPECT_FALSE(mDesk->IsBusy());
+}
+
+TEST_F(MainWindowTest, SystemTheme_Dark_IsFollowedUnlessAnotherIsChosen)
+{
+    Open();
+    mDesk->FollowSystem(true);
+    EXPECT_TRUE(mLook.IsDark());
+    mDesk->Change([](DesktopSettings& settings) { settings.appearance = DesktopSettings::Appearance::Light; });
+    mDesk->FollowSystem(false);
+    mDesk->FollowSystem(true);
+    EXPECT_FALSE(mLook.IsDark());
 }
 
 TEST_F(MainWindowTest, Closed_TheModelGoesAndTheWindowAfterIt)
