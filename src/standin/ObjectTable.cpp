@@ -8,6 +8,7 @@
 #include "wire/WireFailure.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace tempodial {
 
@@ -60,6 +61,13 @@ void ObjectTable::Remove(std::int64_t number)
 
 WireValue ObjectTable::Ask(FrameWriter& request) const
 {
+    const auto begin = std::chrono::steady_clock::now();
+    ++mDepth;
+    const std::shared_ptr<void> end(nullptr, [&](void*) {
+        if (--mDepth == 0) {
+            mInCalls += std::chrono::steady_clock::now() - begin;
+        }
+    });
     try {
         return mHost.Ask(request);
     } catch (const WireBroken&) {

@@ -5,6 +5,7 @@
 #include "wire/Conversation.h"
 #include "wire/WireValue.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -45,6 +46,8 @@ public:
     void Note(const std::string& className, const char* member) { ++mCalls[className + "." + member]; }
     /// How often members were called, by class and member.
     const std::map<std::string, std::size_t>& Calls() const { return mCalls; }
+    /// How long the add-in has waited for answers; what it does itself in events meanwhile counts, too.
+    std::chrono::steady_clock::duration InCalls() const { return mInCalls; }
 
 private:
     WireValue ListToWire(SAFEARRAY* array) const;
@@ -52,6 +55,9 @@ private:
 
     Conversation& mHost;
     std::map<std::string, std::size_t> mCalls;
+    mutable std::chrono::steady_clock::duration mInCalls {};
+    /// How many answers are waited for at this moment, one in the other.
+    mutable int mDepth = 0;
     std::map<std::int64_t, StandInObject*> mObjects;
 };
 

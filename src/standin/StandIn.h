@@ -25,6 +25,8 @@ public:
     void Run();
     /// How many calls the add-in has made to the host's objects, by class and member.
     const std::map<std::string, std::size_t>& ObjectCalls() const { return mObjects.Calls(); }
+    /// How long it has waited for them.
+    std::chrono::steady_clock::duration InCalls() const { return mObjects.InCalls(); }
 
 private:
     /// What is done by a word.

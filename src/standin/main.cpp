@@ -1,5 +1,6 @@
 #include "standin/StandIn.h"
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -14,6 +15,8 @@ int main()
         tempodial::StandIn standIn;
         standIn.Run();
         if (std::getenv("TEMPODIAL_STANDIN_FIGURES") != nullptr) {
+            const auto waited = std::chrono::duration_cast<std::chrono::microseconds>(standIn.InCalls());
+            (void)std::fprintf(stderr, "%lld us in calls\n", static_cast<long long>(waited.count()));
             for (const auto& [member, count] : standIn.ObjectCalls()) {
                 (void)std::fprintf(stderr, "%zu %s\n", count, member.c_str());
             }
