@@ -9,10 +9,10 @@ namespace tempodial {
 
 namespace {
 
-constexpr double Radius = 4;
+constexpr double CardRadius = 4;
 constexpr double MarkWidth = 4;
 /// The side of the picture that holds the corners.
-constexpr double Side = 16;
+constexpr double CornerSide = 16;
 
 auto KeyOf(const Colour& colour)
 {
@@ -67,17 +67,17 @@ CardCache::Pictures CardCache::Made(const CardStyle& style) const
     Pictures made;
     made.ground = style.isHatched ? Hatching(fill, ToQt(style.hatch), HatchDistance, mDevicePixels) : QBrush(fill);
     made.mark = style.isStriped ? Hatching(mark, fill, StripeDistance, mDevicePixels) : QBrush(mark);
-    made.corners = QPixmap((QSizeF(Side, Side) * mDevicePixels).toSize());
+    made.corners = QPixmap((QSizeF(CornerSide, CornerSide) * mDevicePixels).toSize());
     made.corners.setDevicePixelRatio(mDevicePixels);
     made.corners.fill(Qt::transparent);
     QPainter painter(&made.corners);
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath path;
-    path.addRoundedRect(QRectF(0, 0, Side, Side), Radius, Radius);
+    path.addRoundedRect(QRectF(0, 0, CornerSide, CornerSide), CardRadius, CardRadius);
     painter.setClipPath(path);
-    painter.fillRect(QRectF(0, 0, Side, Side), made.ground);
+    painter.fillRect(QRectF(0, 0, CornerSide, CornerSide), made.ground);
     if (!style.isHatched) {
-        painter.fillRect(QRectF(0, 0, MarkWidth, Side), made.mark);
+        painter.fillRect(QRectF(0, 0, MarkWidth, CornerSide), made.mark);
     }
     return made;
 }
@@ -86,22 +86,23 @@ void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& styl
 {
     const auto& pictures = Of(style);
     const auto corner = [&](double x, double y, double fromX, double fromY) {
-        painter.drawPixmap(QRectF(x, y, Radius, Radius), pictures.corners,
-            QRectF(fromX * mDevicePixels, fromY * mDevicePixels, Radius * mDevicePixels, Radius * mDevicePixels));
+        painter.drawPixmap(QRectF(x, y, CardRadius, CardRadius), pictures.corners,
+            QRectF(
+                fromX * mDevicePixels, fromY * mDevicePixels, CardRadius * mDevicePixels, CardRadius * mDevicePixels));
     };
-    const auto right = box.right() - Radius;
-    const auto bottom = box.bottom() - Radius;
-    const auto inner = box.width() - 2 * Radius;
+    const auto right = box.right() - CardRadius;
+    const auto bottom = box.bottom() - CardRadius;
+    const auto inner = box.width() - 2 * CardRadius;
     corner(box.x(), box.y(), 0, 0);
-    corner(right, box.y(), Side - Radius, 0);
-    corner(box.x(), bottom, 0, Side - Radius);
-    corner(right, bottom, Side - Radius, Side - Radius);
-    painter.fillRect(QRectF(box.x() + Radius, box.y(), inner, Radius), pictures.ground);
-    painter.fillRect(QRectF(box.x() + Radius, bottom, inner, Radius), pictures.ground);
-    const auto middle = box.height() - 2 * Radius;
-    painter.fillRect(QRectF(box.x() + Radius, box.y() + Radius, inner + Radius, middle), pictures.ground);
+    corner(right, box.y(), CornerSide - CardRadius, 0);
+    corner(box.x(), bottom, 0, CornerSide - CardRadius);
+    corner(right, bottom, CornerSide - CardRadius, CornerSide - CardRadius);
+    painter.fillRect(QRectF(box.x() + CardRadius, box.y(), inner, CardRadius), pictures.ground);
+    painter.fillRect(QRectF(box.x() + CardRadius, bottom, inner, CardRadius), pictures.ground);
+    const auto middle = box.height() - 2 * CardRadius;
+    painter.fillRect(QRectF(box.x() + CardRadius, box.y() + CardRadius, inner + CardRadius, middle), pictures.ground);
     painter.fillRect(
-        QRectF(box.x(), box.y() + Radius, Radius, middle), style.isHatched ? pictures.ground : pictures.mark);
+        QRectF(box.x(), box.y() + CardRadius, CardRadius, middle), style.isHatched ? pictures.ground : pictures.mark);
     if (style.isDashed) {
         QPen pen(ToQt(style.colours.mark), 1);
         pen.setDashPattern({ 3, 3 });
@@ -109,7 +110,7 @@ void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& styl
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(pen);
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
+        painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), CardRadius, CardRadius);
         painter.restore();
     }
 }

@@ -13,7 +13,7 @@ namespace tempodial {
 namespace {
 
 constexpr double HeadMargin = 8;
-constexpr double BarHeight = 7;
+constexpr double DayBarHeight = 7;
 constexpr double NumberSize = 1.45;
 
 QFont NumberFont(QFont font)
@@ -50,7 +50,7 @@ void DayHead::Show(std::vector<Day> days)
 
 QSize DayHead::sizeHint() const
 {
-    return { 0, static_cast<int>(LineHeight(font()) + BarHeight + 3 * HeadMargin) };
+    return { 0, static_cast<int>(LineHeight(font()) + DayBarHeight + 3 * HeadMargin) };
 }
 
 void DayHead::paintEvent(QPaintEvent* /*event*/)
@@ -68,7 +68,7 @@ void DayHead::Paint(QPainter& painter, const Day& day) const
     const auto& colours = mLook.Colours();
     const auto line = LineHeight(font());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(QRectF(day.left, height() - 2 * HeadMargin - BarHeight, 1, height()), ToQt(colours.hourLine));
+    painter.fillRect(QRectF(day.left, height() - 2 * HeadMargin - DayBarHeight, 1, height()), ToQt(colours.hourLine));
     const auto number = NumberFont(font());
     // As large as two digits need, whatever this day's are, so that all names begin at one place.
     constexpr double AroundDigits = 10;
@@ -96,7 +96,8 @@ void DayHead::Paint(QPainter& painter, const Day& day) const
     painter.setFont(bold);
     painter.setPen(ToQt(colours.text));
     painter.drawText(rest, Qt::AlignRight | Qt::AlignVCenter, day.total);
-    day.bar.Paint(painter, { day.left + HeadMargin, HeadMargin * 2 + line - 2, day.width - 2 * HeadMargin, BarHeight });
+    day.bar.Paint(
+        painter, { day.left + HeadMargin, HeadMargin * 2 + line - 2, day.width - 2 * HeadMargin, DayBarHeight });
 }
 
 std::size_t DayHead::DayAt(double x) const
