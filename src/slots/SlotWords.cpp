@@ -16,53 +16,14 @@ constexpr std::string_view BetweenPlaces = ", ";
 constexpr std::int64_t DetailSeconds = 30;
 constexpr std::size_t MostDetails = 12;
 
-/// Seconds of equal texts, each text once, in the order in which they came.
-struct TextTime
-{
-    std::string text;
-    std::int64_t seconds;
-    /// The tracker's index of the largest view of it, and that view's seconds.
-    int kind;
-    std::int64_t largest;
-};
-
-template <class TextOf> std::vector<TextTime> Times(const std::vector<ViewTime>& views, TextOf&& textOf)
-{
-    std::vector<TextTime> times;
-    for (const auto& time : views) {
-        const std::string& text = textOf(time.view);
-        const auto found
-            = std::find_if(times.begin(), times.end(), [&text](const auto& other) { return other.text == text; });
-        if (found == times.end()) {
-            times.push_back({ text, time.seconds, time.view.kind, time.seconds });
-            continue;
-        }
-        found->seconds += time.seconds;
-        if (time.seconds > found->largest) {
-            found->largest = time.seconds;
-            found->kind = time.view.kind;
-        }
-    }
-    std::stable_sort(times.begin(), times.end(), [](const auto& a, const auto& b) { return a.seconds > b.seconds; });
-    return times;
-}
-
-std::int64_t Sum(const std::vector<ViewTime>& views)
-{
-    std::int64_t seconds = 0;
-    for (const auto& time : views) {
-        seconds += time.seconds;
-    }
-    return seconds;
-}
-
 /// The text that fills half of the time, nothing when none does or when it is empty.
-const TextTime* Half(const std::vector<TextTime>& times, std::int64_t seconds)
+std::optional<TextSums::TextTime> Half(const TextSums& sums, std::int64_t seconds)
 {
-    if (times.empty() || times.front().text.empty() || times.front().seconds * 2 < seconds) {
-        return nullptr;
+    auto largest = sums.Largest(1);
+    if (largest.empty() || largest.front().text.empty() || largest.front().seconds * 2 < seconds) {
+        return std::nullopt;
     }
-    return &times.front();
+    return std::move(largest.front());
 }
 
 /// The node that holds what an activity of a kind is about.
@@ -99,37 +60,41 @@ void SlotWords::Add(const PickedSlot& slot)
         mProgram = slot.program;
         mFirst = { slot.program, 0, slot.text, slot.project };
     }
-    for (const auto& time : slot.views) {
-        if (time.view.program == mProgram) {
-            AddTime(mViews, time.view, time.seconds);
+    for (const auto& [view, seconds] : slot.views) {
+        if (view.program == mProgram) {
+            mSeconds += seconds;
+            mTexts.Add(view.text, seconds, view.kind);
+            mPlaces.Add(view.place, seconds, view.kind);
+            mProjects.Add(view.project, seconds, view.kind);
         }
     }
+    mCurrent.reset();
 }
 
-Words SlotWords::Current() const
+const Words& SlotWords::Current() const
 {
-    const auto seconds = Sum(mViews);
-    if (seconds == 0) {
+    if (!mCurrent) {
+        mCurrent = Found();
+    }
+    return *mCurrent;
+}
+
+Words SlotWords::Found() const
+{
+    if (mSeconds == 0) {
         return mFirst;
     }
-    Words words { mProgram, 0, "",
-        Times(
-            mViews, [](const SlotView& view) -> auto& { return view.project; })
-            .front()
-            .text };
-    const auto texts = Times(
-        mViews, [](const SlotView& view) -> auto& { return view.text; });
-    const auto places = Times(
-        mViews, [](const SlotView& view) -> auto& { return view.place; });
-    const auto* half = Half(texts, seconds);
-    half = half == nullptr ? Half(places, seconds) : half;
-    if (half != nullptr) {
+    Words words { mProgram, 0, "", mProjects.Largest(1).front().text };
+    auto half = Half(mTexts, mSeconds);
+    half = half ? half : Half(mPlaces, mSeconds);
+    if (half) {
         words.text = half->text;
         words.kind = half->kind;
         return words;
     }
     std::size_t count = 0;
-    for (const auto& place : places) {
+    // One of them may be empty.
+    for (const auto& place : mPlaces.Largest(PlacesOfMixed + 1)) {
         if (!place.text.empty() && count < PlacesOfMixed) {
             words.kind = count == 0 ? place.kind : words.kind;
             words.text.append(count == 0 ? "" : BetweenPlaces).append(place.text);
@@ -141,7 +106,7 @@ Words SlotWords::Current() const
 
 std::int64_t SlotWords::SecondsIn(const PickedSlot& slot) const
 {
-    const auto words = Current();
+    const auto& words = Current();
     std::int64_t seconds = 0;
     for (const auto& time : slot.views) {
         const bool isSaid = time.view.text == words.text || time.view.place == words.text;

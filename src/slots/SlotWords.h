@@ -2,9 +2,10 @@
 
 #include "slots/SlotLine.h"
 #include "slots/SlotPicker.h"
-#include "slots/SlotView.h"
+#include "slots/TextSums.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,16 +35,23 @@ public:
     void Add(const PickedSlot& slot);
 
     /// The words for all that was added.
-    Words Current() const;
+    const Words& Current() const;
     /// Seconds of a slot that are spent on what these words say.
     std::int64_t SecondsIn(const PickedSlot& slot) const;
 
 private:
+    Words Found() const;
+
     std::string mProgram;
     /// The first slot's, for an activity of which no view is known.
     Words mFirst;
-    /// The views of its program.
-    std::vector<ViewTime> mViews;
+    /// The time of its program, and what that was spent on.
+    std::int64_t mSeconds = 0;
+    TextSums mTexts;
+    TextSums mPlaces;
+    TextSums mProjects;
+    /// The words, unless something was added since.
+    mutable std::optional<Words> mCurrent;
 };
 
 /// What an activity lists besides its own words.

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 namespace tempodial {
 
 namespace {
@@ -67,6 +69,31 @@ TEST(ActivityWriterTest, WholeActivities_Words_AreTheLastOnesFromTheBeginning)
     EXPECT_EQ(filed[0].slot.details, (Lines { "a", "B: x" }));
     EXPECT_EQ(filed[1].slot.details, Lines { "b" });
     EXPECT_TRUE(WholeActivities({}).empty());
+}
+
+TEST(ActivityWriterTest, Activities_NewTitleEachSecondForEightHours_AreMadeAtOnce)
+{
+    constexpr int Slots = 96;
+    std::vector<SlotTimes> times;
+    for (int slot = 0; slot < Slots; ++slot) {
+        std::vector<Glance> glances;
+        for (int second = 0; second < SlotSeconds; ++second) {
+            glances.push_back({ "A", "frame " + std::to_string(slot * SlotSeconds + second), 1, "film" });
+        }
+        times.push_back(Slot(slot, glances));
+    }
+    const auto slots = Picked(times);
+    const auto start = std::chrono::steady_clock::now();
+    GrowingActivities growing;
+    for (const auto& slot : slots) {
+        growing.Add(slot);
+    }
+    EXPECT_EQ(growing.End()->slot.words.text, "film");
+    const auto filed = WholeActivities(slots);
+    EXPECT_EQ(filed.size(), std::size_t { Slots });
+    EXPECT_EQ(filed.back().slot.words.text, "film");
+    // A time that grows with the square of the titles is minutes here.
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
 }

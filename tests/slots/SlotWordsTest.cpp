@@ -59,6 +59,31 @@ TEST(SlotWordsTest, Current_SlotsAdded_LetTheWordsGrow)
     EXPECT_EQ(words.Current().text, "b");
 }
 
+TEST(SlotWordsTest, Current_TitleThatComesBackInSmallParts_IsStillTheLargest)
+{
+    SlotWords words;
+    for (int i = 0; i < 100; ++i) {
+        words.Add(Picked("A",
+            { { "A", "long " + std::to_string(i), 100, "p" + std::to_string(i % 9) }, { "A", "map", 120, "q" },
+                { "A", "", 60, "" } }));
+    }
+    EXPECT_EQ(words.Current().text, "q, p0, p1");
+    words.Add(Picked("A", { { "A", "map", 6000, "q" } }));
+    EXPECT_EQ(words.Current().text, "map");
+}
+
+TEST(SlotWordsTest, Current_TitleWithDocumentAndWithout_HasTheKindOfMostTime)
+{
+    SlotWords words;
+    auto slot = Picked("A", { { "A", "a", 100 } });
+    words.Add(slot);
+    slot.views[0].view.kind = 5;
+    words.Add(slot);
+    EXPECT_EQ(words.Current().kind, 0);
+    words.Add(slot);
+    EXPECT_EQ(words.Current().kind, 5);
+}
+
 TEST(SlotWordsTest, Current_NoViews_AreTheSlotsOwn)
 {
     SlotWords words;
