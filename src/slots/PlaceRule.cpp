@@ -100,9 +100,44 @@ bool IsDirectory(std::string_view text)
     return isOneWord && (text.starts_with('/') || text.starts_with('~') || isDrive);
 }
 
+/// Length of the first word of a command line, in which blanks in quotes and behind a backslash don't end it.
+std::size_t CommandWordLength(std::string_view command)
+{
+    char quote = 0;
+    for (std::size_t i = 0; i < command.size(); ++i) {
+        const char letter = command[i];
+        if (letter == '\\' && quote != '\'') {
+            ++i;
+        } else if (quote != 0) {
+            quote = letter == quote ? '\0' : quote;
+        } else if (letter == '"' || letter == '\'') {
+            quote = letter;
+        } else if (letter == ' ') {
+            return i;
+        }
+    }
+    return command.size();
+}
+
+/// A command line without the variables that it sets for the program, whose values may be secrets.
+std::string_view WithoutVariables(std::string_view command)
+{
+    for (;;) {
+        command = Trimmed(command);
+        const auto length = CommandWordLength(command);
+        const auto word = command.substr(0, length);
+        const auto name = word.substr(0, word.find('='));
+        if (name.size() == word.size() || name.find_first_of("/\\\"'") != std::string_view::npos) {
+            return command;
+        }
+        command.remove_prefix(length);
+    }
+}
+
 /// The program that a command line runs, without its folder and its arguments.
 std::string CalledProgram(std::string_view command)
 {
+    command = WithoutVariables(command);
     return LastFolder(command.substr(0, command.find(' ')));
 }
 
@@ -112,6 +147,7 @@ Placed OfDirectory(std::string_view title)
     if (title.starts_with(Administrator)) {
         title.remove_prefix(Administrator.size());
     }
+    title = WithoutVariables(title);
     std::string host;
     // Such as "ann@box: ~/src" or "ann@box:~/src".
     const auto at = title.find('@');

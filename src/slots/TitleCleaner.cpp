@@ -170,6 +170,35 @@ std::string_view WithoutMorePages(std::string_view text)
     return IsDigits(number) && (words == " more pages" || words == " more page") ? text.substr(0, at) : text;
 }
 
+bool IsLetterOrDigit(char letter)
+{
+    return !IsAscii(letter) || (letter >= '0' && letter <= '9') || (letter >= 'a' && letter <= 'z')
+        || (letter >= 'A' && letter <= 'Z');
+}
+
+/// True for a site without a scheme, such as "example.com" or "localhost:8080", also behind a bracket or an account.
+bool IsSite(std::string_view text)
+{
+    text.remove_prefix(text.rfind('@') + 1);
+    while (!text.empty() && !IsLetterOrDigit(text.front())) {
+        text.remove_prefix(1);
+    }
+    const auto host = text.substr(0, text.find(':'));
+    if (host.empty() || !std::all_of(host.begin(), host.end(), [](char letter) {
+            return IsLetterOrDigit(letter) || letter == '.' || letter == '-' || letter == '_';
+        })) {
+        return false;
+    }
+    if (host.size() < text.size()) {
+        return !IsDigits(host) && IsDigits(text.substr(host.size() + 1));
+    }
+    constexpr std::ptrdiff_t PointsOfNumbers = 3;
+    const auto point = host.rfind('.');
+    const auto domain = point == std::string_view::npos ? std::string_view() : host.substr(point + 1);
+    const bool isDomain = domain.size() > 1 && domain.find_first_of("0123456789") == std::string_view::npos;
+    return (isDomain && point > 0) || std::count(host.begin(), host.end(), '.') == PointsOfNumbers;
+}
+
 /// A word without what addresses carry besides: an account in front of the host, a query, a fragment.
 std::string WithoutQuery(std::string_view word)
 {
@@ -178,8 +207,10 @@ std::string WithoutQuery(std::string_view word)
     const auto start = word.substr(0, cut);
     const auto slash = start.find('/');
     const auto point = start.find('.');
-    const bool isAddress = scheme != std::string_view::npos || start.starts_with("www.")
-        || (slash != std::string_view::npos && point < slash && point > 0);
+    // Behind the mark that ends a question nothing follows.
+    const bool hasMore = cut != std::string_view::npos && cut + 1 < word.size();
+    const bool isAddress = (hasMore && IsSite(start.substr(0, slash))) || scheme != std::string_view::npos
+        || start.starts_with("www.") || (slash != std::string_view::npos && point < slash && point > 0);
     if (!isAddress) {
         return std::string(word);
     }

@@ -61,6 +61,18 @@ TEST(PlaceRuleTest, Of_Terminal_NeverTellsACommandLine)
     ExpectPlaced(PlaceForm::Directory, "", "", "");
 }
 
+TEST(PlaceRuleTest, Of_TerminalWithVariables_TellsTheirProgramAlone)
+{
+    ExpectPlaced(PlaceForm::Directory, "PASSWORD=hunter2 make deploy", "make", "make");
+    ExpectPlaced(PlaceForm::Directory, R"(A="x y" B='p q' C=r\ s /usr/bin/make deploy)", "make", "make");
+    ExpectPlaced(PlaceForm::Directory, "PASSWORD=hun@ter:2 make", "make", "make");
+    ExpectPlaced(PlaceForm::Directory, "ann@box: PASSWORD=hunter2 make", "box: make", "box: make");
+    ExpectPlaced(PlaceForm::Directory, "$env:PASSWORD=\"x\"; make", "make", "make");
+    ExpectPlaced(PlaceForm::Directory, "PASSWORD=hunter2", "", "");
+    ExpectPlaced(PlaceForm::Directory, "PASSWORD='hunter 2 make", "", "");
+    ExpectPlaced(PlaceForm::Directory, "/srv/a=b", "/srv/a=b", "/srv/a=b");
+}
+
 TEST(PlaceRuleTest, Of_Chat_TellsRoomsAndNoPeople)
 {
     ExpectPlaced(PlaceForm::Room, "general (Channel) - Atlas", "general (Atlas)", "Atlas");

@@ -82,6 +82,24 @@ TEST(TitleCleanerTest, Clean_Addresses_LoseQueryFragmentAndAccount)
     EXPECT_EQ(Clean("What? C# or F#?"), "What? C# or F#?");
 }
 
+TEST(TitleCleanerTest, Clean_SitesWithoutAPath_LoseTheirQueryToo)
+{
+    EXPECT_EQ(Clean("example.com?session=TOPSECRET - Mozilla Firefox"), "example.com");
+    EXPECT_EQ(Clean("(example.com#token=x"), "(example.com");
+    EXPECT_EQ(Clean("localhost:8080?token=x"), "localhost:8080");
+    EXPECT_EQ(Clean("localhost:8080/login?token=x"), "localhost:8080/login");
+    EXPECT_EQ(Clean("127.0.0.1#token"), "127.0.0.1");
+    EXPECT_EQ(Clean("b\u00fcro.example?a=b"), "b\u00fcro.example");
+}
+
+TEST(TitleCleanerTest, Clean_WhatOnlyLooksLikeASite_Stays)
+{
+    for (const auto* title :
+        { "Is it Node.js? Yes", "at 10:30?x", "v1.2#3", "What?yes", "C#/F#", ".net?x", "a::b?c" }) {
+        EXPECT_EQ(Clean(title), title);
+    }
+}
+
 TEST(TitleCleanerTest, Clean_TitleOfNothing_IsToldAsSuch)
 {
     EXPECT_TRUE(TitleCleaner::Clean("Desktop", Browser()).isNothing);
