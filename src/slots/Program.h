@@ -62,6 +62,8 @@ struct Program
     std::vector<std::string> emptyTitles;
     /// True when the names of the people that one talks to may be told.
     bool namesPeople = false;
+    /// True for one that no table has.
+    bool isUnknown = false;
 };
 
 /// Seconds without input that a program of this sort is taken to be in use all the same.

@@ -75,6 +75,7 @@ Program ProgramTable::Find(std::string_view id, std::string_view name) const
         }
     }
     Program made;
+    made.isUnknown = true;
     made.ids = FormsOf(Fold(PlainText(id)));
     made.name = NodeText(PlainText(name).empty() ? NameOfId(id) : name, LongestName);
     return made;

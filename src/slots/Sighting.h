@@ -16,6 +16,8 @@ struct Sighting
     std::string host;
     /// True for a window whose title nobody is to know.
     bool isPrivate = false;
+    /// The project that it is said to belong to, empty when nothing is said.
+    std::string project = {};
 };
 
 }

@@ -33,6 +33,13 @@ std::string SubjectOf(std::string_view text)
     return "";
 }
 
+/// The project that is said of a window itself, else the one that a rule gives it.
+std::string ProjectOf(const Sighting& sighting, const PrivacyRules::Verdict& verdict)
+{
+    auto project = ProjectText(sighting.project);
+    return project.empty() && verdict.project != nullptr ? ProjectText(verdict.project->text) : project;
+}
+
 }
 
 std::string ProjectText(std::string_view name)
@@ -61,8 +68,8 @@ Seen ViewMaker::Make(const Sighting& sighting) const
     if (program.sort == ProgramSort::Lock) {
         return { Seen::Kind::Locked, {} };
     }
-    const auto* rule = mRules.Find(sighting, program);
-    if (auto ruled = Ruled(sighting, program, rule)) {
+    const auto verdict = mRules.Find(sighting, program);
+    if (auto ruled = Ruled(sighting, program, verdict)) {
         return std::move(*ruled);
     }
     const auto cleaned = TitleCleaner::Clean(sighting.title, program);
@@ -70,7 +77,7 @@ Seen ViewMaker::Make(const Sighting& sighting) const
         return { Seen::Kind::Nothing, {} };
     }
     auto view = Titled(program, cleaned, PlainText(sighting.host));
-    view.project = rule == nullptr ? "" : ProjectText(rule->text);
+    view.project = ProjectOf(sighting, verdict);
     return { Seen::Kind::View, std::move(view) };
 }
 
@@ -78,35 +85,32 @@ Seen ViewMaker::MakeStated(const Sighting& sighting) const
 {
     Program program;
     program.name = NodeText(sighting.program, LongestName);
-    const auto* rule = mRules.Find(sighting, program);
-    if (auto ruled = Ruled(sighting, program, rule)) {
+    const auto verdict = mRules.FindStated(sighting, program);
+    if (auto ruled = Ruled(sighting, program, verdict)) {
         return std::move(*ruled);
     }
     const auto text = NodeText(sighting.title, LongestText);
-    return { Seen::Kind::View,
-        { program.name, program.sort, 0, text, text, rule == nullptr ? "" : ProjectText(rule->text) } };
+    return { Seen::Kind::View, { program.name, program.sort, 0, text, text, ProjectOf(sighting, verdict) } };
 }
 
-std::optional<Seen> ViewMaker::Ruled(const Sighting& sighting, const Program& program, const PrivacyRule* rule) const
+std::optional<Seen> ViewMaker::Ruled(
+    const Sighting& sighting, const Program& program, const PrivacyRules::Verdict& verdict)
 {
     using Action = PrivacyRule::Action;
-    const auto action = rule == nullptr ? Action::Project : rule->action;
-    if (action == Action::Drop) {
+    const auto* hiding = verdict.hiding;
+    if (hiding != nullptr && hiding->action == Action::Drop) {
         return Seen { Seen::Kind::Dropped, {} };
     }
-    if (program.sort == ProgramSort::Shell) {
+    if (program.sort == ProgramSort::Shell || (hiding == nullptr && !sighting.isPrivate)) {
         return std::nullopt;
     }
     auto view = NameOnly(program);
-    if (action == Action::Replace) {
-        view.text = NodeText(rule->text, LongestText);
+    view.project = ProjectOf(sighting, verdict);
+    if (hiding != nullptr && hiding->action == Action::Replace) {
+        view.text = NodeText(hiding->text, LongestText);
         view.place = view.text;
-        return Seen { Seen::Kind::View, std::move(view) };
     }
-    if (action == Action::ProgramOnly || sighting.isPrivate) {
-        return Seen { Seen::Kind::View, std::move(view) };
-    }
-    return std::nullopt;
+    return Seen { Seen::Kind::View, std::move(view) };
 }
 
 SlotView ViewMaker::NameOnly(const Program& program)

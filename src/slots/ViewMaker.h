@@ -42,8 +42,9 @@ public:
     Seen MakeStated(const Sighting& sighting) const;
 
 private:
-    /// What a rule leaves of a window; nothing when that is all of it.
-    std::optional<Seen> Ruled(const Sighting& sighting, const Program& program, const PrivacyRule* rule) const;
+    /// What the rules leave of a window; nothing when that is all of it.
+    static std::optional<Seen> Ruled(
+        const Sighting& sighting, const Program& program, const PrivacyRules::Verdict& verdict);
     static SlotView NameOnly(const Program& program);
     static SlotView Titled(const Program& program, const TitleCleaner::Cleaned& cleaned, const std::string& host);
 

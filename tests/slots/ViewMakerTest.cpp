@@ -92,6 +92,29 @@ TEST(ViewMakerTest, Make_PrivateSighting_TellsNoTitle)
     EXPECT_EQ(See("firefox", "secret", { Rule(Action::Drop) }, true).kind, Seen::Kind::Dropped);
 }
 
+TEST(ViewMakerTest, Make_ProjectRuleOnAPrivateWindow_TellsTheProjectAndNoTitle)
+{
+    const PrivacyRule rule { TextPattern("firefox"), std::nullopt, PrivacyRule::Action::Project, "Riverside" };
+    EXPECT_EQ(See("firefox", "Bank \u2014 Mozilla Firefox Private Browsing", { rule }).view,
+        (SlotView { "Firefox", ProgramSort::Browser, 0, "private", "private", "Riverside" }));
+}
+
+TEST(ViewMakerTest, Make_ProjectOfTheSightingItself_GoesBeforeARules)
+{
+    const ViewMaker views(
+        Programs(), PrivacyRules({ { std::nullopt, std::nullopt, PrivacyRule::Action::Project, "Riverside" } }));
+    EXPECT_EQ(views.Make({ "firefox", "", "Plan", "", false, "Atlas" }).view.project, "Atlas");
+    EXPECT_EQ(views.Make({ "firefox", "", "Plan", "", false, "no project" }).view.project, "Riverside");
+    EXPECT_EQ(views.MakeStated({ "Toggl", "", "Plan", "", false, "Atlas" }).view.project, "Atlas");
+}
+
+TEST(ViewMakerTest, MakeStated_WordsOfPrivateWindows_StayAsTheyAre)
+{
+    const ViewMaker views(Programs(), PrivacyRules());
+    EXPECT_EQ(
+        views.MakeStated({ "Toggl", "", "Tests - Private Browsing", "", false }).view.text, "Tests - Private Browsing");
+}
+
 TEST(ViewMakerTest, ProjectText_WordsForNone_AreEmpty)
 {
     EXPECT_EQ(ProjectText(" Riverside\t"), "Riverside");
