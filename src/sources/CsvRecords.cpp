@@ -3,69 +3,66 @@
 #include "base/Text.h"
 #include "base/Utf8.h"
 #include "slots/PlainText.h"
+#include "sources/CutText.h"
 #include "sources/SourceProblem.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tempodial {
 
 namespace {
 
-/// The separator that stands most often in a line, outside of quotes.
-char SeparatorIn(std::string_view line)
+constexpr auto Eof = std::streambuf::traits_type::eof();
+
+/// How often a separator stands in a line, outside of quotes.
+std::ptrdiff_t CountOf(char separator, std::string_view line)
 {
-    char best = ',';
-    std::ptrdiff_t most = 0;
-    for (const char separator : { ',', ';', '\t' }) {
-        bool isQuoted = false;
-        std::ptrdiff_t count = 0;
-        for (const char character : line) {
-            isQuoted = isQuoted != (character == '"');
-            count += !isQuoted && character == separator ? 1 : 0;
-        }
-        if (count > most) {
-            most = count;
-            best = separator;
+    bool isQuoted = false;
+    bool mayOpen = true;
+    std::ptrdiff_t count = 0;
+    for (const char character : line) {
+        if (isQuoted || (mayOpen && character == '"')) {
+            // A quote that is doubled opens at once what it has closed.
+            mayOpen = character == '"';
+            isQuoted = isQuoted != mayOpen;
+        } else {
+            mayOpen = character == separator || character == '\n';
+            count += character == separator ? 1 : 0;
         }
     }
-    return best;
+    return count;
+}
+
+/// The separator that stands most often in a line.
+char SeparatorIn(std::string_view line)
+{
+    constexpr char Separators[] { ',', ';', '\t' };
+    return *std::max_element(std::begin(Separators), std::end(Separators),
+        [line](char a, char b) { return CountOf(a, line) < CountOf(b, line); });
 }
 
 }
 
 CsvRecords::CsvRecords(std::istream& stream, const SourceSettings& settings, Skipped& skipped)
-    : mStream(stream)
+    : mBuffer(*stream.rdbuf())
     , mSettings(settings)
     , mSkipped(skipped)
 {
     // The separator must be known before the first record can be read: it is looked for in what stands before the
-    // first line end.
-    std::string line;
-    int byte = 0;
-    while (line.size() < MostFieldBytes && (byte = mStream.get()) != std::istream::traits_type::eof()) {
-        line += static_cast<char>(byte);
-        if (byte == '\n') {
+    // first line end that is in no quotes.
+    bool isQuoted = false;
+    for (auto byte = mBuffer.sgetc(); byte != Eof && mAhead.size() < MostFieldBytes; byte = mBuffer.snextc()) {
+        mAhead += static_cast<char>(byte);
+        isQuoted = isQuoted != (byte == '"');
+        if (byte == '\n' && !isQuoted) {
+            mBuffer.sbumpc();
             break;
         }
     }
-    std::string_view text = line;
-    if (text.starts_with(Utf8ByteOrderMark)) {
-        text.remove_prefix(Utf8ByteOrderMark.size());
-    }
-    mSeparator = SeparatorIn(text);
-    bool isQuoted = false;
-    for (const char character : text) {
-        if (character == '"') {
-            isQuoted = !isQuoted;
-        } else if (!isQuoted && (character == mSeparator || character == '\n' || character == '\r')) {
-            if (character == mSeparator) {
-                EndField();
-            }
-        } else {
-            mField += character;
-        }
-    }
-    EndField();
+    mAheadAt = mAhead.starts_with(Utf8ByteOrderMark) ? Utf8ByteOrderMark.size() : 0;
+    mSeparator = SeparatorIn(std::string_view(mAhead).substr(mAheadAt));
+    ReadRecord();
     for (auto& field : mFields) {
         mNames.push_back(Fold(Trimmed(field)));
     }
@@ -101,55 +98,75 @@ std::string CsvRecords::Field(std::optional<std::size_t> column) const
     return column && *column < mFields.size() ? mFields[*column] : std::string();
 }
 
+int CsvRecords::Peek()
+{
+    return mAheadAt < mAhead.size() ? static_cast<unsigned char>(mAhead[mAheadAt]) : mBuffer.sgetc();
+}
+
+int CsvRecords::Take()
+{
+    return mAheadAt < mAhead.size() ? static_cast<unsigned char>(mAhead[mAheadAt++]) : mBuffer.sbumpc();
+}
+
 bool CsvRecords::ReadRecord()
 {
     mFields.clear();
-    auto& buffer = *mStream.rdbuf();
-    bool isQuoted = false;
     bool isBegun = false;
-    constexpr auto End = std::istream::traits_type::eof();
-    for (auto byte = buffer.sbumpc(); byte != End; byte = buffer.sbumpc()) {
+    for (auto byte = Take(); byte != Eof; byte = Take()) {
         const auto character = static_cast<char>(byte);
         isBegun = true;
-        if (character == '"') {
-            if (!isQuoted) {
-                isQuoted = true;
-            } else if (buffer.sgetc() == '"') {
-                buffer.sbumpc();
-                mField += '"';
-            } else {
-                isQuoted = false;
-            }
-        } else if (!isQuoted && character == mSeparator) {
+        if (mPart == Part::Quoted && character != '"') {
+            Append(character);
+        } else if (mPart == Part::Quoted && Peek() == '"') {
+            Take();
+            Append(character);
+        } else if (mPart == Part::Quoted) {
+            mPart = Part::Plain;
+        } else if (character == mSeparator) {
             EndField();
-        } else if (!isQuoted && (character == '\n' || character == '\r')) {
-            if (character == '\r' && buffer.sgetc() == '\n') {
-                buffer.sbumpc();
+        } else if (character == '\n' || character == '\r') {
+            if (character == '\r' && Peek() == '\n') {
+                Take();
             }
-            return EndRecord();
-        } else if (mField.size() < MostFieldBytes) {
-            mField += character;
+            EndField();
+            return true;
+        } else if (mPart == Part::Begin && character == '"') {
+            mPart = Part::Quoted;
         } else {
-            mIsTooBig = true;
+            mPart = Part::Plain;
+            Append(character);
         }
     }
-    return isBegun && EndRecord();
+    if (mPart == Part::Quoted) {
+        mSkipped.Add(Skipped::Unreadable);
+        mFields.clear();
+        return false;
+    }
+    if (isBegun) {
+        EndField();
+    }
+    return isBegun;
+}
+
+void CsvRecords::Append(char character)
+{
+    if (mField.size() < MostFieldBytes) {
+        mField += character;
+    } else {
+        mIsTooBig = true;
+    }
 }
 
 void CsvRecords::EndField()
 {
+    if (mIsTooBig) {
+        DropCutLetter(mField);
+        mSkipped.Add(Skipped::TooBig);
+    }
     mFields.push_back(IsUtf8(mField) ? mField : mSettings.decode(mField));
     mField.clear();
-    if (mIsTooBig) {
-        mSkipped.Add(Skipped::TooBig);
-        mIsTooBig = false;
-    }
-}
-
-bool CsvRecords::EndRecord()
-{
-    EndField();
-    return true;
+    mPart = Part::Begin;
+    mIsTooBig = false;
 }
 
 }

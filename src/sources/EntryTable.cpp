@@ -102,14 +102,14 @@ public:
     }
 
 private:
-    [[noreturn]] void Refuse(const char* columns) const
+    /// Refuses a table that hasn't these columns. What it has instead may be anybody's words and isn't told.
+    [[noreturn]] void Refuse(const char* columns, const std::vector<std::pair<const char*, bool>>& found) const
     {
-        std::string names;
-        for (const auto& name : mRecords.Names()) {
-            names += (names.empty() ? "" : ", ") + name;
+        std::string missing;
+        for (const auto& [name, isThere] : found) {
+            missing += isThere ? "" : (missing.empty() ? "" : ", ") + std::string(name);
         }
-        throw WrongSource("the first line must name the columns " + std::string(columns)
-            + ", and it names: " + Shortened(PlainText(names), LongestText));
+        throw WrongSource("the first line must name the columns " + std::string(columns) + "; missing: " + missing);
     }
 
     void ReadMoments()
@@ -118,7 +118,8 @@ private:
         const auto end = mRecords.Column({ "end" });
         const auto program = mRecords.Column({ "program" });
         if (!start || !end || !program) {
-            Refuse("start, end and program");
+            Refuse("start, end and program",
+                { { "start", start.has_value() }, { "end", end.has_value() }, { "program", program.has_value() } });
         }
         const auto title = mRecords.Column({ "title" });
         const auto project = mRecords.Column({ "project" });
@@ -155,7 +156,10 @@ private:
         const bool hasEnd = endDate && endTime;
         if (!startDate || !startTime || (!hasEnd && !(isClockify && length))) {
             Refuse(isClockify ? "Start Date, Start Time, and End Date with End Time or Duration (h)"
-                              : "Start date, Start time, End date and End time");
+                              : "Start date, Start time, End date and End time",
+                { { "Start date", startDate.has_value() }, { "Start time", startTime.has_value() },
+                    { "End date", endDate || (isClockify && length) },
+                    { "End time", endTime || (isClockify && length) } });
         }
         const auto project = mRecords.Column({ "Project" });
         const auto description = mRecords.Column({ "Description" });
@@ -201,8 +205,8 @@ private:
             Take(std::move(entry));
             return;
         }
-        ForLocalTimes(mSettings.zone, from, to,
-            [&](std::int64_t begin, std::int64_t end) { TakeWindow(begin, end, entry.words); });
+        ForLocalTimes(
+            mSettings.zone, from, to, [&](std::int64_t begin, std::int64_t end) { TakeWindow(begin, end, entry); });
     }
 
     void TakeLocal(Date from, Date to, std::optional<std::int64_t> length, SourceEntry entry)
@@ -218,11 +222,13 @@ private:
         Take(std::move(entry));
     }
 
-    void TakeWindow(std::int64_t begin, std::int64_t end, const Sighting& words)
+    void TakeWindow(std::int64_t begin, std::int64_t end, const SourceEntry& entry)
     {
         if (mData.computers.empty()) {
             mData.computers.emplace_back();
         }
+        auto words = entry.words;
+        words.project = entry.project;
         mData.windows.push_back({ begin, end, 0, mData.sightings.NumberOf(words) });
     }
 
@@ -233,7 +239,7 @@ private:
         } else if (entry.end < entry.start) {
             mData.skipped.Add(Skipped::Unreadable);
         } else if (mSettings.asSightings) {
-            TakeWindow(entry.start, entry.end, entry.words);
+            TakeWindow(entry.start, entry.end, entry);
         } else if (entry.end - entry.start > LongestEntry) {
             mData.skipped.Add(Skipped::TooLong);
         } else {

@@ -6,15 +6,16 @@ namespace tempodial {
 
 std::uint32_t SightingTable::NumberOf(const Sighting& sighting)
 {
-    return NumberOf({ mTexts.NumberOf(sighting.program), mTexts.NumberOf(sighting.programName),
-        mTexts.NumberOf(sighting.title), mTexts.NumberOf(sighting.host), sighting.isPrivate });
+    return NumberOf(
+        { mTexts.NumberOf(sighting.program), mTexts.NumberOf(sighting.programName), mTexts.NumberOf(sighting.title),
+            mTexts.NumberOf(sighting.host), mTexts.NumberOf(sighting.project), sighting.isPrivate });
 }
 
 std::uint32_t SightingTable::NumberOf(const Row& row)
 {
     constexpr std::size_t Spread = 31;
     std::size_t hash = row.isPrivate ? 1 : 0;
-    for (const auto text : { row.host, row.programName, row.program, row.title }) {
+    for (const auto text : { row.project, row.host, row.programName, row.program, row.title }) {
         hash = hash * Spread + text;
     }
     const auto next = static_cast<std::uint32_t>(mRows.size());
@@ -33,6 +34,7 @@ Sighting SightingTable::operator[](std::size_t number) const
     sighting.programName = mTexts.Text(row.programName);
     sighting.title = mTexts.Text(row.title);
     sighting.host = mTexts.Text(row.host);
+    sighting.project = mTexts.Text(row.project);
     sighting.isPrivate = row.isPrivate;
     return sighting;
 }

@@ -16,7 +16,7 @@ public:
     /// A sighting in numbers of texts.
     struct Row
     {
-        std::uint32_t program, programName, title, host;
+        std::uint32_t program, programName, title, host, project;
         bool isPrivate;
 
         bool operator==(const Row&) const = default;

@@ -152,6 +152,7 @@ void WatchedBuckets::Straighten(std::vector<Event>& events)
     auto kept = events.begin();
     for (auto next = events.begin(); next != events.end();) {
         auto event = *next++;
+        mData.skipped.Add(Skipped::ZeroLength, event.end == event.begin ? 1 : 0);
         if (event.end - event.begin > LongestEvent) {
             const bool hasNeighbour = next != events.end() && next->begin - event.begin <= LongestEvent;
             mData.skipped.Add(hasNeighbour ? Skipped::Cut : Skipped::TooLong);
@@ -168,7 +169,7 @@ void WatchedBuckets::AddWindow(const Event& event, const std::vector<Event>& pag
 {
     const auto& row = mRows[event.data];
     const auto none = mTexts.NumberOf("");
-    SightingTable::Row sighting { row.app, none, row.title, none, false };
+    SightingTable::Row sighting { row.app, none, row.title, none, none, false };
     // Pages may overlap one another; none in front of the first whose predecessors reach so far is still there.
     const auto first = std::upper_bound(mLatestEnds.begin(), mLatestEnds.end(), event.begin);
     for (auto page = pages.begin() + (first - mLatestEnds.begin()); page != pages.end() && page->begin < event.end;
