@@ -1,5 +1,7 @@
 #include "sources/JsonEvents.h"
 
+#include "sources/CutText.h"
+#include "sources/JsonRepair.h"
 #include "sources/SourceProblem.h"
 
 #include <nlohmann/json.hpp>
@@ -32,6 +34,7 @@ public:
         if (value.size() > MostFieldBytes && mTooDeep == 0) {
             mSkipped.Add(Skipped::TooBig);
             value.resize(MostFieldBytes);
+            DropCutLetter(value);
         }
         return Told(std::move(value));
     }
@@ -103,7 +106,9 @@ private:
 void ReadJson(std::istream& stream, JsonListener& listener, Skipped& skipped)
 {
     PathKeeper keeper(listener, skipped);
-    if (!nlohmann::json::sax_parse(stream, &keeper) && keeper.HasBegun()) {
+    JsonRepair repair(*stream.rdbuf());
+    std::istream repaired(&repair);
+    if (!nlohmann::json::sax_parse(repaired, &keeper) && keeper.HasBegun()) {
         throw BrokenSource(
             "the file is cut off or damaged, at byte " + std::to_string(keeper.ErrorAt()) + ": export it again");
     }

@@ -29,8 +29,8 @@ public:
 };
 
 /// Reads a JSON document as a stream. What is nested more than 16 deep is left out, and what is longer than a field may
-/// be is cut, both counted. Fails with `BrokenSource` when the document ends early or is broken; of what doesn't even
-/// begin as one nothing is heard.
+/// be is cut, both counted; what no text and no number can be is mended by `JsonRepair`. Fails with `BrokenSource` when
+/// the document ends early or is broken; of what doesn't even begin as one nothing is heard.
 void ReadJson(std::istream& stream, JsonListener& listener, Skipped& skipped);
 
 }

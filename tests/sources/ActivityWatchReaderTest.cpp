@@ -171,4 +171,39 @@ TEST_F(ActivityWatchReaderTest, Arbtt_Samples_StandForTheTimeBeforeThem)
     EXPECT_THAT(Refusal("arbtt", "{}"), HasSubstr("no dump of arbtt"));
 }
 
+TEST_F(ActivityWatchReaderTest, Read_BrokenLetters_AreLeftOutOfTheirTexts)
+{
+    const auto data = Read("activitywatch",
+        Export(Bucket("currentwindow", "box",
+            Event("10:00", "60", R"("app":"a","title":"x\ud83dy")") + ","
+                + Event("10:01", "60", "\"app\":\"b\",\"title\":\"x\xff\xc3y\"") + ","
+                + Event("10:02", "60", R"("app":"c","title":"\ud83d\ude00")") + ","
+                + Event("10:03", "60", "\"app\":\"d\",\"title\":\"x\\q\ty\""))));
+    ASSERT_EQ(data.windows.size(), 4U);
+    std::vector<std::string> titles;
+    for (const auto& window : data.windows) {
+        titles.push_back(data.sightings[window.sighting].title);
+    }
+    EXPECT_THAT(titles, testing::ElementsAre("xy", "xy", "\U0001f600", "x\\q y"));
+    EXPECT_FALSE(data.skipped.HasTrouble());
+}
+
+TEST_F(ActivityWatchReaderTest, Read_LengthsThatAreNoNumbers_AreUnreadableEventsAlone)
+{
+    const auto data = Read("activitywatch",
+        Export(Bucket("currentwindow", "box",
+            Event("10:00", "NaN", Plan) + "," + Event("10:01", "1e999", Plan) + "," + Event("10:02", "-Infinity", Plan)
+                + "," + Event("10:03", "6.0e1", Plan))));
+    EXPECT_EQ(data.windows.size(), 1U);
+    EXPECT_EQ(data.skipped.Count(Skipped::Unreadable), 3);
+}
+
+TEST_F(ActivityWatchReaderTest, Read_EventsWithoutLength_AreCounted)
+{
+    const auto data = Read("activitywatch",
+        Export(Bucket("currentwindow", "box", Event("10:00", "0", Plan) + "," + Event("10:01", "60", Plan))));
+    EXPECT_EQ(data.windows.size(), 1U);
+    EXPECT_EQ(data.skipped.Count(Skipped::ZeroLength), 1);
+}
+
 }
