@@ -77,6 +77,12 @@ void AppendDays(std::string& text, const std::map<Date, LedgerDay>& days, const 
     }
 }
 
+/// What the keys of all entries of these times begin with.
+std::string TimesOf(std::int64_t start, std::int64_t end)
+{
+    return std::to_string(start) + "-" + std::to_string(end) + "-";
+}
+
 }
 
 std::string LedgerDay::EntryKey(std::int64_t start, std::int64_t end, const std::string& source,
@@ -90,12 +96,22 @@ std::string LedgerDay::EntryKey(std::int64_t start, std::int64_t end, const std:
         words.Add(End);
     }
     auto hash = words.Hash();
-    auto key = std::to_string(start) + "-" + std::to_string(end) + "-";
+    auto key = TimesOf(start, end);
     for (std::size_t digit = 0; digit < sizeof(hash) * 2; ++digit) {
         key += HexDigits[hash >> TopShift];
         hash <<= BitsOfDigit;
     }
     return key;
+}
+
+std::set<std::string> LedgerDay::EntriesAt(std::int64_t start, std::int64_t end) const
+{
+    const auto times = TimesOf(start, end);
+    std::set<std::string> keys;
+    for (auto key = entries.lower_bound(times); key != entries.end() && key->starts_with(times); ++key) {
+        keys.insert(*key);
+    }
+    return keys;
 }
 
 void LedgerDay::Add(const LedgerDay& other)

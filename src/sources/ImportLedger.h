@@ -26,6 +26,8 @@ struct LedgerDay
     /// What an entry is known by.
     static std::string EntryKey(std::int64_t start, std::int64_t end, const std::string& source,
         const std::string& text, const std::string& project);
+    /// What the entries of these times are known by, whatever it says.
+    std::set<std::string> EntriesAt(std::int64_t start, std::int64_t end) const;
     void Add(const LedgerDay& other);
 };
 

@@ -157,6 +157,37 @@ std::optional<std::pair<Date, Date>> ImportPlan::Span() const
     return std::pair(mDays.begin()->first, mDays.rbegin()->first);
 }
 
+std::string ImportPlan::KeyOf(const Entry& entry) const
+{
+    const auto midnight = DayOfSeconds(entry.start).Seconds();
+    return LedgerDay::EntryKey(
+        entry.start - midnight, entry.end - midnight, mRange.source, entry.words.text, entry.words.project);
+}
+
+std::vector<bool> ImportPlan::WrittenBefore(const ImportLedger& ledger) const
+{
+    std::vector<bool> isBefore(mEntries.size());
+    for (std::size_t first = 0, last = 0; first < mEntries.size(); first = last) {
+        const auto [start, end, words] = mEntries[first];
+        while (last < mEntries.size() && mEntries[last].start == start && mEntries[last].end == end) {
+            ++last;
+        }
+        const auto midnight = DayOfSeconds(start).Seconds();
+        auto keys = ledger.Of(DayOfSeconds(start)).EntriesAt(start - midnight, end - midnight);
+        for (auto i = first; i < last; ++i) {
+            isBefore[i] = keys.erase(KeyOf(mEntries[i])) > 0;
+        }
+        // What says something else by now, as projects and rules change, is still what was there.
+        for (auto i = first; i < last && !keys.empty(); ++i) {
+            if (!isBefore[i]) {
+                isBefore[i] = true;
+                keys.erase(keys.begin());
+            }
+        }
+    }
+    return isBefore;
+}
+
 ImportPlan::Days ImportPlan::Make(const Presence& taken, const ImportLedger& ledger) const
 {
     Days days;
@@ -183,21 +214,20 @@ ImportPlan::Days ImportPlan::Make(const Presence& taken, const ImportLedger& led
             day.written.slots.set(index);
         }
     }
-    for (const auto& entry : mEntries) {
+    const auto isBefore = WrittenBefore(ledger);
+    for (std::size_t i = 0; i < mEntries.size(); ++i) {
+        const auto& entry = mEntries[i];
         const auto date = DayOfSeconds(entry.start);
         auto& day = days[date];
-        const auto start = entry.start - date.Seconds();
-        const auto end = entry.end - date.Seconds();
-        const auto key = LedgerDay::EntryKey(start, end, mRange.source, entry.words.text, entry.words.project);
-        if (ledger.Of(date).entries.contains(key)) {
+        if (isBefore[i]) {
             ++day.before;
         } else if (taken.Within(entry.start, entry.end) > 0) {
             ++day.taken;
         } else {
-            files[date].AddExact(start, end, entry.words);
+            files[date].AddExact(entry.start - date.Seconds(), entry.end - date.Seconds(), entry.words);
             ++day.entries;
             day.minutesWritten += MinutesBetween(Date::FromSeconds(entry.start), Date::FromSeconds(entry.end));
-            day.written.entries.insert(key);
+            day.written.entries.insert(KeyOf(entry));
         }
     }
     for (auto& [date, file] : files) {

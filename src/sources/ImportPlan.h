@@ -94,6 +94,11 @@ private:
     bool IsInQuestion(Date day) const;
     /// True for a time that may be taken by its start, which is counted otherwise.
     bool MayBeTaken(std::int64_t start);
+    /// What the ledger knows that entry by.
+    std::string KeyOf(const Entry& entry) const;
+    /// The entries that the ledger has, by their places: known by their times, and where several have the same ones
+    /// first by what they say.
+    std::vector<bool> WrittenBefore(const ImportLedger& ledger) const;
     void TakeWindows(SourceData& data);
     void TakeEntries(const std::vector<SourceEntry>& entries);
 

@@ -150,6 +150,22 @@ TEST_F(ImportPlanTest, Make_EntriesWrittenBefore_AreKnownByWhatTheySay)
     EXPECT_EQ(day.entries, 1);
 }
 
+TEST_F(ImportPlanTest, Make_EntryWrittenBeforeInOtherWords_DoesNotComeBack)
+{
+    Enter(Monday, Ten, Ten + 30 * Minute, "call", "Riverside");
+    Enter(Monday, Ten + 60 * Minute, Ten + 90 * Minute, "one", "A");
+    Enter(Monday, Ten + 60 * Minute, Ten + 90 * Minute, "two", "B");
+    mLedger.Plan(Monday, Days().at(Monday).written);
+    mLedger.Close(Monday, true);
+    mRange.withoutProjects = true;
+    EXPECT_EQ(Days().at(Monday).before, 3);
+    EXPECT_EQ(Days().at(Monday).entries, 0);
+    Enter(Monday, Ten, Ten + 31 * Minute, "call", "");
+    Enter(Monday, Ten + 60 * Minute, Ten + 90 * Minute, "three", "");
+    EXPECT_EQ(Days().at(Monday).before, 3);
+    EXPECT_EQ(Days().at(Monday).entries, 2);
+}
+
 TEST_F(ImportPlanTest, Make_WithoutProjects_WritesNone)
 {
     mRange.withoutProjects = true;
