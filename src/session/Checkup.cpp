@@ -153,7 +153,9 @@ void Checkup::LookAtMailbox()
 void Checkup::LookAtHistory()
 {
     const auto path = DataPath(HistoryFileName);
-    if (!IsThere(path)) {
+    const auto status = StatusAt(NativePath::Exactly(path), Links::Followed);
+    // A sync that finds no file of the tracker leaves an empty one.
+    if (!status || (status->kind == FileStatus::Kind::File && status->size == 0)) {
         Right("history", "none yet");
         return;
     }
@@ -232,9 +234,12 @@ template <class Look> void Checkup::Guarded(const std::string& check, const std:
     try {
         look();
     } catch (const Failure& failure) {
-        Wrong(check, failure.Description(), todo);
+        Wrong(check, failure.Description(), failure.Is(Error::DiskFull) ? "make room on the disk" : todo);
     } catch (const std::runtime_error& error) {
-        Wrong(check, error.what(), todo);
+        // Such a text says itself what to do.
+        const std::string text = error.what();
+        const auto end = text.rfind(": ");
+        Wrong(check, text.substr(0, end), end == std::string::npos ? todo : text.substr(end + 2));
     }
 }
 

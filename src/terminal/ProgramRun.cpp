@@ -62,7 +62,9 @@ ExitStatus RunProgram(const std::string& program, std::ostream& error, const std
     } catch (const Failure& failure) {
         Complain(error, program,
             failure.Is(Error::OutOfMemory) ? NoMemory
-                                           : failure.Description()
+                : failure.Is(Error::DiskFull)
+                ? failure.Description() + ": make room on the disk and run the command again"
+                : failure.Description()
                     + ": see to the profile's folder and its disk, or put a good copy in the place of what is damaged");
     } catch (const std::bad_alloc&) {
         Complain(error, program, NoMemory);

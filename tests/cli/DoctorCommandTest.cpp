@@ -10,6 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 
 class DoctorCommandTest : public ProgramFixture
@@ -80,6 +81,23 @@ TEST_F(DoctorCommandTest, Doctor_DamagedRegistryAndHistory_AreNamed)
     EXPECT_TRUE(Wrong().empty());
     mFolder.Write("profile/registry.toml", "[HKCU");
     EXPECT_TRUE(Wrong().contains("registry"));
+}
+
+TEST_F(DoctorCommandTest, Doctor_SyncWithoutFilesOfTheTracker_IsRight)
+{
+    fs::remove_all(mProfile);
+    ASSERT_EQ(Run({ "sync" }).status, 0);
+    ASSERT_EQ(fs::file_size(DataPath("TempodialHistory.out")), 0U);
+    EXPECT_TRUE(Wrong().empty());
+    EXPECT_THAT(Run({ "doctor" }).out, HasSubstr("history: none yet"));
+}
+
+TEST_F(DoctorCommandTest, Doctor_WhatToDo_IsSaidOnce)
+{
+    mFolder.Write("profile/mailbox.db", std::string(5000, 'x'));
+    const auto wrong = Wrong().at("mailbox");
+    EXPECT_THAT(wrong.at("what").get<std::string>(), EndsWith("isn't a mailbox"));
+    EXPECT_EQ(wrong.at("todo"), "move it away, or name another profile");
 }
 
 TEST_F(DoctorCommandTest, Doctor_UnreadableLines_AreNamed)

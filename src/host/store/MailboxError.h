@@ -19,7 +19,9 @@ public:
         const auto& reason = failure.Description();
         const bool isNamed = reason.find(path) != std::string::npos;
         return MailboxError((isNamed ? reason : "the mailbox " + path + " can't be read (" + reason + ")")
-            + ": check the disk and the file's permissions; put a good copy in the place of a damaged mailbox");
+            + (failure.Is(Error::DiskFull) ? ": make room on the disk and run the command again"
+                                           : ": check the disk and the file's permissions; put a good copy in the "
+                                             "place of a damaged mailbox"));
     }
 };
 
