@@ -179,6 +179,11 @@ ArgumentList ArgumentParser::AddCommand(const Help& command) const
 bool ArgumentParser::Parse(const std::vector<std::string>& arguments, std::ostream& out) const
 {
     auto words = Prepared(arguments);
+    // "help list" is what many type first for "list --help".
+    if (!words.empty() && words.front() == "help" && !CommandNames(*mApp).empty()) {
+        words.erase(words.begin());
+        words.emplace_back("--help");
+    }
     std::reverse(words.begin(), words.end());
     try {
         mApp->parse(std::move(words));

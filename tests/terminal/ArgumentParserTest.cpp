@@ -115,7 +115,9 @@ TEST_F(ArgumentParserTest, Parse_Help_PrintsThatOfWhatIsChosen)
     EXPECT_THAT(whole, HasSubstr("Show this help, or that of a command\n"));
     EXPECT_THAT(whole, HasSubstr("Usage: prog [OPTIONS] [COMMAND]\n"));
     EXPECT_THAT(whole, HasSubstr("About list\n"));
+    EXPECT_EQ(Printed({ "help" }), whole);
     const auto command = Printed({ "projects", "set", "--help" });
+    EXPECT_EQ(Printed({ "help", "projects", "set" }), command);
     EXPECT_THAT(command, HasSubstr("About projects set\n"));
     EXPECT_THAT(command, HasSubstr("Usage: prog projects set"));
     EXPECT_THAT(command, Not(HasSubstr("About list")));
