@@ -165,7 +165,9 @@ private:
                 + SizeText(status.bytes) });
         table.Add({ "Today", HourText(status.minutes) + ", without a project " + HourText(status.unassigned) });
         const auto& latest = status.tracker.latest;
-        table.Add({ "Tracker", latest ? latest->name + ", written " + ReadableMoment(latest->when) : "no file" });
+        table.Add({ "Tracker",
+            latest ? latest->name + ", written " + ReadableMoment(latest->when)
+                   : R"(no file; "tempodial track install" lets your session record)" });
         table.Add({ "Waiting", status.tracker.waiting.empty() ? "nothing" : Joined(status.tracker.waiting, ", ") });
         table.Add({ "Last sync", status.lastSync ? SyncText(*status.lastSync) : "none" });
         table.Add({ "Timer", status.timer ? TimerText(*status.timer) : "none" });
