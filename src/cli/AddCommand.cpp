@@ -18,7 +18,7 @@ public:
     AddCommand()
         : Command({ "add", "Add an activity that no tracker saw",
             "Adds an activity. Without --project the rules give it its project; a project\n"
-            "that there isn't yet comes into being. A time HH:MM is of today.\n"
+            "that doesn't exist yet is made. A time HH:MM is of today.\n"
             "\n"
             "  tempodial add --from 13:00 --to 14:30 --project Riverside \\\n"
             "    --application Meeting --description \"site visit\"" })

@@ -25,7 +25,7 @@ public:
         : Command({ "apply", "Give past activities the project that the rules give",
             "With NAME it goes over today's activities and those of the days before. Those\n"
             "that the project's rules match get the project, also when they have another one\n"
-            "already, or when a person set it. Activities that belong to another project by\n"
+            "already, or if it was set by hand. Activities that belong to another project by\n"
             "precedence are named.\n"
             "\n"
             "With --all every activity of the range gets the project that is tried first and\n"

@@ -24,9 +24,9 @@ public:
     AssignCommand()
         : Command({ "assign", "Set a project on single activities or a span of time",
             "Sets the project on the activities of those numbers, or on those that start in\n"
-            "the span, the first moment included and the last one not, whatever the rules\n"
-            "say. A project that there isn't yet comes into being. Activities that have a\n"
-            "project keep it, unless --overwrite is given; \"No Project\" takes it from them.\n"
+            "the span, --from included and --to not, whatever the rules say. A project that\n"
+            "doesn't exist yet is made. Activities that have a project keep it, unless\n"
+            "--overwrite is given; \"No Project\" takes it from them.\n"
             "A time HH:MM is of today.\n"
             "\n"
             "  tempodial assign Riverside @12 @13\n"
@@ -39,9 +39,9 @@ public:
     {
         arguments.Required("NAME", mName, "The project");
         arguments.Rest("@N", mNumbers, "The activities");
-        arguments.Optional("--from TIME", mFrom, "The first moment: YYYY-MM-DDTHH:MM or HH:MM");
-        arguments.Optional("--to TIME", mTo, "The moment behind the last");
-        arguments.Flag("--touching", mIsTouching, "Take what merely overlaps the span as well");
+        arguments.Optional("--from TIME", mFrom, "The beginning: YYYY-MM-DDTHH:MM or HH:MM");
+        arguments.Optional("--to TIME", mTo, "The end, no longer included: YYYY-MM-DDTHH:MM or HH:MM");
+        arguments.Flag("--touching", mIsTouching, "Also take what only overlaps the span");
         arguments.Flag("--overwrite", mOverwrite, "Also change activities that have a project");
     }
 

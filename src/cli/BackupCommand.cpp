@@ -19,8 +19,8 @@ public:
     BackupCommand()
         : Command({ "backup", "Put the whole profile into one file",
             "FILE ends in .tar.gz. It holds the mailbox, the settings and projects, and the\n"
-            "files of the tracker, as they are at this moment, and is for you alone. A program\n"
-            "that writes the profile is waited for. \"restore\" brings it back.\n"
+            "files of the tracker, as they are at this moment, and only you can read it. It\n"
+            "waits while a program writes to the profile. \"restore\" brings it back.\n"
             "\n"
             "  tempodial backup ~/backups/tempodial-2006-10-10.tar.gz" })
     {

@@ -18,8 +18,8 @@ public:
         : Command({ "edit", "Correct activities",
             "Gives activities another project, description, application, people, start or\n"
             "end; what isn't named stays. \"tempodial list --ids\" shows their numbers. A time\n"
-            "HH:MM is of the activity's own day. A project that there isn't yet comes into\n"
-            "being.\n"
+            "HH:MM is of the activity's own day. A project that doesn't exist yet is\n"
+            "made.\n"
             "\n"
             "  tempodial edit @12 --project Riverside --description \"site visit\"\n"
             "  tempodial edit @12 --end 17:30" })

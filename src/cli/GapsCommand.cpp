@@ -17,7 +17,7 @@ public:
     GapsCommand()
         : Command({ "gaps", "Show the times between activities of a day",
             "Shows the times in which nothing was logged, each with its length. What comes\n"
-            "before a day's first activity and behind its last one is no gap.\n"
+            "before a day's first activity and after its last one is no gap.\n"
                 + std::string(PeriodArguments::Help)
                 + "\n"
                   "  tempodial gaps\n"

@@ -15,7 +15,7 @@ class PeriodArguments
 public:
     /// What the help of such a command says of them.
     static constexpr auto Help = "Without a range it is today; where only one end is given, the other is today, or\n"
-                                 "the same day when that comes out of order. RANGE and both ends are days,\n"
+                                 "the same day if today would be out of order. RANGE and both ends are days,\n"
                                  "YYYY-MM-DD, or words: today, yesterday, monday to sunday (the last such day),\n"
                                  "week, month, year, last-week, last-month, last-year, 2026, 2026-11, 2026-W47,\n"
                                  "-7d (seven days up to today).\n";

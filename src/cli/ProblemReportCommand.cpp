@@ -27,10 +27,10 @@ public:
     ProblemReportCommand()
         : Command({ "problem-report", "Write an e-mail to the support desk about a problem",
             "Writes an e-mail that your mail program opens for sending. The trace and the\n"
-            "tracker's file of the day go with it; they hold captions of your windows,\n"
-            "subjects and addresses of e-mails among them. --redact hides all of these: of a\n"
-            "tracker's file times and kinds of programs are left, of the trace the first\n"
-            "words of each line. --list writes nothing and shows what would go.\n"
+            "tracker's file of the day are attached; they hold titles of your windows, with\n"
+            "subjects and addresses of e-mails among them. --redact hides all of these: it\n"
+            "leaves times and kinds of programs in the tracker's file, and the first words of\n"
+            "each line in the trace. --list writes nothing and shows what would be attached.\n"
             "\n"
             "  tempodial problem-report --list\n"
             "  tempodial problem-report --expected \"an activity for my letter\" \\\n"

@@ -17,11 +17,11 @@ public:
     ProjectsCommand()
         : Command({ "projects", "Show the projects and their rules, or change them",
             "Without a command of its own it shows the projects in the order in which they\n"
-            "are tried. A rule is a list of words or phrases between commas, or else\n"
-            "semicolons; where it holds both, commas part it, and semicolons belong to its\n"
-            "terms. An activity gets the first project of which a term of the subject rule\n"
-            "is in its subject, while none of the not-subject rule is, or of which the\n"
-            "people rule names one of its people.\n"
+            "are tried. A rule is a list of words or phrases, its terms, separated by commas,\n"
+            "or else by semicolons; where it has both, only commas separate. An activity gets\n"
+            "the first project that has a term of its subject rule in the activity's subject\n"
+            "and none of its not-subject rule, or that names one of its people in the people\n"
+            "rule.\n"
             "\n"
             "  tempodial projects\n"
             "  tempodial projects set Riverside --subject \"riverside, kick-off\" --precedence high\n"

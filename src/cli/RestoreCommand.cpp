@@ -14,9 +14,9 @@ class RestoreCommand final : public Command
 public:
     RestoreCommand()
         : Command({ "restore", "Bring back the profile of a backup",
-            "Makes a profile of a file that \"backup\" has written, as a whole or not at all. A\n"
-            "profile with activities in it is in the way, unless --replace is given; then it\n"
-            "is kept beside the restored one, under a name with the moment behind it.\n"
+            "Makes a profile from a file that \"backup\" has written, as a whole or not at all.\n"
+            "A profile that has activities is only replaced if --replace is given. It is then\n"
+            "kept beside the restored one, its name followed by the moment.\n"
             "\n"
             "  tempodial restore ~/backups/tempodial-2006-10-10.tar.gz\n"
             "  tempodial --profile /tmp/look restore backup.tar.gz\n"

@@ -25,7 +25,7 @@ public:
             "                   for your country's\n"
             "  author           who sends a timesheet; \"\" for nobody\n"
             "\n"
-            "\"tempodial settings\" shows how they are set. This is no step of \"log\".\n"
+            "\"tempodial settings\" shows how they are set. \"undo\" doesn't change them back.\n"
             "\n"
             "  tempodial settings set week-start monday\n"
             "  tempodial settings set retention forever\n"

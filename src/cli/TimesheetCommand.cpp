@@ -55,7 +55,7 @@ public:
     TimesheetCommand()
         : Command({ "timesheet", "Make a list of the hours of one project, to send to a client",
             "A line for each day with its measured and its billed time and what was done,\n"
-            "the longest lasting first. Nothing of other projects is in it. It is printed, or\n"
+            "what took longest first. Nothing of other projects is in it. It is printed, or\n"
             "written in the form that the end of the file's name says:\n"
             "\n"
             "  .html  a page, also for printing\n"

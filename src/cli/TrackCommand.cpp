@@ -42,12 +42,12 @@ class TrackCommand final : public Command
 {
 public:
     TrackCommand()
-        : Command({ "track", "Record what you work in, until it is told to end",
+        : Command({ "track", "Record what you work in, until you stop it",
             "Notes which window is in front and whether anyone is there, and writes that in\n"
             "slots of five minutes to the tracker files, which \"sync\" imports. It runs in\n"
             "the foreground until Ctrl-C; \"track install\" lets your session start it.\n"
-            "No keys, no pictures and no clipboard are looked at, and nothing leaves the\n"
-            "machine. What is never to be noted stands in track.toml in the profile.\n"
+            "It never looks at keys, pictures of the screen or the clipboard, and nothing\n"
+            "leaves the machine. Rules in track.toml in the profile say what isn't noted.\n"
             "\n"
             "  tempodial track probe        can your desktop be watched?\n"
             "  tempodial track --once       what is in front now\n"

@@ -51,7 +51,7 @@ class TrackUninstallCommand final : public Command
 {
 public:
     TrackUninstallCommand()
-        : Command({ "track uninstall", "Stop the recorder, and let nothing start it any more",
+        : Command({ "track uninstall", "Stop the recorder, and don't let your session start it again",
             "Stops what \"track install\" has started, removes its files and prints each.\n"
             "What was recorded stays.\n"
             "\n"

@@ -80,8 +80,8 @@ class TrackPauseCommand final : public Command
 public:
     TrackPauseCommand()
         : Command({ "track pause", "Let the recorder note nothing for a while",
-            "It takes you to be away at once, until \"track resume\" or for the time given,\n"
-            "also when it is started again in between.\n"
+            "You count as away at once, until \"track resume\" or for the time given, even if\n"
+            "the recorder is started again in between.\n"
             "\n"
             "  tempodial track pause\n"
             "  tempodial track pause --for 30m" })
@@ -143,8 +143,8 @@ class TrackProjectCommand final : public Command
 public:
     TrackProjectCommand()
         : Command({ "track project", "Give what is recorded from now on a project",
-            "Each line from the slot in hand on has it, whatever the rules say, until it is\n"
-            "taken back by --none. Without a name the present one is shown.\n"
+            "Each line from the present slot on has it, whatever the rules say, until --none\n"
+            "ends that. Without a name the present project is shown.\n"
             "\n"
             "  tempodial track project Riverside\n"
             "  tempodial track project --none" })
