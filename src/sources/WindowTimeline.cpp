@@ -67,14 +67,15 @@ void WindowTimeline::CutLong(Skipped& skipped)
 {
     constexpr auto Never = std::numeric_limits<std::int64_t>::max();
     std::vector<std::int64_t> next(mData.computers.size(), Never);
-    for (auto window = mData.windows.rbegin(); window != mData.windows.rend(); ++window) {
-        auto& neighbour = next[window->computer];
-        if (window->end - window->begin > DaySeconds) {
-            const bool isNear = neighbour != Never && neighbour - window->begin <= DaySeconds;
+    for (auto at = mData.windows.size(); at > 0; --at) {
+        auto& window = mData.windows[at - 1];
+        auto& neighbour = next[window.computer];
+        if (window.end - window.begin > DaySeconds) {
+            const bool isNear = neighbour != Never && neighbour - window.begin <= DaySeconds;
             skipped.Add(isNear ? Skipped::Cut : Skipped::TooLong);
-            window->end = isNear ? neighbour : window->begin;
+            window.end = isNear ? neighbour : window.begin;
         }
-        neighbour = window->begin;
+        neighbour = window.begin;
     }
     std::erase_if(mData.windows, [](const SeenWindow& window) { return window.end <= window.begin; });
 }
