@@ -1,6 +1,7 @@
 #include "addin/win32/forms/AccessibleNames.h"
 
 #include "addin/base/SystemText.h"
+#include "addin/win32/forms/WindowParts.h"
 
 #include <array>
 
@@ -38,15 +39,19 @@ void AccessibleNames::Forget(HWND window) const
 {
     if (mService) {
         const std::array properties { NameProperty, DescriptionProperty };
-        mService->ClearHwndProps(
-            window, WholeWindow, CHILDID_SELF, properties.data(), static_cast<int>(properties.size()));
+        for (auto* const part : WithItsParts(window)) {
+            mService->ClearHwndProps(
+                part, WholeWindow, CHILDID_SELF, properties.data(), static_cast<int>(properties.size()));
+        }
     }
 }
 
 void AccessibleNames::Say(HWND window, const GUID& property, const std::string& text) const
 {
     if (mService) {
-        mService->SetHwndPropStr(window, WholeWindow, CHILDID_SELF, property, Wide(text).c_str());
+        for (auto* const part : WithItsParts(window)) {
+            mService->SetHwndPropStr(part, WholeWindow, CHILDID_SELF, property, Wide(text).c_str());
+        }
     }
 }
 

@@ -8,8 +8,8 @@
 
 namespace tempodial {
 
-/// What screen readers say of windows beyond what these say themselves. Where the system can't be told, nothing
-/// happens.
+/// What screen readers say of windows and their parts beyond what these say themselves. Where the system can't be told,
+/// nothing happens.
 class AccessibleNames
 {
 public:

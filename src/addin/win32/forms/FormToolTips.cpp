@@ -1,6 +1,7 @@
 #include "addin/win32/forms/FormToolTips.h"
 
 #include "addin/base/SystemText.h"
+#include "addin/win32/forms/WindowParts.h"
 
 #include <bit>
 #include <cstdint>
@@ -16,10 +17,8 @@ FormToolTips::FormToolTips(HWND form)
 
 void FormToolTips::Add(HWND control, const std::string& text) const
 {
-    AddTo(control, Wide(text));
-    // The pointer is seen by the part that it is on.
-    for (auto* part = GetWindow(control, GW_CHILD); part != nullptr; part = GetWindow(part, GW_HWNDNEXT)) {
-        AddTo(part, Wide(text));
+    for (auto* const window : WithItsParts(control)) {
+        AddTo(window, Wide(text));
     }
 }
 

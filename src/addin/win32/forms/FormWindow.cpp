@@ -1,12 +1,10 @@
 #include "addin/win32/forms/FormWindow.h"
 
-#include "addin/base/CommonControls.h"
 #include "addin/base/SystemText.h"
 #include "addin/base/WindowText.h"
+#include "addin/win32/forms/EmptyDialog.h"
 #include "addin/win32/forms/ScreenScale.h"
-#include "base/Failure.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <memory>
@@ -18,19 +16,6 @@ namespace {
 
 constexpr UINT DrawMessage = WM_APP + 1;
 constexpr UINT DpiChangedMessage = 0x02E0; ///< Of newer systems than those that the headers are asked for.
-constexpr DWORD FormStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME;
-constexpr DWORD FormExtendedStyle = WS_EX_DLGMODALFRAME;
-
-/// A dialog without controls, as the dialog manager reads it.
-struct EmptyDialog
-{
-    alignas(DWORD) DLGTEMPLATE dialog {
-        .style = FormStyle, .dwExtendedStyle = FormExtendedStyle, .cdit = 0, .x = 0, .y = 0, .cx = 0, .cy = 0
-    };
-    WORD menu = 0;
-    WORD windowClass = 0;
-    WORD title = 0;
-};
 
 /// A flag that is set while this lives.
 class Meanwhile
@@ -49,22 +34,6 @@ private:
     bool& mFlag;
     bool mFormer;
 };
-
-void LoadCommonControls()
-{
-    const INITCOMMONCONTROLSEX wanted { .dwSize = sizeof wanted, .dwICC = ICC_PROGRESS_CLASS | ICC_BAR_CLASSES };
-    InitCommonControlsEx(&wanted);
-}
-
-/// The area in the middle of a window, or of the screen for none.
-POINT MiddleOf(HWND owner, const RECT& screen)
-{
-    RECT around = screen;
-    if (owner != nullptr && IsIconic(owner) == FALSE) {
-        GetWindowRect(owner, &around);
-    }
-    return { .x = (around.left + around.right) / 2, .y = (around.top + around.bottom) / 2 };
-}
 
 long& CountOfForms()
 {
@@ -209,7 +178,7 @@ void FormWindow::Show(FormModel& model)
     }
     Draw(model);
     if (isNew) {
-        Center(owner);
+        EmptyDialog::Center(mWindow, owner);
     }
     mIsShown = true;
     mKeys.emplace(mWindow);
@@ -227,13 +196,7 @@ void FormWindow::Hide()
 
 void FormWindow::Make(const FormModel& model, HWND owner)
 {
-    LoadCommonControls();
-    const EmptyDialog empty;
-    auto* const window
-        = CreateDialogIndirectParamW(nullptr, &empty.dialog, owner, &Procedure, std::bit_cast<LPARAM>(this));
-    if (window == nullptr) {
-        throw Failure(Error::CannotCreateObject);
-    }
+    auto* const window = EmptyDialog::Make(owner, &Procedure, std::bit_cast<LPARAM>(this));
     ++CountOfForms();
     mWindow = window;
     SetName(window, FormProperty, model.Definition().className);
@@ -295,26 +258,7 @@ void FormWindow::LayOut(FormModel& model)
 {
     const FormLayout layout(model.Definition(), SnapshotOf(model), *mFont, mDpi);
     mControls->Move(layout);
-    const auto size = layout.Size();
-    const auto around = WindowAround(
-        { .left = 0, .top = 0, .right = size.width, .bottom = size.height }, FormStyle, FormExtendedStyle, mDpi);
-    SetWindowPos(mWindow, nullptr, 0, 0, around.right - around.left, around.bottom - around.top,
-        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void FormWindow::Center(HWND owner) const
-{
-    MONITORINFO monitor {};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromWindow(owner != nullptr ? owner : mWindow, MONITOR_DEFAULTTONEAREST), &monitor);
-    const auto& screen = monitor.rcWork;
-    RECT own {};
-    GetWindowRect(mWindow, &own);
-    const auto middle = MiddleOf(owner, screen);
-    const auto x = middle.x - (own.right - own.left) / 2;
-    const auto y = middle.y - (own.bottom - own.top) / 2;
-    SetWindowPos(mWindow, nullptr, static_cast<int>(std::max(x, screen.left)),
-        static_cast<int>(std::max(y, screen.top)), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EmptyDialog::Resize(mWindow, layout.Size(), mDpi);
 }
 
 void FormWindow::TakeDpi(unsigned dpi)

@@ -53,7 +53,6 @@ private:
     void DrawSoon();
     void Draw(FormModel& model);
     void LayOut(FormModel& model);
-    void Center(HWND owner) const;
     void TakeDpi(unsigned dpi);
     /// A control tells of something, or a key stands for a button.
     void Hear(WORD number, WORD code);

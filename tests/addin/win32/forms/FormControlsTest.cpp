@@ -16,6 +16,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// The name of a control, or of the one that a window is part of.
+std::string WhatIs(HWND window)
+{
+    const auto name = NameOf(window, ControlProperty);
+    return name.empty() ? NameOf(GetParent(window), ControlProperty) + " inside" : name;
+}
+
 /// The system's service for screen readers, noting what it is told.
 class NotingService final : public IAccPropServices
 {
@@ -30,14 +37,13 @@ public:
     {
         const auto isName = property.Data1 == 0x608d3df8;
         const auto isWhole = object == static_cast<DWORD>(OBJID_CLIENT) && child == CHILDID_SELF;
-        told.push_back(NameOf(window, ControlProperty) + (isName ? " is " : " says ") + Narrow(text)
-            + (isWhole ? "" : " in part"));
+        told.push_back(WhatIs(window) + (isName ? " is " : " says ") + Narrow(text) + (isWhole ? "" : " in part"));
         return S_OK;
     }
     STDMETHODIMP ClearHwndProps(
         HWND window, DWORD /*object*/, DWORD /*child*/, const MSAAPROPID* /*properties*/, int count) override
     {
-        forgotten.push_back(NameOf(window, ControlProperty) + " " + std::to_string(count));
+        forgotten.push_back(WhatIs(window) + " " + std::to_string(count));
         return S_OK;
     }
 
@@ -77,10 +83,12 @@ TEST(FormControlsTest, ScreenReaders_AreToldWhatTheWindowsDoNotSay)
     {
         const FormControls controls(window.Get(), form, AccessibleNames(ComRef<IAccPropServices>(&service)));
         // The year has its label directly in front, so that the system knows.
-        EXPECT_THAT(service.told, ElementsAre("Month is When was it?", "Tick says Tick it."));
+        EXPECT_THAT(
+            service.told, ElementsAre("Month is When was it?", "Month inside is When was it?", "Tick says Tick it."));
         EXPECT_THAT(service.forgotten, IsEmpty());
     }
-    EXPECT_THAT(service.forgotten, ElementsAre("When 2", "Year 2", "Month 2", "Tick 2"));
+    EXPECT_THAT(
+        service.forgotten, ElementsAre("When 2", "Year 2", "Year inside 2", "Month 2", "Month inside 2", "Tick 2"));
 }
 
 TEST(FormControlsTest, SystemHasNoService_NothingIsTold)

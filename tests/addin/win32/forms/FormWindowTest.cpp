@@ -291,5 +291,44 @@ TEST_F(FormWindowTest, LongText_IsTakenWhole)
     EXPECT_EQ(As<ComboBox>("Project")->Text(), text);
 }
 
+TEST_F(FormWindowTest, Model_DisablesOrHidesWhatHasTheKeys_TheNextOneHasThem)
+{
+    mForm->Show();
+    EXPECT_EQ(Focus(), "Subject");
+    As<TextBox>("Subject")->SetEnabled(false);
+    mForm->Refresh();
+    EXPECT_EQ(Focus(), "Project");
+    As<ComboBox>("Project")->SetVisible(false);
+    mForm->Refresh();
+    EXPECT_EQ(Focus(), "Remove");
+}
+
+TEST_F(FormWindowTest, Person_TypesWhileTheListIsOpen_KeepsTheText)
+{
+    As<ComboBox>("Project")->AddItem("Plan");
+    mForm->Show();
+    SendMessageW(ControlWindow("Project"), CB_SHOWDROPDOWN, TRUE, 0);
+    mHands.Type("SampleForm", "Project", "Pl");
+    EXPECT_EQ(As<ComboBox>("Project")->Text(), "Pl");
+    EXPECT_EQ(TextOf(ControlWindow("Project")), "Pl");
+    SendMessageW(ControlWindow("Project"), CB_SHOWDROPDOWN, FALSE, 0);
+    ExpectAlike();
+}
+
+TEST_F(FormWindowTest, Show_HostsWindowIsSeen_IsInItsMiddle)
+{
+    const PlainWindow host;
+    SetWindowPos(host.Get(), nullptr, 100, 50, 900, 700, SWP_NOZORDER | SWP_SHOWWINDOW);
+    auto application = FakeObject::Make();
+    application->Has("ActiveWindow", AutomationValue(WindowObject::Make(host.Get())));
+    Win32FormFactory factory(HostsWindow(application->Automation()));
+    const auto form = factory.Create(SampleDefinition());
+    form->Show();
+    RECT around {};
+    GetWindowRect(factory.OnTop(), &around);
+    EXPECT_NEAR(around.left + around.right, 2 * 550, 1);
+    EXPECT_NEAR(around.top + around.bottom, 2 * 400, 1);
+}
+
 }
 }
