@@ -28,16 +28,12 @@ bool IsKey(UINT message)
 
 void OfferKey(MSG& message)
 {
+    // Only a window that the message is for takes it, and what it does may end any of them.
     const auto windows = OnlyKeyHook().windows;
-    for (auto* const window : windows) {
-        if (window != message.hwnd && IsChild(window, message.hwnd) == FALSE) {
-            continue;
-        }
-        if (IsDialogMessageW(window, &message) != FALSE) {
-            // The loop finds nothing left to do.
-            message.message = WM_NULL;
-        }
-        return;
+    if (std::any_of(windows.begin(), windows.end(),
+            [&message](HWND window) { return IsDialogMessageW(window, &message) != FALSE; })) {
+        // The loop finds nothing left to do.
+        message.message = WM_NULL;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "addin/win32/forms/DialogKeys.h"
 
+#include "addin/win32/forms/PlainWindow.h"
 #include "addin/win32/forms/SampleForm.h"
 
 #include <gmock/gmock.h>
@@ -123,11 +124,29 @@ TEST_F(DialogKeysTest, Letters_WithAlt_GoToTheirControls)
     EXPECT_THAT(mEvents, IsEmpty()) << "that button is off the form";
 }
 
+TEST_F(DialogKeysTest, Keys_OfAnotherForm_AreThatFormsOnly)
+{
+    mForm->Show();
+    const auto other = mFactory->Create({ .className = "PlainForm",
+        .title = "Plain",
+        .rows = { { { .name = "OK", .kind = ControlKind::Button, .text = "OK", .role = ButtonRole::Default } } } });
+    other->Show();
+    Press(VK_ESCAPE);
+    EXPECT_FALSE(other->Visible());
+    EXPECT_THAT(mEvents, IsEmpty());
+    SetFocus(ControlWindow("Subject"));
+    Press(VK_ESCAPE);
+    EXPECT_THAT(mEvents, ElementsAre("Cancel clicked"));
+}
+
 TEST_F(DialogKeysTest, Keys_OfOtherWindows_AreLeftAlone)
 {
     mForm->Show();
-    PostMessageW(nullptr, WM_KEYDOWN, VK_ESCAPE, 1);
-    WindowHands::HandleMessages();
+    const PlainWindow host;
+    PostMessageW(host.Get(), WM_KEYDOWN, VK_ESCAPE, 1);
+    MSG message {};
+    ASSERT_NE(PeekMessageW(&message, host.Get(), WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE), FALSE);
+    EXPECT_EQ(message.message, static_cast<UINT>(WM_KEYDOWN));
     EXPECT_THAT(mEvents, IsEmpty());
 }
 

@@ -311,6 +311,7 @@ TEST_F(FormWindowTest, Person_TypesWhileTheListIsOpen_KeepsTheText)
     mHands.Type("SampleForm", "Project", "Pl");
     EXPECT_EQ(As<ComboBox>("Project")->Text(), "Pl");
     EXPECT_EQ(TextOf(ControlWindow("Project")), "Pl");
+    EXPECT_EQ(SendMessageW(ControlWindow("Project"), CB_GETEDITSEL, 0, 0), MAKELONG(2, 2)) << "the next letter's place";
     SendMessageW(ControlWindow("Project"), CB_SHOWDROPDOWN, FALSE, 0);
     ExpectAlike();
 }
