@@ -1,22 +1,19 @@
 #include "driver/DriverProgram.h"
 
+#include "driver/AnswerLines.h"
 #include "driver/Driver.h"
-#include "driver/LineReader.h"
 #include "host/files/ProgramFolder.h"
 #include "terminal/ArgumentParser.h"
 #include "terminal/ProfileArguments.h"
 #include "terminal/ProgramRun.h"
 #include "terminal/UsageError.h"
 
-#include <cstddef>
 #include <cstdlib>
 #include <optional>
 
 namespace tempodial {
 
 namespace {
-
-constexpr std::size_t LongestLine = std::size_t { 64 } * 1024 * 1024;
 
 constexpr auto Description = "The host of the add-in without windows, worked by another program: reads one JSON\n"
                              "object a line, does it as a person would, and answers with one JSON object a\n"
@@ -78,17 +75,7 @@ ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
     auto options = profile.Options();
     options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
     Driver driver(options, ProgramsOf(addIn));
-    LineReader lines(mInput, LongestLine);
-    for (auto line = lines.Next(); line && mOut; line = lines.Next()) {
-        mOut << (line->isTooLong ? driver.Refuse("the line is too long") : driver.Answer(line->text)) << '\n';
-        mOut.flush();
-    }
-    driver.Exit();
-    if (!mOut) {
-        Complain(mError, Name, "the answer couldn't be written: see to the program that reads it");
-        return ExitStatus::NotDone;
-    }
-    return ExitStatus::Done;
+    return AnswerLines(driver, mInput, mOut, mError, Name);
 }
 
 }
