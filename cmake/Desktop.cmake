@@ -33,13 +33,19 @@ endfunction()
 
 find_package(Qt6 6.4 QUIET COMPONENTS Widgets PrintSupport DBus OPTIONAL_COMPONENTS Test)
 if(Qt6_FOUND)
-    tempodial_folder(desktop_qt src/desktop/qt EXCEPT main.cpp
+    tempodial_folder(desktop_qt src/desktop/qt EXCEPT main.cpp drive
         LINK desktop terminal Qt6::Widgets Qt6::PrintSupport Qt6::DBus)
     target_compile_definitions(desktop_qt PUBLIC QT_NO_KEYWORDS QT_NO_FOREACH)
     target_precompile_headers(desktop_qt PRIVATE <QApplication> <QBoxLayout> <QLabel> <QMainWindow> <QMenuBar>
         <QPainter> <QPushButton> <QScrollBar> <QtEvents> <functional> <string> <vector>)
     tempodial_program(tempodial-desktop src/desktop/qt/main.cpp LINK desktop_qt)
     tempodial_desktop_files()
+    # The windows worked by the driver's commands, for tests alone.
+    if(TEMPODIAL_TESTS AND Qt6Test_FOUND)
+        tempodial_folder(desktop_drive src/desktop/qt/drive EXCEPT main.cpp LINK desktop_qt driver Qt6::Test)
+        target_precompile_headers(desktop_drive REUSE_FROM desktop_qt)
+        tempodial_program(tempodial-desktop-drive src/desktop/qt/drive/main.cpp NOT_INSTALLED LINK desktop_drive)
+    endif()
 else()
     message(STATUS "Qt 6 isn't there, so the desktop program isn't built")
 endif()

@@ -7,3 +7,16 @@ foreach(script IN LISTS scripts)
     set_tests_properties(program/${name} PROPERTIES TIMEOUT 300 LABELS program
         ENVIRONMENT "TEMPODIAL_EXECUTABLE=${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/tempodial;TEMPODIAL_BUILD_DIR=${CMAKE_BINARY_DIR}")
 endforeach()
+
+# The rig's cases once more, done at the windows of the desktop program; nobody opens a thousand of those.
+if(TARGET tempodial-desktop-drive)
+    file(GLOB cases CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tests/rig/cases/*.jsonl")
+    list(FILTER cases EXCLUDE REGEX "/thousand-windows\\.jsonl$")
+    foreach(case IN LISTS cases)
+        cmake_path(GET case STEM name)
+        add_test(NAME desktop/cases/${name}
+            COMMAND "${Python3_EXECUTABLE}" -B "${PROJECT_SOURCE_DIR}/tests/rig/compare-all" --desktop "${case}")
+        set_tests_properties(desktop/cases/${name} PROPERTIES TIMEOUT 300 LABELS desktop
+            ENVIRONMENT "TEMPODIAL_NATIVE_BUILD=${CMAKE_BINARY_DIR}")
+    endforeach()
+endif()

@@ -109,7 +109,9 @@ std::string LogDoings::Redo() const
 std::vector<std::string> LogDoings::Projects() const
 {
     std::vector<std::string> projects;
-    mSession.AddIn().GetProjects(projects, false, false, false);
+    if (mSession.IsConnected()) {
+        mSession.AddIn().GetProjects(projects, false, false, false);
+    }
     return projects;
 }
 

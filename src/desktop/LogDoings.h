@@ -41,7 +41,7 @@ public:
     /// The same with the last undo, as long as nothing else was done since.
     std::string Redo() const;
 
-    /// The projects of the list, as the product shows them.
+    /// The projects of the list, as the product shows them; none while it isn't there.
     std::vector<std::string> Projects() const;
 
 private:

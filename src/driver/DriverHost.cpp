@@ -34,10 +34,8 @@ DriverHost::DriverHost(tempodial::Session& session, DriverSurroundings surroundi
     , mMessageBox(MakeRef<DriverMessageBox>(Mailbox(), mSurroundings.showMessage))
     , mEventPump(MakeRef<DriverEventPump>(
           mSurroundings.eventPump ? mSurroundings.eventPump : Profile().Surroundings().eventPump))
+    , mHand(mSurroundings.person ? mSurroundings.person(*this) : Ref<tempodial::Hand>(MakeRef<ModelHand>(*this)))
 {
-    if (!mSurroundings.hand) {
-        mSurroundings.hand = MakeRef<ModelHand>(*this);
-    }
 }
 
 DriverHost::~DriverHost() = default;

@@ -49,7 +49,7 @@ public:
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
     const Ref<tempodial::Mailbox>& Mailbox() const { return mSession.Mailbox(); }
     /// The person who does what commands ask for.
-    tempodial::Hand& Hand() { return *mSurroundings.hand; }
+    tempodial::Hand& Hand() { return *mHand; }
     /// What can be seen otherwise than the models have it.
     std::vector<std::string> Differences() const;
     /// A person at the models of the add-in's forms.
@@ -79,6 +79,7 @@ private:
     Ref<DriverEventPump> mEventPump;
     Ref<FaultPlan> mFaults = MakeRef<FaultPlan>();
     ModelHands mHands { *mSession.Forms() };
+    Ref<tempodial::Hand> mHand;
     /// The add-in for Windows while it is connected.
     Ref<RemoteAddIn> mRemote;
     /// Faults that were planned while none was.

@@ -13,6 +13,8 @@
 
 namespace tempodial {
 
+class DriverHost;
+
 /// What a driver has around it; what is left out is that of a program without a screen.
 struct DriverSurroundings
 {
@@ -24,8 +26,8 @@ struct DriverSurroundings
     Ref<EventPump> eventPump = nullptr;
     /// Shows message boxes.
     DriverMessageBox::Shower showMessage {};
-    /// The person who does what commands ask for.
-    Ref<Hand> hand = nullptr;
+    /// Makes the person who does what commands ask for, for a host that outlives that person.
+    std::function<Ref<Hand>(DriverHost& host)> person {};
     /// What can be seen otherwise than the models have it, each a text; asked behind each command.
     std::function<std::vector<std::string>()> differences {};
 };

@@ -9,7 +9,7 @@ namespace tempodial {
 class DriverHost;
 
 /// A person at the models, without a screen.
-class ModelHand final : public Hand
+class ModelHand : public Hand
 {
 public:
     /// The host must outlive it.

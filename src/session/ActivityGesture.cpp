@@ -65,4 +65,16 @@ std::vector<Ref<OutlookItem>> SelectedItems(HostExplorer& window)
     return items;
 }
 
+std::set<std::int64_t> SelectedNumbers(HostExplorer& window)
+{
+    std::set<std::int64_t> numbers;
+    for (const auto& item : SelectedItems(window)) {
+        const auto stored = item.As<StoreItem>();
+        if (stored && stored->Number() != 0) {
+            numbers.insert(stored->Number());
+        }
+    }
+    return numbers;
+}
+
 }

@@ -5,7 +5,9 @@
 #include "platform/objectmodel/OutlookItem.h"
 #include "session/Profile.h"
 
+#include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,5 +26,7 @@ void ClickCommandAsStep(const Profile& profile, HostInspector& window, HostComma
 
 /// What is selected in a window.
 std::vector<Ref<OutlookItem>> SelectedItems(HostExplorer& window);
+/// The numbers of the stored items among them.
+std::set<std::int64_t> SelectedNumbers(HostExplorer& window);
 
 }

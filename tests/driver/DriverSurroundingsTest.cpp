@@ -57,7 +57,7 @@ protected:
         mSession.emplace(mOptions);
         DriverSurroundings surroundings;
         surroundings.eventPump = mPump;
-        surroundings.hand = mHand;
+        surroundings.person = [this](DriverHost&) { return mHand; };
         surroundings.showMessage
             = [this](const std::string& text, const std::vector<Answer>&, MessageIcon, Answer answer) {
                   mShown.push_back(text);

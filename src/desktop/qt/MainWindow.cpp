@@ -16,6 +16,7 @@
 #include "desktop/qt/WelcomePage.h"
 #include "review/ActivityReader.h"
 #include "review/LikelyProjects.h"
+#include "session/ActivityGesture.h"
 #include "session/TrackerFiles.h"
 
 #include <QBoxLayout>
@@ -318,6 +319,8 @@ void MainWindow::Follow()
     }
     mLog.Colour(mDesk.Settings().colours);
     mLog.Read();
+    // The product may have selected something else, as by going to another folder.
+    mSelected = SelectedNumbers(*mExplorer);
     FollowLog();
 }
 

@@ -4,25 +4,10 @@
 #include "session/ProductFacts.h"
 
 #include <QApplication>
-#include <QMessageBox>
 
 namespace tempodial {
 
 namespace {
-
-QMessageBox::StandardButton ToButton(Answer answer)
-{
-    switch (answer) {
-    case Answer::Yes:
-        return QMessageBox::Yes;
-    case Answer::No:
-        return QMessageBox::No;
-    case Answer::Cancel:
-        return QMessageBox::Cancel;
-    default:
-        return QMessageBox::Ok;
-    }
-}
 
 QMessageBox::Icon ToIcon(MessageIcon icon)
 {
@@ -38,6 +23,20 @@ QMessageBox::Icon ToIcon(MessageIcon icon)
 
 }
 
+QMessageBox::StandardButton QtMessageBox::ButtonOf(Answer answer)
+{
+    switch (answer) {
+    case Answer::Yes:
+        return QMessageBox::Yes;
+    case Answer::No:
+        return QMessageBox::No;
+    case Answer::Cancel:
+        return QMessageBox::Cancel;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
 Answer QtMessageBox::Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon)
 {
     mMailbox->DeliverEvents();
@@ -48,14 +47,14 @@ Answer QtMessageBox::Show(const std::string& text, const std::vector<Answer>& bu
     box.setText(ToQt(text));
     box.setIcon(ToIcon(icon));
     for (const auto answer : buttons) {
-        box.addButton(ToButton(answer));
+        box.addButton(ButtonOf(answer));
     }
     if (!buttons.empty()) {
-        box.setDefaultButton(ToButton(buttons.front()));
+        box.setDefaultButton(ButtonOf(buttons.front()));
     }
     const auto pressed = box.exec();
     for (const auto answer : buttons) {
-        if (ToButton(answer) == pressed) {
+        if (ButtonOf(answer) == pressed) {
             return answer;
         }
     }

@@ -4,6 +4,7 @@
 #include "host/store/Mailbox.h"
 #include "platform/controls/MessageBox.h"
 
+#include <QMessageBox>
 #include <utility>
 
 namespace tempodial {
@@ -16,6 +17,9 @@ public:
         : mMailbox(std::move(mailbox))
     {
     }
+
+    /// The button of an answer, as the toolkit numbers it.
+    static QMessageBox::StandardButton ButtonOf(Answer answer);
 
     Answer Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon) override;
 

@@ -1,8 +1,8 @@
 #include "DesktopFixture.h"
 
+#include "desktop/qt/OffscreenApplication.h"
 #include "session/ProductFacts.h"
 
-#include <QApplication>
 #include <QPixmap>
 #include <QWidget>
 #include <array>
@@ -11,19 +11,6 @@
 namespace tempodial {
 
 namespace {
-
-/// The application that all widgets need, made once, on a screen in memory.
-QApplication& TheApplication()
-{
-    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static std::string name = "tests";
-    static std::array<char*, 2> values { name.data(), nullptr };
-    // Kept to the end of the process: what is static in the toolkit may outlive it no other way.
-    static auto* const application = isOffscreen ? new QApplication(count, values.data()) : nullptr;
-    application->setQuitOnLastWindowClosed(false);
-    return *application;
-}
 
 struct Document
 {
@@ -53,7 +40,7 @@ constexpr std::array<Document, 14> Documents { {
 
 DesktopFixture::DesktopFixture()
 {
-    TheApplication();
+    OffscreenApplication();
     const ProfileOptions options {
         .profile = mFolder.Path("profile"), .locale = "en_GB", .now = Date::FromParts({ 2006, 11, 17, 16, 12, 0 })
     };

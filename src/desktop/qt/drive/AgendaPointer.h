@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/Date.h"
+
+#include <QPoint>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace tempodial {
+
+class MainWindow;
+
+/// The pointer and the keys on the activities that a window shows.
+class AgendaPointer
+{
+public:
+    /// The window must outlive it.
+    explicit AgendaPointer(MainWindow& window)
+        : mWindow(window)
+    {
+    }
+
+    /// Pages to the week of a day, unless the activity is shown already, and scrolls to it; false when it isn't shown
+    /// where the pointer can get at it.
+    bool Reach(std::int64_t number, Date day);
+    /// Clicks on an activity that was reached.
+    void Click(std::int64_t number, Qt::KeyboardModifiers modifiers = {});
+    void DoubleClick(std::int64_t number);
+    /// Presses a key in the agenda.
+    void Press(Qt::Key key);
+
+private:
+    std::optional<std::size_t> PieceOf(std::int64_t number) const;
+    /// A place of the viewport where the pointer is over a piece and over no other.
+    std::optional<QPoint> PlaceOn(std::size_t piece) const;
+
+    MainWindow& mWindow;
+};
+
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QApplication>
+#include <array>
+#include <string>
+
+namespace tempodial {
+
+/// The application that all widgets need, made once, on a screen in memory.
+inline QApplication& OffscreenApplication()
+{
+    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int count = 1;
+    static std::string name = "tests";
+    static std::array<char*, 2> values { name.data(), nullptr };
+    // Kept to the end of the process: what is static in the toolkit may outlive it no other way.
+    static auto* const application = isOffscreen ? new QApplication(count, values.data()) : nullptr;
+    application->setQuitOnLastWindowClosed(false);
+    return *application;
+}
+
+}
