@@ -258,6 +258,7 @@ private:
             }
             taken = TimeInLog(profile, span->first, span->second);
             AddWaitingLines(profile, taken);
+            AddRecordersTime(profile, taken);
         }
         ImportOutcome outcome { plan.Make(taken, ledger) };
         for (const auto& [day, planned] : outcome.days) {
@@ -323,6 +324,7 @@ private:
         }
         const auto waiting = run.SyncWaiting();
         auto taken = TimeInLog(run.Connected().Profile(), span.first, span.second);
+        AddRecordersTime(run.Connected().Profile(), taken);
         for (const auto day : waiting) {
             taken.Add(day.Seconds(), day.AddDays(1).Seconds());
             if (day >= span.first && day <= span.second) {

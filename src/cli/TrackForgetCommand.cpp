@@ -45,9 +45,9 @@ class TrackForgetCommand final : public Command
 public:
     TrackForgetCommand()
         : Command({ "track forget", "Take out what was recorded last",
-            "Takes today's lines out of the tracker file whose slots end within that time,\n"
-            "and what waits to be written. What \"sync\" has imported already stays and is\n"
-            "named; \"tempodial delete\" removes activities.\n"
+            "Takes the lines out of the tracker's files whose slots end within that time, and\n"
+            "what waits to be written. What \"sync\" has imported already stays and is named;\n"
+            "\"tempodial delete\" removes activities.\n"
             "\n"
             "  tempodial track forget --last 30m" })
     {
@@ -72,7 +72,16 @@ public:
         const auto now = TrackClock(options.now).Now();
         auto request = TrackRequest("forget");
         request.Set("last", std::to_string(length));
-        request.Set("taken", std::to_string(LinesTaken(ReadProfile(options), Day(tracker, now).DayKey())));
+        // The recorder may see a midnight that comes just now.
+        const auto profile = ReadProfile(options);
+        const auto today = Day(tracker, now);
+        const auto first = Date::FromSeconds(today.Seconds() - length / Milliseconds).Day();
+        for (auto day = first; day <= today.AddDays(1); day = day.AddDays(1)) {
+            const auto key = day.DayKey();
+            if (StatusAt(NativePath::Exactly(DataPath(profile, TrackerFileName(key))), Links::Followed)) {
+                request.Set(TakenLines(key), std::to_string(LinesTaken(profile, key)));
+            }
+        }
         auto answer = tracker.AskIfRunning(request);
         if (!answer) {
             answer = ForgetByItself(tracker.Profile(), request, now);

@@ -5,6 +5,7 @@
 #include "session/ProductFacts.h"
 #include "session/TrackerDay.h"
 #include "slots/SlotTimes.h"
+#include "track/ProfileRecorder.h"
 
 #include <optional>
 #include <string>
@@ -53,6 +54,22 @@ void AddFile(FileSystemObject& fileSystem, const std::string& path, Date day, Pr
     }
 }
 
+}
+
+void AddRecordersTime(const Profile& profile, Presence& time)
+{
+    const auto state = StateOfRecorder(profile.DataFolder());
+    for (const auto& slot : state.slots) {
+        time.Add(slot.start, slot.start + SlotSeconds);
+    }
+    for (const auto& stretch : state.stretches) {
+        const auto begin = stretch.begin / MillisecondsOfSecond;
+        const auto end = (stretch.end + MillisecondsOfSecond - 1) / MillisecondsOfSecond;
+        time.Add(begin - begin % SlotSeconds, end + (SlotSeconds - end % SlotSeconds) % SlotSeconds);
+    }
+    for (const auto& line : state.unsaved) {
+        AddLine(line.text, Date::FromSeconds(line.midnight), time);
+    }
 }
 
 void AddWaitingLines(const Profile& profile, Presence& time)

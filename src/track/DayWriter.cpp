@@ -5,6 +5,7 @@
 #include "base/TrackerFile.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/FolderDescriptor.h"
+#include "host/files/PathOperations.h"
 #include "host/files/ReplacementFile.h"
 
 #include <algorithm>
@@ -17,6 +18,8 @@ namespace {
 constexpr std::size_t LargestDay = std::size_t { 64 } << 20;
 /// Days that are remembered: yesterday's last slot comes when today has begun.
 constexpr std::size_t MostDays = 2;
+/// What stands in front of lines where a heading does in a file.
+const std::string NoHeading = "\n";
 
 std::string ContentOf(const std::string& path)
 {
@@ -35,6 +38,10 @@ std::string ContentOf(const std::string& path)
 void DayWriter::Add(const FiledSlot& slot)
 {
     auto& day = DayOf(slot.midnight);
+    if (day.unsaved.empty() && day.slots > 0 && !HasFile(slot.midnight)) {
+        // It was loaded as a whole meanwhile, and no line of a new file goes on with one of that.
+        day = { DayFile(day.file.LastEnd()), 0, {} };
+    }
     if (!day.file.Add(slot.slot)) {
         return;
     }
@@ -95,18 +102,70 @@ void DayWriter::SaveDay(std::int64_t midnight, Day& day, int offset) const
     }
 }
 
+std::vector<UnsavedLine> DayWriter::Unsaved() const
+{
+    std::vector<UnsavedLine> unsaved;
+    for (const auto& [midnight, day] : mDays) {
+        for (std::string_view rest = day.unsaved; !rest.empty();) {
+            const auto end = rest.find(CrLf);
+            unsaved.push_back({ midnight, std::string(rest.substr(0, end)) });
+            rest.remove_prefix(end + CrLf.size());
+        }
+    }
+    return unsaved;
+}
+
+void DayWriter::Restore(const std::vector<UnsavedLine>& unsaved)
+{
+    std::map<std::int64_t, std::string> days;
+    for (const auto& line : unsaved) {
+        days[line.midnight].append(line.text).append(CrLf);
+    }
+    for (const auto& [midnight, lines] : days) {
+        Wait(midnight, lines);
+    }
+}
+
+int DayWriter::SlotsOn(std::int64_t midnight)
+{
+    const auto& day = DayOf(midnight);
+    return day.slots - WrittenLines::Of(NoHeading + day.unsaved).slots;
+}
+
 ErasedLines DayWriter::Erase(std::int64_t midnight, std::int64_t from, std::int64_t taken)
 {
-    mDays.erase(midnight);
     const auto path = PathOf(midnight);
     auto content = ContentOf(path);
-    const auto erased = EraseLines(content, from, taken);
+    auto erased = EraseLines(content, from, taken);
     if (erased.forgotten > 0) {
         ReplacementFile file(NativePath::Exactly(path), ReplacementFile::Old::MustExist);
         file.Write(content);
         file.Commit();
     }
+    if (const auto day = mDays.extract(midnight)) {
+        auto lines = NoHeading + day.mapped().unsaved;
+        erased.forgotten += EraseLines(lines, from, 0).forgotten;
+        Wait(midnight, lines.substr(NoHeading.size()));
+    }
+    auto loaded = ContentOf(mFolder + "/" + FinishedTrackerFileName(Date::FromSeconds(midnight).DayKey()));
+    erased.kept += EraseLines(loaded, from, 0).forgotten;
     return erased;
+}
+
+void DayWriter::Wait(std::int64_t midnight, const std::string& lines)
+{
+    auto& day = DayOf(midnight);
+    day.unsaved = LinesBehind(lines, day.file.LastEnd());
+    const auto waiting = WrittenLines::Of(NoHeading + day.unsaved);
+    if (waiting.slots > 0) {
+        day.file = DayFile(waiting.end);
+        day.slots += waiting.slots;
+    }
+}
+
+bool DayWriter::HasFile(std::int64_t midnight) const
+{
+    return StatusAt(NativePath::Exactly(PathOf(midnight)), Links::Followed).has_value();
 }
 
 std::string DayWriter::PathOf(std::int64_t midnight) const

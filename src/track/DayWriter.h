@@ -2,12 +2,14 @@
 
 #include "slots/DayFile.h"
 #include "track/SlotSink.h"
+#include "track/TrackState.h"
 #include "track/WrittenLines.h"
 
 #include <cstdint>
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tempodial {
 
@@ -30,11 +32,19 @@ public:
     /// many minutes local time is before UTC. Fails when the disk refuses it.
     void Save(int offset);
 
+    /// The lines that wait.
+    std::vector<UnsavedLine> Unsaved() const;
+    /// Lets lines wait that an earlier run couldn't save, but for those that stand in the file.
+    void Restore(const std::vector<UnsavedLine>& unsaved);
+
     /// Slots in the file of a day.
-    int SlotsOn(std::int64_t midnight) { return DayOf(midnight).slots; }
-    /// Takes lines out of the file of a day, as `EraseLines` does; fails when it can't be read or replaced.
+    int SlotsOn(std::int64_t midnight);
+    /// Takes lines out of the file of a day, as `EraseLines` does, and of what waits for it; fails when it can't be
+    /// read or replaced. Those of a file that was loaded as a whole stay.
     ErasedLines Erase(std::int64_t midnight, std::int64_t from, std::int64_t taken);
 
+    /// True when a day has a file.
+    bool HasFile(std::int64_t midnight) const;
     /// The path of a day's file.
     std::string PathOf(std::int64_t midnight) const;
 
@@ -42,12 +52,14 @@ private:
     struct Day
     {
         DayFile file;
+        /// Slots in the file, and those that wait.
         int slots = 0;
         /// Whole lines with their ends.
         std::string unsaved;
     };
 
     Day& DayOf(std::int64_t midnight);
+    void Wait(std::int64_t midnight, const std::string& lines);
     void SaveDay(std::int64_t midnight, Day& day, int offset) const;
 
     std::string mFolder;

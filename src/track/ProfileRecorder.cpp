@@ -101,6 +101,16 @@ ControlMessage Trouble(const std::string& message)
 
 }
 
+TrackState StateOfRecorder(const std::string& dataFolder)
+{
+    return TrackState::Of(StateText(dataFolder + StateFileName));
+}
+
+std::string TakenLines(const std::string& dayKey)
+{
+    return "taken" + dayKey;
+}
+
 std::optional<std::int64_t> NumberOf(const ControlMessage& message, const std::string& name)
 {
     const auto text = message.Get(name);
@@ -125,7 +135,9 @@ ProfileRecorder::ProfileRecorder(
             mLastWritten = Date::FromSeconds(midnight + until);
         }
         if (!mKeptState.empty()) {
-            mRecorder.Restore(TrackState::Of(mKeptState), now);
+            const auto state = TrackState::Of(mKeptState);
+            mWriter.Restore(state.unsaved);
+            mRecorder.Restore(state, now);
         }
         mKeptAt = now.boot;
     } catch (const Failure& failure) {
@@ -165,26 +177,52 @@ bool ProfileRecorder::IsStateDue(const TrackMoment& now) const
 
 void ProfileRecorder::KeepState()
 {
-    auto text = mRecorder.State().Text();
+    (void)WriteState(false);
+}
+
+bool ProfileRecorder::WriteState(bool isToLast)
+{
+    auto state = mRecorder.State();
+    state.unsaved = mWriter.Unsaved();
+    auto text = state.Text();
     if (text == mKeptState) {
-        return;
+        return true;
     }
     try {
-        KeepText(mFolder + StateFileName, text);
+        if (isToLast) {
+            ReplacementFile file(NativePath::Exactly(mFolder + StateFileName));
+            file.Write(text);
+            file.Commit();
+        } else {
+            KeepText(mFolder + StateFileName, text);
+        }
         mKeptState = std::move(text);
         mComplaints.erase(StateTrouble);
+        return true;
     } catch (const Failure& failure) {
         Complain(StateTrouble,
             mFolder + StateFileName + " can't be written: " + failure.Description()
                 + ": see to the disk of the profile");
+        return false;
     }
 }
 
-void ProfileRecorder::End(const TrackMoment& now)
+ControlMessage ProfileRecorder::Kept(ControlMessage answer)
+{
+    return WriteState(true) ? std::move(answer) : Trouble(mComplaints[StateTrouble]);
+}
+
+bool ProfileRecorder::End(const TrackMoment& now)
 {
     mRecorder.End(now);
     Save(now);
-    KeepState();
+    const bool isKept = WriteState(true);
+    if (!mWriter.HasUnsaved()) {
+        return isKept;
+    }
+    mWarn(isKept ? "what couldn't be written waits in " + mFolder + StateFileName + " for the next start"
+                 : "what couldn't be written is lost");
+    return false;
 }
 
 ControlMessage ProfileRecorder::Answer(const ControlMessage& request, const TrackMoment& now)
@@ -199,8 +237,7 @@ ControlMessage ProfileRecorder::Answer(const ControlMessage& request, const Trac
         }
         if (what == "resume") {
             mRecorder.Resume();
-            KeepState();
-            return Status(now);
+            return Kept(Status(now));
         }
         if (what == "project") {
             return Project(request);
@@ -259,7 +296,7 @@ ControlMessage ProfileRecorder::Status(const TrackMoment& now)
     answer.Set("idle", mRecorder.IsIdle() ? "1" : "0");
     answer.Set("since", MomentText(mRecorder.Since()));
     answer.Set("paused", mRecorder.IsPaused() || mIsBlind ? "1" : "0");
-    if (const auto until = mRecorder.PausedUntil()) {
+    if (const auto until = mRecorder.PausedUntil(now)) {
         answer.Set("pausedUntil", MomentText(*until));
     }
     if (const auto view = mRecorder.InFront(); view && !mIsBlind) {
@@ -275,39 +312,44 @@ ControlMessage ProfileRecorder::Status(const TrackMoment& now)
 
 ControlMessage ProfileRecorder::Pause(const ControlMessage& request, const TrackMoment& now)
 {
-    const auto length = NumberOf(request, "for");
-    mRecorder.Pause(now, length ? std::optional(now.local + *length) : std::nullopt);
+    mRecorder.Pause(now, NumberOf(request, "for"));
     Save(now);
-    KeepState();
-    return Status(now);
+    return Kept(Status(now));
 }
 
 ControlMessage ProfileRecorder::Project(const ControlMessage& request)
 {
     if (request.Has("name")) {
         mRecorder.SetProject(ProjectText(request.Get("name")));
-        KeepState();
     }
     ControlMessage answer;
     answer.Set("name", mRecorder.Project());
-    return answer;
+    return request.Has("name") ? Kept(std::move(answer)) : answer;
 }
 
 ControlMessage ProfileRecorder::Forget(const ControlMessage& request, const TrackMoment& now)
 {
     const auto length = NumberOf(request, "last");
-    const auto taken = NumberOf(request, "taken");
-    if (!length || !taken) {
+    if (!length) {
         return Trouble("the recorder that runs doesn't know this: start it again, since it is another version");
     }
-    mRecorder.Forget(now.local - *length);
-    KeepState();
-    const auto midnight = MidnightOf(now);
-    const auto erased = mWriter.Erase(midnight, (now.local - *length) / MillisecondsOfSecond - midnight, *taken);
+    const auto from = now.local - *length;
+    mRecorder.Forget(from);
+    ErasedLines all;
+    for (auto day = Date::FromSeconds(from / MillisecondsOfSecond).Day(); day <= now.ToDate(); day = day.AddDays(1)) {
+        const auto taken = NumberOf(request, TakenLines(day.DayKey()));
+        if (!taken && mWriter.HasFile(day.Seconds())) {
+            continue; // nobody has looked what imports have taken of it
+        }
+        const auto erased
+            = mWriter.Erase(day.Seconds(), from / MillisecondsOfSecond - day.Seconds(), taken.value_or(0));
+        all.forgotten += erased.forgotten;
+        all.kept += erased.kept;
+    }
     ControlMessage answer;
-    answer.Set("forgotten", std::to_string(erased.forgotten));
-    answer.Set("kept", std::to_string(erased.kept));
-    return answer;
+    answer.Set("forgotten", std::to_string(all.forgotten));
+    answer.Set("kept", std::to_string(all.kept));
+    return Kept(std::move(answer));
 }
 
 }

@@ -29,16 +29,20 @@ public:
     void Tick(const TrackMoment& now);
     /// True when the next tick keeps the state.
     bool IsStateDue(const TrackMoment& now) const;
-    /// Keeps the state now.
+    /// Keeps the state now, as far as the disk takes it.
     void KeepState();
-    /// Writes what waits, since the run ends.
-    void End(const TrackMoment& now);
+    /// Writes what waits, since the run ends; false when not all of it could be.
+    bool End(const TrackMoment& now);
     /// Does what a program asks for, and answers.
     ControlMessage Answer(const ControlMessage& request, const TrackMoment& now);
 
 private:
     void ReadSettings();
     void Save(const TrackMoment& now);
+    /// True when the state is kept, on the disk if it is to last.
+    bool WriteState(bool isToLast);
+    /// The answer, once the state is kept that goes with it; else what is wrong.
+    ControlMessage Kept(ControlMessage answer);
     void Complain(const std::string& about, const std::string& message);
     ControlMessage Status(const TrackMoment& now);
     ControlMessage Pause(const ControlMessage& request, const TrackMoment& now);
@@ -60,6 +64,12 @@ private:
     std::int64_t mKeptAt = 0;
     std::optional<Date> mLastWritten;
 };
+
+/// What the recorder of a profile has kept, by the folder of its data; nothing when none ever ran.
+TrackState StateOfRecorder(const std::string& dataFolder);
+
+/// What a message calls the lines of a day's file, behind its heading, that imports have taken.
+std::string TakenLines(const std::string& dayKey);
 
 /// A whole number in a message; nothing when it holds none.
 std::optional<std::int64_t> NumberOf(const ControlMessage& message, const std::string& name);

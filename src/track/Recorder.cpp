@@ -37,7 +37,9 @@ Recorder::Recorder(SlotSink& sink, ViewMaker views, std::function<void(const std
 void Recorder::Restore(const TrackState& state, const TrackMoment& now)
 {
     mIsPaused = state.isPaused;
-    mPausedUntil = state.pausedUntil;
+    if (state.pausedUntil) {
+        mPauseEnd = now.boot + *state.pausedUntil - now.Universal();
+    }
     mProject = state.project;
     // When the clock was put back since, nobody knows how long ago the last input was.
     const bool isClockGood = state.input <= now.local;
@@ -63,7 +65,9 @@ TrackState Recorder::State() const
 {
     TrackState state;
     state.isPaused = mIsPaused;
-    state.pausedUntil = mPausedUntil;
+    if (mPauseEnd && mBefore) {
+        state.pausedUntil = mBefore->Universal() + *mPauseEnd - mBefore->boot;
+    }
     state.project = mProject;
     state.input = mBefore ? ToLocal(mInput) : 0;
     state.patience = mPatience;
@@ -75,15 +79,15 @@ TrackState Recorder::State() const
 
 void Recorder::Observe(const TrackMoment& now, const Observation& seen)
 {
-    if (mIsPaused && mPausedUntil && now.local >= *mPausedUntil) {
-        Resume();
-    }
     if (mBefore) {
         Pass(now);
     } else {
         mInput = now.boot - seen.idle.value_or(0);
         mSince = now.local;
         mPatience = PatienceOf(std::nullopt);
+    }
+    if (mPauseEnd && now.boot >= *mPauseEnd) {
+        Resume();
     }
     mBefore = now;
     const bool wasGone = IsGone();
@@ -109,7 +113,7 @@ void Recorder::End(const TrackMoment& now)
     }
 }
 
-void Recorder::Pause(const TrackMoment& now, std::optional<std::int64_t> until)
+void Recorder::Pause(const TrackMoment& now, std::optional<std::int64_t> length)
 {
     if (mBefore) {
         Pass(now);
@@ -117,24 +121,26 @@ void Recorder::Pause(const TrackMoment& now, std::optional<std::int64_t> until)
         Flush();
     }
     mIsPaused = true;
-    mPausedUntil = until;
+    mPauseEnd = length ? std::optional(now.boot + *length) : std::nullopt;
     mSince = now.local;
 }
 
 void Recorder::Resume()
 {
     mIsPaused = false;
-    mPausedUntil.reset();
+    mPauseEnd.reset();
 }
 
 void Recorder::Forget(std::int64_t from)
 {
     mPending.Forget(from);
     std::erase_if(mUnwritten, [from](const auto& slot) { return SlotEnd(slot) * MillisecondsOfSecond > from; });
-    if (mWaitingEnd && *mWaitingEnd * MillisecondsOfSecond > from) {
-        mActivities = {};
-        mWaitingEnd.reset();
+    if (mWaitingEnd && *mWaitingEnd * MillisecondsOfSecond <= from) {
+        File(mActivities.End());
     }
+    // The words of an activity outlive its slots.
+    mActivities = {};
+    mWaitingEnd.reset();
     mPicker.EndSession();
 }
 

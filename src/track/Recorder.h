@@ -47,8 +47,8 @@ public:
 
     /// Makes views by other rules from now on.
     void SetViews(ViewMaker views) { mViews = std::move(views); }
-    /// Takes nobody to be there, up to a moment of local time or until it is resumed.
-    void Pause(const TrackMoment& now, std::optional<std::int64_t> until);
+    /// Takes nobody to be there, for so many milliseconds or until it is resumed.
+    void Pause(const TrackMoment& now, std::optional<std::int64_t> length);
     void Resume();
     /// Gives all lines from the slot in hand on a project; an empty one takes that back.
     void SetProject(const std::string& project) { mProject = project; }
@@ -56,7 +56,11 @@ public:
     void Forget(std::int64_t from);
 
     bool IsPaused() const { return mIsPaused; }
-    std::optional<std::int64_t> PausedUntil() const { return mPausedUntil; }
+    /// When the pause ends, as local time is now; nothing for one without an end.
+    std::optional<std::int64_t> PausedUntil(const TrackMoment& now) const
+    {
+        return mPauseEnd ? std::optional(now.local - now.boot + *mPauseEnd) : std::nullopt;
+    }
     const std::string& Project() const { return mProject; }
     /// What is in front; nothing when that is nothing, or nobody is there.
     std::optional<SlotView> InFront() const { return IsGone() ? std::nullopt : mView; }
@@ -106,7 +110,8 @@ private:
     bool mIsLocked = false;
     bool mIsAsleep = false;
     bool mIsPaused = false;
-    std::optional<std::int64_t> mPausedUntil;
+    /// When the pause ends, on the clock that goes on while the machine sleeps.
+    std::optional<std::int64_t> mPauseEnd;
     bool mIsIdle = false;
     std::int64_t mSince = 0;
     std::string mProject;

@@ -21,6 +21,12 @@ struct TrackMoment
     /// Minutes by which local time is before UTC.
     int offset = 0;
 
+    /// The time in UTC, counted as the local one is.
+    std::int64_t Universal() const
+    {
+        constexpr std::int64_t MillisecondsOfMinute = 60000;
+        return local - offset * MillisecondsOfMinute;
+    }
     /// The local time as a date, with the part of a second cut off.
     Date ToDate() const { return Date::FromSeconds(local / MillisecondsOfSecond); }
 };

@@ -116,8 +116,7 @@ int Record(const TrackArguments& arguments)
     if (::isatty(STDERR_FILENO) != 0) {
         std::cerr << "Recording (" << run.DesktopName() << "); Ctrl-C ends it.\n";
     }
-    run.Run();
-    return TrackDone;
+    return run.Run() ? TrackDone : TrackNotDone;
 }
 
 }

@@ -151,7 +151,7 @@ TrackRun::TrackRun(const TrackOptions& options, const std::function<void(const s
     mSession = OpenSession(mSettings, why);
 }
 
-void TrackRun::Run()
+bool TrackRun::Run()
 {
     const OwnDescriptor ending(EndingSignals());
     const OwnDescriptor ticks(TickTimer(mClock.Real(TickInterval)));
@@ -192,6 +192,8 @@ void TrackRun::Run()
         }
         if (mSession && (isTick || waits[Waits::Session].revents != 0) && !mSession->Dispatch()) {
             mSession.reset();
+            mHasLostSession = true;
+            mWarn("the login manager is gone: locks and sleep aren't seen until it is back");
         }
         const auto now = mClock.Now();
         const bool isOnlyTick = isTick
@@ -209,7 +211,7 @@ void TrackRun::Run()
         }
     }
     Observe(mClock.Now(), true);
-    mRecorder.End(mClock.Now());
+    return mRecorder.End(mClock.Now());
 }
 
 void TrackRun::Observe(const TrackMoment& now, bool asks)
@@ -234,9 +236,18 @@ void TrackRun::Observe(const TrackMoment& now, bool asks)
 void TrackRun::Tick(const TrackMoment& now)
 {
     mRecorder.Tick(now);
-    if (!mDesktop.source && now.boot >= mNextTrial) {
-        mNextTrial = now.boot + TrialInterval;
+    const bool misses = !mDesktop.source || mHasLostSession;
+    if (!misses || now.boot < mNextTrial) {
+        return;
+    }
+    mNextTrial = now.boot + TrialInterval;
+    if (!mDesktop.source) {
         mDesktop = ChooseDesktop(mSettings);
+    }
+    if (mHasLostSession) {
+        std::string why;
+        mSession = OpenSession(mSettings, why);
+        mHasLostSession = !mSession;
     }
 }
 

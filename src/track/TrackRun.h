@@ -41,8 +41,8 @@ public:
 
     /// The desktop that is watched.
     const std::string& DesktopName() const { return mDesktop.name; }
-    /// Runs until it is told to end.
-    void Run();
+    /// Runs until it is told to end; false when not all that was recorded could be written.
+    bool Run();
 
 private:
     struct Waits;
@@ -59,6 +59,7 @@ private:
     WatchSettings mSettings;
     ChosenDesktop mDesktop;
     std::unique_ptr<SessionSource> mSession;
+    bool mHasLostSession = false;
     ProgramNames mNames;
     ControlServer mServer;
     /// When a desktop is looked for again, since there is none; on the clock that goes on while the machine sleeps.

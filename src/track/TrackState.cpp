@@ -38,6 +38,8 @@ public:
         return number;
     }
 
+    /// All that follows, whatever is in it.
+    std::string Rest() const { return std::string(mRest); }
     /// True when all fields were there, and numbers where they had to be.
     bool IsWhole() const { return mIsWhole; }
 
@@ -91,6 +93,11 @@ void TakeStateLine(TrackState& state, std::string_view line)
         if (fields.IsWhole() && slot.start % SlotSeconds == 0 && slot.presence >= 0) {
             state.slots.push_back(std::move(slot));
         }
+    } else if (kind == "line") {
+        const auto midnight = fields.Number();
+        if (fields.IsWhole() && midnight % DaySeconds == 0) {
+            state.unsaved.push_back({ midnight, fields.Rest() });
+        }
     } else if (kind == "view" && !state.slots.empty()) {
         const auto time = fields.Number();
         auto view = ViewOf(fields);
@@ -134,6 +141,9 @@ std::string TrackState::Text() const
     for (const auto& stretch : stretches) {
         text += std::string(stretch.view ? "stretch" : "empty") + Between + std::to_string(stretch.begin) + Between
             + std::to_string(stretch.end) + (stretch.view ? Between + ViewText(*stretch.view) : "") + "\n";
+    }
+    for (const auto& line : unsaved) {
+        text += std::string("line") + Between + std::to_string(line.midnight) + Between + line.text + "\n";
     }
     return text;
 }

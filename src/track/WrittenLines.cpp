@@ -55,6 +55,23 @@ WrittenLines WrittenLines::Of(const std::string& content)
     return written;
 }
 
+std::string LinesBehind(const std::string& lines, std::int64_t until)
+{
+    std::string behind;
+    std::string told;
+    std::string_view rest = lines;
+    while (const auto line = NextLine(rest)) {
+        told += *line;
+        if (!IsDetail(*line)) {
+            if (const auto end = EndOf(*line); end && *end > until) {
+                behind += told;
+            }
+            told.clear();
+        }
+    }
+    return behind;
+}
+
 ErasedLines EraseLines(std::string& content, std::int64_t from, std::int64_t taken)
 {
     ErasedLines erased;

@@ -25,6 +25,9 @@ struct ErasedLines
     int kept = 0;
 };
 
+/// Those of some whole lines that are slots which end behind a second of the day, with what is told of them.
+std::string LinesBehind(const std::string& lines, std::int64_t until);
+
 /// Takes the slots out of the content of a day's file that end behind a second of the day, with what is told of them,
 /// but not the first lines behind the heading that imports have taken, of which there are so many.
 ErasedLines EraseLines(std::string& content, std::int64_t from, std::int64_t taken);

@@ -1,4 +1,5 @@
 #include "session/ProfileFolder.h"
+#include "base/Date.h"
 #include "support/ProgramFixture.h"
 
 namespace tempodial {
@@ -94,6 +95,17 @@ TEST_F(ImportCommandTest, Import_FinishedDay_FillsTheGaps)
     EXPECT_EQ(answer.at("days").at(0).at("taken"), 1);
     EXPECT_EQ(answer.at("days").at(0).at("slots"), 11);
     EXPECT_EQ(All().size(), 4U);
+}
+
+TEST_F(ImportCommandTest, Import_SlotsThatWaitInTheRecorder_AreTaken)
+{
+    const auto midnight = Date::FromYearMonthDay(2006, 10, 2).Seconds();
+    WriteData("track.state",
+        "Tempodial track state 1\nslot\t" + std::to_string(midnight + 33000) + "\t300000\nempty\t"
+            + std::to_string((midnight + 33300) * 1000) + "\t" + std::to_string((midnight + 33301) * 1000) + "\nline\t"
+            + std::to_string(midnight) + "\t" + WordSlot(34200, 34500, "a.doc") + "\n");
+    EXPECT_EQ(Sightings(2, 2, { "--dry-run" }).at("days").at(0).at("taken"), 3);
+    EXPECT_EQ(Sightings(2, 2).at("days").at(0).at("taken"), 3);
 }
 
 TEST_F(ImportCommandTest, Import_DaysOfManyWeeks_LeaveNothingBehind)

@@ -90,6 +90,47 @@ TEST(DayWriterTest, Save_FileWasFinishedSince_MakesANewOne)
     EXPECT_EQ(folder.Read(DayName), HeadingLine + TextAt(86100));
 }
 
+TEST(DayWriterTest, Save_FileWasFinishedSince_GoesOnWithNothing)
+{
+    const TempFolder folder;
+    DayWriter writer(folder.Path());
+    writer.Add(SlotAt(0));
+    writer.Save(60);
+    std::filesystem::remove(folder.Path(DayName));
+    writer.Add(SlotAt(300, true));
+    writer.Save(60);
+    EXPECT_EQ(folder.Read(DayName), HeadingLine + TextAt(300));
+}
+
+TEST(DayWriterTest, Restore_LinesThatWaited_AreSavedUnlessTheyAreThere)
+{
+    const TempFolder folder;
+    DayWriter first(folder.Path());
+    first.Add(SlotAt(0));
+    first.Add(SlotAt(300));
+    const auto unsaved = first.Unsaved();
+    EXPECT_EQ(first.SlotsOn(WriterMidnight()), 0);
+    folder.Write(DayName, HeadingLine + TextAt(0));
+    DayWriter second(folder.Path());
+    second.Restore(unsaved);
+    EXPECT_EQ(second.WrittenUntil(WriterMidnight()), 600);
+    EXPECT_EQ(second.SlotsOn(WriterMidnight()), 1);
+    second.Save(60);
+    EXPECT_EQ(folder.Read(DayName), HeadingLine + TextAt(0) + TextAt(300));
+    EXPECT_EQ(second.SlotsOn(WriterMidnight()), 2);
+}
+
+TEST(DayWriterTest, Erase_LinesThatWait_AreGoneFromTheMomentOn)
+{
+    const TempFolder folder;
+    DayWriter writer(folder.Path());
+    writer.Add(SlotAt(0));
+    writer.Add(SlotAt(300));
+    EXPECT_EQ(writer.Erase(WriterMidnight(), 300, 0).forgotten, 1);
+    writer.Save(60);
+    EXPECT_EQ(folder.Read(DayName), HeadingLine + TextAt(0));
+}
+
 TEST(DayWriterTest, Save_DiskIsFull_LosesAndDoublesNothing)
 {
     const TempFolder folder;

@@ -191,14 +191,71 @@ TEST_F(ProfileRecorderTest, Answer_Project_IsKeptUntilItIsTakenBack)
 TEST_F(ProfileRecorderTest, Answer_Forget_TakesOutLinesAndWhatWaits)
 {
     Work(22);
-    const auto answer = Ask("do=forget\nlast=720000\ntaken=0");
+    const auto answer = Ask("do=forget\nlast=720000\ntaken20261120=0");
     EXPECT_EQ(answer.Get("forgotten"), "1");
     EXPECT_EQ(answer.Get("kept"), "0");
     mRecorder->End(mNow);
     EXPECT_THAT(Day(), HasSubstr("<EndTime>36600</EndTime>"));
     EXPECT_EQ(Day().find("<EndTime>36900</EndTime>"), std::string::npos);
     EXPECT_EQ(Day().find("<EndTime>37200</EndTime>"), std::string::npos);
-    EXPECT_EQ(Ask("do=forget\nlast=7200000\ntaken=1").Get("kept"), "1");
+    EXPECT_EQ(Ask("do=forget\nlast=7200000\ntaken20261120=1").Get("kept"), "1");
+}
+
+TEST_F(ProfileRecorderTest, Answer_ForgetBehindMidnight_TakesOutYesterdaysLines)
+{
+    mNow.local += std::int64_t { 13 } * 3600000 + std::int64_t { 45 } * 60000;
+    Work(22);
+    mRecorder->End(mNow);
+    ASSERT_THAT(Day(), HasSubstr("<EndTime>86400</EndTime>"));
+    mFolder.Write(
+        "Tempodial/tracker_granules(done)20261119.out", "heading\r\n<slot><EndTime>86400</EndTime></slot>\r\n");
+    const auto answer = Ask("do=forget\nlast=90000000\ntaken20261120=1\ntaken20261121=0");
+    EXPECT_EQ(answer.Get("forgotten"), "3");
+    EXPECT_EQ(answer.Get("kept"), "2");
+    EXPECT_EQ(Day().find("<EndTime>86400</EndTime>"), std::string::npos);
+}
+
+TEST_F(ProfileRecorderTest, Answer_ForgetOfAFileThatNobodyLookedAt_LeavesIt)
+{
+    Work(12);
+    mRecorder->End(mNow);
+    EXPECT_EQ(Ask("do=forget\nlast=7200000").Get("forgotten"), "0");
+    EXPECT_THAT(Day(), HasSubstr("<EndTime>36600</EndTime>"));
+}
+
+/// A folder in the place of the day's file, so that nothing can be written to it.
+TEST_F(ProfileRecorderTest, End_DayCantBeWritten_KeepsItForTheNextStart)
+{
+    Work(6);
+    const auto path = mFolder.Path("Tempodial/tracker_granules20261120.out");
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    Work(16);
+    EXPECT_EQ(Ask("do=status").Get("slots"), "0");
+    EXPECT_FALSE(mRecorder->End(mNow));
+    EXPECT_THAT(mWarnings.back(), HasSubstr("track.state"));
+    std::filesystem::remove(path);
+    Make();
+    Work(1);
+    EXPECT_TRUE(mRecorder->End(mNow));
+    EXPECT_EQ(mFolder.Read("Tempodial/track.state").find("line\t"), std::string::npos);
+    EXPECT_THAT(Day(), HasSubstr("<EndTime>37200</EndTime>"));
+    EXPECT_EQ(Day().find("<EndTime>36900</EndTime>"), Day().rfind("<EndTime>36900</EndTime>"));
+    Make();
+    EXPECT_EQ(Ask("do=status").Get("slots"), "5");
+}
+
+TEST_F(ProfileRecorderTest, Answer_StateCantBeWritten_IsRefused)
+{
+    Work(3);
+    const auto path = mFolder.Path("Tempodial/track.state");
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    mFolder.Write("Tempodial/track.state/x", "x");
+    for (const auto* request : { "do=pause", "do=resume", "do=project\nname=A", "do=forget\nlast=60000" }) {
+        EXPECT_THAT(Ask(request).Get("error"), HasSubstr("track.state")) << request;
+    }
+    EXPECT_FALSE(Ask("do=project").Has("error"));
 }
 
 TEST_F(ProfileRecorderTest, State_ShorterThanBefore_KeepsNothingOfThat)

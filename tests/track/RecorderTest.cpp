@@ -7,7 +7,9 @@ namespace tempodial {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 class RecorderTest : public RecorderFixture
@@ -261,7 +263,7 @@ TEST_F(RecorderTest, Pause_NothingIsWrittenUntilItEnds)
 {
     Front("editor", "a");
     Work(5);
-    mRecorder->Pause(mNow, mNow.local + 20 * 60000);
+    mRecorder->Pause(mNow, 20 * 60000);
     Work(30);
     Finish();
     EXPECT_THAT(Written(), ElementsAre("10:00-10:05 Editor, a", "10:25-10:30 Editor, a", "+10:30-10:35 Editor, a"));
@@ -300,6 +302,43 @@ TEST_F(RecorderTest, Forget_TimeThatWaits_IsNotWritten)
     mRecorder->Forget(mNow.local - 10 * 60000);
     Finish();
     EXPECT_THAT(Written(), IsEmpty());
+}
+
+TEST_F(RecorderTest, Forget_NothingWaits_LeavesNoWordsOfTheActivity)
+{
+    Front("editor", "a secret");
+    Work(15);
+    Lock(true);
+    Rest(1);
+    Lock(false);
+    mRecorder->Forget(mNow.local - 60 * 60000);
+    Front("editor", "b");
+    Work(10);
+    Finish();
+    EXPECT_THAT(Content().substr(Content().rfind("<slot>")), Not(HasSubstr("secret")));
+}
+
+TEST_F(RecorderTest, Forget_SlotThatWaitsEndsBefore_IsWritten)
+{
+    Front("editor", "a");
+    Work(7);
+    mRecorder->Forget(mNow.local - 60000);
+    Finish();
+    EXPECT_THAT(Written(), ElementsAre("10:00-10:05 Editor, a"));
+}
+
+TEST_F(RecorderTest, Pause_ClockIsPut_LastsAsLongAsItWasSaid)
+{
+    Front("editor", "a");
+    mRecorder->Pause(mNow, 20 * 60000);
+    PutClock(3600);
+    Work(15);
+    EXPECT_TRUE(mRecorder->IsPaused());
+    Restart();
+    Work(4);
+    EXPECT_TRUE(mRecorder->IsPaused());
+    Work(2);
+    EXPECT_FALSE(mRecorder->IsPaused());
 }
 
 TEST_F(RecorderTest, Restore_KilledAtAnyTick_LosesNothingAndDoublesNothing)

@@ -22,6 +22,7 @@ TrackState WholeState()
     state.input = 99;
     state.patience = 180000;
     state.slots = { { .start = 600, .presence = 30000, .views = { { view, 29000 } } } };
+    state.unsaved = { { 86400, "<slot>a\tb</slot>" } };
     state.stretches = { { 900000, 905000, view }, { 905000, 906000, std::nullopt } };
     return state;
 }
@@ -36,6 +37,7 @@ TEST(TrackStateTest, Of_ItsOwnText_IsTheSame)
     ASSERT_EQ(state.slots[0].views.size(), 1U);
     EXPECT_EQ(state.slots[0].views[0].view, WholeState().slots[0].views[0].view);
     EXPECT_EQ(state.stretches, WholeState().stretches);
+    EXPECT_EQ(state.unsaved, WholeState().unsaved);
 }
 
 TEST(TrackStateTest, Of_PauseWithoutAnEnd_IsOne)

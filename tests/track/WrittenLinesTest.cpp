@@ -31,6 +31,13 @@ TEST(WrittenLinesTest, Of_NothingOrOnlyAHeading_HasNoEnd)
     EXPECT_EQ(WrittenLines::Of(Heading + LineAt(300) + "nonsense\r\n").end, 300);
 }
 
+TEST(WrittenLinesTest, LinesBehind_WhatEndsBehindASecond_StaysWithWhatIsToldOfIt)
+{
+    EXPECT_EQ(LinesBehind(LineAt(300) + LineAt(600, Told) + LineAt(600) + LineAt(900, Told) + LineAt(900), 600),
+        LineAt(900, Told) + LineAt(900));
+    EXPECT_EQ(LinesBehind("", 0), "");
+}
+
 TEST(WrittenLinesTest, EraseLines_BehindAMoment_TakesWhatIsToldOfThemToo)
 {
     auto content = Heading + LineAt(300) + LineAt(300, Told) + LineAt(600) + LineAt(600, Told) + LineAt(900);
