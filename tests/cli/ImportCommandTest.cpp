@@ -1,3 +1,4 @@
+#include "base/Date.h"
 #include "session/ProfileFolder.h"
 #include "base/Date.h"
 #include "support/ProgramFixture.h"
