@@ -37,10 +37,10 @@ constexpr auto ImportedProgramsFile = "/programs.toml";
 constexpr auto PrivacyRulesFile = "/track.toml";
 
 /// Reads a calendar by the module that can.
-bool ReadCalendar(const std::string& text, std::int64_t until, CalendarContent& content)
+bool ReadCalendar(const std::string& text, const CalendarSpan& span, CalendarContent& content)
 {
     const ProgramModule module(ProgramModule::PathOf(CalendarModule));
-    return module.Get<CalendarTextReader>(CalendarTextReaderName)(text, until, content);
+    return module.Get<CalendarTextReader>(CalendarTextReaderName)(text, span, content);
 }
 
 /// What has become of an import's plan.
@@ -106,7 +106,7 @@ public:
         const auto views = Views(profile);
         SourceFile file(*mFile);
         const auto decoded = [](std::string line) { return DecodedLine(std::move(line)); };
-        const SourceSettings settings { *zone, range.now, dates, asSightings, decoded, ReadCalendar };
+        const SourceSettings settings { *zone, range.now, dates, asSightings, decoded, ReadCalendar, range.from };
         ImportPlan plan(range, views);
         TakeSource(source, file, settings, plan);
         return mIsDryRun ? Preview(options, plan) : Import(options, plan);

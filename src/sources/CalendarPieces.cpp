@@ -1,6 +1,7 @@
 #include "sources/CalendarPieces.h"
 
 #include "base/Text.h"
+#include "sources/CutText.h"
 #include "sources/SourceReader.h"
 
 #include <utility>
@@ -19,6 +20,7 @@ constexpr auto EventPart = "vevent";
 constexpr auto ZonePart = "vtimezone";
 constexpr std::string_view ZoneName = "TZID:";
 constexpr std::string_view ZoneParameter = ";TZID=";
+constexpr std::string_view LineEnd = "\r\n";
 constexpr auto CalendarEnd = "END:VCALENDAR\r\n";
 
 /// What a line begins or ends, folded; empty when it does neither.
@@ -68,7 +70,10 @@ bool CalendarPieces::ReadLine()
     if (mLine.ends_with('\r')) {
         mLine.pop_back();
     }
-    mSkipped.Add(Skipped::TooBig, isCut ? 1 : 0);
+    if (isCut) {
+        DropCutLetter(mLine);
+        mSkipped.Add(Skipped::TooBig);
+    }
     return hasAny;
 }
 
@@ -77,7 +82,10 @@ void CalendarPieces::TakeLine()
     const bool goesOn = mLine.starts_with(' ') || mLine.starts_with('\t');
     const auto before = std::exchange(mFieldBytes, goesOn ? mFieldBytes + mLine.size() : mLine.size());
     if (mFieldBytes > MostFieldBytes) {
-        mSkipped.Add(Skipped::TooBig, before <= MostFieldBytes ? 1 : 0);
+        if (before <= MostFieldBytes) {
+            mSkipped.Add(Skipped::TooBig);
+            EndCutField();
+        }
         return;
     }
     if (const auto part = PartOf(mLine, Begin); part == CalendarPart) {
@@ -102,19 +110,30 @@ void CalendarPieces::TakeLine()
     }
     if (mPart == EventPart) {
         NoteZone();
-        (mEvents += mLine) += "\r\n";
+        (mEvents += mLine) += LineEnd;
     } else if (mPart.empty() || mPart == ZonePart) {
         if (mLine.starts_with(ZoneName)) {
             const auto zone = mLine.substr(ZoneName.size());
             mAwaitedZones.erase(zone);
             mZones.insert(zone);
         }
-        (mFrame += mLine) += "\r\n";
+        (mFrame += mLine) += LineEnd;
     }
     if (!mPart.empty() && ended == mPart) {
         mPart.clear();
         if (mEvents.size() >= (mAwaitedZones.empty() ? PieceBytes : WaitingBytes)) {
             EndPiece();
+        }
+    }
+}
+
+void CalendarPieces::EndCutField()
+{
+    for (auto* text : { &mEvents, &mFrame }) {
+        if (text->ends_with(LineEnd)) {
+            text->resize(text->size() - LineEnd.size());
+            DropCutLetter(*text);
+            *text += LineEnd;
         }
     }
 }

@@ -31,6 +31,8 @@ public:
 private:
     bool ReadLine();
     void TakeLine();
+    /// The field in hand goes on with what is left out: it ends with a whole letter.
+    void EndCutField();
     /// Notes the zone that an event's line is told in, unless it is known.
     void NoteZone();
     void EndPiece();

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <istream>
+#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -30,6 +31,8 @@ struct SourceSettings
     std::function<std::string(std::string text)> decode;
     /// Reads the text of a calendar.
     std::function<std::remove_pointer_t<CalendarTextReader>> readCalendar = nullptr;
+    /// The first day that is asked for; what is before it needn't be read.
+    std::optional<Date> from = {};
 };
 
 /// Reads what another program exports.

@@ -16,11 +16,11 @@ namespace tempodial {
 
 namespace {
 
-bool ReadFuzzedCalendar(const std::string& text, std::int64_t until, CalendarContent& content)
+bool ReadFuzzedCalendar(const std::string& text, const CalendarSpan& span, CalendarContent& content)
 {
     static const auto read
         = ProgramModule(ProgramModule::PathOf(CalendarModule)).Get<CalendarTextReader>(CalendarTextReaderName);
-    return read(text, until, content);
+    return read(text, span, content);
 }
 
 void PlanAs(const Source& source, std::string_view input, bool asSightings)

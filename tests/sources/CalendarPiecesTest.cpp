@@ -1,5 +1,7 @@
 #include "sources/CalendarPieces.h"
 
+#include "base/Utf8.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -136,6 +138,26 @@ TEST_F(CalendarPiecesTest, Next_NoCalendar_GivesNothing)
 {
     EXPECT_TRUE(Pieces("start,end\nBEGIN:VEVENT\n").empty());
     EXPECT_FALSE(mHasCalendar);
+}
+
+TEST_F(CalendarPiecesTest, Next_FieldCutInALetter_EndsWithAWholeOne)
+{
+    std::string letters;
+    for (int i = 0; i < 40000; ++i) {
+        letters += "\u00fc";
+    }
+    const auto lines = Pieces(Head + Event("SUMMARY:" + letters) + Event("SUMMARYX:" + letters) + "END:VCALENDAR\n");
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_TRUE(IsUtf8(lines[0]));
+    std::string folded = "SUMMARY:x";
+    for (int i = 0; i < 2000; ++i) {
+        // Each line ends with the first half of a letter.
+        folded += std::string(40, 'y') + "\xc3\r\n \xbc";
+    }
+    const auto pieces = Pieces(Head + Event(folded) + "END:VCALENDAR\n");
+    ASSERT_EQ(pieces.size(), 1U);
+    EXPECT_THAT(pieces[0], HasSubstr("yy\r\nEND:VEVENT"));
+    EXPECT_EQ(mSkipped.Count(Skipped::TooBig), 3);
 }
 
 }

@@ -13,9 +13,6 @@ namespace tempodial {
 
 namespace {
 
-/// The most times that one event is followed.
-constexpr int MostTimes = 100000;
-
 struct FreeComponent
 {
     void operator()(icalcomponent* component) const { icalcomponent_free(component); }
@@ -62,13 +59,14 @@ std::size_t SeriesOf(icalcomponent* event)
 class CalendarReading
 {
 public:
-    CalendarReading(icalcomponent* calendar, std::int64_t until, CalendarContent& content)
-        : mUntil(until)
+    CalendarReading(icalcomponent* calendar, const CalendarSpan& span, CalendarContent& content)
+        : mSpan(span)
         , mContent(content)
     {
         ReadOwner(calendar);
         NoteMoved(calendar);
-        for (auto* event = icalcomponent_get_first_component(calendar, ICAL_VEVENT_COMPONENT); event != nullptr;
+        for (auto* event = icalcomponent_get_first_component(calendar, ICAL_VEVENT_COMPONENT);
+             event != nullptr && !mContent.HasTooMany();
              event = icalcomponent_get_next_component(calendar, ICAL_VEVENT_COMPONENT)) {
             Read(event);
         }
@@ -149,34 +147,52 @@ private:
             }
         }
         for (const auto time : times) {
-            if (time <= mUntil) {
+            if (time < mSpan.from) {
+                ++mContent.early;
+            } else if (time <= mSpan.until) {
                 mContent.events.push_back({ time, time + length, IsLocal(start),
                     TextOf(icalcomponent_get_summary(event)), isMoved ? 0 : SeriesOf(event) });
             }
         }
     }
 
-    void AddRepeated(icalcomponent* event, icaltimetype start, std::set<std::int64_t>& times) const
+    void AddRepeated(icalcomponent* event, icaltimetype start, std::set<std::int64_t>& times)
     {
-        for (auto* rule = icalcomponent_get_first_property(event, ICAL_RRULE_PROPERTY); rule != nullptr;
-             rule = icalcomponent_get_next_property(event, ICAL_RRULE_PROPERTY)) {
-            const std::unique_ptr<icalrecur_iterator, FreeIterator> iterator(
-                icalrecur_iterator_new(icalproperty_get_rrule(rule), start));
-            for (int count = 0; iterator && count < MostTimes; ++count) {
+        for (auto* property = icalcomponent_get_first_property(event, ICAL_RRULE_PROPERTY); property != nullptr;
+             property = icalcomponent_get_next_property(event, ICAL_RRULE_PROPERTY)) {
+            const auto rule = icalproperty_get_rrule(property);
+            const std::unique_ptr<icalrecur_iterator, FreeIterator> iterator(icalrecur_iterator_new(rule, start));
+            if (iterator) {
+                PassEarlyTimes(rule, start, *iterator);
+            }
+            while (iterator && !mContent.HasTooMany()) {
                 auto next = icalrecur_iterator_next(iterator.get());
                 if (icaltime_is_null_time(next) != 0) {
                     break;
                 }
                 next.zone = start.zone;
-                if (SecondsOf(next) > mUntil) {
+                if (SecondsOf(next) > mSpan.until) {
                     break;
                 }
                 times.insert(SecondsOf(next));
+                ++mContent.repeated;
             }
         }
     }
 
-    static void AddDates(icalcomponent* event, std::set<std::int64_t>& times)
+    /// What repeats by the hour or faster has so many times that those before the span are passed uncounted.
+    void PassEarlyTimes(const icalrecurrencetype& rule, icaltimetype start, icalrecur_iterator& iterator) const
+    {
+        const bool isFast = rule.freq == ICAL_SECONDLY_RECURRENCE || rule.freq == ICAL_MINUTELY_RECURRENCE
+            || rule.freq == ICAL_HOURLY_RECURRENCE;
+        if (isFast && rule.count == 0 && SecondsOf(start) < mSpan.from) {
+            auto from = icaltime_from_timet_with_zone(mSpan.from, 0, start.zone);
+            from.zone = start.zone;
+            icalrecur_iterator_set_start(&iterator, from);
+        }
+    }
+
+    void AddDates(icalcomponent* event, std::set<std::int64_t>& times)
     {
         for (auto* date = icalcomponent_get_first_property(event, ICAL_RDATE_PROPERTY); date != nullptr;
              date = icalcomponent_get_next_property(event, ICAL_RDATE_PROPERTY)) {
@@ -186,6 +202,7 @@ private:
                 : icalproperty_get_datetime_with_component(date, event);
             if (icaltime_is_null_time(time) == 0) {
                 times.insert(SecondsOf(time));
+                ++mContent.repeated;
             }
         }
     }
@@ -203,25 +220,25 @@ private:
         times.erase(SecondsOf(except));
     }
 
-    std::int64_t mUntil;
+    CalendarSpan mSpan;
     CalendarContent& mContent;
     std::string mOwner;
 };
 
-bool ReadCalendars(const std::string& text, std::int64_t until, CalendarContent& content)
+bool ReadCalendars(const std::string& text, const CalendarSpan& span, CalendarContent& content)
 {
     const std::unique_ptr<icalcomponent, FreeComponent> root(icalparser_parse_string(text.c_str()));
     if (!root) {
         return false;
     }
     if (icalcomponent_isa(root.get()) == ICAL_VCALENDAR_COMPONENT) {
-        const CalendarReading reading(root.get(), until, content);
+        const CalendarReading reading(root.get(), span, content);
         return true;
     }
     bool hasCalendar = false;
     for (auto* calendar = icalcomponent_get_first_component(root.get(), ICAL_VCALENDAR_COMPONENT); calendar != nullptr;
          calendar = icalcomponent_get_next_component(root.get(), ICAL_VCALENDAR_COMPONENT)) {
-        const CalendarReading reading(calendar, until, content);
+        const CalendarReading reading(calendar, span, content);
         hasCalendar = true;
     }
     return hasCalendar;
@@ -232,11 +249,11 @@ bool ReadCalendars(const std::string& text, std::int64_t until, CalendarContent&
 }
 
 extern "C" __attribute__((visibility("default"))) bool TempodialReadCalendar(
-    const std::string& text, std::int64_t until, tempodial::CalendarContent& content)
+    const std::string& text, const tempodial::CalendarSpan& span, tempodial::CalendarContent& content)
 {
     // What can't be read is an answer and no reason to end the program.
     icalerror_set_errors_are_fatal(0);
-    return tempodial::ReadCalendars(text, until, content);
+    return tempodial::ReadCalendars(text, span, content);
 }
 
 static_assert(std::is_same_v<decltype(&TempodialReadCalendar), tempodial::CalendarTextReader>);

@@ -32,10 +32,30 @@ struct CalendarContent
     std::int64_t cancelled = 0;
     std::int64_t declined = 0;
     std::int64_t unreadable = 0;
+    /// Times before the span that is read.
+    std::int64_t early = 0;
+    /// Times that repeated events come to so far; with more than there may be nothing is read any more.
+    std::int64_t repeated = 0;
+    bool HasTooMany() const;
 };
 
-/// Reads a calendar's text, up to a moment in seconds since 1970, and adds what it holds; false when it is no calendar.
-using CalendarTextReader = bool (*)(const std::string& text, std::int64_t until, CalendarContent& content);
+/// The most times that the repeated events of a calendar may come to.
+inline constexpr std::int64_t MostRepeatedTimes = 500'000;
+
+inline bool CalendarContent::HasTooMany() const
+{
+    return repeated > MostRepeatedTimes;
+}
+
+/// The times that are read: seconds since 1970, both ends included.
+struct CalendarSpan
+{
+    std::int64_t from = 0;
+    std::int64_t until = 0;
+};
+
+/// Reads a calendar's text, of the times in a span, and adds what it holds; false when it is no calendar.
+using CalendarTextReader = bool (*)(const std::string& text, const CalendarSpan& span, CalendarContent& content);
 
 /// The module that reads calendars, and the name of its one function, a `CalendarTextReader`.
 inline constexpr auto CalendarModule = "tempodial-calendar";
