@@ -1,7 +1,6 @@
 #include "cli/ImportRun.h"
 
 #include "base/Failure.h"
-#include "cli/CommandError.h"
 #include "cli/Interruption.h"
 #include "host/settings/TomlSettings.h"
 #include "host/store/LineMemory.h"
@@ -121,7 +120,7 @@ void ImportRun::ClosePlanned()
         }
     }
     if (!planned.empty()) {
-        SaveLedger();
+        TrySave();
     }
 }
 
@@ -146,26 +145,60 @@ void ImportRun::WriteWindow(const Window& window)
     if (window.empty()) {
         return;
     }
-    if (Interruption::IsRequested()) {
-        for (const auto& [day, planned] : window) {
-            planned->LeaveUnwritten();
-        }
+    const bool goesOn = !mHasFailed && !Interruption::IsRequested();
+    const auto written = goesOn ? WriteFiles(window) : 0;
+    for (std::size_t i = written; i < window.size(); ++i) {
+        mLedger.Close(window[i].first, false);
+        window[i].second->LeaveUnwritten();
+    }
+    if (!goesOn) {
         return;
     }
-    for (const auto& [day, planned] : window) {
-        mLedger.Plan(day, planned->written);
+    if (written > 0) {
+        SyncUpTo(window.front().first.AddDays(SavedDataDays));
     }
-    SaveLedger();
-    for (const auto& [day, planned] : window) {
-        WriteDay(day, *planned);
-    }
-    SyncUpTo(window.front().first.AddDays(SavedDataDays));
-    for (const auto& [day, planned] : window) {
-        if (!IsWaiting(day)) {
-            mLedger.Close(day, true);
+    for (std::size_t i = 0; i < written; ++i) {
+        if (!IsWaiting(window[i].first)) {
+            mLedger.Close(window[i].first, true);
         }
     }
-    SaveLedger();
+    TrySave();
+}
+
+std::size_t ImportRun::WriteFiles(const Window& window)
+{
+    std::size_t written = 0;
+    try {
+        for (const auto& [day, planned] : window) {
+            mLedger.Plan(day, planned->written);
+        }
+        SaveLedger();
+        for (const auto& [day, planned] : window) {
+            WriteDay(day, *planned);
+            ++written;
+        }
+    } catch (const CommandError& error) {
+        Fail(error);
+    }
+    return written;
+}
+
+void ImportRun::TrySave()
+{
+    try {
+        SaveLedger();
+    } catch (const CommandError& error) {
+        Fail(error);
+    }
+}
+
+void ImportRun::Fail(const CommandError& error)
+{
+    // What fails once on a disk fails again, and is told once.
+    if (!mHasFailed) {
+        mRun.Complain(error.what());
+    }
+    mHasFailed = true;
 }
 
 void ImportRun::WriteDay(Date day, const PlannedDay& planned)

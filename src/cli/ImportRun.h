@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/CommandError.h"
 #include "cli/ConnectedRun.h"
 #include "slots/Presence.h"
 #include "sources/ImportLedger.h"
@@ -38,16 +39,20 @@ public:
     /// and whose files are there all the same.
     std::vector<Date> SyncWaiting();
     /// Writes what was planned and imports it; ends early when the user asks for it, and then days that it hasn't come
-    /// to have nothing that is written.
+    /// to have nothing that is written. So too from a day on that can't be written, which goes wrong.
     void Write(ImportPlan::Days& days);
-    /// Writes the ledger into its file.
-    void SaveLedger();
 
 private:
     using Window = std::vector<std::pair<Date, PlannedDay*>>;
 
     void WriteWindow(const Window& window);
+    /// Writes the files of a window's days; answers how many there are.
+    std::size_t WriteFiles(const Window& window);
     void WriteDay(Date day, const PlannedDay& planned);
+    /// Writes the ledger into its file. `TrySave` lets it go wrong where that fails.
+    void SaveLedger();
+    void TrySave();
+    void Fail(const CommandError& error);
     void SyncUpTo(Date today);
     void ClosePlanned();
     void NotePlanned();
@@ -62,6 +67,8 @@ private:
     Date mStart;
     std::chrono::steady_clock::time_point mStartedAt = std::chrono::steady_clock::now();
     ImportLedger mLedger;
+    /// True when something couldn't be written: then nothing more is.
+    bool mHasFailed = false;
     /// The keys of the days that the ledger's file has as planned.
     std::set<std::string> mPlannedDays;
 };

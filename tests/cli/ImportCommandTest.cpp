@@ -309,6 +309,64 @@ TEST_F(ImportCommandTest, Import_Calendar_FillsFreeTimeWithMeetings)
     EXPECT_THAT(RefusalOf("ics", "x"), HasSubstr("BEGIN:VCALENDAR"));
 }
 
+TEST_F(ImportCommandTest, Import_EventsThatRepeatWithoutMeasure_AreRefusedWithTheLimit)
+{
+    std::string calendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
+    for (int i = 0; i < 40; ++i) {
+        calendar += "BEGIN:VEVENT\r\nUID:" + std::to_string(i)
+            + "\r\nDTSTART:20060101T090000\r\nDURATION:PT1S\r\nSUMMARY:x\r\nRRULE:FREQ=SECONDLY\r\nEND:VEVENT\r\n";
+    }
+    EXPECT_THAT(RefusalOf("ics", calendar + "END:VCALENDAR\r\n", 1), HasSubstr("500000"));
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+}
+
+TEST_F(ImportCommandTest, Import_EventByTheHourForManyYears_ComesToTheDaysAskedFor)
+{
+    const auto calendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VEVENT\r\nUID:1\r\nDTSTART:19950101T000000\r\n"
+                          "DURATION:PT10M\r\nSUMMARY:Round\r\nRRULE:FREQ=HOURLY\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n";
+    const auto answer = Import("ics", calendar, { "--from", "2006-10-02", "--to", "2006-10-02" });
+    EXPECT_EQ(answer.at("days"), json::parse(R"([{"day":"2006-10-02","slots":0,"entries":24,"taken":0,"before":0}])"));
+    EXPECT_EQ(answer.at("created"), 24);
+}
+
+TEST_F(ImportCommandTest, Import_FoldedInTheMiddleOfALetter_KeepsTheLetter)
+{
+    const auto calendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VEVENT\r\nUID:1\r\nDTSTART:20061002T090000\r\n"
+                          "DURATION:PT10M\r\nSUMMARY:B\xc3\r\n \xbcro\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n";
+    Import("ics", calendar);
+    EXPECT_EQ(Subjects(All()), (std::vector<std::string> { "Meeting, \"B\u00fcro\"" }));
+}
+
+TEST_F(ImportCommandTest, Import_ProjectOfASighting_ComesToTheLog)
+{
+    const auto table = "start,end,program,title,project\n2006-10-02T09:00,2006-10-02T09:30,atlas,map,Riverside\n";
+    Import("csv", table, { "--as", "sightings" });
+    ASSERT_EQ(All().size(), 1U);
+    EXPECT_EQ(All()[0].at("subject"), "[Riverside] Atlas, \"map\"");
+}
+
+TEST_F(ImportCommandTest, Import_RulesBehindALinkToNothing_AreMissedByName)
+{
+    std::filesystem::create_directories(mProfile);
+    std::filesystem::create_symlink(mFolder.Path("none"), mProfile + "/track.toml");
+    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 1), HasSubstr("track.toml"));
+    EXPECT_FALSE(std::filesystem::exists(mProfile + "/Tempodial"));
+}
+
+TEST_F(ImportCommandTest, Import_DayThatCanNotBeWritten_IsAnsweredWithWhatWas)
+{
+    std::filesystem::create_directories(DataPath("imported-day.tmp"));
+    const auto result = Run({ "--json", "import", "csv", File(Table(2, 3)), "--as", "sightings" });
+    EXPECT_EQ(result.status, 1);
+    const auto answer = json::parse(result.out);
+    EXPECT_EQ(answer.at("days")[0].at("slots"), 0);
+    EXPECT_EQ(answer.at("minutes"), json::parse(R"({"present":120,"written":0})"));
+    EXPECT_EQ(answer.at("created"), 0);
+    EXPECT_THAT(result.error, HasSubstr("20061002 couldn't be written"));
+    std::filesystem::remove_all(DataPath("imported-day.tmp"));
+    EXPECT_EQ(Sightings(2, 3).at("created"), 4);
+}
+
 TEST_F(ImportCommandTest, Import_BucketsOfNoUse_AreNamed)
 {
     const auto file = File(R"({"buckets":{"aw-watcher-vim_box":{"type":"app.editor.activity","events":[]}}})");

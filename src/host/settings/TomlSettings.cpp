@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "host/files/FileDescriptor.h"
+#include "host/files/PathOperations.h"
 #include "host/settings/TomlNesting.h"
 
 #include <toml++/toml.h>
@@ -22,7 +23,12 @@ std::string SettingsContent(const std::string& path)
         const FileDescriptor file(NativePath::Exactly(path), Opening::Reading);
         return file.ReadAll(LargestSettings);
     } catch (const Failure& failure) {
-        if (failure.Is(Error::FileNotFound) || failure.Is(Error::PathNotFound)) {
+        const bool isMissing = failure.Is(Error::FileNotFound) || failure.Is(Error::PathNotFound);
+        if (isMissing && StatusAt(NativePath::Exactly(path), Links::Taken)) {
+            throw SettingsFileError(
+                path, "it is a link to a file that isn't there: bring that file back, or take the link away");
+        }
+        if (isMissing) {
             return {};
         }
         throw SettingsFileError(path,
