@@ -23,6 +23,7 @@ function(tempodial_folder name folder)
     endif()
     set_property(GLOBAL APPEND PROPERTY TEMPODIAL_FOLDERS ${name})
     set_property(GLOBAL PROPERTY TEMPODIAL_FOLDER_${name} "${folder}")
+    set_property(GLOBAL PROPERTY TEMPODIAL_EXCEPT_${name} "${arg_EXCEPT}")
 endfunction()
 
 # tempodial_collect(NAME PART...): one static library of object libraries, with their links.

@@ -2,6 +2,7 @@
 
 #include "desktop/qt/FlatButton.h"
 #include "desktop/qt/QtText.h"
+#include "host/windows/BarNames.h"
 #include "host/windows/HostCommandBarPopup.h"
 #include "session/ActivityGesture.h"
 
@@ -10,13 +11,6 @@
 #include <QMenuBar>
 
 namespace tempodial {
-
-namespace {
-
-constexpr auto MenuBarName = "Menu Bar";
-constexpr auto ButtonBarName = "Standard";
-
-}
 
 MainMenu::MainMenu(Desk& desk, Ref<HostExplorer> explorer, QMenuBar& menus, QBoxLayout& buttons, std::vector<Own> own)
     : mDesk(desk)

@@ -2,6 +2,7 @@
 
 #include "base/Failure.h"
 #include "base/Text.h"
+#include "host/windows/BarNames.h"
 #include "host/windows/BuiltInCommand.h"
 
 #include <algorithm>
@@ -53,8 +54,8 @@ void HostCommandBars::MakeForExplorer(const std::function<void(std::int32_t id)>
         return;
     }
     using Command = BuiltInCommand;
-    AddBuiltIn("Standard", BarPosition::Top, { Command::Print, Command::Delete, Command::Find, Command::Help });
-    AddBuiltIn("Menu Bar", BarPosition::MenuBar,
+    AddBuiltIn(ButtonBarName, BarPosition::Top, { Command::Print, Command::Delete, Command::Find, Command::Help });
+    AddBuiltIn(MenuBarName, BarPosition::MenuBar,
         { Command::FileMenu, Command::EditMenu, Command::ViewMenu, Command::GoMenu, Command::ToolsMenu,
             Command::ActionsMenu, Command::HelpMenu });
 }
@@ -65,7 +66,7 @@ void HostCommandBars::MakeForInspector(const std::function<void(std::int32_t id)
         return;
     }
     using Command = BuiltInCommand;
-    AddBuiltIn("Standard", BarPosition::Top,
+    AddBuiltIn(ButtonBarName, BarPosition::Top,
         { Command::SaveAndClose, Command::Print, Command::Delete, Command::PreviousItem, Command::NextItem,
             Command::Help });
 }

@@ -3,6 +3,7 @@
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/QtText.h"
+#include "host/windows/BarNames.h"
 #include "host/windows/HostCommandBarPopup.h"
 
 #include <QAction>
@@ -13,9 +14,6 @@
 namespace tempodial {
 
 namespace {
-
-constexpr auto MenuBarName = "Menu Bar";
-constexpr auto ButtonBarName = "Standard";
 
 using Lines = std::vector<std::string>;
 

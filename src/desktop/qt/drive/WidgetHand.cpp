@@ -10,6 +10,7 @@
 #include "driver/CommandBarsJson.h"
 #include "driver/DriverHost.h"
 #include "driver/RequestError.h"
+#include "host/windows/BarNames.h"
 
 #include <QMenuBar>
 #include <QTest>
@@ -21,9 +22,6 @@
 namespace tempodial {
 
 namespace {
-
-constexpr auto MenuBarName = "Menu Bar";
-constexpr auto ButtonBarName = "Standard";
 
 FlatButton* ButtonOf(MainWindow& window, const std::string& caption)
 {
