@@ -1,6 +1,5 @@
 #include "base/Date.h"
 #include "session/ProfileFolder.h"
-#include "base/Date.h"
 #include "support/ProgramFixture.h"
 
 namespace tempodial {
