@@ -15,6 +15,8 @@ inline constexpr auto KeptFolderName = "kept";
 inline constexpr auto FormFileName = "WorkLogForm.oft";
 /// The folder of templates that belongs to the program, in the tree that it lies in.
 inline constexpr auto TemplatesFolderName = "share/tempodial";
+/// The desktop program.
+inline constexpr auto DesktopProgramName = "tempodial-desktop";
 /// The mailbox, in the profile.
 inline constexpr auto MailboxFileName = "mailbox.db";
 /// The line on how the last sync has ended, in the profile.

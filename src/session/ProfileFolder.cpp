@@ -1,6 +1,7 @@
 #include "session/ProfileFolder.h"
 
 #include "host/files/PathOperations.h"
+#include "session/ProductFacts.h"
 #include "session/ProfileError.h"
 #include "session/ProfilePlace.h"
 
@@ -41,6 +42,14 @@ std::string NameOf(const std::optional<FolderDescriptor::LockHolder>& holder)
     return holder ? holder->program + " (process " + holder->process + ")" : "another process";
 }
 
+/// What to do about that process.
+std::string AdviceFor(const std::optional<FolderDescriptor::LockHolder>& holder)
+{
+    return holder && holder->program == DesktopProgramName
+        ? "the desktop program has it open: it imports by itself; close it, or wait with --wait SECONDS"
+        : "wait until that has ended, or name another with --profile";
+}
+
 }
 
 ProfileFolder::ProfileFolder(const std::string& path, std::chrono::seconds wait)
@@ -77,8 +86,9 @@ void ProfileFolder::Lock(std::chrono::seconds wait)
                 continue;
             }
             if (std::chrono::steady_clock::now() >= end) {
-                throw ProfileInUse("the profile " + mPath + " is in use by " + NameOf(mFolder->Holder())
-                    + ": wait until that has ended, or name another with --profile");
+                const auto holder = mFolder->Holder();
+                throw ProfileInUse(
+                    "the profile " + mPath + " is in use by " + NameOf(holder) + ": " + AdviceFor(holder));
             }
             std::this_thread::sleep_for(BetweenTrials);
         }
