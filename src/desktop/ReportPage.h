@@ -12,7 +12,9 @@ class ReportPage
 public:
     /// The width of a bar that stands for all of the time, in pixels.
     static constexpr int FullBar = 480;
-    static constexpr int BarHeight = 5;
+    /// A bar with the gap between its text and it.
+    static constexpr int BarHeight = 9;
+    static constexpr int BarGap = 4;
     /// Shorter ones couldn't be seen.
     static constexpr int LeastBar = 2;
     /// The address of the image of which bars are made.

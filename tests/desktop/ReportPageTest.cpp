@@ -16,8 +16,8 @@ std::string Bar(const std::string& percent)
 TEST(ReportPageTest, Bars_AreImagesAsLongAsTheirShares)
 {
     EXPECT_EQ(ReportPage::ForViewer("<th>A" + Bar("84") + "</th><th>B" + Bar("16") + "</th>"),
-        "<th>A<br><img src=\"bar:\" width=\"403\" height=\"5\"></th>"
-        "<th>B<br><img src=\"bar:\" width=\"77\" height=\"5\"></th>");
+        "<th>A<br><img src=\"bar:\" width=\"403\" height=\"9\"></th>"
+        "<th>B<br><img src=\"bar:\" width=\"77\" height=\"9\"></th>");
 }
 
 TEST(ReportPageTest, BarWidth_AnyShare_IsInProportionAndCanBeSeen)

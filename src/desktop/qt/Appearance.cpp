@@ -2,6 +2,7 @@
 
 #include "desktop/Contrast.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/ThemeStyle.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -23,7 +24,7 @@ void Appearance::Apply(Choice choice)
 {
     if (!mIsSystemDark) {
         mIsSystemDark = tempodial::IsDark(FromQt(QApplication::palette().color(QPalette::Window)));
-        QApplication::setStyle("Fusion");
+        QApplication::setStyle(new ThemeStyle);
     }
     mIsHighContrast = choice == Choice::HighContrast;
     mIsDark = choice == Choice::Dark || (choice != Choice::Light && *mIsSystemDark);

@@ -9,8 +9,10 @@
 #include "session/WorkLogFolder.h"
 #include "session/WorkWeek.h"
 
+#include <QCoreApplication>
 #include <cstdlib>
 #include <exception>
+#include <utility>
 
 namespace tempodial {
 
@@ -37,17 +39,30 @@ Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& 
     mAppearance.Apply(mSettings.appearance);
 }
 
-std::string Desk::UsualSettingsPath()
+std::string Desk::ConfigFolder()
 {
     const auto* config = std::getenv("XDG_CONFIG_HOME");
     if (config != nullptr && *config == '/') {
-        return std::string(config) + "/" + DesktopSettings::FileName;
+        return config;
     }
     const auto* home = std::getenv("HOME");
     if (home == nullptr || *home != '/') {
         throw ProfileError("the environment names no home: set HOME, or XDG_CONFIG_HOME");
     }
-    return std::string(home) + "/.config/" + DesktopSettings::FileName;
+    return std::string(home) + "/.config";
+}
+
+std::string Desk::UsualSettingsPath()
+{
+    return ConfigFolder() + "/" + DesktopSettings::FileName;
+}
+
+void Desk::Quit()
+{
+    // Windows are asked to close in the midst of this.
+    const auto stays = std::exchange(mStaysWhenClosed, false);
+    QCoreApplication::quit();
+    mStaysWhenClosed = stays;
 }
 
 void Desk::Start(const Ref<MessageBox>& messageBox)

@@ -40,6 +40,8 @@ public:
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
 
+    /// The user's folder of configurations; fails with `ProfileError` when the environment names no home.
+    static std::string ConfigFolder();
     /// The path of the user's settings; fails with `ProfileError` when the environment names no home.
     static std::string UsualSettingsPath();
 
@@ -66,6 +68,12 @@ public:
     /// The same of what nobody but the one that changes it looks at.
     void Remember(const std::function<void(DesktopSettings& settings)>& change);
 
+    /// True when the last window is only hidden when it is closed, since the tray brings it back.
+    bool StaysWhenClosed() const { return mStaysWhenClosed; }
+    void SetStaysWhenClosed(bool stays) { mStaysWhenClosed = stays; }
+    /// Ends the program, unless a window refuses to close.
+    void Quit();
+
     /// Does something that a person wants, whatever it meets: a failure is told. Then the mailbox tells what it has to
     /// tell, and the windows are brought up to date.
     void Do(const std::function<void()>& work) noexcept;
@@ -75,6 +83,8 @@ public:
     void Follow();
     /// The desktop is dark, or light, which matters when the program is to look as it does.
     void FollowSystem(bool isDark);
+    /// Brings the windows up to date at once.
+    void Show() { mEvents.Raise(&DeskEvents::Changed); }
     /// Tells that something went wrong.
     void Fail(const std::string& message) { mEvents.Raise(&DeskEvents::Failed, message); }
 
@@ -92,6 +102,7 @@ private:
     ColourBook mColours;
     Period::WeekStart mWeekStart;
     int mDepth = 0;
+    bool mStaysWhenClosed = false;
     std::chrono::steady_clock::time_point mFollowed;
     EventSource<DeskEvents> mEvents;
 };

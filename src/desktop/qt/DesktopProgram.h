@@ -1,5 +1,7 @@
 #pragma once
 
+#include "session/ProductFacts.h"
+#include "session/ProfileOptions.h"
 #include "terminal/ExitStatus.h"
 
 #include <ostream>
@@ -12,7 +14,7 @@ namespace tempodial {
 class DesktopProgram
 {
 public:
-    static constexpr auto Name = "tempodial-desktop";
+    static constexpr auto Name = DesktopProgramName;
 
     DesktopProgram(std::ostream& out, std::ostream& error)
         : mOut(out)
@@ -25,6 +27,7 @@ public:
 
 private:
     ExitStatus Execute(const std::vector<std::string>& arguments);
+    void RunWindows(const ProfileOptions& options);
 
     std::ostream& mOut;
     std::ostream& mError;

@@ -1,13 +1,28 @@
 #include "desktop/qt/HostWindows.h"
 
+#include "desktop/Neighbours.h"
 #include "desktop/qt/AgendaAccess.h"
+#include "desktop/qt/FormWindow.h"
+#include "desktop/qt/InspectorWindow.h"
 #include "desktop/qt/MainWindow.h"
+#include "desktop/qt/ReportWindow.h"
+#include "host/windows/BuiltInCommand.h"
+#include "review/ActivityReader.h"
 
 #include <algorithm>
 
 namespace tempodial {
 
 namespace {
+
+/// How far a job is stands in the window itself.
+constexpr auto ProgressFormClass = "ProgressBarForm";
+
+template <class Window> Window* FindWindow(const auto& windows, std::int32_t number)
+{
+    const auto found = windows.find(number);
+    return found == windows.end() ? nullptr : found->second.get();
+}
 
 /// Lets the windows go whose number none of the models has.
 template <class Windows, class Models> void DropGone(Windows& windows, const Models& models)
@@ -26,15 +41,23 @@ void HostWindows::Later::operator()(QWidget* window) const
     window->deleteLater();
 }
 
-HostWindows::HostWindows(Desk& desk)
+HostWindows::HostWindows(Desk& desk, Beginning beginning)
     : mDesk(desk)
+    , mIsHidden(beginning == Beginning::Hidden)
+    , mPages([&desk](const std::string& path) { desk.Profile().Surroundings().shell->Open(path); })
     , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
 {
     AgendaAccess::Install();
+    desk.Windows().SetOwnerCommands(ForModels());
     Follow();
 }
 
-HostWindows::~HostWindows() = default;
+HostWindows::~HostWindows()
+{
+    if (mDesk.Session().IsStarted()) {
+        mDesk.Windows().SetOwnerCommands({});
+    }
+}
 
 void HostWindows::Follow()
 {
@@ -45,18 +68,94 @@ void HostWindows::Follow()
         auto& window = mExplorers[explorer->Number()];
         if (!window) {
             window.reset(new MainWindow(mDesk, explorer));
-            window->show();
+            window->setVisible(!mIsHidden);
         }
     }
+    FollowForms();
+    FollowItems();
     if (hadAny && mExplorers.empty() && mWhenAllClosed) {
         mWhenAllClosed();
     }
 }
 
+void HostWindows::Raise()
+{
+    mIsHidden = false;
+    const auto active = mDesk.Windows().ActiveExplorer().As<HostExplorer>();
+    if (auto* window = active ? WindowOf(active) : nullptr) {
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->show();
+        window->raise();
+        window->activateWindow();
+    }
+}
+
+void HostWindows::FollowForms()
+{
+    const auto forms = mDesk.Session().Forms()->Forms();
+    DropGone(mForms, forms);
+    for (const auto& form : forms) {
+        if (form->Visible() && mForms.count(form->Number()) == 0 && form->Definition().className != ProgressFormClass) {
+            mForms[form->Number()].reset(new FormWindow(mDesk, form));
+        }
+    }
+}
+
+void HostWindows::FollowItems()
+{
+    const auto inspectors = mDesk.Windows().OpenInspectors();
+    DropGone(mItems, inspectors);
+    for (const auto& inspector : inspectors) {
+        auto& window = mItems[inspector->Number()];
+        if (!window) {
+            window.reset(NewWindow(inspector));
+            window->show();
+        }
+    }
+}
+
+ItemWindow* HostWindows::NewWindow(const Ref<HostInspector>& inspector)
+{
+    if (inspector->ShownMail()) {
+        return new ReportWindow(mDesk, inspector, mPages);
+    }
+    return new InspectorWindow(mDesk, inspector);
+}
+
+OwnerCommands HostWindows::ForModels()
+{
+    return { .InExplorer = {},
+        .InInspector =
+            [this](const Ref<HostInspector>& inspector, std::int32_t command) {
+                if (auto* window = WindowOf(inspector); window != nullptr && command == BuiltInCommand::Print) {
+                    window->Print();
+                }
+            },
+        .ItemsBeside =
+            [this](const Ref<HostInspector>& inspector, std::int32_t command) {
+                std::vector<Ref<StoreItem>> items;
+                const auto& item = inspector->ShownItem();
+                const auto side = command == BuiltInCommand::PreviousItem ? Side::Before : Side::Behind;
+                for (const auto& activity : NeighboursOf(mDesk.Profile(), item ? item->Number() : 0, side)) {
+                    items.push_back(ItemNumbered(mDesk.Profile(), activity.number));
+                }
+                return items;
+            } };
+}
+
 MainWindow* HostWindows::WindowOf(const Ref<HostExplorer>& explorer) const
 {
-    const auto found = mExplorers.find(explorer->Number());
-    return found == mExplorers.end() ? nullptr : found->second.get();
+    return FindWindow<MainWindow>(mExplorers, explorer->Number());
+}
+
+FormWindow* HostWindows::WindowOf(const Ref<FormModel>& form) const
+{
+    return FindWindow<FormWindow>(mForms, form->Number());
+}
+
+ItemWindow* HostWindows::WindowOf(const Ref<HostInspector>& inspector) const
+{
+    return FindWindow<ItemWindow>(mItems, inspector->Number());
 }
 
 }

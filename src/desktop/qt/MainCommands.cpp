@@ -3,7 +3,9 @@
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/QtText.h"
 #include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/SettingsDialog.h"
 #include "desktop/qt/SidePanel.h"
 #include "host/windows/BuiltInCommand.h"
 #include "session/ProductFacts.h"
@@ -33,7 +35,7 @@ void MainCommands::MakeActions()
         mDesk.Do([this] { mDesk.Windows().OpenExplorer(mDesk.Windows().ActiveExplorer()->CurrentFolder()); });
     });
     mActions.Add(Command::FileMenu, "&Close", QKeySequence::Close, [this] { mWindow.close(); });
-    mActions.Add(Command::FileMenu, "&Quit", QKeySequence::Quit, [] { QCoreApplication::quit(); });
+    mActions.Add(Command::FileMenu, "&Quit", QKeySequence::Quit, [this] { mDesk.Quit(); });
     mActions.Add(Command::EditMenu, "&Undo", QKeySequence::Undo, [this] { mWindow.Undo(); });
     mActions.Add(Command::EditMenu, "&Redo", QKeySequence("Ctrl+Shift+Z"), [this] { mWindow.Redo(); });
     mActions.AddLine(Command::EditMenu);
@@ -56,6 +58,15 @@ void MainCommands::MakeActions()
     mActions.Add(Command::ActionsMenu, "Make a &Rule\u2026", {}, [this] { mWindow.MakeRule(); });
     mActions.Add(Command::ToolsMenu, "Refresh &Now", QKeySequence("F5"),
         [this] { mDesk.Do([this] { mDesk.Session().AddIn().SyncData(SavedDataDays, true); }); });
+    mActions.AddLine(Command::ToolsMenu);
+    mActions.Add(Command::ToolsMenu, "&Settings\u2026", QKeySequence("Ctrl+,"), [this] { ShowSettings(); });
+}
+
+void MainCommands::ShowSettings()
+{
+    const Autostart autostart(
+        Desk::ConfigFolder() + "/" + Autostart::FileName, FromQt(QCoreApplication::applicationFilePath()));
+    (new SettingsDialog(mDesk, autostart, &mWindow))->show();
 }
 
 void MainCommands::MakeViewActions()

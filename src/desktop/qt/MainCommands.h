@@ -29,6 +29,7 @@ private:
 
     void MakeActions();
     void MakeViewActions();
+    void ShowSettings();
     bool TakeLetter(int key);
 
     MainWindow& mWindow;

@@ -430,6 +430,10 @@ void MainWindow::closeEvent(QCloseEvent* event)
     });
     // The model says whether the window goes.
     event->ignore();
+    if (mDesk.StaysWhenClosed() && mDesk.Windows().OpenExplorers().size() == 1) {
+        hide();
+        return;
+    }
     mDesk.Do([this] { mDesk.Windows().CloseExplorer(mExplorer); });
 }
 

@@ -4,6 +4,7 @@
 #include "session/ProductFacts.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace tempodial {
 
@@ -40,25 +41,30 @@ QMessageBox::StandardButton QtMessageBox::ButtonOf(Answer answer)
 Answer QtMessageBox::Show(const std::string& text, const std::vector<Answer>& buttons, MessageIcon icon)
 {
     mMailbox->DeliverEvents();
-    QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(ProductName);
+    mFollow();
+    // The window in front may go meanwhile, and takes what belongs to it along.
+    const QPointer box(new QMessageBox(QApplication::activeWindow()));
+    box->setWindowModality(Qt::WindowModal);
+    box->setWindowTitle(ProductName);
     // What projects and activities are called is shown as it is, whatever marks it holds.
-    box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(text));
-    box.setIcon(ToIcon(icon));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(ToQt(text));
+    box->setIcon(ToIcon(icon));
     for (const auto answer : buttons) {
-        box.addButton(ButtonOf(answer));
+        box->addButton(ButtonOf(answer));
     }
     if (!buttons.empty()) {
-        box.setDefaultButton(ButtonOf(buttons.front()));
+        box->setDefaultButton(ButtonOf(buttons.front()));
+        // Escape and the frame answer what does least.
+        box->setEscapeButton(ButtonOf(buttons.back()));
     }
-    const auto pressed = box.exec();
+    const auto pressed = box->exec();
+    delete box;
     for (const auto answer : buttons) {
         if (ButtonOf(answer) == pressed) {
             return answer;
         }
     }
-    // Closed by its frame, where there is no Cancel.
     return buttons.empty() ? Answer::Ok : buttons.back();
 }
 

@@ -5,16 +5,21 @@
 #include "platform/controls/MessageBox.h"
 
 #include <QMessageBox>
+#include <functional>
 #include <utility>
 
 namespace tempodial {
 
-/// The product's messages as windows of the toolkit, in front of the window that is worked with.
+/// The product's messages as windows of the toolkit, in front of the window that is worked with, which waits; others
+/// don't.
 class QtMessageBox final : public MessageBox
 {
 public:
-    explicit QtMessageBox(Ref<Mailbox> mailbox)
+    /// Takes what brings the windows up to date, which is asked before each message.
+    explicit QtMessageBox(
+        Ref<Mailbox> mailbox, std::function<void()> follow = [] {})
         : mMailbox(std::move(mailbox))
+        , mFollow(std::move(follow))
     {
     }
 
@@ -25,6 +30,7 @@ public:
 
 private:
     Ref<Mailbox> mMailbox;
+    std::function<void()> mFollow;
 };
 
 }

@@ -1,0 +1,78 @@
+#include "desktop/qt/FormWindow.h"
+
+#include "desktop/qt/FormView.h"
+#include "desktop/qt/QtText.h"
+#include "forms/FormRules.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QWindow>
+
+namespace tempodial {
+
+FormWindow::FormWindow(Desk& desk, const Ref<FormModel>& form)
+    : mDesk(desk)
+    , mForm(form.Shared())
+    , mView(new FormView(desk, form, this))
+    , mChanges(form->SubscribeToChanges({ .Refreshed =
+                                              [this] {
+                                                  Follow();
+                                                  mView->repaint();
+                                              },
+          .BroughtToFront = [this] { mComesToFront = true; } }))
+    , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
+{
+    setModal(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(mView);
+    Follow();
+}
+
+void FormWindow::Follow()
+{
+    const auto form = mForm.lock();
+    if (!form) {
+        hide();
+        return;
+    }
+    setWindowTitle(ToQt(form->Caption()));
+    mView->Follow();
+    if (form->Visible() != isVisible()) {
+        ShowOrHide(form->Visible());
+    }
+    if (std::exchange(mComesToFront, false) && isVisible()) {
+        raise();
+        activateWindow();
+    }
+}
+
+void FormWindow::ShowOrHide(bool isVisible)
+{
+    const auto* front = QApplication::activeWindow();
+    setVisible(isVisible);
+    if (isVisible && front != nullptr && front != this && windowHandle() != nullptr) {
+        // It stands before the window that it came from, and lets that be worked with.
+        windowHandle()->setTransientParent(front->windowHandle());
+    }
+}
+
+void FormWindow::reject()
+{
+    const auto form = mForm.lock();
+    const auto* button = form ? ButtonFor(form->Definition(), ButtonRole::Cancel) : nullptr;
+    if (button != nullptr && mView->WidgetOf(button->name)->isEnabled()) {
+        mView->Click(button->name);
+    }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event)
+{
+    // The model says whether the window goes.
+    event->ignore();
+    if (const auto form = mForm.lock(); form && form->Visible()) {
+        mDesk.Do([&] { form->CloseByFrame(); });
+    }
+}
+
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "desktop/qt/Desk.h"
+#include "forms/FormModel.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace tempodial {
+
+class FormView;
+
+/// The window of a form. It is on the screen while its model is, and keeps no other window from being worked with.
+class FormWindow final : public QDialog
+{
+public:
+    /// Doesn't hold the form, which goes with its owner.
+    FormWindow(Desk& desk, const Ref<FormModel>& form);
+
+    FormView& View() { return *mView; }
+
+    /// Escape: clicks the button that cancels, where there is one.
+    void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Follow();
+    void ShowOrHide(bool isVisible);
+
+    Desk& mDesk;
+    std::weak_ptr<FormModel> mForm;
+    FormView* mView;
+    bool mComesToFront = false;
+    Subscription mChanges;
+    Subscription mEvents;
+};
+
+}

@@ -1,0 +1,108 @@
+#include "desktop/qt/SettingsDialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSystemTrayIcon>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto TrayText = "&Keep running in the tray when the last window closes";
+constexpr auto NoTrayText = "This desktop has no tray now, so closing the last window quits.";
+
+template <class Value> int Position(Value value)
+{
+    return static_cast<int>(value);
+}
+
+}
+
+SettingsDialog::SettingsDialog(Desk& desk, Autostart autostart, QWidget* parent)
+    : QDialog(parent)
+    , mDesk(desk)
+    , mAutostart(std::move(autostart))
+{
+    setWindowTitle("Settings");
+    setAttribute(Qt::WA_DeleteOnClose);
+    const auto& settings = desk.Settings();
+    auto* layout = new QFormLayout(this);
+    mAppearance = AddChoice(*layout, "appearance",
+        "&Appearance:", { "As the system", "Light", "Dark", "High contrast" }, Position(settings.appearance));
+    mColours = AddChoice(*layout, "colours",
+        "&Colours:", { "By project, by application while few have one", "By project", "By application" },
+        Position(settings.colours));
+    mHidesTitles = AddCheck(*layout, "hide-titles", "&Hide titles", settings.hidesTitles);
+    mFoldsShortOnes = AddCheck(*layout, "fold-short", "&Fold short ones", settings.foldsShortOnes);
+    mHasLetterKeys = AddCheck(*layout, "letter-keys", "Single &letters choose views", settings.hasLetterKeys);
+    mNotifies = AddCheck(*layout, "notify", "Say when the &tracker is silent for two hours of work", settings.notifies);
+    mAutostarts = AddCheck(*layout, "autostart", "&Start with the desktop session", mAutostart.IsOn());
+    mHasTray = AddCheck(*layout, "tray", TrayText, settings.hasTray);
+    mStartsHidden = AddCheck(*layout, "start-hidden", "&Begin in the tray", settings.startsHidden);
+    mStartsHidden->setEnabled(settings.hasTray);
+    connect(mHasTray, &QCheckBox::toggled, mStartsHidden, &QWidget::setEnabled);
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        auto* hint = new QLabel(NoTrayText, this);
+        hint->setWordWrap(true);
+        layout->addRow(hint);
+    }
+    auto* buttons
+        = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
+    connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+    connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { Apply(); });
+    layout->addRow(buttons);
+}
+
+QComboBox* SettingsDialog::AddChoice(
+    QFormLayout& layout, const char* name, const char* label, const QStringList& words, int chosen)
+{
+    auto* box = new QComboBox(this);
+    box->setObjectName(name);
+    box->addItems(words);
+    box->setCurrentIndex(chosen);
+    layout.addRow(label, box);
+    return box;
+}
+
+QCheckBox* SettingsDialog::AddCheck(QFormLayout& layout, const char* name, const char* text, bool isOn)
+{
+    auto* box = new QCheckBox(text, this);
+    box->setObjectName(name);
+    box->setChecked(isOn);
+    layout.addRow(box);
+    return box;
+}
+
+bool SettingsDialog::Apply()
+{
+    mDesk.Change([this](DesktopSettings& settings) {
+        settings.appearance = static_cast<DesktopSettings::Appearance>(mAppearance->currentIndex());
+        settings.colours = static_cast<ColourChoice>(mColours->currentIndex());
+        settings.hidesTitles = mHidesTitles->isChecked();
+        settings.foldsShortOnes = mFoldsShortOnes->isChecked();
+        settings.hasLetterKeys = mHasLetterKeys->isChecked();
+        settings.notifies = mNotifies->isChecked();
+        settings.hasTray = mHasTray->isChecked();
+        settings.startsHidden = mHasTray->isChecked() && mStartsHidden->isChecked();
+    });
+    bool isKept = false;
+    mDesk.Do([&] {
+        mAutostart.Set(mAutostarts->isChecked());
+        isKept = true;
+    });
+    return isKept;
+}
+
+void SettingsDialog::accept()
+{
+    if (Apply()) {
+        QDialog::accept();
+    }
+}
+
+}

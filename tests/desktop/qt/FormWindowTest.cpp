@@ -1,0 +1,248 @@
+#include "desktop/qt/FormWindow.h"
+
+#include "DesktopFixture.h"
+#include "desktop/qt/FormView.h"
+#include "engine/core/TempodialMain.h"
+#include "forms/ComboBoxModel.h"
+#include "forms/FormModelFactory.h"
+#include "platform/controls/CheckBox.h"
+#include "platform/controls/OptionButton.h"
+#include "platform/controls/TextBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <algorithm>
+
+namespace tempodial {
+
+class FormWindowTest : public DesktopFixture
+{
+protected:
+    FormWindowTest()
+        : mMain(Open())
+    {
+    }
+
+    Ref<FormModel> Shown(const char* className) { return mDesk->Session().Forms()->NewestVisible(className); }
+    FormWindow& WindowOf(const char* className) { return *mWindows->WindowOf(Shown(className)); }
+    FormWindow& ShowSettings(const std::string& project = "")
+    {
+        mDesk->Do([&] { mDesk->Session().AddIn().ShowSettingsForm(project, nullptr); });
+        return WindowOf("ProjectSettingsForm");
+    }
+    FormWindow& Make(const FormDefinition& definition)
+    {
+        mMade = mDesk->Session().Forms()->Create(definition).As<FormModel>();
+        mDesk->Do([this] { mMade->Show(); });
+        auto& window = *mWindows->WindowOf(mMade);
+        window.activateWindow();
+        Settle();
+        return window;
+    }
+    template <class Widget> static Widget& Find(FormWindow& window, const char* name)
+    {
+        auto* widget = qobject_cast<Widget*>(window.View().WidgetOf(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+    /// Clicks an entry of the window's menus.
+    void Choose(const QString& text)
+    {
+        for (const auto* menu : mMain.menuBar()->findChildren<QMenu*>()) {
+            for (auto* action : menu->actions()) {
+                if (action->text() == text) {
+                    action->trigger();
+                    return;
+                }
+            }
+        }
+        ADD_FAILURE() << text.toStdString();
+    }
+    std::vector<std::string> Projects() { return LogDoings(mDesk->Session()).Projects(); }
+    bool HasProject(const std::string& name)
+    {
+        const auto projects = Projects();
+        return std::find(projects.begin(), projects.end(), name) != projects.end();
+    }
+
+    MainWindow& mMain;
+    Ref<FormModel> mMade;
+};
+
+TEST_F(FormWindowTest, Form_Shown_HasAWindowWithItsTitleAndControls)
+{
+    auto& window = ShowSettings();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.isModal());
+    EXPECT_EQ(window.windowTitle(), "Project Settings");
+    EXPECT_TRUE(Find<QPushButton>(window, "SaveandCloseButton").isDefault());
+    EXPECT_EQ(Find<QLabel>(window, "Label1").buddy(), window.View().WidgetOf("SubjectText"));
+    EXPECT_EQ(Find<QLabel>(window, "Label1").text(), "Subject matches");
+}
+
+TEST_F(FormWindowTest, Form_WorkedByKeys_SavesAProjectWithItsRules)
+{
+    auto& window = ShowSettings();
+    auto& project = Find<QComboBox>(window, "ProjectComboBox");
+    project.lineEdit()->selectAll();
+    QTest::keyClicks(project.lineEdit(), "Riverside");
+    EXPECT_EQ(Shown("ProjectSettingsForm")->Control("ProjectComboBox").As<ComboBox>()->Text(), "Riverside");
+    QTest::keyClicks(&Find<QLineEdit>(window, "SubjectText"), "river");
+    QTest::mouseClick(&Find<QPushButton>(window, "SaveandCloseButton"), Qt::LeftButton);
+    EXPECT_FALSE(Shown("ProjectSettingsForm"));
+    EXPECT_TRUE(HasProject("Riverside"));
+}
+
+TEST_F(FormWindowTest, Escape_ButtonThatCancels_IsClicked)
+{
+    const auto before = Projects();
+    auto& window = ShowSettings();
+    auto& project = Find<QComboBox>(window, "ProjectComboBox");
+    project.lineEdit()->selectAll();
+    QTest::keyClicks(project.lineEdit(), "Beta");
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(Shown("ProjectSettingsForm"));
+    EXPECT_EQ(Projects(), before);
+}
+
+TEST_F(FormWindowTest, Enter_InAField_ClicksTheDefaultButton)
+{
+    auto& window = ShowSettings();
+    auto& project = Find<QComboBox>(window, "ProjectComboBox");
+    project.lineEdit()->selectAll();
+    QTest::keyClicks(project.lineEdit(), "Beta");
+    QTest::keyClick(project.lineEdit(), Qt::Key_Return);
+    EXPECT_FALSE(Shown("ProjectSettingsForm"));
+    EXPECT_TRUE(HasProject("Beta"));
+}
+
+TEST_F(FormWindowTest, Frame_Closed_TakesTheFormOffTheScreen)
+{
+    auto& window = ShowSettings();
+    window.close();
+    EXPECT_FALSE(Shown("ProjectSettingsForm"));
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(FormWindowTest, Frame_ListenerRefuses_Stays)
+{
+    auto& window = Make({ "Kept", "Kept", { { { "OK", ControlKind::Button, "OK" } } } });
+    const auto refusing = mMade->Subscribe({ .QueryClose = [](bool& cancel) { cancel = true; } });
+    window.close();
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(FormWindowTest, Form_Gone_TakesItsWindowAlong)
+{
+    const QPointer<FormWindow> window = &Make({ "Short", "Short", {} });
+    mDesk->Do([this] { mMade = nullptr; });
+    Settle();
+    EXPECT_TRUE(window.isNull());
+}
+
+TEST_F(FormWindowTest, ComboBox_TextThatIsInTheList_IsAChangeAndNoChoice)
+{
+    auto& window = Make(
+        { "Combo", "Combo", { { { "Box", ControlKind::ComboBox, "" } }, { { "Other", ControlKind::TextBox, "" } } } });
+    const auto model = mMade->Control("Box").As<ComboBoxModel>();
+    mDesk->Do([&] {
+        model->AddItem("One");
+        model->AddItem("Two");
+    });
+    std::string told;
+    const auto events = model->Subscribe({ .Change = [&] { told += "c"; }, .Click = [&] { told += "k"; } });
+    auto& box = Find<QComboBox>(window, "Box");
+    QTest::keyClicks(box.lineEdit(), "Two");
+    QTest::keyClick(box.lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(told, "ccc");
+    EXPECT_EQ(model->ListIndex(), -1);
+    box.lineEdit()->setFocus();
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(told, "ccck");
+    EXPECT_EQ(model->ListIndex(), 0);
+    EXPECT_EQ(box.currentText(), "One");
+}
+
+TEST_F(FormWindowTest, Model_Changed_ShowsInTheWidgets)
+{
+    auto& window = Make({ "All", "All",
+        { { { "Text", ControlKind::TextBox, "a" } }, { { "Check", ControlKind::CheckBox, "&Check" } },
+            { { "One", ControlKind::OptionButton, "One" } }, { { "Two", ControlKind::OptionButton, "Two" } },
+            { { "Box", ControlKind::ComboBox, "x" } }, { { "Hidden", ControlKind::Button, "H", false } } } });
+    EXPECT_EQ(window.View().WidgetOf("Hidden"), nullptr);
+    EXPECT_EQ(Find<QLineEdit>(window, "Text").text(), "a");
+    mDesk->Do([this] {
+        mMade->SetCaption("Other");
+        mMade->Control("Text").As<TextBox>()->SetText("b");
+        mMade->Control("Check").As<CheckBox>()->SetValue(true);
+        mMade->Control("Two").As<OptionButton>()->SetValue(true);
+        mMade->Control("Box").As<ComboBox>()->AddItem("y");
+        mMade->Control("Box").As<ComboBox>()->SetListIndex(0);
+        mMade->Control("One")->SetEnabled(false);
+    });
+    EXPECT_EQ(window.windowTitle(), "Other");
+    EXPECT_EQ(Find<QLineEdit>(window, "Text").text(), "b");
+    EXPECT_TRUE(Find<QCheckBox>(window, "Check").isChecked());
+    EXPECT_TRUE(Find<QRadioButton>(window, "Two").isChecked());
+    EXPECT_EQ(Find<QComboBox>(window, "Box").currentText(), "y");
+    EXPECT_EQ(Find<QComboBox>(window, "Box").currentIndex(), 0);
+    EXPECT_FALSE(Find<QRadioButton>(window, "One").isEnabled());
+    mDesk->Do([this] { mMade->Control("Two").As<OptionButton>()->SetValue(false); });
+    EXPECT_FALSE(Find<QRadioButton>(window, "Two").isChecked());
+}
+
+TEST_F(FormWindowTest, Options_Clicked_OneIsChosenAtATime)
+{
+    auto& window = Make({ "Options", "Options",
+        { { { "One", ControlKind::OptionButton, "One" } }, { { "Two", ControlKind::OptionButton, "Two" } },
+            { { "Check", ControlKind::CheckBox, "Check" } } } });
+    QTest::mouseClick(&Find<QRadioButton>(window, "One"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QRadioButton>(window, "Two"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QCheckBox>(window, "Check"), Qt::LeftButton);
+    EXPECT_FALSE(mMade->Control("One").As<OptionButton>()->Value());
+    EXPECT_TRUE(mMade->Control("Two").As<OptionButton>()->Value());
+    EXPECT_TRUE(mMade->Control("Check").As<CheckBox>()->Value());
+}
+
+TEST_F(FormWindowTest, SeveralLines_Typed_BeginsAnotherLineByEnter)
+{
+    auto& window = Make({ "Lines", "Lines",
+        { { { .name = "Text", .kind = ControlKind::TextBox, .text = "", .severalLines = true } } } });
+    auto& text = Find<QPlainTextEdit>(window, "Text");
+    QTest::keyClicks(&text, "one");
+    QTest::keyClick(&text, Qt::Key_Return);
+    QTest::keyClicks(&text, "two");
+    EXPECT_EQ(mMade->Control("Text").As<TextBox>()->Text(), "one\ntwo");
+}
+
+TEST_F(FormWindowTest, ProductsForms_InAllColours_AreDrawnWhole)
+{
+    AddWeek();
+    for (const auto* entry :
+        { "Pro&ject Settings...", "Set Project for &Activities...", "Create Activity &Report..." }) {
+        Choose(entry);
+    }
+    using Look = DesktopSettings::Appearance;
+    for (const auto& [look, name] : { std::pair(Look::Light, "light"), std::pair(Look::Dark, "dark") }) {
+        mDesk->Change([look = look](DesktopSettings& settings) { settings.appearance = look; });
+        for (const auto* form : { "ProjectSettingsForm", "SetProjectForm", "ReportForm" }) {
+            auto& window = WindowOf(form);
+            Settle();
+            Picture(window, std::string(form) + "-" + name);
+            for (const auto* widget : window.View().findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+                EXPECT_TRUE(window.View().rect().contains(widget->geometry()) || !widget->isVisible())
+                    << form << widget->objectName().toStdString();
+            }
+        }
+    }
+}
+
+}
