@@ -1,4 +1,5 @@
 #include "base/Date.h"
+#include "base/Date.h"
 #include "session/ProfileFolder.h"
 #include "support/ProgramFixture.h"
 

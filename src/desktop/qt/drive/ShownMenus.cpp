@@ -7,6 +7,7 @@
 #include "host/windows/HostCommandBarPopup.h"
 
 #include <QAction>
+#include <QBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
