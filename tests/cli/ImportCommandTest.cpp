@@ -1,5 +1,4 @@
 #include "base/Date.h"
-#include "base/Date.h"
 #include "session/ProfileFolder.h"
 #include "support/ProgramFixture.h"
 

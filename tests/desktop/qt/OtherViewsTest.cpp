@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
+#include <gmock/gmock.h>
 
 namespace tempodial {
 
