@@ -9,11 +9,12 @@
 #include "desktop/qt/SortOutView.h"
 #include "platform/controls/Button.h"
 
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
-#include <gmock/gmock.h>
 
 namespace tempodial {
 
