@@ -10,6 +10,8 @@ namespace {
 /// What was before stays while it has one part of so many of the leader's time.
 constexpr std::int64_t StayingShare = 3;
 
+constexpr std::size_t MostCarried = SlotSeconds;
+
 /// Texts with their seconds, each once, in the order in which they came.
 using Shares = std::vector<std::pair<std::string, std::int64_t>>;
 
@@ -67,7 +69,7 @@ std::optional<PickedSlot> SlotPicker::Pick(const SlotTimes& times)
         AddTime(views, time.view, time.seconds);
     }
     if (!Counts(times.presence)) {
-        mCarried = std::move(views);
+        Carry(std::move(views));
         return std::nullopt;
     }
     PickedSlot slot;
@@ -110,6 +112,17 @@ std::optional<PickedSlot> SlotPicker::Pick(const SlotTimes& times)
     slot.views = std::move(views);
     mLast = slot;
     return slot;
+}
+
+void SlotPicker::Carry(std::vector<ViewTime> views)
+{
+    // More views than a slot has seconds come of a long row of slots that don't count.
+    if (views.size() > MostCarried) {
+        std::stable_sort(
+            views.begin(), views.end(), [](const auto& a, const auto& b) { return a.seconds > b.seconds; });
+        views.resize(MostCarried / 2);
+    }
+    mCarried = std::move(views);
 }
 
 void SlotPicker::EndSession()

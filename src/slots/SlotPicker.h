@@ -38,6 +38,9 @@ public:
     void EndSession();
 
 private:
+    /// Keeps the views of a slot that doesn't count for the next one; of very many those with most time.
+    void Carry(std::vector<ViewTime> views);
+
     std::vector<ViewTime> mCarried;
     /// What the last slot was taken for, while the session goes on.
     std::optional<PickedSlot> mLast;

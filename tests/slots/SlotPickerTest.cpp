@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 namespace tempodial {
 
 TEST(SlotPickerTest, Pick_LessThanHalf_DoesNotCount)
@@ -80,6 +82,27 @@ TEST(SlotPickerTest, EndSession_StickinessAndCarry_AreGone)
     picker.Pick(Slot(0, { { "A", "a", 300 } }));
     picker.EndSession();
     EXPECT_EQ(picker.Pick(Slot(1, { { "A", "a", 100 }, { "B", "b", 101 } }))->program, "B");
+}
+
+TEST(SlotPickerTest, Pick_LongRowOfSlotsThatDoNotCount_CarriesTheLargestViews)
+{
+    SlotPicker picker;
+    constexpr int Slots = 300;
+    constexpr int Seconds = 140;
+    const auto start = std::chrono::steady_clock::now();
+    for (int slot = 0; slot < Slots; ++slot) {
+        std::vector<Glance> glances { { "A", "map", 5 } };
+        for (int second = 5; second < Seconds; ++second) {
+            glances.push_back({ "A", std::to_string(slot) + " " + std::to_string(second), 1 });
+        }
+        ASSERT_FALSE(picker.Pick(Slot(slot, glances, Seconds)));
+    }
+    const auto picked = picker.Pick(Slot(Slots, { { "A", "plan", 300 } }));
+    ASSERT_TRUE(picked);
+    EXPECT_EQ(picked->text, "map");
+    EXPECT_LE(picked->views.size(), 301U);
+    // A time that grows with the square of the titles is minutes here.
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 }
