@@ -1,16 +1,12 @@
 #include "desktop/ShownLog.h"
 
+#include "desktop/October.h"
+
 #include <gmock/gmock.h>
 
 namespace tempodial {
 
 namespace {
-
-/// The 9th of October 2006 was a Monday.
-Date On(int day, int hour, int minute = 0)
-{
-    return Date::FromParts({ 2006, 10, day, hour, minute, 0 });
-}
 
 Activity Made(std::int64_t number, const std::string& project, const std::string& application, Date start, Date end)
 {

@@ -1,16 +1,12 @@
 #include "desktop/WorkingHours.h"
 
+#include "desktop/October.h"
+
 #include <gtest/gtest.h>
 
 namespace tempodial {
 
 namespace {
-
-/// The 9th of October 2006 was a Monday.
-Date On(int day, int hour, int minute = 0)
-{
-    return Date::FromParts({ 2006, 10, day, hour, minute, 0 });
-}
 
 const WorkingHours Usual(480, 1020, 124);
 

@@ -10,16 +10,6 @@
 
 namespace tempodial {
 
-namespace {
-
-Colour FromQt(const QColor& colour)
-{
-    return { static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
-        static_cast<std::uint8_t>(colour.blue()) };
-}
-
-}
-
 void Appearance::Apply(Choice choice)
 {
     if (!mIsSystemDark) {

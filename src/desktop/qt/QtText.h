@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QRectF>
 #include <QString>
+#include <cstdint>
 #include <string>
 
 namespace tempodial {
@@ -24,6 +25,12 @@ inline std::string FromQt(const QString& text)
 inline QColor ToQt(const Colour& colour)
 {
     return { colour.red, colour.green, colour.blue };
+}
+
+inline Colour FromQt(const QColor& colour)
+{
+    return { static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+        static_cast<std::uint8_t>(colour.blue()) };
 }
 
 inline QRectF ToQt(const PixelBox& box)
