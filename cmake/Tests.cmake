@@ -44,7 +44,7 @@ set_target_properties(test_support PROPERTIES UNITY_BUILD OFF)
 target_precompile_headers(test_support REUSE_FROM test_headers)
 
 file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${tests}/*.cpp")
-list(FILTER sources EXCLUDE REGEX "^${tests}/(support/|addin/|(.*/)?data/)")
+list(FILTER sources EXCLUDE REGEX "^${tests}/(support/|addin/|packaging/|(.*/)?data/)")
 set(folders "")
 if(NOT TARGET desktop_qt)
     list(FILTER sources EXCLUDE REGEX "^${tests}/desktop/qt/")
