@@ -70,6 +70,8 @@ protected:
     {
         mDriver->Exit();
         mSession->End();
+        // It works on that session, which goes before the fixture does.
+        mDriver.reset();
     }
     /// A window with an item in it, which a person's hand had no part in.
     std::int32_t Opened(const std::string& entryId)

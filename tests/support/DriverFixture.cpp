@@ -7,7 +7,9 @@ namespace tempodial {
 
 DriverFixture::~DriverFixture()
 {
-    mDriver->Exit();
+    if (mDriver) {
+        mDriver->Exit();
+    }
 }
 
 Json DriverFixture::Do(const Json& command)
