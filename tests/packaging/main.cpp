@@ -34,11 +34,15 @@ std::string ModuleOfAddIn()
 int AskForAddIn(bool hold)
 {
     CLSID found {};
+    if (const auto result = CLSIDFromProgID(L"Tempodial.Connect", &found); FAILED(result)) {
+        std::printf("no add-in is registered: %08lx\n", static_cast<unsigned long>(result));
+        return 1;
+    }
     tempodial::ComRef<IDTExtensibility2> addIn;
-    if (FAILED(CLSIDFromProgID(L"Tempodial.Connect", &found))
-        || FAILED(
-            CoCreateInstance(found, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDTExtensibility2), addIn.PutAny()))) {
-        std::puts("no add-in");
+    const auto result
+        = CoCreateInstance(found, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDTExtensibility2), addIn.PutAny());
+    if (FAILED(result)) {
+        std::printf("the add-in can't be made: %08lx\n", static_cast<unsigned long>(result));
         return 1;
     }
     std::puts(ModuleOfAddIn().c_str());
