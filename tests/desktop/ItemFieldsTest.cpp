@@ -1,10 +1,7 @@
 #include "desktop/ItemFields.h"
 
 #include "desktop/FieldValues.h"
-#include "review/ActivityReader.h"
-#include "session/Session.h"
-#include "support/CannedMessageBox.h"
-#include "support/TempFolder.h"
+#include "desktop/StartedSession.h"
 
 #include <gtest/gtest.h>
 
@@ -15,26 +12,12 @@ namespace {
 class ItemFieldsTest : public testing::Test
 {
 protected:
-    ItemFieldsTest()
-    {
-        auto surroundings = mSession.Surroundings();
-        surroundings.messageBox = MakeRef<CannedMessageBox>();
-        mSession.Start(surroundings);
-    }
-    ~ItemFieldsTest() override { mSession.End(); }
-
     Activity Added(const std::string& description, int hour)
     {
-        const auto start = Date::FromParts({ 2006, 10, 10, hour, 5, 0 });
-        mSession.AddIn().CreateCalendarItem(
-            "Garden", description, "Word", "", 30, start, start.AddMinutes(30), "", false);
-        return ActivityAt(mSession.Profile(), start).value();
+        return mSession.Added(description, Date::FromParts({ 2006, 10, 10, hour, 5, 0 }));
     }
 
-    TempFolder mFolder { TempFolder::InMemory() };
-    Session mSession {
-        { .profile = mFolder.Path(), .locale = "en_US", .now = Date::FromParts({ 2006, 10, 10, 17, 0, 0 }) }
-    };
+    StartedSession mSession;
     ItemFields mFields { mSession.Profile() };
 };
 

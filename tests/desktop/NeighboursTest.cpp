@@ -1,9 +1,6 @@
 #include "desktop/Neighbours.h"
 
-#include "review/ActivityReader.h"
-#include "session/Session.h"
-#include "support/CannedMessageBox.h"
-#include "support/TempFolder.h"
+#include "desktop/StartedSession.h"
 
 #include <gtest/gtest.h>
 
@@ -14,20 +11,7 @@ namespace {
 class NeighboursTest : public testing::Test
 {
 protected:
-    NeighboursTest()
-    {
-        auto surroundings = mSession.Surroundings();
-        surroundings.messageBox = MakeRef<CannedMessageBox>();
-        mSession.Start(surroundings);
-    }
-    ~NeighboursTest() override { mSession.End(); }
-
-    std::int64_t Added(const std::string& description, Date start)
-    {
-        mSession.AddIn().CreateCalendarItem(
-            "Garden", description, "Word", "", 30, start, start.AddMinutes(30), "", false);
-        return ActivityAt(mSession.Profile(), start).value().number;
-    }
+    std::int64_t Added(const std::string& description, Date start) { return mSession.Added(description, start).number; }
     std::string Names(std::int64_t number, Side side)
     {
         std::string names;
@@ -38,8 +22,7 @@ protected:
     }
     static Date At(int month, int day, int hour) { return Date::FromParts({ 2006, month, day, hour, 0, 0 }); }
 
-    TempFolder mFolder { TempFolder::InMemory() };
-    Session mSession { { .profile = mFolder.Path(), .locale = "en_US", .now = At(10, 10, 17) } };
+    StartedSession mSession;
 };
 
 }
