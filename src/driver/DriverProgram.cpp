@@ -3,13 +3,9 @@
 #include "driver/AnswerLines.h"
 #include "driver/Driver.h"
 #include "host/files/ProgramFolder.h"
-#include "terminal/ArgumentParser.h"
-#include "terminal/ProfileArguments.h"
-#include "terminal/ProgramRun.h"
 #include "terminal/UsageError.h"
 
 #include <cstdlib>
-#include <optional>
 
 namespace tempodial {
 
@@ -23,9 +19,7 @@ constexpr auto Footer = "An example:\n"
                         "  echo '{\"do\":\"start\"}' | tempodial-drive --profile /tmp/profile\n"
                         "\n"
                         "The end of the input ends the host as a normal exit does.\n"
-                        "\n"
-                        "Exit status: 0 done; 1 not done; 2 unusable arguments; 3 the profile is in use by\n"
-                        "another process.";
+                        "\n";
 
 /// What is set in the environment, else another.
 std::string SetOr(const char* variable, const std::string& other)
@@ -53,29 +47,23 @@ std::optional<RemotePrograms> ProgramsOf(const std::optional<std::string>& addIn
 
 }
 
-ExitStatus DriverProgram::Run(const std::vector<std::string>& arguments) noexcept
+DriverProgram::DriverProgram(int input, std::ostream& out, std::ostream& error)
+    : ProfileProgram({ Name, Description, Footer }, out, error)
+    , mInput(input)
 {
-    return RunProgram(Name, mError, [&] { return Execute(arguments); });
 }
 
-ExitStatus DriverProgram::Execute(const std::vector<std::string>& arguments)
+void DriverProgram::Declare(ArgumentList& arguments)
 {
-    const ArgumentParser parser({ Name, Description, Footer });
-    ProfileArguments profile;
-    std::optional<std::string> addIn;
-    auto list = parser.Arguments();
-    profile.Declare(list);
-    list.Optional("--addin WHERE", addIn,
+    arguments.Optional("--addin WHERE", mAddIn,
         "\"wine\" for the add-in for Windows, run by Wine, \"wine-shipped\" for\nits module as it is installed; else "
-        "the "
-        "one in this program");
-    if (!parser.Parse(arguments, mOut)) {
-        return ExitStatus::Done;
-    }
-    auto options = profile.Options();
-    options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
-    Driver driver(options, ProgramsOf(addIn));
-    return AnswerLines(driver, mInput, mOut, mError, Name);
+        "the one in this program");
+}
+
+ExitStatus DriverProgram::Work(const ProfileOptions& options)
+{
+    Driver driver(options, ProgramsOf(mAddIn));
+    return AnswerLines(driver, mInput, Out(), Complaints(), Name);
 }
 
 }

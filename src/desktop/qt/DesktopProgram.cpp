@@ -11,9 +11,6 @@
 #include "session/InstalledForm.h"
 #include "session/OpenProfile.h"
 #include "session/ProfileError.h"
-#include "terminal/ArgumentParser.h"
-#include "terminal/ProfileArguments.h"
-#include "terminal/ProgramRun.h"
 
 #include <QApplication>
 #include <chrono>
@@ -29,27 +26,17 @@ constexpr std::chrono::seconds LongestWait(5);
 
 constexpr auto Description = "The work log in windows: what was done when, for which project, and what is to be\n"
                              "sorted out.\n";
-constexpr auto Footer = "Exit status: 0 done; 1 not done; 2 unusable arguments; 3 the profile is in use by\n"
-                        "another process.";
 
 }
 
-ExitStatus DesktopProgram::Run(const std::vector<std::string>& arguments) noexcept
+DesktopProgram::DesktopProgram(std::ostream& out, std::ostream& error)
+    : ProfileProgram({ Name, Description, "" }, out, error)
 {
-    return RunProgram(Name, mError, [&] { return Execute(arguments); });
 }
 
-ExitStatus DesktopProgram::Execute(const std::vector<std::string>& arguments)
+ExitStatus DesktopProgram::Work(const ProfileOptions& given)
 {
-    const ArgumentParser parser({ Name, Description, Footer });
-    ProfileArguments profile;
-    auto list = parser.Arguments();
-    profile.Declare(list);
-    if (!parser.Parse(arguments, mOut)) {
-        return ExitStatus::Done;
-    }
-    auto options = profile.Options();
-    options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
+    auto options = given;
     options.wait = LongestWait;
     const auto path = ProfilePath(options);
     if (InstanceSocket::RaiseOther(path)) {
@@ -82,7 +69,7 @@ void DesktopProgram::RunWindows(const ProfileOptions& options)
     try {
         socket.emplace(desk.Profile().Path());
     } catch (const Failure& failure) {
-        Complain(mError, Name, failure.Description() + ": a second start won't find this one");
+        Complain(failure.Description() + ": a second start won't find this one");
     }
     desk.Start(MakeRef<QtMessageBox>(desk.Session().Mailbox(), [&desk] { desk.Show(); }));
     const bool isHidden = desk.Settings().hasTray && desk.Settings().startsHidden;

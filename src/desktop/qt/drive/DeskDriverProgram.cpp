@@ -3,9 +3,6 @@
 #include "desktop/qt/drive/DeskDriver.h"
 #include "driver/AnswerLines.h"
 #include "session/InstalledForm.h"
-#include "terminal/ArgumentParser.h"
-#include "terminal/ProfileArguments.h"
-#include "terminal/ProgramRun.h"
 
 #include <QApplication>
 #include <iostream>
@@ -17,8 +14,6 @@ namespace {
 constexpr auto Description = "The desktop program, worked by another program on a screen that nobody sees: reads\n"
                              "one JSON object a line as tempodial-drive does, does it with pointer and keys, and\n"
                              "answers what is shown otherwise than it is as \"differences\".\n";
-constexpr auto Footer = "Exit status: 0 done; 1 not done; 2 unusable arguments; 3 the profile is in use by\n"
-                        "another process.";
 
 /// Passes on what the toolkit says, but for what it lacks on a screen that nobody sees.
 void Say(QtMsgType, const QMessageLogContext&, const QString& message)
@@ -30,22 +25,14 @@ void Say(QtMsgType, const QMessageLogContext&, const QString& message)
 
 }
 
-ExitStatus DeskDriverProgram::Run(const std::vector<std::string>& arguments) noexcept
+DeskDriverProgram::DeskDriverProgram(int input, std::ostream& out, std::ostream& error)
+    : ProfileProgram({ Name, Description, "" }, out, error)
+    , mInput(input)
 {
-    return RunProgram(Name, mError, [&] { return Execute(arguments); });
 }
 
-ExitStatus DeskDriverProgram::Execute(const std::vector<std::string>& arguments)
+ExitStatus DeskDriverProgram::Work(const ProfileOptions& options)
 {
-    const ArgumentParser parser({ Name, Description, Footer });
-    ProfileArguments profile;
-    auto list = parser.Arguments();
-    profile.Declare(list);
-    if (!parser.Parse(arguments, mOut)) {
-        return ExitStatus::Done;
-    }
-    auto options = profile.Options();
-    options.warn = [this](const std::string& message) { Complain(mError, Name, message); };
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(Say);
     std::string name = Name;
@@ -57,7 +44,7 @@ ExitStatus DeskDriverProgram::Execute(const std::vector<std::string>& arguments)
     const auto settings
         = options.profile ? *options.profile + "/" + DesktopSettings::FileName : Desk::UsualSettingsPath();
     DeskDriver desk(RequireForm(options), settings);
-    return AnswerLines(desk.Driver(), mInput, mOut, mError, Name);
+    return AnswerLines(desk.Driver(), mInput, Out(), Complaints(), Name);
 }
 
 }
