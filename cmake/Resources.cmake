@@ -40,3 +40,22 @@ function(tempodial_shell_extensions)
     endforeach()
     install(DIRECTORY "${to}" DESTINATION "${CMAKE_INSTALL_DATADIR}/gnome-shell")
 endfunction()
+
+# tempodial_user_units(): the units for all users of a machine, who enable them if they like, where systemd looks for
+# them. Their texts are those that `track install` writes for one user and profile. The prefix is known at installation.
+function(tempodial_user_units)
+    install(CODE "set(from \"${PROJECT_SOURCE_DIR}/resources/systemd\")
+set(bin \"${CMAKE_INSTALL_BINDIR}\")")
+    install(CODE [[
+        string(REPLACE "%" "%%" bin "${CMAKE_INSTALL_PREFIX}/${bin}")
+        set(RECORDER "\"${bin}/tempodial-track\"")
+        set(PROGRAM "\"${bin}/tempodial\"")
+        foreach(unit IN ITEMS tempodial-track.service tempodial-sync.service tempodial-sync.timer)
+            set(to "${CMAKE_INSTALL_PREFIX}/lib/systemd/user/${unit}")
+            message(STATUS "Installing: $ENV{DESTDIR}${to}")
+            configure_file("${from}/${unit}" "$ENV{DESTDIR}${to}" @ONLY)
+            file(CHMOD "$ENV{DESTDIR}${to}" PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+            list(APPEND CMAKE_INSTALL_MANIFEST_FILES "${to}")
+        endforeach()
+    ]])
+endfunction()

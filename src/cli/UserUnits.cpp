@@ -1,8 +1,10 @@
 #include "cli/UserUnits.h"
 
 #include "base/Failure.h"
+#include "base/Text.h"
 #include "cli/CommandError.h"
 #include "cli/RunningTracker.h"
+#include "host/files/FileDescriptor.h"
 #include "host/files/PathOperations.h"
 #include "host/files/ProgramFolder.h"
 #include "host/files/ReplacementFile.h"
@@ -20,7 +22,10 @@ namespace tempodial {
 namespace {
 
 constexpr auto ServiceName = "tempodial-track.service";
+constexpr auto SyncName = "tempodial-sync.service";
 constexpr auto TimerName = "tempodial-sync.timer";
+/// Where the texts lie that the units for all users, which come with the program, are made of as well.
+constexpr auto SourcesFolder = "share/tempodial/systemd/";
 
 std::string ConfigFolder()
 {
@@ -86,10 +91,11 @@ std::vector<std::string> UserUnits::Install() const
     std::vector<std::string> paths;
     for (const auto& unit : Files()) {
         const auto path = NativePath::Exactly(unit.path);
+        const auto text = Text(unit.source);
         try {
             MakeFoldersAbove(path);
             ReplacementFile file(path);
-            file.Write(unit.text);
+            file.Write(text);
             file.TakeUsualMode();
             file.Commit();
         } catch (const Failure& failure) {
@@ -136,65 +142,30 @@ bool UserUnits::Reload()
     return TellSession({ "daemon-reload" });
 }
 
-std::vector<UserUnits::UnitFile> UserUnits::Files() const
+std::vector<UserUnits::UnitFile> UserUnits::Files()
 {
-    const auto profile = " --profile " + UnitWord(mProfile);
-    const auto tracker = UnitWord(RunningTracker::ProgramPath()) + profile;
-    const auto program = UnitWord(InProgramFolder("bin/tempodial")) + profile;
     const auto units = ConfigFolder() + "/systemd/user/";
-    const std::string limits = "# No network, by construction.\n"
-                               "RestrictAddressFamilies=AF_UNIX\n"
-                               "NoNewPrivileges=yes\n";
+    const std::string entry = "tempodial-track.desktop";
     return {
-        { units + ServiceName,
-            "[Unit]\n"
-            "Description=Tempodial's recorder\n"
-            "PartOf=graphical-session.target\n"
-            "After=graphical-session.target\n"
-            "\n"
-            "[Service]\n"
-            "ExecStart="
-                + tracker
-                + "\n"
-                  "Restart=on-failure\n"
-                  "RestartSec=30\n"
-                  "# Unusable arguments, and a recorder that runs already.\n"
-                  "RestartPreventExitStatus=2 3\n"
-                  "MemoryMax=64M\n"
-                + limits
-                + "\n"
-                  "[Install]\n"
-                  "WantedBy=graphical-session.target\n" },
-        { units + "tempodial-sync.service",
-            "[Unit]\n"
-            "Description=Import of what Tempodial's recorder has written\n"
-            "\n"
-            "[Service]\n"
-            "Type=oneshot\n"
-            "ExecStart="
-                + program + " --quiet sync\n" + limits },
-        { units + TimerName,
-            "[Unit]\n"
-            "Description=Hourly import of what Tempodial's recorder has written\n"
-            "\n"
-            "[Timer]\n"
-            "OnCalendar=hourly\n"
-            "Persistent=yes\n"
-            "\n"
-            "[Install]\n"
-            "WantedBy=timers.target\n" },
-        { ConfigFolder() + "/autostart/tempodial-track.desktop",
-            "[Desktop Entry]\n"
-            "Type=Application\n"
-            "Name=Tempodial's recorder\n"
-            "Comment=Notes which window you work in\n"
-            "Exec="
-                + tracker
-                + "\n"
-                  "NoDisplay=true\n"
-                  "# Sessions of systemd start the unit of the same name.\n"
-                  "X-systemd-skip=true\n" },
+        { units + ServiceName, ServiceName },
+        { units + SyncName, SyncName },
+        { units + TimerName, TimerName },
+        { ConfigFolder() + "/autostart/" + entry, entry },
     };
+}
+
+std::string UserUnits::Text(const std::string& source) const
+{
+    const auto path = InProgramFolder(SourcesFolder) + source;
+    try {
+        const auto profile = " --profile " + UnitWord(mProfile);
+        const auto text = FileDescriptor(NativePath::Exactly(path), Opening::Reading).ReadAll();
+        return Replace(Replace(text, "@RECORDER@", UnitWord(RunningTracker::ProgramPath()) + profile), "@PROGRAM@",
+            UnitWord(InProgramFolder("bin/tempodial")) + profile);
+    } catch (const Failure& failure) {
+        throw CommandError(path + " can't be read: " + failure.Description()
+            + ": install the program as a whole (cmake --install), or run it where it was built");
+    }
 }
 
 }

@@ -26,10 +26,11 @@ private:
     struct UnitFile
     {
         std::string path;
-        std::string text;
+        std::string source;
     };
 
-    std::vector<UnitFile> Files() const;
+    static std::vector<UnitFile> Files();
+    std::string Text(const std::string& source) const;
 
     std::string mProfile;
 };
