@@ -26,7 +26,8 @@ fuzz_packages=(clang libclang-rt-dev)
 bench_packages=(python3 timewarrior valgrind xvfb openbox xterm)
 
 # What ./package needs besides.
-package_packages=(appstream debhelper desktop-file-utils dpkg-dev fakeroot fish git lintian mandoc python3 systemd tidy zsh)
+package_packages=(appstream build-essential debhelper desktop-file-utils dpkg-dev fakeroot fish git librsvg2-bin lintian mandoc
+    python3 systemd tidy zsh)
 
 # install_missing PACKAGE...: installs those of the packages that are missing; asks dpkg once and nothing else when
 # none is.

@@ -1,6 +1,7 @@
 """Tests of tools/packages.sh."""
 
 import os
+import re
 import subprocess
 import tempfile
 import unittest
@@ -49,6 +50,18 @@ class InstallMissingTest(unittest.TestCase):
         run, asked = self.Run(0, 100)
         self.assertEqual((run.returncode, run.stdout), (100, ""))
         self.assertEqual(len(asked), 2)
+
+
+class PackagePackagesTest(unittest.TestCase):
+    def test_WhatDebianBuildsWith_IsInstalledByPackage(self):
+        with open(os.path.join(loading.TOOLS, "../debian/control"), encoding="utf-8") as stream:
+            wanted = re.search(r"^Build-Depends:(.*?)^\S", stream.read(), re.MULTILINE | re.DOTALL).group(1)
+        names = {re.sub(r"[ (].*", "", name.strip()) for name in wanted.split(",")}
+        self.assertIn("debhelper-compat", names)
+        names = names - {"debhelper-compat"} | {"debhelper", "build-essential"}
+        script = ". '%s'; echo ${build_packages[*]} ${package_packages[*]}" % os.path.join(loading.TOOLS, "packages.sh")
+        listed = subprocess.run(["bash", "-c", script], capture_output=True, text=True, check=True).stdout.split()
+        self.assertEqual(names - set(listed), set())
 
 
 if __name__ == "__main__":
