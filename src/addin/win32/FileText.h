@@ -6,6 +6,9 @@
 
 namespace tempodial {
 
+/// A text in one of the system's code pages. A character that the page lacks becomes "?", never one that looks like it.
+std::string InCodePage(const std::string& text, unsigned page);
+
 /// How texts are written to files, and how lines are read that aren't UTF-8.
 struct FileText
 {

@@ -188,15 +188,28 @@ TEST_F(Win32FileSystemTest, Writing_LetGoOf_ClosesItselfUnlessAnExceptionTakesIt
     EXPECT_EQ(mFiles.GetFolder(mFolder.Path()).files.size(), 1U);
 }
 
-TEST_F(Win32FileSystemTest, SystemsCodePage_LosesOnlyWhatItLacks)
+TEST_F(Win32FileSystemTest, SystemsCodePage_IsThatOfFiles)
 {
     Win32FileSystem files(FileText::OfSystem());
-    files.OpenTextFile(mFolder.Path("a"), OpenMode::Writing, true)->Write("plain 日");
-    if (GetACP() != CP_UTF8) {
-        EXPECT_EQ(mFolder.Read("a"), "plain ?");
-    }
+    files.OpenTextFile(mFolder.Path("a"), OpenMode::Writing, true)->Write("plain 日 ü");
+    EXPECT_EQ(mFolder.Read("a"), InCodePage("plain 日 ü", GetACP()));
     mFolder.Write("b", "ü");
     EXPECT_EQ(files.OpenTextFile(mFolder.Path("b"), OpenMode::Reading, false)->ReadLine(), "ü");
+}
+
+TEST_F(Win32FileSystemTest, CodePage_LosesWhatItLacks_AndTakesNothingLikeIt)
+{
+    constexpr unsigned Western = 1252;
+    constexpr unsigned Central = 1250;
+    EXPECT_EQ(InCodePage("Łódź", Western),
+        "?\xF3"
+        "d?");
+    EXPECT_EQ(InCodePage("Łódź", Central),
+        "\xA3\xF3"
+        "d\x9F");
+    EXPECT_EQ(InCodePage("日 ∞ ß", Western), "? ? \xDF");
+    EXPECT_EQ(InCodePage("Łódź 日", CP_UTF8), "Łódź 日");
+    EXPECT_EQ(InCodePage("", Western), "");
 }
 
 }
