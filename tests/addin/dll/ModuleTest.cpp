@@ -1,8 +1,10 @@
 #include "addin/base/AddInDesigner.h"
 #include "addin/base/ComRef.h"
+#include "addin/com/Adapted.h"
 #include "addin/com/FakeObject.h"
 #include "addin/dll/ModuleUse.h"
 #include "addin/dll/TestSurroundings.h"
+#include "addin/win32/forms/Win32FormFactory.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -59,6 +61,30 @@ TEST_F(ModuleTest, Module_InUse_CantBeUnloaded)
     mFactory.Clear();
     EXPECT_EQ(DllCanUnloadNow(), S_FALSE);
     --ModuleUse::Uses();
+}
+
+TEST_F(ModuleTest, Module_WithAFormsWindow_CantBeUnloaded)
+{
+    const auto factory = MakeRef<Win32FormFactory>(HostsWindow(ComRef<IDispatch>()));
+    const auto form = factory->Create({ .className = "SampleForm", .title = "Sample" });
+    EXPECT_EQ(DllCanUnloadNow(), S_OK);
+    form->Show();
+    EXPECT_EQ(DllCanUnloadNow(), S_FALSE);
+    // A hidden window keeps its procedure.
+    form->Hide();
+    EXPECT_EQ(DllCanUnloadNow(), S_FALSE);
+    factory->CloseAll();
+    EXPECT_EQ(DllCanUnloadNow(), S_OK);
+}
+
+TEST_F(ModuleTest, Module_ThatHearsAnObject_CantBeUnloaded)
+{
+    const auto quits = FakeObject::Make();
+    quits->Raises({ 0x0006302C, 0, 0, { 0xC0, 0, 0, 0, 0, 0, 0, 0x46 } });
+    auto subscription = Adapted<Application>(quits->Automation())->Subscribe({});
+    EXPECT_EQ(DllCanUnloadNow(), S_FALSE);
+    subscription.End();
+    EXPECT_EQ(DllCanUnloadNow(), S_OK);
 }
 
 TEST_F(ModuleTest, AddIn_HasTheInterfacesOfOne)
