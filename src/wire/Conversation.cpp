@@ -26,7 +26,7 @@ Conversation::Conversation(ByteChannel& channel, Server server)
 
 WireValue Conversation::Ask(FrameWriter& request)
 {
-    mChannel.Write(request.Frame());
+    Send(request);
     for (;;) {
         auto frame = NextFrame();
         if (frame.empty()) {
@@ -66,11 +66,17 @@ void Conversation::Serve(FrameType type, FrameReader& body)
     try {
         const auto value = mServer(type, body);
         FrameWriter answer(FrameType::Result);
-        Tell(answer.Value(value));
+        Send(answer.Value(value));
     } catch (const WireFailure& failure) {
         FrameWriter answer(FrameType::Failed);
-        Tell(answer.Number(failure.Number()).Text(failure.what()));
+        Send(answer.Number(failure.Number()).Text(failure.what()));
     }
+}
+
+void Conversation::Send(FrameWriter& frame)
+{
+    Tell(frame);
+    mChannel.Write(std::exchange(mUnsent, {}));
 }
 
 std::string Conversation::NextFrame()

@@ -27,8 +27,8 @@ public:
     /// Asks and waits for the answer. Fails with `WireFailure` when the other end couldn't do it, with `WireBroken`
     /// when the other end is gone.
     WireValue Ask(FrameWriter& request);
-    /// Sends what isn't answered.
-    void Tell(FrameWriter& frame) { mChannel.Write(frame.Frame()); }
+    /// Sends what isn't answered, together with whatever is sent next: alone it would wake the other end for nothing.
+    void Tell(FrameWriter& frame) { mUnsent += frame.Frame(); }
     /// Waits for a request and serves it; false when the other end has closed.
     bool ServeNext();
 
@@ -38,9 +38,11 @@ private:
     /// Takes bytes off what was read; false when the other end closed before the first of them.
     bool Take(std::size_t size, std::string& bytes);
     void Serve(FrameType type, FrameReader& body);
+    void Send(FrameWriter& frame);
 
     ByteChannel& mChannel;
     Server mServer;
+    std::string mUnsent;
     std::vector<char> mBuffer;
     std::size_t mFilled = 0;
     std::size_t mTaken = 0;

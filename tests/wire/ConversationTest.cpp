@@ -21,6 +21,7 @@ class PreparedChannel final : public ByteChannel
 public:
     std::string input;
     std::string output;
+    int writes = 0;
     /// How many bytes come at once.
     std::size_t most = 65536;
 
@@ -31,7 +32,11 @@ public:
         input.erase(0, count);
         return count;
     }
-    void Write(std::string_view bytes) override { output += bytes; }
+    void Write(std::string_view bytes) override
+    {
+        ++writes;
+        output += bytes;
+    }
 };
 
 std::string Result(const WireValue& value)
@@ -103,6 +108,25 @@ TEST_F(ConversationTest, Ask_ThatIsAskedMeanwhile_ServesFirst)
     EXPECT_EQ(mChannel.output,
         Asked(FrameType::Do, "work") + Result(WireValue::Text("done a")) + Asked(FrameType::Do, "work")
             + Result(WireValue::Text("done b")) + Result(WireValue::Flag(true)) + Failed(13, "Type mismatch"));
+}
+
+TEST_F(ConversationTest, Tell_IsSentWithWhatIsSentNext)
+{
+    FrameWriter told(FrameType::Free);
+    mEnd.Tell(told.Text("first"));
+    EXPECT_EQ(mChannel.output, "");
+    mChannel.input = Result(WireValue::Number(4));
+    Ask();
+    EXPECT_EQ(mChannel.writes, 1);
+    EXPECT_EQ(mChannel.output, Asked(FrameType::Free, "first") + Asked(FrameType::Do, "work"));
+    FrameWriter toldLater(FrameType::Free);
+    mEnd.Tell(toldLater.Text("second"));
+    mChannel.input = Asked(FrameType::Call, "a");
+    mEnd.ServeNext();
+    EXPECT_EQ(mChannel.writes, 2);
+    EXPECT_EQ(mChannel.output,
+        Asked(FrameType::Free, "first") + Asked(FrameType::Do, "work") + Asked(FrameType::Free, "second")
+            + Result(WireValue::Text("done a")));
 }
 
 TEST_F(ConversationTest, ServeNext_FramesInPieces_ServesEachUntilTheEnd)
