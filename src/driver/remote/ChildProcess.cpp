@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <poll.h>
+#include <sched.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -24,6 +25,20 @@ std::array<int, 2> NewPipe()
         throw WireBroken("there is no pipe to be had: close some files");
     }
     return ends;
+}
+
+/// Keeps this process, and those that it starts, on the processor on which it runs. Of two that wait for each other in
+/// turns only one ever has work, and to wake the other one on an idle processor takes longer than most of that.
+void StayOnThisProcessor()
+{
+    const auto processor = ::sched_getcpu();
+    if (processor >= 0) {
+        cpu_set_t only;
+        CPU_ZERO(&only);
+        CPU_SET(static_cast<unsigned>(processor), &only);
+        // Where that isn't permitted all goes on, slower.
+        ::sched_setaffinity(0, sizeof only, &only);
+    }
 }
 
 /// Turns this process, just forked, into the program.
@@ -54,6 +69,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& arguments, std::chron
     pointers.push_back(nullptr);
     const auto input = NewPipe();
     const auto output = NewPipe();
+    StayOnThisProcessor();
     mProcess = ::fork();
     if (mProcess == 0) {
         BecomeProgram(pointers.data(), input, output);

@@ -9,7 +9,8 @@
 
 namespace tempodial {
 
-/// A program that was started, with its standard streams as the channel to it. It is ended with this object.
+/// A program that was started, with its standard streams as the channel to it; both stay on one processor from then on.
+/// It is ended with this object.
 class ChildProcess final : public ByteChannel
 {
 public:

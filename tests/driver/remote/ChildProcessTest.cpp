@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <sched.h>
 #include <string>
 
 namespace tempodial {
@@ -28,6 +29,21 @@ TEST(ChildProcessTest, Bytes_GoThroughAndEnd)
     EXPECT_EQ(Read(process), "some bytes");
     EXPECT_EQ(process.Finish(), 0);
     EXPECT_EQ(Read(process), "");
+}
+
+TEST(ChildProcessTest, BothEnds_StayOnOneProcessor)
+{
+    cpu_set_t before;
+    ASSERT_EQ(sched_getaffinity(0, sizeof before, &before), 0);
+    {
+        ChildProcess process({ "nproc" }, seconds(20));
+        cpu_set_t during;
+        sched_getaffinity(0, sizeof during, &during);
+        EXPECT_EQ(CPU_COUNT(&during), 1);
+        EXPECT_EQ(Read(process), "1\n");
+    }
+    // The other tests of this program may have them all again.
+    sched_setaffinity(0, sizeof before, &before);
 }
 
 TEST(ChildProcessTest, Finish_TellsHowItEnded)
