@@ -47,14 +47,15 @@ target_compile_definitions(addin_version PRIVATE TEMPODIAL_VERSION=${PROJECT_VER
 tempodial_addin_module(Tempodial "${dll}/Surroundings.cpp" "${dll}/tempodial.def" $<TARGET_OBJECTS:addin_version>)
 target_precompile_headers(Tempodial REUSE_FROM addin_base)
 
+# The stand-in for Outlook, and the add-in's module as it is tested with.
+tempodial_addin_folder(standin_rig src/standin/rig OBJECT LINK addin_dll addin_win32 forms faults wire_forms wire)
+tempodial_addin_module(TempodialRig "${PROJECT_SOURCE_DIR}/src/standin/rig/rig.def" LINK standin_rig)
+file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/standin/*.cpp")
+add_executable(tempodial-standin ${sources})
+target_link_libraries(tempodial-standin PRIVATE tempodial_options addin_base wire_forms wire forms)
+target_precompile_headers(tempodial-standin REUSE_FROM addin_base)
+
 if(TEMPODIAL_ADDIN_TESTS)
-    # The stand-in for Outlook, and the add-in's module as it is tested with.
-    tempodial_addin_folder(standin_rig src/standin/rig OBJECT LINK addin_dll addin_win32 forms faults wire_forms wire)
-    tempodial_addin_module(TempodialRig "${PROJECT_SOURCE_DIR}/src/standin/rig/rig.def" LINK standin_rig)
-    file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/src/standin/*.cpp")
-    add_executable(tempodial-standin ${sources})
-    target_link_libraries(tempodial-standin PRIVATE tempodial_options addin_base wire_forms wire forms)
-    target_precompile_headers(tempodial-standin REUSE_FROM addin_base)
     enable_testing()
     include(AddInTests)
 endif()

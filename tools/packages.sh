@@ -22,8 +22,8 @@ desktop_packages=(sway foot fonts-dejavu-core wtype weston kwin-wayland gnome-sh
 # What ./check --fuzz needs besides.
 fuzz_packages=(clang libclang-rt-dev)
 
-# What ./check --bench needs besides: a peer to compare with, and callgrind.
-bench_packages=(python3 timewarrior valgrind xvfb openbox xterm)
+# What ./check --bench needs besides: a peer to compare with, callgrind, and what runs the add-in for Windows.
+bench_packages=(python3 timewarrior valgrind xvfb openbox xterm g++-mingw-w64-x86-64-posix wine wine64)
 
 # What ./package needs besides.
 package_packages=(appstream build-essential debhelper desktop-file-utils dpkg-dev fakeroot fish git librsvg2-bin lintian mandoc

@@ -8,7 +8,6 @@
 #include "wire/WireFailure.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace tempodial {
 
@@ -52,27 +51,26 @@ void ObjectTable::Remove(std::int64_t number)
 {
     mObjects.erase(number);
     FrameWriter frame(FrameType::Free);
-    try {
-        mHost.Tell(frame.Number(number));
-    } catch (const WireBroken&) {
-        EndOfHost();
-    }
+    mHost.Tell(frame.Number(number));
 }
 
 WireValue ObjectTable::Ask(FrameWriter& request) const
 {
-    const auto begin = std::chrono::steady_clock::now();
-    ++mDepth;
-    const std::shared_ptr<void> end(nullptr, [&](void*) {
-        if (--mDepth == 0) {
-            mInCalls += std::chrono::steady_clock::now() - begin;
-        }
-    });
     try {
         return mHost.Ask(request);
     } catch (const WireBroken&) {
         EndOfHost();
     }
+}
+
+WireValue ObjectTable::AskForMember(const std::string& className, const char* member, FrameWriter& request)
+{
+    auto& figures = mCalls[className + "." + member];
+    ++figures.count;
+    const auto begin = std::chrono::steady_clock::now();
+    auto value = Ask(request);
+    figures.waited += std::chrono::steady_clock::now() - begin;
+    return value;
 }
 
 WireValue ObjectTable::ToWire(const VARIANT& value) const

@@ -15,6 +15,13 @@ namespace tempodial {
 
 class StandInObject;
 
+/// How often a member was called, and how long that took at the host's, with what was done here in events meanwhile.
+struct CallFigures
+{
+    std::size_t count = 0;
+    std::chrono::steady_clock::duration waited {};
+};
+
 /// The objects of the host that stand here for it, by their numbers. An object goes with its last reference, and the
 /// host is told.
 class ObjectTable
@@ -42,22 +49,17 @@ public:
 
     /// Asks the host; fails with `WireFailure`. When the host is gone, so is this program.
     WireValue Ask(FrameWriter& request) const;
-    /// A member of a class was called.
-    void Note(const std::string& className, const char* member) { ++mCalls[className + "." + member]; }
-    /// How often members were called, by class and member.
-    const std::map<std::string, std::size_t>& Calls() const { return mCalls; }
-    /// How long the add-in has waited for answers; what it does itself in events meanwhile counts, too.
-    std::chrono::steady_clock::duration InCalls() const { return mInCalls; }
+    /// The same for a call of a member, which is counted.
+    WireValue AskForMember(const std::string& className, const char* member, FrameWriter& request);
+    /// The calls of members, by class and member.
+    const std::map<std::string, CallFigures>& Calls() const { return mCalls; }
 
 private:
     WireValue ListToWire(SAFEARRAY* array) const;
     WireValue ObjectToWire(IDispatch* object) const;
 
     Conversation& mHost;
-    std::map<std::string, std::size_t> mCalls;
-    mutable std::chrono::steady_clock::duration mInCalls {};
-    /// How many answers are waited for at this moment, one in the other.
-    mutable int mDepth = 0;
+    std::map<std::string, CallFigures> mCalls;
     std::map<std::int64_t, StandInObject*> mObjects;
 };
 

@@ -23,10 +23,8 @@ public:
 
     /// Serves the host until it closes.
     void Run();
-    /// How many calls the add-in has made to the host's objects, by class and member.
-    const std::map<std::string, std::size_t>& ObjectCalls() const { return mObjects.Calls(); }
-    /// How long it has waited for them.
-    std::chrono::steady_clock::duration InCalls() const { return mObjects.InCalls(); }
+    /// The add-in's calls of the host's objects, by class and member.
+    const std::map<std::string, CallFigures>& ObjectCalls() const { return mObjects.Calls(); }
 
 private:
     /// What is done by a word.

@@ -124,7 +124,6 @@ STDMETHODIMP StandInObject::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale
         return DISP_E_MEMBERNOTFOUND;
     }
     const ComRef<StandInObject> held(this);
-    mTable.Note(mClassName, member);
     try {
         std::vector<WireValue> arguments;
         for (auto index = parameters->cArgs; index > 0; --index) {
@@ -132,7 +131,7 @@ STDMETHODIMP StandInObject::Invoke(DISPID id, REFIID /*reserved*/, LCID /*locale
         }
         FrameWriter request(FrameType::Call);
         request.Number(mNumber).Byte(static_cast<std::uint8_t>(flags)).Text(member).Values(arguments);
-        auto value = mTable.FromWire(mTable.Ask(request));
+        auto value = mTable.FromWire(mTable.AskForMember(mClassName, member, request));
         if (result != nullptr) {
             *result = value.Detach();
         }

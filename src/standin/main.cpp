@@ -15,10 +15,10 @@ int main()
         tempodial::StandIn standIn;
         standIn.Run();
         if (std::getenv("TEMPODIAL_STANDIN_FIGURES") != nullptr) {
-            const auto waited = std::chrono::duration_cast<std::chrono::microseconds>(standIn.InCalls());
-            (void)std::fprintf(stderr, "%lld us in calls\n", static_cast<long long>(waited.count()));
-            for (const auto& [member, count] : standIn.ObjectCalls()) {
-                (void)std::fprintf(stderr, "%zu %s\n", count, member.c_str());
+            for (const auto& [member, figures] : standIn.ObjectCalls()) {
+                const auto waited = std::chrono::duration_cast<std::chrono::microseconds>(figures.waited);
+                (void)std::fprintf(stderr, "%zu calls, %lld us: %s\n", figures.count,
+                    static_cast<long long>(waited.count()), member.c_str());
             }
         }
     } catch (const std::exception& error) {
