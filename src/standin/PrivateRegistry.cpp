@@ -64,6 +64,8 @@ WireValue ToWireData(DWORD type, const std::vector<BYTE>& data)
 PrivateRegistry::PrivateRegistry()
     : mRoot(L"Software\\TempodialStandIn\\" + std::to_wstring(GetCurrentProcessId()))
 {
+    // One that was ended by force, and had this number, may have left its own.
+    RegDeleteTreeW(HKEY_CURRENT_USER, mRoot.c_str());
     const Key user(HKEY_CURRENT_USER, mRoot + L"\\user");
     const Key machine(HKEY_CURRENT_USER, mRoot + L"\\machine");
     CheckRegistry(RegOverridePredefKey(HKEY_LOCAL_MACHINE, machine.Get()), "hiding the machine's registry");
