@@ -64,6 +64,7 @@ public:
             correction.Run().Complain("the activity couldn't be added: see \"tempodial trace\" for the reason");
         }
         Reply reply;
+        Correction::WarnIfTooLong(content, reply);
         if (project) {
             project->NoteIfAdded(reply);
         }

@@ -1,3 +1,4 @@
+#include "base/Text.h"
 #include "cli/Commands.h"
 #include "cli/Correction.h"
 #include "cli/GivenProject.h"
@@ -10,7 +11,7 @@
 #include "terminal/Arguments.h"
 #include "terminal/UsageError.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -71,12 +72,23 @@ public:
             [&] { correction.Choosing(true, [&] { Assign(correction, project.Name(), span, activities, former); }); });
         Reply noted;
         project.NoteIfAdded(noted);
-        auto reply = correction.Run().ConcludedWithChanges(
-            static_cast<std::size_t>(std::count_if(former.begin(), former.end(), [&](const ActivityRow& row) {
-                const auto now = rows.Numbered(row.number);
-                return now && now->project != row.project;
-            })));
+        std::size_t changed = 0;
+        std::size_t kept = 0;
+        for (const auto& row : former) {
+            if (const auto now = rows.Numbered(row.number); now && now->project != row.project) {
+                ++changed;
+            } else if (now && Fold(now->project) != Fold(project.Name())) {
+                ++kept;
+            }
+        }
+        auto reply = correction.Run().ConcludedWithChanges(changed);
         reply.notes = std::move(noted.notes);
+        if (kept > 0 && !mOverwrite && (changed == 0 || !span)) {
+            reply.remarks.push_back(std::to_string(kept)
+                + (kept == 1 ? " activity keeps the project that it has"
+                             : " activities keep the projects that they have")
+                + ": give --overwrite to change that, too");
+        }
         return reply;
     }
 

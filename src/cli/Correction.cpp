@@ -65,6 +65,18 @@ void Correction::Choosing(bool isPerson, const std::function<void()>& work) cons
     mRun.Profile().Mailbox()->ChoosingProjects(isPerson ? ProjectChoice::Person : ProjectChoice::Nobody, work);
 }
 
+void Correction::WarnIfTooLong(const ActivityContent& content, Reply& reply)
+{
+    constexpr int MinutesOfAnHour = 60;
+    constexpr int MostHours = 12;
+    const auto hours = MinutesBetween(content.start, content.end) / MinutesOfAnHour;
+    if (content.start.Day() != content.end.Day() && hours >= MostHours) {
+        reply.warnings.push_back("the activity lasts " + std::to_string(hours) + " hours, from "
+            + IsoMoment(content.start) + " to " + IsoMoment(content.end)
+            + ": if that is wrong, \"tempodial undo\" takes it back");
+    }
+}
+
 Reply Correction::Concluded(const std::vector<Ref<StoreItem>>& activities, Reply reply)
 {
     reply.document = JsonValue::Array();

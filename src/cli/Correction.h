@@ -48,6 +48,8 @@ public:
     Ref<StoreItem> Make(const ActivityContent& content) const;
     /// Does work in which a person chooses the projects of what is saved, or nobody does.
     void Choosing(bool isPerson, const std::function<void()>& work) const;
+    /// Warns of an activity that lasts into another day, and too long for a night's work.
+    static void WarnIfTooLong(const ActivityContent& content, Reply& reply);
     /// The reply with the activities as they are now.
     Reply Concluded(const std::vector<Ref<StoreItem>>& activities, Reply reply = {});
 

@@ -60,6 +60,11 @@ public:
             });
         });
         Reply reply;
+        for (const auto& content : contents) {
+            if (mStart || mEnd) {
+                Correction::WarnIfTooLong(content, reply);
+            }
+        }
         if (project) {
             project->NoteIfAdded(reply);
         }

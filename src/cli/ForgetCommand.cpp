@@ -36,9 +36,9 @@ public:
 
     void Declare(ArgumentList& arguments) override
     {
-        arguments.Optional("--match TEXT", mMatch, "What holds this text");
-        arguments.Optional("--project NAME", mProject, "What belongs to that project, or to \"No Project\"");
-        arguments.Optional("--before DAY", mBefore, "What started before that day");
+        arguments.Optional("--match TEXT", mMatch, "Activities that hold this text");
+        arguments.Optional("--project NAME", mProject, "Activities of that project, or of \"No Project\"");
+        arguments.Optional("--before DAY", mBefore, "Activities that started before that day");
         arguments.Flag("--preview", mIsPreview, "Only tell how much would be forgotten");
         arguments.Flag("--yes", mIsConfirmed, "Don't ask");
     }

@@ -3,6 +3,7 @@
 #include "terminal/UsageError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tempodial {
 
@@ -49,7 +50,9 @@ public:
                 activities[1]->Delete();
             });
         });
-        return correction.Concluded({ activities[0] });
+        Reply reply;
+        Correction::WarnIfTooLong(content, reply);
+        return correction.Concluded({ activities[0] }, std::move(reply));
     }
 
 private:

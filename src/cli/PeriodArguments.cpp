@@ -18,9 +18,12 @@ std::optional<Period> PeriodNamed(const std::string& text, const Options& option
     return Period::Named(text, HostClock(options.now).Now(), PeriodArguments::WeekStart(options));
 }
 
-[[noreturn]] void RefuseDays(const std::string& name, const std::string& text, const std::string& advice)
+[[noreturn]] void RefuseDays(
+    const std::string& name, const std::string& text, const std::string& advice, const Options& options)
 {
-    throw UsageError(name + " can't be " + InQuotes(text) + ": give " + advice);
+    const auto small = Fold(text);
+    throw UsageError(name + " can't be " + InQuotes(text) + ": give "
+        + (small != text && PeriodNamed(small, options) ? small + ", in small letters" : advice));
 }
 
 }
@@ -87,7 +90,8 @@ Date PeriodArguments::ToDay(const std::string& name, const std::string& text, co
 {
     const auto period = PeriodNamed(text, options);
     if (!period || period->first != period->last) {
-        RefuseDays(name, text, "a day as YYYY-MM-DD, today, yesterday or a day of the week");
+        RefuseDays(name, text,
+            "a day as YYYY-MM-DD, today, yesterday or a day of the week, such as friday for the last one", options);
     }
     return period->first;
 }
@@ -97,7 +101,9 @@ Period PeriodArguments::ToPeriod(const std::string& name, const std::string& tex
     const auto period = PeriodNamed(text, options);
     if (!period) {
         RefuseDays(name, text,
-            "a day as YYYY-MM-DD, or a word such as today, monday, week, last-month, 2026-11, 2026-W47 or -7d");
+            "a day as YYYY-MM-DD, today, yesterday, monday to sunday for the last such day, week, last-week, month, "
+            "last-month, year, last-year, 2026, 2026-11, 2026-W47, or -7d for seven days up to today",
+            options);
     }
     return *period;
 }

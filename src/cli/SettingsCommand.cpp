@@ -10,7 +10,7 @@ class SettingsCommand final : public Command
 {
 public:
     SettingsCommand()
-        : Command({ "settings", "Show what may be set",
+        : Command({ "settings", "Show the settings",
             "Shows each setting with its value, and what it is for. \"settings set\" gives one\n"
             "another value.\n"
             "\n"

@@ -15,7 +15,7 @@ class SettingsSetCommand final : public Command
 {
 public:
     SettingsSetCommand()
-        : Command({ "settings set", "Set something",
+        : Command({ "settings set", "Change a setting",
             "  work-week        the days and hours of your work, such as \"Mon-Fri 09:00-17:30\"\n"
             "                   or \"Mon,Wed-Thu 08:00-12:00\"; \"report --work-week\" goes by them\n"
             "  support-address  where problem reports go\n"
@@ -36,7 +36,7 @@ public:
     void Declare(ArgumentList& arguments) override
     {
         arguments.Required("NAME", mName, "What to set: work-week, support-address, retention,\nweek-start or author");
-        arguments.Required("VALUE", mValue, "What it is to be");
+        arguments.Required("VALUE", mValue, "Its new value");
     }
 
     Reply Run(const Options& options) override

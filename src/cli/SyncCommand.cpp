@@ -147,6 +147,11 @@ public:
                          "again");
         }
         auto reply = run.Concluded(Answer(run));
+        if (options.screen.isTerminal && reply.status == ExitStatus::Done && !TrackerFiles::Of(run.Profile()).latest) {
+            reply.remarks.emplace_back("nothing was recorded yet: \"tempodial track install\" records from now on, "
+                                       "\"tempodial import --list\" shows what another tracker recorded, and "
+                                       "\"tempodial demo\" invents some weeks");
+        }
         Keep(run, reply);
         return reply;
     }

@@ -88,7 +88,7 @@ public:
     TrackProbeCommand()
         : Command({ "track probe", "Show which desktops the recorder can watch here",
             "Tries each of them and says what it sees there, or why it can't and what to do\n"
-            "about that. The chosen one has a star. Needs no recorder that runs.\n"
+            "about that. The chosen one has a star. No recorder need be running.\n"
             "\n"
             "  tempodial track probe" })
     {

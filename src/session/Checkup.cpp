@@ -60,11 +60,14 @@ Checkup::Checkup(const ProfileOptions& options)
     : mPath(ProfilePath(options))
 {
     LookAtProfile();
-    LookAtForm();
-    LookAtRegistry();
-    LookAtMailbox();
-    LookAtHistory();
-    LookAtTracker();
+    // Of what is in a folder that can't be looked into nobody knows whether it is right.
+    if (mCanLook) {
+        LookAtForm();
+        LookAtRegistry();
+        LookAtMailbox();
+        LookAtHistory();
+        LookAtTracker();
+    }
     LookAtSpace();
 }
 
@@ -77,6 +80,7 @@ void Checkup::LookAtProfile()
 {
     Guarded("profile", "name another with --profile, or see to its permissions", [&] {
         mHasProfile = ProfilePlace(mPath).HasProfile();
+        mCanLook = true;
         if (!mHasProfile) {
             Wrong("profile", "no profile at " + mPath + " yet",
                 "\"tempodial sync\" makes one; name another with --profile");
@@ -206,7 +210,7 @@ void Checkup::LookAtSpace()
     }
     const auto free = FreeBytes(folder);
     constexpr unsigned int Mebi = 20;
-    const auto what = free ? std::to_string(*free >> Mebi) + " MiB free" : std::string("nobody can tell");
+    const auto what = free ? std::to_string(*free >> Mebi) + " MiB free" : std::string("unknown");
     if (!free || *free >= RoomNeeded) {
         Right("space", what);
     } else {

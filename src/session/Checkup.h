@@ -52,6 +52,7 @@ private:
 
     std::string mPath;
     bool mHasProfile = false;
+    bool mCanLook = false;
     std::vector<Finding> mFindings;
 };
 

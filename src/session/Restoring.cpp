@@ -148,12 +148,12 @@ std::optional<std::string> PutInPlace(UnpackedFolder& folder, const FormerProfil
 
 RestoredProfile RestoreProfile(const ProfileOptions& options, const std::string& backup, bool replaces, Date now)
 {
-    FormerProfile former(options);
-    former.RequireReplaceable(options, replaces);
-    const auto place = NativePath::Exactly(former.Path());
     try {
         const ArchiveFile archive { NativePath(backup) };
+        FormerProfile former(options);
+        former.RequireReplaceable(options, replaces);
         archive.RequireWhole();
+        const auto place = NativePath::Exactly(former.Path());
         MakeFoldersAbove(place);
         UnpackedFolder folder(place.Beside("." + place.Name() + ".restored"), BackupFolderName, IsOfProcesses);
         archive.Unpack(folder);

@@ -33,6 +33,17 @@ TEST_F(AddCommandTest, Add_Project_ComesIntoBeing)
     EXPECT_EQ(Json({ "list", "--project", "New", "yesterday" }).size(), 1U);
 }
 
+TEST_F(AddCommandTest, Add_IntoAnotherDay_WarnsWhereANightIsShorter)
+{
+    const auto night = Run({ "add", "--from", "2006-10-08T18:01", "--to", "2006-10-09T06:00" });
+    EXPECT_EQ(night.error, "");
+    const auto longer = Run({ "add", "--from", "2006-10-08T18:00", "--to", "2006-10-09T06:00" });
+    EXPECT_EQ(longer.status, 0);
+    EXPECT_THAT(longer.error, HasSubstr("lasts 12 hours"));
+    EXPECT_THAT(Run({ "edit", "@1", "--end", "2006-10-12T10:00" }).error, HasSubstr("lasts 49 hours"));
+    EXPECT_EQ(Run({ "edit", "@1", "--description", "seen" }).error, "") << "its times were warned of already";
+}
+
 TEST_F(AddCommandTest, Add_BadArguments_AreUsageErrors)
 {
     const auto before = Everything();

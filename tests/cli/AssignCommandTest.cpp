@@ -44,7 +44,9 @@ TEST_F(AssignCommandTest, Assign_Span_TakesItsBeginAndNotItsEnd)
     EXPECT_EQ(result.error, "Added: the project Plan\n");
     EXPECT_THAT(Projects(), ElementsAre("Plan", "Plan", "Other", "No Project"));
     EXPECT_EQ(Json({ "projects" }).size(), 6U) << "the project came into being";
-    EXPECT_EQ(Json(Assign("Plan", "09T09:00", "10T09:10")), Changed(0));
+    const auto again = Run(Assign("Plan", "09T09:00", "10T09:10"));
+    EXPECT_EQ(again.out, "0 activities changed\n");
+    EXPECT_THAT(again.error, HasSubstr("give --overwrite"));
 }
 
 TEST_F(AssignCommandTest, Assign_Numbers_TakesThoseWithoutAProject)
@@ -55,6 +57,19 @@ TEST_F(AssignCommandTest, Assign_Numbers_TakesThoseWithoutAProject)
     EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Plan", "Plan"));
     EXPECT_EQ(Json({ "assign", "no project", "@3", "--overwrite" }), Changed(1));
     EXPECT_THAT(Projects(), ElementsAre("No Project", "Plan", "Plan", "No Project"));
+}
+
+TEST_F(AssignCommandTest, Assign_ProjectsThatStay_AreToldWithTheOptionThatChangesThem)
+{
+    const auto result = Run({ "assign", "Plan", "@2", "@3" });
+    EXPECT_EQ(result.out, "1 activity changed\n");
+    EXPECT_EQ(result.error,
+        "Added: the project Plan\n"
+        "tempodial: 1 activity keeps the project that it has: give --overwrite to change that, too\n");
+    EXPECT_EQ(Run({ "assign", "plan", "@3" }).error, "") << "it has that project already";
+    EXPECT_EQ(Run({ "assign", "Other", "@2", "@3", "--quiet" }).error, "");
+    EXPECT_THAT(Run(Assign("no project", "10T00:00", "11T00:00")).error, HasSubstr("2 activities keep the projects"));
+    EXPECT_EQ(Run({ "assign", "Plan", "@2", "--overwrite" }).error, "");
 }
 
 TEST_F(AssignCommandTest, Assign_Touching_TakesWhatOverlaps)

@@ -291,6 +291,8 @@ TEST_F(BackupCommandTest, Restore_NoUsableProfileInIt_WritesNothing)
     EXPECT_THAT(RefusalOf(Gzip(Tar({ { "tempodial/mailbox.db", mailbox }, { "tempodial/registry.toml", "[" } }))),
         HasSubstr("registry"));
     EXPECT_THAT(Refusal({ "restore", mFolder.Path("none.tar.gz"), "--replace" }, 1), HasSubstr("couldn't be restored"));
+    mProfile = mFolder.Write("file", "x");
+    EXPECT_THAT(Refusal({ "restore", mFolder.Path("none.tar.gz") }, 1), HasSubstr("none.tar.gz couldn't be restored"));
 }
 
 }

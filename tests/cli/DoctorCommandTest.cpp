@@ -1,5 +1,6 @@
 #include "support/ProgramFixture.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -64,6 +65,16 @@ TEST_F(DoctorCommandTest, Doctor_NoProfile_SaysSoAndMakesNone)
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.error, "tempodial: no profile at " + mProfile + " yet\n");
     EXPECT_FALSE(fs::exists(mProfile));
+}
+
+TEST_F(DoctorCommandTest, Doctor_FolderThatCantBeOpened_TellsNothingOfWhatIsInIt)
+{
+    mProfile = mFolder.Write("file", "x") + "/profile";
+    const auto result = Run({ "doctor" });
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.out, testing::StartsWith("WRONG  profile: can't open the profile folder"));
+    EXPECT_THAT(result.out, testing::ContainsRegex("\nok     space: [0-9]+ MiB free\n$"));
+    EXPECT_EQ(std::count(result.out.begin(), result.out.end(), '\n'), 2);
 }
 
 TEST_F(DoctorCommandTest, Doctor_DamagedMailbox_IsNamedAndStays)

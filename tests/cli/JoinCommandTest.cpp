@@ -40,6 +40,19 @@ TEST_F(JoinCommandTest, Join_OneWithinTheOther_KeepsTheLaterEnd)
     EXPECT_THAT(Line(Json({ "join", "@2", "@1" }).at(0)), testing::StartsWith("@1 09:00-10:00 "));
 }
 
+TEST_F(JoinCommandTest, Join_AcrossDays_WarnsOfTheLength)
+{
+    Answer({ "edit", "@3", "--start", "2006-10-12T12:00", "--end", "2006-10-12T12:10" });
+    const auto result = Run({ "join", "@1", "@3", "--quiet" });
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.error,
+        "tempodial: the activity lasts 51 hours, from 2006-10-10T09:00:00 to 2006-10-12T12:10:00: if that is wrong, "
+        "\"tempodial undo\" takes it back\n");
+    Answer({ "undo" });
+    Answer({ "edit", "@3", "--start", "2006-10-10T22:00", "--end", "2006-10-10T23:50" });
+    EXPECT_EQ(Run({ "join", "@1", "@3" }).error, "") << "a long day may be meant";
+}
+
 TEST_F(JoinCommandTest, Join_WithItselfOrUnknown_IsRefused)
 {
     const auto before = Everything();

@@ -188,7 +188,10 @@ TEST_F(ListCommandTest, List_BadRanges_AreUsageErrors)
     EXPECT_THAT(Refusal({ "list", "--to", "2006-02-29" }, 2), HasSubstr("YYYY-MM-DD"));
     EXPECT_THAT(Refusal({ "list", "2006-13" }, 2), HasSubstr("RANGE can't be \"2006-13\""));
     EXPECT_THAT(Refusal({ "list", "week", "--from", "today" }, 2), HasSubstr("leave one of them out"));
-    Refusal({ "list", "Today" }, 2);
+    EXPECT_THAT(Refusal({ "list", "tomorrow" }, 2), HasSubstr(", yesterday, monday to sunday for the last such day, "));
+    EXPECT_EQ(
+        Refusal({ "list", "Friday" }, 2), "tempodial: RANGE can't be \"Friday\": give friday, in small letters\n");
+    EXPECT_THAT(Refusal({ "list", "Tomorrow" }, 2), HasSubstr("give a day as YYYY-MM-DD"));
     Refusal({ "list", "2025-W53" }, 2);
     EXPECT_FALSE(std::filesystem::exists(mProfile));
 }

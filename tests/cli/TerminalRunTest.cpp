@@ -46,6 +46,19 @@ TEST_F(TerminalRunTest, Sync_QuietOnATerminal_DrawsNothing)
     EXPECT_EQ(program.Shown(), "");
 }
 
+TEST_F(TerminalRunTest, Sync_NothingRecordedYet_SaysWhatRecords)
+{
+    StartedProgram first(Whole({ "sync" }), { .isOnTerminal = true });
+    EXPECT_EQ(first.End(), 0);
+    EXPECT_THAT(first.Shown(), HasSubstr("\"tempodial track install\" records from now on"));
+    WriteTracker("20061009", { WordSlot(32400, 32700, "a.doc") });
+    for (int i = 0; i < 2; ++i) {
+        StartedProgram later(Whole({ "sync" }), { .isOnTerminal = true });
+        EXPECT_EQ(later.End(), 0);
+        EXPECT_THAT(later.Shown(), Not(HasSubstr("track install")));
+    }
+}
+
 TEST_F(TerminalRunTest, Sync_ControlC_StopsAndTheNextSyncGoesOn)
 {
     WriteLongDay("20061010", 8000);
