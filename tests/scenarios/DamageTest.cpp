@@ -17,7 +17,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// A log of four weeks, too large to be looked over at each opening, of which something is damaged in the midst.
+/// A log of four weeks, too large to be looked over at each opening, of which something is damaged in the middle.
 class DamageTest : public ProgramFixture
 {
 protected:

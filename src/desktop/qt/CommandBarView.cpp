@@ -80,7 +80,7 @@ void CommandBarView::AddCommand(const Ref<HostCommandBarControl>& command)
     action->setEnabled(state.enabled);
     action->setShortcut(KeysOf(state.id));
     connect(action, &QAction::triggered, this, [this, command] {
-        // The model may let go of it in the midst of the click.
+        // The model may let go of it during the click.
         const auto held = command;
         Run([&] { ClickCommandAsStep(mDesk.Profile(), *mInspector, *held); });
     });

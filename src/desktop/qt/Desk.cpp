@@ -59,7 +59,7 @@ std::string Desk::UsualSettingsPath()
 
 void Desk::Quit()
 {
-    // Windows are asked to close in the midst of this.
+    // Windows are asked to close during this.
     const auto stays = std::exchange(mStaysWhenClosed, false);
     QCoreApplication::quit();
     mStaysWhenClosed = stays;

@@ -117,7 +117,7 @@ void MainMenu::FillButtons(const HostCommandBar& bar)
 
 void MainMenu::Click(const Ref<HostCommandBarControl>& command)
 {
-    // The model may let go of it in the midst of the click.
+    // The model may let go of it during the click.
     const auto held = command;
     mDesk.Do([&] { ClickCommandAsStep(mDesk.Profile(), *mExplorer, *held); });
 }

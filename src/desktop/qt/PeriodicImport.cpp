@@ -29,7 +29,7 @@ PeriodicImport::PeriodicImport(Desk& desk)
 
 void PeriodicImport::Ask()
 {
-    // A message or a drag would be in the midst of something; it is asked again soon.
+    // A message or a drag is not interrupted; it is asked again soon.
     const bool isHeldBack = mDesk.IsBusy() || QApplication::activeModalWidget() != nullptr
         || QApplication::mouseButtons() != Qt::NoButton;
     if (!isHeldBack && mSchedule.IsDue(mDesk.Now())) {

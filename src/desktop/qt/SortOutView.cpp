@@ -110,7 +110,7 @@ void SortOutView::Fill()
     mIsFilling = false;
     const auto* current = mList->currentItem();
     if (current != nullptr && NumbersOf(mGroups[static_cast<std::size_t>(mList->currentIndex().row())]) != mTold) {
-        // This may be in the midst of what has changed the log.
+        // This may run during what has changed the log.
         QTimer::singleShot(0, this, [this] { SelectCurrent(); });
     }
 }

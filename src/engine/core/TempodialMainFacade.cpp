@@ -14,7 +14,7 @@
 namespace tempodial {
 
 // Each member takes a reference to its worker for the length of the call: the
-// worker may be released in the midst of it, when a job lets messages be
+// worker may be released during it, when a job lets messages be
 // processed and the last window closes. Where that can be the end of this object
 // too, the member holds it.
 
@@ -264,7 +264,7 @@ void TempodialMain::SwitchingToTasklog()
     attempt([worker = mWorkLog] { worker->SwitchingToTasklog(); });
     attempt([&, worker = mDataHandler] { worker->SyncData(mConfig->mSavedDataDays, false); });
     if (!mLog) {
-        return; // The add-in was ended in the midst of it.
+        return; // The add-in was ended during it.
     }
     attempt([&] { RegularCleanUp(); });
     attempt([worker = mUtils] { worker->CleanUpOldFiles(); });

@@ -74,7 +74,7 @@ bool TempodialMain::CreateReport(Date startDate, Date endDate, std::int32_t repo
             startDate, endDate, reportType, detailed, createCSVFile, csvFilePath, !htmlFormat, workDayOnly);
     });
     if (!mLog) {
-        return false; // The add-in was ended in the midst of it.
+        return false; // The add-in was ended during it.
     }
     if (htmlFormat) {
         attempt([&] { item->SetHTMLBody(text); });

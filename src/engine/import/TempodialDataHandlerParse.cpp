@@ -15,7 +15,7 @@ namespace {
 constexpr auto ParseLineWords = "ParseLine error ";
 constexpr std::int32_t ProgressLimit = 50;
 constexpr std::int32_t LinesPerProgressStep = 4;
-/// Seconds, and lines loaded, between two commits in the midst of a file.
+/// Seconds, and lines loaded, between two commits within a file.
 constexpr std::int64_t CommitSeconds = 1;
 constexpr std::int32_t CommitLines = 1000;
 /// Lines of a file in front of its slots.

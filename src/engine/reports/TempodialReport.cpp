@@ -215,13 +215,13 @@ std::string TempodialReport::BuildHTMLReport(
     attempt([&] { summary = Replace(summary, "#TOTALTIME#", texts.ToTimeString(data.totalTime)); });
 
     auto report = header + summary;
-    summary = std::string(); // it may be long, and isn't to be held twice
+    summary = std::string(); // it may be long, and must not be held twice
     if (detailed) {
         attempt.Say("set details");
         attempt([&] { details = Replace(details, "#CRITERIA#", label); });
         attempt([&] { details = Replace(details, "#DETAILS#", texts.BuildDetail(data, true, detailLine)); });
         attempt([&] { details = html.HTMLMogrify(std::move(details)); });
-        // Room for all of it at once: a report that grew by and by would be held twice and more.
+        // Room for all of it at once: a report that grew piece by piece would be held twice and more.
         attempt([&] { report.reserve(report.size() + details.size() + Ending.size()); });
         attempt([&] { report += details; });
     }

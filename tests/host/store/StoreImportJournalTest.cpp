@@ -192,7 +192,7 @@ TEST_F(StoreImportJournalTest, FullDisk_UndoesWhatWasNotCommitted)
     EXPECT_EQ(mMailbox->Statistics().detailed, 0);
     EXPECT_EQ(mMailbox->Statistics().failed.size(), 1U);
 
-    // Nothing is written until the import has ended, lest its lines come in a second time.
+    // Nothing is written until the import has ended, so that its lines don't come in twice.
     FreeDisk(mMailbox);
     EXPECT_EQ(FailureNumber([&] { lost->Save(); }), 61);
     EXPECT_EQ(FailureNumber([&] { mJournal->Loaded("20061010", { 300, 3 }); }), 61);

@@ -98,7 +98,7 @@ class PersonInAnImportTest : public testing::Test
 protected:
     using Deed = std::function<void(HostApplication& application, const Ref<StoreItem>& item)>;
 
-    /// How many items are left in the calendar when the host dies in the midst of an import of two, after that deed to
+    /// How many items are left in the calendar when the host dies during an import of two, after that deed to
     /// an item that was there before.
     static std::int32_t LeftAfter(const Deed& deed)
     {
