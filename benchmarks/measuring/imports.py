@@ -25,13 +25,13 @@ class Imports:
         self._rounds = rounds
         self._peer = peer
         self._files = programs.Path("tracked")
+        self._days = programs.Path("tracked-days")
         self._importCosts = None
 
     def AgainstFloor(self):
         """Goal 1: 22 days of 500 lines."""
         programs = self._programs
-        programs.Track(self._files, LINES, DAYS)
-        profile = self._Tracked("import", self._files)
+        profile = self.Tracked("import")
         blocks, singles = programs.RunTraced(profile, "sync")
         items = programs.Items(profile)
         if items * 10 != DAYS * LINES * 6:
@@ -41,14 +41,14 @@ class Imports:
         programs.Other("floor-import", place.Fresh(ready), "prepare")
 
         def RunProduct():
-            self._Tracked("import", self._files)
+            self.Tracked("import")
             product.Sync()
             return programs.Run(profile, "sync")
 
         def RunFloor():
             shutil.rmtree(floor, ignore_errors=True)
             shutil.copytree(ready, floor)
-            shutil.copytree(self._files, floor, dirs_exist_ok=True)
+            shutil.copytree(self._days, floor, dirs_exist_ok=True)
             product.Sync()
             return programs.Other("floor-import", floor, str(DAYS * LINES),
                                   *(str(number) for number in blocks + singles))
@@ -213,6 +213,12 @@ class Imports:
                                f"{items:,} items", cost.wall, 60, kind="seconds"),
                 figures.Result("11b", "the peak of memory then", f"{cost.peak / 1e6:.0f} MB", cost.peak / 1e6, 400,
                                kind="MB")]
+
+    def Tracked(self, name):
+        """A new profile without activities, with tracker files of 22 days of 500 lines."""
+        if not os.path.exists(self._days):
+            self._programs.Track(self._days, LINES, DAYS)
+        return self._Tracked(name, self._days)
 
     def _Tracked(self, name, files):
         """A new profile without activities, with the tracker files of a folder."""
