@@ -66,7 +66,6 @@ void AgendaView::Follow()
     mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.Days(), Place());
     mContents.Fill();
     mGutter = mPainter.GutterFor(mContents.HourNames());
-    mPainter.Texts().Forget();
     Put();
     FindFocus();
     const bool wasEmpty = std::exchange(mIsEmpty, mLog.Activities().empty());
@@ -258,7 +257,7 @@ void AgendaView::ApplyZoom(double pixelsPerMinute, double place)
 {
     const auto before = mScene->Scale();
     const auto scroll = verticalScrollBar()->value();
-    mDesk.Remember([pixelsPerMinute](DesktopSettings& settings) {
+    mDesk.RememberSoon([pixelsPerMinute](DesktopSettings& settings) {
         settings.zoom = pixelsPerMinute == 0 ? DesktopSettings::FittingZoom : std::lround(pixelsPerMinute / Hundredth);
     });
     Put();

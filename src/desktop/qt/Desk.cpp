@@ -37,6 +37,8 @@ Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& 
     , mWeekStart([first = FirstDayOfWeek(options)] { return first; })
 {
     mAppearance.Apply(mSettings.appearance);
+    mSettingsTimer.setSingleShot(true);
+    QObject::connect(&mSettingsTimer, &QTimer::timeout, [this] { KeepSettings(); });
 }
 
 std::string Desk::ConfigFolder()
@@ -81,6 +83,9 @@ void Desk::Start(const Ref<MessageBox>& messageBox)
 void Desk::Exit()
 {
     mSession.Exit();
+    if (mSettingsTimer.isActive()) {
+        KeepSettings();
+    }
     KeepColours();
 }
 
@@ -122,9 +127,21 @@ void Desk::Remember(const std::function<void(DesktopSettings& settings)>& change
 {
     const auto before = mSettings;
     change(mSettings);
-    if (mSettings == before) {
-        return;
+    if (mSettings != before) {
+        KeepSettings();
     }
+}
+
+void Desk::RememberSoon(const std::function<void(DesktopSettings& settings)>& change)
+{
+    constexpr std::chrono::seconds Moment(1);
+    change(mSettings);
+    mSettingsTimer.start(Moment);
+}
+
+void Desk::KeepSettings()
+{
+    mSettingsTimer.stop();
     try {
         MakeFoldersAbove(NativePath::Exactly(mSettingsPath));
         WriteSettingsFile(mSettings.Keep(mSettingsPath));

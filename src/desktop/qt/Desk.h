@@ -12,6 +12,7 @@
 #include "session/ProfileOptions.h"
 #include "session/Session.h"
 
+#include <QTimer>
 #include <chrono>
 #include <functional>
 #include <string>
@@ -67,6 +68,8 @@ public:
     void Change(const std::function<void(DesktopSettings& settings)>& change);
     /// The same of what nobody but the one that changes it looks at.
     void Remember(const std::function<void(DesktopSettings& settings)>& change);
+    /// The same of what changes many times in a moment, kept when that is over.
+    void RememberSoon(const std::function<void(DesktopSettings& settings)>& change);
 
     /// True when the last window is only hidden when it is closed, since the tray brings it back.
     bool StaysWhenClosed() const { return mStaysWhenClosed; }
@@ -93,11 +96,13 @@ public:
 private:
     /// Does work; what it fails with is told.
     void Guarded(const std::function<void()>& work);
+    void KeepSettings();
     void KeepColours();
 
     Appearance& mAppearance;
     std::string mSettingsPath;
     DesktopSettings mSettings;
+    QTimer mSettingsTimer;
     tempodial::Session mSession;
     ColourBook mColours;
     Period::WeekStart mWeekStart;

@@ -15,7 +15,7 @@ void TextCache::Use(const QFont& font, qreal devicePixels)
     }
     mFonts[static_cast<std::size_t>(TextRole::Bold)].setWeight(QFont::DemiBold);
     mDevicePixels = devicePixels;
-    Forget();
+    mPictures.clear();
 }
 
 double TextCache::WidthOf(TextRole role, const QString& text) const

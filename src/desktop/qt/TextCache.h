@@ -21,8 +21,6 @@ class TextCache
 public:
     /// The texts are in sizes of that font from now on; all pictures go.
     void Use(const QFont& font, qreal devicePixels);
-    /// All pictures go, as when the theme is another.
-    void Forget() { mPictures.clear(); }
 
     const QFont& FontOf(TextRole role) const { return mFonts[static_cast<std::size_t>(role)]; }
     /// The height of a line.

@@ -233,6 +233,18 @@ TEST_F(AgendaViewTest, CtrlWheel_KeepsTheMomentUnderThePointer)
     EXPECT_EQ(mDesk->Settings().zoom, DesktopSettings::FittingZoom);
 }
 
+TEST_F(AgendaViewTest, Zoom_ByNotches_IsKeptOnceWhenTheyAreOver)
+{
+    const auto keptText = [this] { return mFolder.Read("config/desktop.toml"); };
+    mDesk->Remember([](DesktopSettings& settings) { settings.notifies = false; });
+    const auto before = keptText();
+    View().Zoom(1);
+    View().Zoom(1);
+    EXPECT_EQ(keptText(), before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return keptText() != before; }));
+    EXPECT_NE(keptText().find("zoom = " + std::to_string(mDesk->Settings().zoom)), std::string::npos);
+}
+
 TEST_F(AgendaViewTest, ProjectRow_Clicked_FadesOthersAndEscapeEndsIt)
 {
     auto& rows = mWindow->Side().Projects().Rows();
