@@ -51,13 +51,21 @@ private:
     {
         const auto& [step, items] = undone;
         const auto named = std::to_string(step.number) + ", " + IsolatedLine(step.command) + "\n";
-        const auto kept = items.kept == 0 ? "" : Count(items.kept) + " changed since and kept";
+        std::string done;
+        const auto add = [&done](std::int64_t count, const char* what) {
+            if (count > 0) {
+                done += (done.empty() ? "" : ", ") + Count(count) + what;
+            }
+        };
+        add(items.restored - items.removed, " restored");
+        add(items.removed, " removed");
+        add(items.kept, " changed since and kept");
         if (items.restored == 0 && items.kept > 0 && !step.rulesAfter) {
-            return (mIsPreview ? "Nothing would go back of step " : "Nothing went back of step ") + named + kept
+            return (mIsPreview ? "Nothing would go back of step " : "Nothing went back of step ") + named + done
                 + "; \"tempodial undo N\" takes another step back\n";
         }
-        return (mIsPreview ? "Would take back step " : "Taken back: step ") + named + Count(items.restored)
-            + " restored" + (kept.empty() ? "" : ", " + kept) + "\n";
+        return (mIsPreview ? "Would take back step " : "Taken back: step ") + named
+            + (done.empty() ? Count(0) + " restored" : done) + "\n";
     }
 
     static std::string Count(std::int64_t activities)

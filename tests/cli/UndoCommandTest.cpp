@@ -59,6 +59,21 @@ TEST_F(UndoCommandTest, Undo_Answer_NamesTheStep)
     EXPECT_THAT(Steps(), ElementsAre("2 undo 1 1", "1 --quiet assign \"No Project\" @2 --overwrite 1"));
 }
 
+TEST_F(UndoCommandTest, Undo_WhatItMakesGo_IsSaidToBeRemoved)
+{
+    Run({ "add", "--from", "12:00", "--to", "13:00" });
+    EXPECT_EQ(
+        Run({ "undo", "--preview" }).out, "Would take back step 1, add --from 12:00 --to 13:00\n1 activity removed\n");
+    EXPECT_EQ(Run({ "undo" }).out, "Taken back: step 1, add --from 12:00 --to 13:00\n1 activity removed\n");
+    Run({ "split", "@1", "--at", "09:05" });
+    EXPECT_EQ(
+        Run({ "undo" }).out, "Taken back: step 3, split @1 --at 09:05\n1 activity restored, 1 activity removed\n");
+    Run({ "split", "@1", "--at", "09:05" });
+    Run({ "edit", "@1", "--description", "x" });
+    EXPECT_EQ(Run({ "undo", "5" }).out,
+        "Taken back: step 5, split @1 --at 09:05\n1 activity removed, 1 activity changed since and kept\n");
+}
+
 TEST_F(UndoCommandTest, Undo_ChangedSince_IsKeptAndCounted)
 {
     Run({ "assign", "A", "@1", "@2", "@3", "--overwrite" });

@@ -34,6 +34,8 @@ struct StepItems
 {
     /// Items that are as they were before the step.
     std::int64_t restored = 0;
+    /// Those of them that there weren't then, so that they are gone.
+    std::int64_t removed = 0;
     /// Items that were changed since the step, and stay.
     std::int64_t kept = 0;
 };

@@ -136,13 +136,16 @@ void StepTable::RemoveBefore(Date moment)
 StepItems StepTable::Restorable(std::int64_t step)
 {
     static const std::string sql
-        = "SELECT (SELECT count(*)" + Restorables + "), (SELECT count(*) FROM step_item WHERE step = ?)";
+        = "SELECT count(*), count(*) FILTER (WHERE step_item.folder IS NULL), (SELECT count(*) FROM step_item WHERE "
+          "step = ?)"
+        + Restorables;
     Query query(mDatabase, sql);
     query.Bind(step).Bind(step);
     StepItems items;
     if (query.Step()) {
         items.restored = query.Int(0);
-        items.kept = query.Int(1) - items.restored;
+        items.removed = query.Int(1);
+        items.kept = query.Int(2) - items.restored;
     }
     return items;
 }
