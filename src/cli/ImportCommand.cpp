@@ -6,11 +6,11 @@
 #include "cli/SourceFile.h"
 #include "cli/WaitingLines.h"
 #include "cli/WordArgument.h"
+#include "cli/ZoneArgument.h"
 #include "host/files/ProgramFolder.h"
 #include "host/files/ProgramModule.h"
 #include "host/settings/TomlSettings.h"
 #include "host/system/HostClock.h"
-#include "host/system/IcuTimeZone.h"
 #include "portable/TextEncoding.h"
 #include "session/OpenProfile.h"
 #include "slots/ViewSettings.h"
@@ -96,7 +96,7 @@ public:
         }
         const auto& source = ChosenSource();
         const auto range = Range(options);
-        const auto zone = Zone();
+        const auto zone = ToZone(mZone);
         const auto dates = Dates();
         const bool asSightings = IsAsSightings(source);
         if (mIsAgain && !mIsDryRun && !mIsSure && ::isatty(STDIN_FILENO) == 0) {
@@ -143,8 +143,8 @@ private:
             names.emplace_back(source.name);
         }
         const bool isLater = *mSource == "timing" || *mSource == "manictime";
-        throw UsageError("there is no source \"" + *mSource + "\": "
-            + (isLater ? R"(bring its table into the form of "csv", which "tempodial import --list" shows)"
+        throw UsageError("there is no source \"" + *mSource + "\""
+            + (isLater ? R"(: bring its table into the form of "csv", which "tempodial import --list" shows)"
                        : NearestAdvice(*mSource, names, "see \"tempodial import --list\" for all")));
     }
 
@@ -165,19 +165,6 @@ private:
                 + ": give the earlier day as --from");
         }
         return range;
-    }
-
-    std::unique_ptr<TimeZone> Zone() const
-    {
-        if (!mZone) {
-            return std::make_unique<IcuTimeZone>();
-        }
-        try {
-            return std::make_unique<IcuTimeZone>(*mZone);
-        } catch (const Failure&) {
-            throw UsageError("there is no time zone \"" + *mZone
-                + "\": " + NearestAdvice(*mZone, IcuTimeZone::Names(), "name one such as Europe/Zurich"));
-        }
     }
 
     DateOrder Dates() const
@@ -366,10 +353,10 @@ private:
 
     Reply Answer(const ImportOutcome& outcome, const Skipped& skipped) const
     {
-        auto days = JsonValue::Array();
+        auto told = JsonValue::Array();
         PlannedDay sum;
         for (const auto& [day, planned] : outcome.days) {
-            days.Append({ { "day", IsoDay(day) }, { "slots", planned.slots }, { "entries", planned.entries },
+            told.Append({ { "day", IsoDay(day) }, { "slots", planned.slots }, { "entries", planned.entries },
                 { "taken", planned.taken }, { "before", planned.before } });
             sum.slots += planned.slots;
             sum.entries += planned.entries;
@@ -385,12 +372,15 @@ private:
         reply.document = { { "source", *mSource },
             { "from", isEmpty ? JsonValue() : JsonValue(IsoDay(outcome.days.begin()->first)) },
             { "to", isEmpty ? JsonValue() : JsonValue(IsoDay(outcome.days.rbegin()->first)) },
-            { "days", std::move(days) },
+            { "days", std::move(told) },
             { "minutes", { { "present", sum.minutesPresent }, { "written", sum.minutesWritten } } },
             { "skipped", std::move(reasons) }, { "created", outcome.created }, { "extended", outcome.extended },
             { "detailed", outcome.detailed } };
-        reply.text = TextOf(outcome, skipped);
-        reply.summary = std::string(mIsDryRun ? "Would import " : "Imported ") + std::to_string(sum.minutesWritten)
+        const auto days = TextOf(outcome, skipped);
+        if (mIsDryRun) {
+            reply.text = days; // that is what was asked for
+        }
+        reply.summary = (mIsDryRun ? "Would import " : days + "Imported ") + std::to_string(sum.minutesWritten)
             + " min of " + std::to_string(sum.minutesPresent) + ", on " + std::to_string(outcome.days.size())
             + (outcome.days.size() == 1 ? " day\n" : " days\n");
         return reply;
@@ -410,14 +400,33 @@ private:
         return text;
     }
 
-    static void AddTrouble(Reply& reply, const Skipped& skipped)
+    /// Names the lines of a table that couldn't be read; empty when none is known.
+    static std::string UnreadableLines(const Skipped& skipped)
     {
-        const auto add = [&reply, &skipped](const char* reason, const char* words) {
+        const auto& lines = skipped.UnreadableLines();
+        std::string text;
+        for (const auto line : lines) {
+            text += (text.empty() ? "" : ", ") + std::to_string(line);
+        }
+        const auto isMore = skipped.Count(Skipped::Unreadable) > static_cast<std::int64_t>(lines.size());
+        return lines.empty() ? "" : (lines.size() == 1 ? " (line " : " (lines ") + text + (isMore ? ", …)" : ")");
+    }
+
+    void AddTrouble(Reply& reply, const Skipped& skipped) const
+    {
+        const auto add = [&reply, &skipped](const char* reason, const std::string& words) {
             if (const auto count = skipped.Count(reason); count > 0) {
                 reply.complaints.push_back(std::to_string(count) + words);
             }
         };
-        add(Skipped::Unreadable, " records couldn't be read: look at them in the file; all others were taken");
+        const bool isOne = skipped.Count(Skipped::Unreadable) == 1;
+        const auto lines = UnreadableLines(skipped);
+        add(Skipped::Unreadable,
+            (isOne ? " record" : " records") + (" couldn't be read" + lines)
+                + (lines.empty() ? ": all others were taken"
+                                 : std::string(": correct ") + (isOne ? "it" : "them") + " in the file"
+                            + (*mSource == "csv" ? ", with times such as 2026-11-21 10:00," : "")
+                            + " and import it again; nothing comes twice"));
         add(Skipped::TooDeep, " parts of the file are nested too deep: they were left out");
         add(Skipped::TooBig, " fields are longer than 64 KiB: they were cut");
     }

@@ -111,10 +111,12 @@ int CsvRecords::Take()
 bool CsvRecords::ReadRecord()
 {
     mFields.clear();
+    mLine = mNextLine;
     bool isBegun = false;
     for (auto byte = Take(); byte != Eof; byte = Take()) {
         const auto character = static_cast<char>(byte);
         isBegun = true;
+        mNextLine += character == '\n' ? 1 : 0;
         if (mPart == Part::Quoted && character != '"') {
             Append(character);
         } else if (mPart == Part::Quoted && Peek() == '"') {
@@ -125,6 +127,7 @@ bool CsvRecords::ReadRecord()
         } else if (character == mSeparator) {
             EndField();
         } else if (character == '\n' || character == '\r') {
+            mNextLine += character == '\r' ? 1 : 0;
             if (character == '\r' && Peek() == '\n') {
                 Take();
             }
@@ -138,7 +141,7 @@ bool CsvRecords::ReadRecord()
         }
     }
     if (mPart == Part::Quoted) {
-        mSkipped.Add(Skipped::Unreadable);
+        mSkipped.AddUnreadable(mLine);
         mFields.clear();
         return false;
     }

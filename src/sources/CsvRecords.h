@@ -30,8 +30,8 @@ public:
     bool Next();
     /// A field of the record, empty when it has none there or the column is none.
     std::string Field(std::optional<std::size_t> column) const;
-    /// True when all of its fields are there.
-    bool IsWhole() const { return mFields.size() >= mNames.size(); }
+    /// The line of the file on which the record begins; the first one has the number 1.
+    std::int64_t Line() const { return mLine; }
 
 private:
     /// Where a character of a field stands.
@@ -53,6 +53,8 @@ private:
     std::size_t mAheadAt = 0;
     char mSeparator = 0;
     std::int64_t mRecords = 0;
+    std::int64_t mLine = 1;
+    std::int64_t mNextLine = 1;
     std::string mField;
     Part mPart = Part::Begin;
     bool mIsTooBig = false;

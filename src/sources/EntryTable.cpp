@@ -26,8 +26,19 @@ struct DatedRow
     std::optional<std::int64_t> startTime, endTime;
     /// True length, where it is told.
     std::optional<std::int64_t> length;
+    /// Where it stands in the file.
+    std::int64_t line = 0;
     SourceEntry entry;
 };
+
+/// A date and a time that stand in one field, with a blank, a comma or a T between them.
+std::pair<std::string, std::string> DateAndTime(const std::string& field)
+{
+    const std::string text(Trimmed(field));
+    const auto end = std::min(text.find_first_of(" \t,T"), text.size());
+    const auto begin = std::min(text.find_first_not_of(" \t,T", end), text.size());
+    return { text.substr(0, end), text.substr(begin) };
+}
 
 /// What an entry of a time sheet is about, empty when it doesn't say.
 std::string TextOf(const std::string& description, const std::string& task)
@@ -40,31 +51,31 @@ std::string TextOf(const std::string& description, const std::string& task)
     return text;
 }
 
-/// True when there are the dates of a row, read in that order.
-bool IsPossible(const DatedRow& row, DateOrder order)
+/// The dates of a row, read in that order; nothing when there aren't both.
+std::optional<std::pair<Date, Date>> DaysOf(const DatedRow& row, DateOrder order)
 {
-    return ReadDay(row.startDate, order) && (row.endDate.empty() || ReadDay(row.endDate, order));
+    const auto start = ReadDay(row.startDate, order);
+    const auto end = ReadDay(row.endDate, order);
+    return start && end ? std::optional(std::pair(*start, *end)) : std::nullopt;
 }
 
 /// How many of the dates there aren't in that order.
 std::int64_t Impossible(const std::vector<DatedRow>& rows, DateOrder order)
 {
-    return std::count_if(rows.begin(), rows.end(), [order](const auto& row) { return !IsPossible(row, order); });
+    return std::count_if(rows.begin(), rows.end(), [order](const auto& row) { return !DaysOf(row, order); });
 }
 
 /// True when an order has a row that the other refuses.
 bool HasOwnRow(const std::vector<DatedRow>& rows, DateOrder order, DateOrder other)
 {
     return std::any_of(
-        rows.begin(), rows.end(), [&](const auto& row) { return IsPossible(row, order) && !IsPossible(row, other); });
+        rows.begin(), rows.end(), [&](const auto& row) { return DaysOf(row, order) && !DaysOf(row, other); });
 }
 
 DateOrder OrderOf(const std::vector<DatedRow>& rows, DateOrder given)
 {
-    const bool isSame = std::all_of(rows.begin(), rows.end(), [](const auto& row) {
-        return ReadDay(row.startDate, DateOrder::MonthFirst) == ReadDay(row.startDate, DateOrder::DayFirst)
-            && ReadDay(row.endDate, DateOrder::MonthFirst) == ReadDay(row.endDate, DateOrder::DayFirst);
-    });
+    const bool isSame = std::all_of(rows.begin(), rows.end(),
+        [](const auto& row) { return DaysOf(row, DateOrder::MonthFirst) == DaysOf(row, DateOrder::DayFirst); });
     if (given != DateOrder::FromTheFile || isSame) {
         return given == DateOrder::FromTheFile ? DateOrder::MonthFirst : given;
     }
@@ -124,25 +135,29 @@ private:
         const auto title = mRecords.Column({ "title" });
         const auto project = mRecords.Column({ "project" });
         const auto url = mRecords.Column({ "url" });
+        std::vector<DatedRow> rows;
         while (mRecords.Next()) {
-            const auto from = ReadMoment(mRecords.Field(start));
-            const auto to = ReadMoment(mRecords.Field(end));
-            if (!from || !to || from->offset.has_value() != to->offset.has_value()) {
-                mData.skipped.Add(Skipped::Unreadable);
-                continue;
-            }
+            mLine = mRecords.Line();
             SourceEntry entry;
             entry.isWindow = true;
             entry.words.program = mRecords.Field(program);
             entry.words.title = mRecords.Field(title);
             entry.words.host = PageHost(mRecords.Field(url));
             entry.project = mRecords.Field(project);
-            if (from->offset) {
+            const auto from = ReadMoment(mRecords.Field(start));
+            const auto to = ReadMoment(mRecords.Field(end));
+            if (from && to && from->offset && to->offset) {
                 TakeMoments(from->Moment(), to->Moment(), std::move(entry));
-            } else {
+            } else if (from && to && !from->offset && !to->offset) {
                 TakeLocal(from->written, to->written, std::nullopt, std::move(entry));
+            } else {
+                const auto [startDate, startTime] = DateAndTime(mRecords.Field(start));
+                const auto [endDate, endTime] = DateAndTime(mRecords.Field(end));
+                AddRow(
+                    { startDate, endDate, ReadTime(startTime), ReadTime(endTime), {}, mLine, std::move(entry) }, rows);
             }
         }
+        TakeRows(std::move(rows));
     }
 
     void ReadDatedRows()
@@ -169,31 +184,44 @@ private:
             DatedRow row;
             row.startDate = mRecords.Field(startDate);
             row.startTime = ReadTime(mRecords.Field(startTime));
+            row.length = ReadLength(mRecords.Field(length));
             if (hasEnd) {
                 row.endDate = mRecords.Field(endDate);
                 row.endTime = ReadTime(mRecords.Field(endTime));
+            } else if (row.startTime && row.length) {
+                row.endDate = row.startDate;
+                row.endTime = *row.startTime + *row.length;
             }
-            row.length = ReadLength(mRecords.Field(length));
+            row.line = mRecords.Line();
             row.entry.project = mRecords.Field(project);
             row.entry.words.program = isClockify ? "Clockify" : "Toggl";
             row.entry.words.title = TextOf(mRecords.Field(description), mRecords.Field(task));
-            if (!row.startTime || (hasEnd ? !row.endTime : !row.length)) {
-                mData.skipped.Add(Skipped::Unreadable);
-                continue;
-            }
-            rows.push_back(std::move(row));
+            AddRow(std::move(row), rows);
         }
+        TakeRows(std::move(rows));
+    }
+
+    /// Keeps a row until it is known how dates are meant, unless its times can't be read.
+    void AddRow(DatedRow row, std::vector<DatedRow>& rows)
+    {
+        if (row.startTime && row.endTime) {
+            rows.push_back(std::move(row));
+        } else {
+            mData.skipped.AddUnreadable(row.line);
+        }
+    }
+
+    void TakeRows(std::vector<DatedRow> rows)
+    {
         const auto order = OrderOf(rows, mSettings.dates);
         for (auto& row : rows) {
-            const auto from = ReadDay(row.startDate, order);
-            const auto to = hasEnd ? ReadDay(row.endDate, order) : from;
-            if (!from || !to) {
-                mData.skipped.Add(Skipped::Unreadable);
-                continue;
+            mLine = row.line;
+            if (const auto days = DaysOf(row, order)) {
+                TakeLocal(days->first.AddSeconds(*row.startTime), days->second.AddSeconds(*row.endTime), row.length,
+                    std::move(row.entry));
+            } else {
+                mData.skipped.AddUnreadable(mLine);
             }
-            const auto start = from->AddSeconds(*row.startTime);
-            const auto end = hasEnd ? to->AddSeconds(*row.endTime) : start.AddSeconds(*row.length);
-            TakeLocal(start, end, row.length, std::move(row.entry));
         }
     }
 
@@ -237,7 +265,7 @@ private:
         if (entry.end == entry.start) {
             mData.skipped.Add(Skipped::ZeroLength);
         } else if (entry.end < entry.start) {
-            mData.skipped.Add(Skipped::Unreadable);
+            mData.skipped.AddUnreadable(mLine);
         } else if (mSettings.asSightings) {
             TakeWindow(entry.start, entry.end, entry);
         } else if (entry.end - entry.start > LongestEntry) {
@@ -251,6 +279,8 @@ private:
     EntryTableKind mKind;
     SourceData mData;
     CsvRecords mRecords;
+    /// Where what is being taken stands in the file.
+    std::int64_t mLine = 0;
 };
 
 }

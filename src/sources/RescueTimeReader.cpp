@@ -55,7 +55,7 @@ SourceData RescueTimeReader::Read(std::istream& stream, const SourceSettings& se
         const auto moment = ReadMoment(records.Field(date));
         const auto spent = ReadSeconds(records.Field(seconds));
         if (!moment || !spent) {
-            data.skipped.Add(Skipped::Unreadable);
+            data.skipped.AddUnreadable(records.Line());
             continue;
         }
         ++rows;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 
 namespace tempodial {
@@ -37,17 +39,30 @@ public:
             mCounts[reason] += count;
         }
     }
+    /// Counts a record of a table that can't be read, and remembers its line.
+    void AddUnreadable(std::int64_t line)
+    {
+        Add(Unreadable);
+        if (mUnreadableLines.size() < MostLines) {
+            mUnreadableLines.insert(line);
+        }
+    }
     std::int64_t Count(const char* reason) const
     {
         const auto found = mCounts.find(reason);
         return found == mCounts.end() ? 0 : found->second;
     }
+    /// The first lines of a table that couldn't be read, in order.
+    const std::set<std::int64_t>& UnreadableLines() const { return mUnreadableLines; }
     /// The reasons that there were, with their counts.
     const std::map<std::string, std::int64_t>& Counts() const { return mCounts; }
     /// True when something couldn't be taken that should have been.
     bool HasTrouble() const { return Count(Unreadable) + Count(TooDeep) + Count(TooBig) > 0; }
 
 private:
+    static constexpr std::size_t MostLines = 10;
+
+    std::set<std::int64_t> mUnreadableLines;
     std::map<std::string, std::int64_t> mCounts;
 };
 

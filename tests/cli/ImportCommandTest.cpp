@@ -239,12 +239,83 @@ TEST_F(ImportCommandTest, Import_UnreadableRows_AreCountedAndTheOthersTaken)
         { "--json", "import", "csv", File("start,end,program\nx,y,z\n2006-10-02T09:00,2006-10-02T10:00,atlas\n") });
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(json::parse(result.out).at("created"), 1);
-    EXPECT_THAT(result.error, HasSubstr("1 records couldn't be read"));
+    EXPECT_EQ(result.error,
+        "tempodial: 1 record couldn't be read (line 2): correct it in the file, with times such as 2026-11-21 10:00, "
+        "and import it again; nothing comes twice\n");
+    EXPECT_THAT(Run({ "import", "activitywatch",
+                        File(R"({"buckets":{"a":{"type":"currentwindow","events":[{"timestamp":"x"},{}]}}})") })
+                    .error,
+        HasSubstr("2 records couldn't be read: all others were taken\n"));
+}
+
+TEST_F(ImportCommandTest, Import_UnreadableRows_AreNamedByTheirLines)
+{
+    const std::string good = "2006-10-02T09:00,2006-10-02T10:00,\"two\nlines\"\r\n";
+    const std::string backward = "2006-10-02T12:00,2006-10-02T11:00,z\r\n";
+    EXPECT_THAT(
+        Run({ "import", "csv", File("start,end,program\r\n" + good + "\r\n" + backward + good + "x,y,z\n") }).error,
+        HasSubstr("2 records couldn't be read (lines 5, 8): correct them"));
+    std::string many = "start,end,program\r";
+    for (int i = 0; i < 12; ++i) {
+        many += "\n";
+        many += "x,y,z\r";
+    }
+    EXPECT_THAT(Run({ "import", "csv", File(many) }).error, HasSubstr("(lines 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, …)"));
+    EXPECT_THAT(Run({ "import", "toggl",
+                        File("Start date,Start time,End date,End time\n"
+                             "2006-10-33,09:00:00,2006-10-03,10:00:00\n2006-10-03,x,2006-10-03,10:00:00\n"
+                             "2006-10-03,11:00:00,2006-10-03,10:00:00\n") })
+                    .error,
+        HasSubstr("3 records couldn't be read (lines 2, 3, 4): correct them in the file and import it again"));
+    EXPECT_THAT(Run({ "import", "csv", File("start,end,program\n" + good + "2006-10-02T12:00,\"x\n\n") }).error,
+        HasSubstr("(line 4)"));
+}
+
+TEST_F(ImportCommandTest, Import_Quiet_PrintsWhatWasAskedForAlone)
+{
+    const auto file = File(Table(2, 3) + "x,y,z,\n");
+    const Arguments import { "import", "csv", file, "--as", "sightings" };
+    const auto quiet = [&import](Arguments more) {
+        more.insert(more.begin(), import.begin(), import.end());
+        more.emplace_back("--quiet");
+        return more;
+    };
+    const std::string days = "2006-10-02  60 min\n2006-10-03  60 min\nleft out: 1 unreadable\n";
+    EXPECT_EQ(Run(quiet({ "--dry-run" })).out, days);
+    const auto result = Run(quiet({}));
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.error, HasSubstr("1 record couldn't be read"));
+    EXPECT_EQ(Run(import).out,
+        "2006-10-02  0 min, 12 imported before\n2006-10-03  0 min, 12 imported before\nleft out: 1 unreadable\n"
+        "Imported 0 min of 120, on 2 days\n");
+}
+
+TEST_F(ImportCommandTest, Import_DatesOfATable_AreReadInTheOrderThatIsTold)
+{
+    const auto table = "start;end;program\n03.10.2006 09:00;03.10.2006 10:00;atlas\n";
+    EXPECT_THAT(RefusalOf("csv", table), HasSubstr("--dates mdy or --dates dmy"));
+    EXPECT_FALSE(std::filesystem::exists(mProfile));
+    EXPECT_EQ(Import("csv", table, { "--dates", "dmy" }).at("from"), "2006-10-03");
+    EXPECT_EQ(Import("csv", table, { "--dates", "mdy" }).at("from"), "2006-03-10");
+}
+
+TEST_F(ImportCommandTest, Import_UnknownZone_NamesTheOneThatIsMeant)
+{
+    const auto said = [this](const std::string& zone) { return RefusalOf("csv", Table(2, 2), 2, { "--zone", zone }); };
+    EXPECT_THAT(said("Europe/Zurik"), HasSubstr("did you mean \"Europe/Zurich\"?"));
+    EXPECT_THAT(said("Europe/Wien"), HasSubstr("did you mean \"Europe/Vienna\"?"));
+    EXPECT_THAT(said("Wien"), HasSubstr("did you mean \"Europe/Vienna\"?"));
+    EXPECT_THAT(said("America/new_yrok"), HasSubstr("did you mean \"America/New_York\"?"));
+    EXPECT_THAT(said("Asia/Zurich"), HasSubstr("did you mean \"Europe/Zurich\"?"));
+    for (const auto* none : { "Europe/Bonn-Beuel", "xyzzy", "", "Europe/" }) {
+        EXPECT_THAT(said(none), HasSubstr("\": name one such as Europe/Zurich")) << none;
+    }
 }
 
 TEST_F(ImportCommandTest, Import_WrongArguments_AreUsageErrors)
 {
-    EXPECT_THAT(RefusalOf("togl", ""), HasSubstr("toggl"));
+    EXPECT_THAT(RefusalOf("togl", ""), HasSubstr("there is no source \"togl\": did you mean \"toggl\"?"));
+    EXPECT_THAT(RefusalOf("other", ""), HasSubstr("there is no source \"other\": see \"tempodial import --list\""));
     EXPECT_THAT(RefusalOf("manictime", ""), HasSubstr("csv"));
     EXPECT_THAT(RefusalOf("csv", ""), HasSubstr("empty"));
     EXPECT_THAT(RefusalOf("csv", "{\"buckets\":{}}"), HasSubstr("activitywatch"));
@@ -252,7 +323,6 @@ TEST_F(ImportCommandTest, Import_WrongArguments_AreUsageErrors)
     EXPECT_THAT(RefusalOf("arbtt", "BEGIN:VCALENDAR\n"), HasSubstr("tempodial import ics"));
     EXPECT_THAT(RefusalOf("csv", "Start Date,Start Time,End Date,End Time\n"), HasSubstr("tempodial import clockify"));
     EXPECT_THAT(RefusalOf("csv", "Start date,Start time,End date,End time\n"), HasSubstr("tempodial import toggl"));
-    EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--zone", "Europe/Zurik" }), HasSubstr("Europe/Zurich"));
     EXPECT_THAT(RefusalOf("toggl", Table(2, 2), 2, { "--as", "sightings" }), HasSubstr("--as"));
     EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--dates", "ymd" }), HasSubstr("mdy"));
     EXPECT_THAT(RefusalOf("csv", Table(2, 2), 2, { "--from", "today", "--to", "yesterday" }), HasSubstr("later"));

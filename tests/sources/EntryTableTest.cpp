@@ -104,6 +104,41 @@ TEST_F(EntryTableTest, Csv_MomentsWithOffset_BecomeLocal)
     EXPECT_EQ(data.entries[0].words.host, "wiki.example.com");
 }
 
+TEST_F(EntryTableTest, Csv_DatesWithoutTheYearInFront_AreReadAsTheFileTells)
+{
+    const std::string head = "start;end;program\n";
+    EXPECT_THAT(
+        Told(Read("csv", head + "02.11.2026 09:00;02.11.2026 09:30:00;a\n13.11.2026 9:00 ;13.11.2026 10:15;b\n")),
+        ElementsAre("20261102 09:00 20261102 09:30 a||", "20261113 09:00 20261113 10:15 b||"));
+    EXPECT_THAT(
+        Told(Read("csv", head + "11/02/2026, 9:00 AM;11/02/2026, 1:30 PM;a\n11/13/2026 9:00;11/13/2026 21:00;b\n")),
+        ElementsAre("20261102 09:00 20261102 13:30 a||", "20261113 09:00 20261113 21:00 b||"));
+    EXPECT_THAT(Told(Read("csv", head + "2026-11-2T9:00;2026-11-02T09:30;a\n2026-11-02 1:00 pm;2026-11-02 14:00;b\n")),
+        ElementsAre("20261102 09:00 20261102 09:30 a||", "20261102 13:00 20261102 14:00 b||"));
+    EXPECT_THAT(Refusal("csv", head + "02.11.2026 09:00;02.11.2026 09:30;a\n"), HasSubstr("--dates"));
+    EXPECT_THAT(Refusal("csv", head + "02.13.2026 09:00;02.13.2026 09:30;a\n13.02.2026 09:00;13.02.2026 09:30;a\n"),
+        HasSubstr("--dates"));
+}
+
+TEST_F(EntryTableTest, Csv_DatesGiven_WinAndCountTheOthers)
+{
+    mDates = DateOrder::MonthFirst;
+    const auto data = Read("csv",
+        "start,end,program\n11/02/2026 09:00,11/02/2026 10:00,a\n13/11/2026 09:00,13/11/2026 10:00,b\n"
+        "2026-11-03 09:00,2026-11-03 10:00,c\n");
+    EXPECT_THAT(Told(data), ElementsAre("20261103 09:00 20261103 10:00 c||", "20261102 09:00 20261102 10:00 a||"));
+    EXPECT_THAT(data.skipped.UnreadableLines(), ElementsAre(3));
+}
+
+TEST_F(EntryTableTest, Csv_MomentsThatAreNone_AreUnreadable)
+{
+    const auto data = Read("csv",
+        "start,end,program\n2026-11-02T09:00Z,2026-11-02T09:30,a\n13.11.2026,13.11.2026 10:00,b\n"
+        "13.11.2026 09:00,13.11.26 10:00,c\n,2026-11-02T09:30,d\n13.11.2026 25:00,13.11.2026 26:00,e\n");
+    EXPECT_TRUE(data.entries.empty());
+    EXPECT_THAT(data.skipped.UnreadableLines(), ElementsAre(2, 3, 4, 5, 6));
+}
+
 TEST_F(EntryTableTest, Csv_ClockPutForward_KeepsTheTrueLength)
 {
     const auto data = Read("csv",

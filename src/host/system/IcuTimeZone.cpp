@@ -3,8 +3,10 @@
 #include "base/Failure.h"
 #include "base/UnixTime.h"
 
+#include <unicode/locid.h>
 #include <unicode/strenum.h>
 #include <unicode/timezone.h>
+#include <unicode/tznames.h>
 
 namespace tempodial {
 
@@ -75,6 +77,32 @@ std::vector<std::string> IcuTimeZone::Names()
         names.emplace_back(name);
     }
     return names;
+}
+
+std::string IcuTimeZone::OfCity(const std::string& name)
+{
+    auto wanted = icu::UnicodeString::fromUTF8(name);
+    wanted.findAndReplace("_", " ").foldCase();
+    auto status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::StringEnumeration> zones(
+        icu::TimeZone::createTimeZoneIDEnumeration(UCAL_ZONE_TYPE_CANONICAL_LOCATION, nullptr, nullptr, status));
+    std::int32_t count = 0;
+    const auto* locales = icu::Locale::getAvailableLocales(count);
+    for (std::int32_t i = 0; i < count && U_SUCCESS(status); ++i) {
+        if (*locales[i].getCountry() != '\0') {
+            continue; // it says what its language says
+        }
+        const std::unique_ptr<icu::TimeZoneNames> names(icu::TimeZoneNames::createInstance(locales[i], status));
+        zones->reset(status);
+        while (const auto* zone = U_SUCCESS(status) ? zones->snext(status) : nullptr) {
+            icu::UnicodeString city;
+            if (names->getExemplarLocationName(*zone, city).foldCase() == wanted) {
+                std::string text;
+                return zone->toUTF8String(text);
+            }
+        }
+    }
+    return {};
 }
 
 }

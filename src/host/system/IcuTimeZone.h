@@ -25,6 +25,8 @@ public:
 
     /// The names of all zones.
     static std::vector<std::string> Names();
+    /// The zone of a city by its name in any language, as Wien is Europe/Vienna; empty when no zone is named after it.
+    static std::string OfCity(const std::string& name);
 
 private:
     struct Zone;
