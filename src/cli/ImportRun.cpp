@@ -1,6 +1,7 @@
 #include "cli/ImportRun.h"
 
 #include "base/Failure.h"
+#include "base/Fnv1a.h"
 #include "cli/Interruption.h"
 #include "host/settings/TomlSettings.h"
 #include "host/store/LineMemory.h"
@@ -17,7 +18,11 @@ namespace tempodial {
 namespace {
 
 /// What the heading of a file says that an import has written.
-constexpr auto HeadingMark = ", imported";
+std::string HeadingEnd(const std::string& mark)
+{
+    return ", imported" + (mark.empty() ? "" : " " + mark);
+}
+
 /// A day's file before it has its name.
 constexpr auto UnfinishedName = "imported-day.tmp";
 
@@ -46,7 +51,7 @@ ImportRun::ImportRun(const Options& options)
     , mStart(mRun.Profile().Clock()->Now())
     , mLedger(ReadSettingsFile(mRun.DataPath(LedgerFileName)))
 {
-    NotePlanned();
+    ClosePlanned();
 }
 
 void ImportRun::AsStep(const std::function<void()>& work)
@@ -89,6 +94,9 @@ void ImportRun::SyncUpTo(Date today)
 
 std::vector<Date> ImportRun::SyncWaiting()
 {
+    if (!mPlannedDays.empty()) {
+        TrySave(); // before the files are gone that tell what became of the plan
+    }
     auto waiting = WaitingDays();
     while (!waiting.empty() && waiting.front() < mStart.Day().AddDays(-SavedDataDays) && !Interruption::IsRequested()) {
         const auto today = waiting.front().AddDays(SavedDataDays);
@@ -98,30 +106,40 @@ std::vector<Date> ImportRun::SyncWaiting()
     if (!Interruption::IsRequested()) {
         SyncUpTo(Now());
     }
-    ClosePlanned();
     mRun.Profile().Mailbox()->MarkStatistics();
     return WaitingDays();
 }
 
 void ImportRun::ClosePlanned()
 {
-    const auto planned = mLedger.Planned();
-    for (const auto day : planned) {
-        bool isWritten = false;
-        try {
-            const auto finished = mRun.DataPath(FinishedTrackerFileName(day.DayKey()));
-            const auto file = mRun.Host().fileSystem->OpenTextFile(finished, OpenMode::Reading, false);
-            isWritten = file->ReadLine().ends_with(HeadingMark);
-        } catch (const Failure&) {
-            // A plan whose file never had its name was never carried out.
-        }
-        if (!IsWaiting(day)) {
-            mLedger.Close(day, isWritten);
-        }
+    for (const auto& [day, mark] : mLedger.Planned()) {
+        const auto key = day.DayKey();
+        const auto end = HeadingEnd(mark);
+        mPlannedDays.insert(key);
+        // A file that has its name is imported, now if it wasn't yet. A plan whose file never had it was never carried
+        // out.
+        mLedger.Close(day,
+            HeadingOf(TrackerFileName(key)).ends_with(end) || HeadingOf(FinishedTrackerFileName(key)).ends_with(end));
     }
-    if (!planned.empty()) {
-        TrySave();
+}
+
+std::string ImportRun::HeadingOf(const std::string& name) const
+{
+    try {
+        return mRun.Host().fileSystem->OpenTextFile(mRun.DataPath(name), OpenMode::Reading, false)->ReadLine();
+    } catch (const Failure&) {
+        return {};
     }
+}
+
+std::string ImportRun::MarkOf(Date day, const PlannedDay& planned) const
+{
+    // The same lines may have been written before, and were deleted since.
+    Fnv1a hash(HeadingOf(FinishedTrackerFileName(day.DayKey())));
+    for (const auto& line : planned.lines) {
+        hash.Add(line);
+    }
+    return std::to_string(hash.Hash());
 }
 
 void ImportRun::Write(ImportPlan::Days& days)
@@ -170,7 +188,8 @@ std::size_t ImportRun::WriteFiles(const Window& window)
     std::size_t written = 0;
     try {
         for (const auto& [day, planned] : window) {
-            mLedger.Plan(day, planned->written);
+            mLedger.Plan(day, planned->written, MarkOf(day, *planned));
+            mPlannedDays.insert(day.DayKey());
         }
         SaveLedger();
         for (const auto& [day, planned] : window) {
@@ -207,7 +226,7 @@ void ImportRun::WriteDay(Date day, const PlannedDay& planned)
     const auto path = mRun.DataPath(UnfinishedName);
     try {
         const auto stream = fileSystem.OpenTextFile(path, OpenMode::Writing, true);
-        stream->WriteLine(DayFile::Heading(day, OffsetOf(day)) + HeadingMark);
+        stream->WriteLine(DayFile::Heading(day, OffsetOf(day)) + HeadingEnd(MarkOf(day, planned)));
         for (const auto& line : KnownLines(day)) {
             stream->WriteLine(line);
         }
@@ -244,17 +263,8 @@ std::vector<std::string> ImportRun::KnownLines(Date day) const
     return lines;
 }
 
-void ImportRun::NotePlanned()
-{
-    mPlannedDays.clear();
-    for (const auto day : mLedger.Planned()) {
-        mPlannedDays.insert(day.DayKey());
-    }
-}
-
 void ImportRun::SaveLedger()
 {
-    NotePlanned();
     const auto path = mRun.DataPath(LedgerFileName);
     try {
         auto& fileSystem = *mRun.Host().fileSystem;

@@ -26,7 +26,8 @@ Presence TimeInLog(const Profile& profile, Date first, Date last);
 class ImportRun
 {
 public:
-    /// Reads the ledger. Fails with `SettingsFileError` when that is damaged, and then nothing has changed.
+    /// Reads the ledger, and by the files what became of the plan of a run that was killed. Fails with
+    /// `SettingsFileError` when the ledger is damaged, and then nothing has changed.
     explicit ImportRun(const Options& options);
 
     ConnectedRun& Connected() { return mRun; }
@@ -55,7 +56,10 @@ private:
     void Fail(const CommandError& error);
     void SyncUpTo(Date today);
     void ClosePlanned();
-    void NotePlanned();
+    /// The first line of a file in the data folder; empty when there is none.
+    std::string HeadingOf(const std::string& name) const;
+    /// What tells the file that is to be written of a day from all that were there before.
+    std::string MarkOf(Date day, const PlannedDay& planned) const;
     /// The lines of a finished day, each of which the next import knows; none when it doesn't.
     std::vector<std::string> KnownLines(Date day) const;
     std::vector<Date> WaitingDays() const;
@@ -69,7 +73,7 @@ private:
     ImportLedger mLedger;
     /// True when something couldn't be written: then nothing more is.
     bool mHasFailed = false;
-    /// The keys of the days that the ledger's file has as planned.
+    /// The keys of the days that this run has planned, or a killed one.
     std::set<std::string> mPlannedDays;
 };
 

@@ -54,27 +54,26 @@ std::string IsoText(Date day)
     return Padded(parts.year, 4) + "-" + Padded(parts.month, 2) + "-" + Padded(parts.day, 2);
 }
 
-/// The times and the hash that an entry is known by hold nothing that a text in quotes can't.
-bool IsEntryKey(const std::string& key)
+/// What entries are known by, and marks, hold nothing that a text in quotes can't.
+bool IsKey(const std::string& key)
 {
     return !key.empty() && key.find_first_not_of("0123456789abcdef-") == std::string::npos;
 }
 
-void AppendDays(std::string& text, const std::map<Date, LedgerDay>& days, const char* kind)
+std::string DayText(const char* kind, Date day, const LedgerDay& what)
 {
-    for (const auto& [day, what] : days) {
-        text += std::string("\n[[") + kind + "]]\nday = \"" + IsoText(day) + "\"\n";
-        if (what.slots.any()) {
-            text += "slots = \"" + HexOf(what.slots) + "\"\n";
-        }
-        if (!what.entries.empty()) {
-            text += "entries = [";
-            for (const auto& entry : what.entries) {
-                text += (entry == *what.entries.begin() ? "\"" : ", \"") + entry + "\"";
-            }
-            text += "]\n";
-        }
+    auto text = std::string("\n[[") + kind + "]]\nday = \"" + IsoText(day) + "\"\n";
+    if (what.slots.any()) {
+        text += "slots = \"" + HexOf(what.slots) + "\"\n";
     }
+    if (!what.entries.empty()) {
+        text += "entries = [";
+        for (const auto& entry : what.entries) {
+            text += (entry == *what.entries.begin() ? "\"" : ", \"") + entry + "\"";
+        }
+        text += "]\n";
+    }
+    return text;
 }
 
 /// What the keys of all entries of these times begin with.
@@ -132,6 +131,7 @@ ImportLedger::ImportLedger(const SettingsFile& file)
         }
         std::optional<Date> day;
         LedgerDay what;
+        std::string mark;
         for (const auto& setting : record.settings) {
             const auto* text = std::get_if<std::string>(&setting.value);
             const auto* texts = std::get_if<std::vector<std::string>>(&setting.value);
@@ -140,16 +140,20 @@ ImportLedger::ImportLedger(const SettingsFile& file)
             } else if (setting.name == "slots" && text != nullptr && ReadHex(*text, what.slots)) {
                 continue;
             } else if (setting.name == "entries" && texts != nullptr
-                && std::all_of(texts->begin(), texts->end(), IsEntryKey)) {
+                && std::all_of(texts->begin(), texts->end(), IsKey)) {
                 what.entries.insert(texts->begin(), texts->end());
+            } else if (setting.name == "mark" && text != nullptr && record.kind == PlannedKind && IsKey(*text)) {
+                mark = *text;
             } else {
                 refuse(setting.name + " can't be read");
             }
         }
         if (!day) {
             refuse("there is no day");
+        } else if (record.kind == WrittenKind) {
+            mDays[*day].Add(what);
         } else {
-            (record.kind == WrittenKind ? mDays : mPlanned)[*day].Add(what);
+            Plan(*day, what, mark);
         }
     }
 }
@@ -161,20 +165,20 @@ const LedgerDay& ImportLedger::Of(Date day) const
     return found == mDays.end() ? nothing : found->second;
 }
 
-std::vector<Date> ImportLedger::Planned() const
+std::map<Date, std::string> ImportLedger::Planned() const
 {
-    std::vector<Date> days;
-    for (const auto& [day, what] : mPlanned) {
-        days.push_back(day);
+    std::map<Date, std::string> marks;
+    for (const auto& [day, part] : mPlanned) {
+        marks[day] = part.mark;
     }
-    return days;
+    return marks;
 }
 
 void ImportLedger::Close(Date day, bool isWritten)
 {
     const auto planned = mPlanned.extract(day);
     if (isWritten && !planned.empty()) {
-        mDays[day].Add(planned.mapped());
+        mDays[day].Add(planned.mapped().what);
     }
 }
 
@@ -182,8 +186,13 @@ std::string ImportLedger::Text() const
 {
     std::string text
         = "# What imports have written, so that nothing comes twice and nothing that was deleted comes back.\n";
-    AppendDays(text, mDays, WrittenKind);
-    AppendDays(text, mPlanned, PlannedKind);
+    for (const auto& [day, what] : mDays) {
+        text += DayText(WrittenKind, day, what);
+    }
+    for (const auto& [day, part] : mPlanned) {
+        text += DayText(PlannedKind, day, part.what);
+        text += part.mark.empty() ? "" : "mark = \"" + part.mark + "\"\n";
+    }
     return text;
 }
 

@@ -9,7 +9,6 @@
 #include <map>
 #include <set>
 #include <string>
-#include <vector>
 
 namespace tempodial {
 
@@ -45,10 +44,10 @@ public:
     /// Forgets what was written of a day.
     void Forget(Date day) { mDays.erase(day); }
 
-    /// Notes what is about to be written.
-    void Plan(Date day, const LedgerDay& what) { mPlanned[day].Add(what); }
-    /// The days of which something is about to be written.
-    std::vector<Date> Planned() const;
+    /// Notes what is about to be written, and the mark by which its file is told from others of the day.
+    void Plan(Date day, const LedgerDay& what, const std::string& mark) { mPlanned[day] = { what, mark }; }
+    /// The days of which something is about to be written, with their marks.
+    std::map<Date, std::string> Planned() const;
     /// What was planned of a day has been written, or never was.
     void Close(Date day, bool isWritten);
 
@@ -56,8 +55,14 @@ public:
     std::string Text() const;
 
 private:
+    struct PlannedPart
+    {
+        LedgerDay what;
+        std::string mark;
+    };
+
     std::map<Date, LedgerDay> mDays;
-    std::map<Date, LedgerDay> mPlanned;
+    std::map<Date, PlannedPart> mPlanned;
 };
 
 }

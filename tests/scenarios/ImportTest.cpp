@@ -38,15 +38,18 @@ protected:
             + std::to_string(days) + " " + std::to_string(earlier) + " 2>" + mFolder.Path("present"));
         return mFolder.Write("export" + std::to_string(days) + ".json", text);
     }
-    /// A table of an entry a day, from 1 August 2006 on.
-    std::string Table(int days) const
+    /// A table of so many entries a day, from 1 August 2006 on.
+    std::string Table(int days, int entries = 1) const
     {
         std::string text = "start,end,program,title,project\n";
         for (int day = 1; day <= days; ++day) {
             const auto date = "2006-08-" + std::string(day < 10 ? "0" : "") + std::to_string(day);
-            text += date + "T09:00," + date + "T09:17,atlas,map,Riverside\n";
+            for (int entry = 0; entry < entries; ++entry) {
+                const auto hour = date + "T1" + std::to_string(entry);
+                text += hour + ":00," + hour + ":17,atlas,map,Riverside\n";
+            }
         }
-        return mFolder.Write("table" + std::to_string(days) + ".csv", text);
+        return mFolder.Write("table" + std::to_string(days) + "-" + std::to_string(entries) + ".csv", text);
     }
     /// Imports an export like that, in which one bucket is of no use.
     json Import(Arguments options) const
@@ -161,6 +164,36 @@ TEST_F(ImportTest, Import_KilledAnywhere_EndsAsAnUndisturbedOne)
         EXPECT_EQ(Activities(), undisturbed);
         EXPECT_EQ(Json(import).at("created"), 0);
         EXPECT_EQ(Json(first).at("created"), 0);
+    }
+}
+
+TEST_F(ImportTest, Import_MoreOfTheSameDaysKilledAnywhere_LosesNothingOfThem)
+{
+    const Arguments first { "import", "csv", Table(8), "--quiet" };
+    const Arguments more { "import", "csv", Table(8, 2), "--quiet" };
+    const Arguments again { "import", "csv", Table(8, 2), "--again", "--yes", "--quiet" };
+    EXPECT_EQ(Run(first).status, 0);
+    const auto counted = RunTempodialKilledAt(Whole(more), 0);
+    if (!counted) {
+        GTEST_SKIP() << "this system forbids observation";
+    }
+    const auto undisturbed = Activities();
+    ASSERT_EQ(undisturbed.size(), 16U);
+    const auto points = StopPoints(12, 200);
+    for (int point = 1; point <= points; ++point) {
+        const auto call = counted->systemCalls * point / (points + 1);
+        SCOPED_TRACE("killed at system call " + std::to_string(call));
+        std::filesystem::remove_all(mProfile);
+        Run(first);
+        RunTempodialKilledAt(Whole(more), call);
+        EXPECT_EQ(Run(more).status, 0);
+        EXPECT_EQ(Activities(), undisturbed);
+        EXPECT_EQ(Json(more).at("created"), 0);
+        // What was written before in the same words is no sign that it was written again.
+        Run({ "undo" });
+        RunTempodialKilledAt(Whole(again), call);
+        EXPECT_EQ(Run(again).status, 0);
+        EXPECT_EQ(Activities(), undisturbed);
     }
 }
 

@@ -35,14 +35,14 @@ TEST(ImportLedgerTest, Text_ReadAgain_IsTheSame)
     auto day = Slots({ 0, 108, 287 });
     day.entries.insert(LedgerDay::EntryKey(60, 120, "toggl", "call", "P"));
     day.entries.insert(LedgerDay::EntryKey(60, 120, "toggl", "call", "Q"));
-    ledger.Plan(FirstDay, day);
+    ledger.Plan(FirstDay, day, "1");
     ledger.Close(FirstDay, true);
-    ledger.Plan(SecondDay, Slots({ 5 }));
+    ledger.Plan(SecondDay, Slots({ 5 }), "17");
     const auto again = Again(ledger.Text());
     EXPECT_EQ(again.Of(FirstDay).slots, day.slots);
     EXPECT_EQ(again.Of(FirstDay).entries, day.entries);
     EXPECT_EQ(again.Of(FirstDay).entries.size(), 2U);
-    EXPECT_EQ(again.Planned(), std::vector { SecondDay });
+    EXPECT_EQ(again.Planned(), (std::map<Date, std::string> { { SecondDay, "17" } }));
     EXPECT_FALSE(again.Of(SecondDay).slots.any());
     EXPECT_EQ(again.Text(), ledger.Text());
 }
@@ -50,13 +50,13 @@ TEST(ImportLedgerTest, Text_ReadAgain_IsTheSame)
 TEST(ImportLedgerTest, Close_PlanThatNeverWas_IsForgotten)
 {
     ImportLedger ledger;
-    ledger.Plan(FirstDay, Slots({ 1 }));
+    ledger.Plan(FirstDay, Slots({ 1 }), "1");
     ledger.Close(FirstDay, false);
     EXPECT_FALSE(ledger.Of(FirstDay).slots.any());
     EXPECT_TRUE(ledger.Planned().empty());
-    ledger.Plan(FirstDay, Slots({ 1 }));
+    ledger.Plan(FirstDay, Slots({ 1 }), "1");
     ledger.Close(FirstDay, true);
-    ledger.Plan(FirstDay, Slots({ 2 }));
+    ledger.Plan(FirstDay, Slots({ 2 }), "2");
     ledger.Close(FirstDay, true);
     EXPECT_EQ(ledger.Of(FirstDay).slots.count(), 2U);
     ledger.Forget(FirstDay);
@@ -67,10 +67,12 @@ TEST(ImportLedgerTest, ImportLedger_Damage_IsRefusedByLine)
 {
     for (const auto* text : { "[[other]]\nday = \"2026-11-02\"\n", "[[day]]\nslots = \"0\"\n",
              "[[day]]\nday = \"2026-13-02\"\n", "[[day]]\nday = \"2026-11-02\"\nslots = \"xyz\"\n",
-             "[[day]]\nday = \"2026-11-02\"\nentries = [\"a b\"]\n", "[[day]]\nday = 3\n" }) {
+             "[[day]]\nday = \"2026-11-02\"\nentries = [\"a b\"]\n", "[[day]]\nday = 3\n",
+             "[[day]]\nday = \"2026-11-02\"\nmark = \"1\"\n", "[[planned]]\nday = \"2026-11-02\"\nmark = \"\"\n" }) {
         EXPECT_THROW(Again(text), SettingsFileError) << text;
     }
     EXPECT_TRUE(Again("").Planned().empty());
+    EXPECT_EQ(Again("[[planned]]\nday = \"2026-11-02\"\n").Planned().at(FirstDay), "");
 }
 
 }

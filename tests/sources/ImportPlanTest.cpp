@@ -2,6 +2,7 @@
 
 #include "slots/SlotTimes.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace tempodial {
@@ -89,7 +90,7 @@ TEST_F(ImportPlanTest, Make_TimeTakenOrWrittenBefore_IsLeftOutWhole)
     mTaken.Add(Monday.Seconds() + Ten + 9 * Minute + 59, Monday.Seconds() + Ten + 10 * Minute);
     LedgerDay written;
     written.slots.set(123);
-    mLedger.Plan(Monday, written);
+    mLedger.Plan(Monday, written, "1");
     mLedger.Close(Monday, true);
     const auto day = Days().at(Monday);
     EXPECT_EQ(day.slots, 2);
@@ -142,7 +143,7 @@ TEST_F(ImportPlanTest, Make_EntriesWrittenBefore_AreKnownByWhatTheySay)
 {
     Enter(Monday, Ten, Ten + 30 * Minute, "call", "");
     const auto first = Days().at(Monday);
-    mLedger.Plan(Monday, first.written);
+    mLedger.Plan(Monday, first.written, "1");
     mLedger.Close(Monday, true);
     Enter(Monday, Ten, Ten + 30 * Minute, "other", "");
     const auto day = Days().at(Monday);
@@ -155,7 +156,7 @@ TEST_F(ImportPlanTest, Make_EntryWrittenBeforeInOtherWords_DoesNotComeBack)
     Enter(Monday, Ten, Ten + 30 * Minute, "call", "Riverside");
     Enter(Monday, Ten + 60 * Minute, Ten + 90 * Minute, "one", "A");
     Enter(Monday, Ten + 60 * Minute, Ten + 90 * Minute, "two", "B");
-    mLedger.Plan(Monday, Days().at(Monday).written);
+    mLedger.Plan(Monday, Days().at(Monday).written, "1");
     mLedger.Close(Monday, true);
     mRange.withoutProjects = true;
     EXPECT_EQ(Days().at(Monday).before, 3);
@@ -170,7 +171,14 @@ TEST_F(ImportPlanTest, Make_WithoutProjects_WritesNone)
 {
     mRange.withoutProjects = true;
     Enter(Monday, Ten, Ten + 30 * Minute, "call", "Riverside");
-    EXPECT_EQ(Days().at(Monday).lines[0].find("<Project>"), std::string::npos);
+    mViews = ViewMaker(ProgramTable({}),
+        PrivacyRules({ { TextPattern("atlas"), std::nullopt, PrivacyRule::Action::Project, "Riverside" } }));
+    See(Monday, Ten - 60 * Minute, Ten - 30 * Minute, "atlas", "map");
+    const auto lines = [this] { return Days().at(Monday).lines; };
+    ASSERT_EQ(lines().size(), 7U);
+    EXPECT_THAT(lines(), testing::Each(testing::Not(testing::HasSubstr("<Project>"))));
+    mRange.withoutProjects = false;
+    EXPECT_THAT(lines(), testing::Each(testing::HasSubstr("<Project>Riverside</Project>")));
 }
 
 TEST_F(ImportPlanTest, Take_DroppedAndShortTimes_AreCounted)
