@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "cli/CommandError.h"
 #include "cli/RunningTracker.h"
+#include "host/files/DesktopEntryWord.h"
 #include "host/files/FileDescriptor.h"
 #include "host/files/PathOperations.h"
 #include "host/files/ProgramFolder.h"
@@ -40,20 +41,30 @@ std::string ConfigFolder()
     return std::string(home) + "/.config";
 }
 
-/// A word of a command as units and entries have it.
-std::string UnitWord(const std::string& word)
+/// The path of a program as units of systemd have it. There are no variables in it.
+std::string UnitProgram(const std::string& path)
 {
     std::string quoted = "\"";
-    for (const char character : word) {
+    for (const char character : path) {
+        if (character == '\n') {
+            quoted += "\\n";
+            continue;
+        }
         if (character == '"' || character == '\\') {
             quoted += '\\';
         }
         quoted += character;
-        if (character == '%' || character == '$') {
+        if (character == '%') {
             quoted += character;
         }
     }
     return quoted + '"';
+}
+
+/// A word behind it.
+std::string UnitWord(const std::string& word)
+{
+    return Replace(UnitProgram(word), "$", "$$");
 }
 
 /// Runs systemctl for the user, in silence; true when it could do all.
@@ -158,10 +169,13 @@ std::string UserUnits::Text(const std::string& source) const
 {
     const auto path = InProgramFolder(SourcesFolder) + source;
     try {
-        const auto profile = " --profile " + UnitWord(mProfile);
         const auto text = FileDescriptor(NativePath::Exactly(path), Opening::Reading).ReadAll();
-        return Replace(Replace(text, "@RECORDER@", UnitWord(RunningTracker::ProgramPath()) + profile), "@PROGRAM@",
-            UnitWord(InProgramFolder("bin/tempodial")) + profile);
+        const auto commandOf = [this, isEntry = source.ends_with(".desktop")](const std::string& program) {
+            return isEntry ? DesktopEntryWord(program) + " --profile " + DesktopEntryWord(mProfile)
+                           : UnitProgram(program) + " --profile " + UnitWord(mProfile);
+        };
+        return Replace(Replace(text, "@RECORDER@", commandOf(RunningTracker::ProgramPath())), "@PROGRAM@",
+            commandOf(InProgramFolder("bin/tempodial")));
     } catch (const Failure& failure) {
         throw CommandError(path + " can't be read: " + failure.Description()
             + ": install the program as a whole (cmake --install), or run it where it was built");

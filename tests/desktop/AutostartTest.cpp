@@ -33,8 +33,8 @@ TEST_F(AutostartTest, Set_OnAndOff_WritesTheFileAndTakesItAway)
 
 TEST_F(AutostartTest, Program_WithMarks_IsQuoted)
 {
-    Autostart(mFolder.Path(mName), R"(/a b/$c\d%e)").Set(true);
-    EXPECT_THAT(mFolder.Read(mName), testing::HasSubstr(R"(Exec="/a b/\\$c\\\\d%%e")"));
+    Autostart(mFolder.Path(mName), "/a b/$c").Set(true);
+    EXPECT_THAT(mFolder.Read(mName), testing::HasSubstr("\nExec=\"/a b/\\\\$c\"\n"));
 }
 
 }
