@@ -1,10 +1,12 @@
 #include "cli/RunningTracker.h"
 
+#include "base/TrackerFile.h"
 #include "cli/CommandError.h"
 #include "host/files/ProgramFolder.h"
 #include "session/OpenProfile.h"
 #include "track/ControlClient.h"
 #include "track/ControlPath.h"
+#include "track/ProfileRecorder.h"
 
 namespace tempodial {
 
@@ -15,16 +17,29 @@ RunningTracker::RunningTracker(const Options& options)
 
 std::optional<ControlMessage> RunningTracker::AskIfRunning(const ControlMessage& request) const
 {
-    auto answer = AskRecorder(ControlPathOf(mProfile), request);
+    std::optional<ControlMessage> answer;
+    for (const auto& path : ControlPathsOf(mProfile)) {
+        if (answer = AskRecorder(path, request); answer) {
+            break;
+        }
+    }
     if (answer && answer->Has("error")) {
         throw CommandError(answer->Get("error"));
     }
     return answer;
 }
 
+bool RunningTracker::IsRunning() const
+{
+    return IsRecorderRunning(mProfile + "/" + TrackerFolderName);
+}
+
 ControlMessage RunningTracker::Ask(const ControlMessage& request) const
 {
     const auto answer = AskIfRunning(request);
+    if (!answer && IsRunning()) {
+        throw CommandError("the recorder of this profile runs, but can't be asked from here: " + std::string(HowToAsk));
+    }
     if (!answer) {
         throw CommandError("no recorder of this profile is running: start it with \"tempodial track\", or let your "
                            "session start it by \"tempodial track install\"");

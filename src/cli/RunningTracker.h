@@ -19,8 +19,13 @@ public:
     const std::string& Profile() const { return mProfile; }
     /// Asks it; nothing when none runs. Fails with `CommandError` when it can't do what it is asked for.
     std::optional<ControlMessage> AskIfRunning(const ControlMessage& request) const;
-    /// The same, and fails with `CommandError` when none runs.
+    /// True when one runs, also one that can't be asked from here.
+    bool IsRunning() const;
+    /// Asks it, and fails with `CommandError` also when none runs.
     ControlMessage Ask(const ControlMessage& request) const;
+
+    /// What to do about one that can't be asked.
+    static constexpr auto HowToAsk = "ask in the session that started it, or set XDG_RUNTIME_DIR to what it is there";
 
     /// Where the program lies.
     static std::string ProgramPath();

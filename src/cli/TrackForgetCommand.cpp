@@ -84,7 +84,7 @@ public:
         }
         auto answer = tracker.AskIfRunning(request);
         if (!answer) {
-            answer = ForgetByItself(tracker.Profile(), request, now);
+            answer = tracker.IsRunning() ? tracker.Ask(request) : ForgetByItself(tracker.Profile(), request, now);
         }
         return Answer(*answer);
     }

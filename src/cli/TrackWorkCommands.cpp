@@ -46,8 +46,19 @@ public:
 
     Reply Run(const Options& options) override
     {
-        const auto answer = RunningTracker(options).AskIfRunning(TrackRequest("status"));
+        const RunningTracker tracker(options);
+        const auto answer = tracker.AskIfRunning(TrackRequest("status"));
         Reply reply;
+        if (!answer && tracker.IsRunning()) {
+            reply.document = { { "running", true } };
+            for (const auto* unknown :
+                { "backend", "idle", "since", "paused", "pausedUntil", "inFront", "slots", "lastWritten" }) {
+                reply.document.Set(unknown, JsonValue());
+            }
+            reply.text
+                = "The recorder runs, but can't be asked from here: " + std::string(RunningTracker::HowToAsk) + ".\n";
+            return reply;
+        }
         if (!answer) {
             reply.document = { { "running", false } };
             reply.text = "No recorder is running; \"tempodial track install\" lets your session start one.\n";

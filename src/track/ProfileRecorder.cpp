@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 namespace tempodial {
@@ -44,10 +46,16 @@ std::string MadeDataFolder(const std::string& profile)
 
 FileLock TakenLock(const std::string& path)
 {
+    constexpr int Trials = 10;
+    constexpr std::chrono::milliseconds BetweenTrials(20);
     try {
         FileLock lock(NativePath::Exactly(path));
-        if (lock.Try()) {
-            return lock;
+        for (int trial = 0; trial < Trials; ++trial) {
+            if (lock.Try()) {
+                return lock;
+            }
+            // It may be held for a moment by who only looks whether a recorder runs.
+            std::this_thread::sleep_for(BetweenTrials);
         }
     } catch (const Failure& failure) {
         throw TrackError(
@@ -104,6 +112,16 @@ ControlMessage Trouble(const std::string& message)
 TrackState StateOfRecorder(const std::string& dataFolder)
 {
     return TrackState::Of(StateText(dataFolder + StateFileName));
+}
+
+bool IsRecorderRunning(const std::string& dataFolder)
+{
+    const auto path = NativePath::Exactly(dataFolder + LockFileName);
+    try {
+        return StatusAt(path, Links::Taken) && !FileLock(path).Try();
+    } catch (const Failure&) {
+        return false; // nobody could take it
+    }
 }
 
 std::string TakenLines(const std::string& dayKey)

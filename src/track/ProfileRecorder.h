@@ -65,6 +65,8 @@ private:
     std::optional<Date> mLastWritten;
 };
 
+/// True when a recorder writes into a data folder.
+bool IsRecorderRunning(const std::string& dataFolder);
 /// What the recorder of a profile has kept, by the folder of its data; nothing when none ever ran.
 TrackState StateOfRecorder(const std::string& dataFolder);
 

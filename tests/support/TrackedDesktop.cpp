@@ -90,19 +90,20 @@ std::vector<std::string> TrackedDesktop::Environment() const
     return environment;
 }
 
-ProgramResult TrackedDesktop::Run(const std::vector<std::string>& arguments) const
+ProgramResult TrackedDesktop::RunIn(
+    const std::vector<std::string>& environment, const std::vector<std::string>& arguments) const
 {
     std::vector<std::string> words { "--profile", Profile() };
     words.insert(words.end(), arguments.begin(), arguments.end());
-    return RunTempodialIn({ .executable = Executable() }, words, Environment());
+    return RunTempodialIn({ .executable = Executable() }, words, environment);
 }
 
-void TrackedDesktop::Start(const std::vector<std::string>& arguments, const std::vector<std::string>& wrapper)
+void TrackedDesktop::StartIn(std::vector<std::string> environment, const std::vector<std::string>& arguments,
+    const std::vector<std::string>& wrapper)
 {
     auto words = wrapper;
     words.insert(words.end(), { Executable(), "--profile", Profile(), "track" });
     words.insert(words.end(), arguments.begin(), arguments.end());
-    auto environment = Environment();
     mProcess = ::fork();
     if (mProcess == 0) {
         const int messages = ::open(mFolder.Path("messages").c_str(), O_WRONLY | O_CREAT | O_APPEND, S_IRUSR | S_IWUSR);

@@ -21,9 +21,15 @@ public:
     TrackedDesktop& operator=(const TrackedDesktop&) = delete;
 
     /// Runs `tempodial` with the profile and further arguments.
-    ProgramResult Run(const std::vector<std::string>& arguments) const;
+    ProgramResult Run(const std::vector<std::string>& arguments) const { return RunIn(Environment(), arguments); }
+    ProgramResult RunIn(const std::vector<std::string>& environment, const std::vector<std::string>& arguments) const;
     /// Starts the recorder, and waits until it answers; `wrapper` is a program in front of it.
-    void Start(const std::vector<std::string>& arguments, const std::vector<std::string>& wrapper = {});
+    void Start(const std::vector<std::string>& arguments, const std::vector<std::string>& wrapper = {})
+    {
+        StartIn(Environment(), arguments, wrapper);
+    }
+    void StartIn(std::vector<std::string> environment, const std::vector<std::string>& arguments,
+        const std::vector<std::string>& wrapper = {});
     /// Ends it with a signal; gives its exit status, or 128 and the number of the signal that it died of.
     int Stop(int signal);
     /// Waits for its end; gives its exit status.

@@ -99,6 +99,22 @@ TEST(ControlTest, Path_SystemGivesAFolder_IsThereAndOtherwiseInTheProfile)
     EXPECT_EQ(ControlPathOf("/absent"), "/absent/Tempodial/track.sock");
 }
 
+TEST(ControlTest, Paths_OtherSessions_AreAllWhereARecorderMayListen)
+{
+    const TempFolder folder;
+    const auto ofUser = "/run/user/" + std::to_string(::getuid()) + "/tempodial/track-[0-9a-f]+\\.sock";
+    const auto ofProfile = folder.Path("Tempodial/track.sock");
+    ::unsetenv("XDG_RUNTIME_DIR");
+    EXPECT_THAT(ControlPathsOf(folder.Path()), testing::ElementsAre(ofProfile, testing::MatchesRegex(ofUser)));
+    ::setenv("XDG_RUNTIME_DIR", "/elsewhere", 1);
+    EXPECT_THAT(ControlPathsOf(folder.Path()),
+        testing::ElementsAre(testing::MatchesRegex("/elsewhere/tempodial/track-[0-9a-f]+\\.sock"),
+            testing::MatchesRegex(ofUser), ofProfile));
+    ::setenv("XDG_RUNTIME_DIR", "no folder", 1);
+    EXPECT_EQ(ControlPathOf(folder.Path()), ofProfile);
+    ::unsetenv("XDG_RUNTIME_DIR");
+}
+
 }
 
 }

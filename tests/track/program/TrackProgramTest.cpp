@@ -240,6 +240,41 @@ TEST_F(TrackProgramTest, Status_Runs_HasAllFieldsAndNoTitle)
     EXPECT_THAT(mDesktop.Run({ "track", "status" }).out, HasSubstr("Alpha"));
 }
 
+TEST_F(TrackProgramTest, Status_FromAnotherSession_SaysWhatCanBeKnown)
+{
+    mDesktop.Tell("window alpha 0 First");
+    Record();
+    const auto other = UsualEnvironment();
+    const auto status = mDesktop.RunIn(other, { "track", "status", "--json" });
+    EXPECT_EQ(status.status, 0) << status.error;
+    EXPECT_EQ(nlohmann::json::parse(status.out),
+        (nlohmann::json { { "running", true }, { "backend", nullptr }, { "idle", nullptr }, { "since", nullptr },
+            { "paused", nullptr }, { "pausedUntil", nullptr }, { "inFront", nullptr }, { "slots", nullptr },
+            { "lastWritten", nullptr } }));
+    EXPECT_THAT(mDesktop.RunIn(other, { "track", "status" }).out, HasSubstr("XDG_RUNTIME_DIR"));
+    for (const auto& words : std::vector<std::vector<std::string>> { { "track", "pause" }, { "track", "project" },
+             { "track", "resume" }, { "track", "forget", "--last", "30m" } }) {
+        const auto result = mDesktop.RunIn(other, words);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.error, HasSubstr("runs, but can't be asked from here: ")) << words[1];
+    }
+    EXPECT_EQ(mDesktop.Stop(SIGTERM), 0);
+    EXPECT_THAT(mDesktop.RunIn(other, { "track", "status" }).out, HasSubstr("No recorder is running"));
+}
+
+TEST_F(TrackProgramTest, Status_RecorderListensInTheProfile_IsAskedThere)
+{
+    auto environment = UsualEnvironment();
+    for (const auto* name : { "FAKE_DESKTOP=desktop", "FAKE_SESSION=session" }) {
+        const std::string value(name);
+        environment.push_back(value.substr(0, 13) + mDesktop.Folder().Path(value.substr(13)));
+    }
+    mDesktop.Tell("window alpha 0 First");
+    mDesktop.StartIn(environment, { "--now", Monday, "--speed", "600" });
+    EXPECT_EQ(Json({ "track", "status" })["backend"], "x11");
+    EXPECT_TRUE(mDesktop.Folder().Has("profile/Tempodial/track.sock"));
+}
+
 TEST_F(TrackProgramTest, PauseAndResume_Runs_AreFollowed)
 {
     mDesktop.Tell("idle 0");
