@@ -47,6 +47,7 @@ public:
     {
         if (mTooDeep == 0) {
             mPath.back() = name.substr(0, MostFieldBytes);
+            DropCutLetter(mPath.back());
         }
         return true;
     }

@@ -56,8 +56,6 @@ public:
     const std::set<std::int64_t>& UnreadableLines() const { return mUnreadableLines; }
     /// The reasons that there were, with their counts.
     const std::map<std::string, std::int64_t>& Counts() const { return mCounts; }
-    /// True when something couldn't be taken that should have been.
-    bool HasTrouble() const { return Count(Unreadable) + Count(TooDeep) + Count(TooBig) > 0; }
 
 private:
     static constexpr std::size_t MostLines = 10;

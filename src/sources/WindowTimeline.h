@@ -63,7 +63,7 @@ private:
     /// The windows that have begun and may reach into the day in hand, in their order, and the next one that begins.
     std::vector<SeenWindow> mOpen;
     std::size_t mNext = 0;
-    /// What windows come to, as far as it was asked of late.
+    /// What windows come to, as far as that was asked lately.
     std::unordered_map<std::uint32_t, Seen> mSeen;
     SlotPicker mPicker;
 };

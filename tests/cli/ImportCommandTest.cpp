@@ -378,6 +378,19 @@ TEST_F(ImportCommandTest, Import_Calendar_FillsFreeTimeWithMeetings)
     EXPECT_THAT(RefusalOf("ics", "x"), HasSubstr("BEGIN:VCALENDAR"));
 }
 
+TEST_F(ImportCommandTest, Import_EventsBefore1990_AreCounted)
+{
+    std::string calendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
+    for (const auto* start : { "19891231T093000", "18700101T090000Z", "19891231T233000", "19900101T090000" }) {
+        calendar += std::string("BEGIN:VEVENT\r\nUID:") + start + "\r\nDTSTART:" + start
+            + "\r\nDURATION:PT30M\r\nSUMMARY:x\r\nEND:VEVENT\r\n";
+    }
+    const auto answer = Import("ics", calendar + "END:VCALENDAR\r\n");
+    EXPECT_EQ(answer.at("skipped"), json::parse(R"({"before1990":3})"));
+    EXPECT_EQ(answer.at("days"), json::parse(R"([{"day":"1990-01-01","slots":0,"entries":1,"taken":0,"before":0}])"));
+    EXPECT_EQ(answer.at("created"), 1);
+}
+
 TEST_F(ImportCommandTest, Import_EventsThatRepeatWithoutMeasure_AreRefusedWithTheLimit)
 {
     std::string calendar = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n";
@@ -412,6 +425,9 @@ TEST_F(ImportCommandTest, Import_ProjectOfASighting_ComesToTheLog)
     Import("csv", table, { "--as", "sightings" });
     ASSERT_EQ(All().size(), 1U);
     EXPECT_EQ(All()[0].at("subject"), "[Riverside] Atlas, \"map\"");
+    std::filesystem::remove_all(mProfile);
+    Import("csv", table, { "--as", "sightings", "--no-projects" });
+    EXPECT_EQ(Subjects(All()), (std::vector<std::string> { "Atlas, \"map\"" }));
 }
 
 TEST_F(ImportCommandTest, Import_RulesBehindALinkToNothing_AreMissedByName)

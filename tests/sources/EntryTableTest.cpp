@@ -46,7 +46,7 @@ TEST_F(EntryTableTest, Toggl_Rows_AreEntriesWithTheirProjects)
     EXPECT_THAT(Told(data),
         ElementsAre("20261102 09:00 20261102 09:45 Toggl|Call, with \"Ann\" again, Plan|Riverside",
             "20261102 23:30 20261103 00:30 Toggl||"));
-    EXPECT_FALSE(data.skipped.HasTrouble());
+    EXPECT_TRUE(data.skipped.Counts().empty());
 }
 
 TEST_F(EntryTableTest, Toggl_BadRows_AreCounted)
@@ -216,7 +216,7 @@ TEST_F(EntryTableTest, Csv_QuoteInTheMiddleOfAField_IsItself)
     EXPECT_THAT(Told(data),
         ElementsAre("20261102 09:00 20261102 09:30 a|5\" disk|", "20261102 09:30 20261102 09:40 b|x \"y\", z|",
             "20261102 09:40 20261102 09:50 c|xy\"z|"));
-    EXPECT_FALSE(data.skipped.HasTrouble());
+    EXPECT_TRUE(data.skipped.Counts().empty());
 }
 
 TEST_F(EntryTableTest, Csv_QuoteThatIsNeverClosed_IsOneUnreadableRecord)
