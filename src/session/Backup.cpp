@@ -1,6 +1,7 @@
 #include "session/Backup.h"
 
 #include "host/files/ArchiveFile.h"
+#include "host/files/FileDescriptor.h"
 #include "host/files/PackedFiles.h"
 #include "host/files/PathOperations.h"
 #include "host/files/ReplacementFile.h"
@@ -27,6 +28,11 @@ public:
         Discard(mPath); // left over from a run that was killed
         try {
             CopyMailbox(profile.Mailbox(), mPath);
+            // With its own time the same mailbox makes the same backup, whenever that is.
+            const auto changed
+                = FileDescriptor(NativePath::Exactly(profile.Path() + "/" + MailboxFileName), Opening::Reading)
+                      .ModificationTime();
+            FileDescriptor(mPath, Opening::Writing).SetModificationTime(changed);
         } catch (...) {
             Discard(mPath);
             throw;

@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -12,6 +13,7 @@
 #include <random>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tempodial {
@@ -124,6 +126,8 @@ TEST_F(BackupCommandTest, Backup_File_IsTheUsersAloneAndSaidToBeReplaced)
     ASSERT_EQ(::stat(mBackup.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & ACCESSPERMS, 0600U);
     const auto first = mFolder.Read("b.tar.gz");
+    // The next one is of another second.
+    std::this_thread::sleep_for(std::chrono::milliseconds(1001));
     EXPECT_EQ(::chmod(mBackup.c_str(), 0644), 0);
     EXPECT_EQ(Run({ "backup", mBackup }).out, "Replaced: " + mBackup + "\n");
     ASSERT_EQ(::stat(mBackup.c_str(), &status), 0);
