@@ -20,6 +20,9 @@ PROBE = os.path.join(MINGW, "tests", "tempodial-probe.exe")
 SCRIPT = os.path.join(ROOT, "packaging", "windows", "tempodial.nsi")
 OUT = os.path.join(MINGW, "setup")
 PATIENCE = 60
+# How the setup program ends.
+NO_RIGHTS = 5
+TOO_OLD = 6
 LATER = "9.9.9"
 
 CLASS = r"Software\Classes\%sCLSID\{6C1F8A52-3D0E-4B7B-9E57-2A94C60D7F13}"
@@ -47,6 +50,12 @@ def Wine(*arguments, check=True):
             raise AssertionError(complaint)
         print(complaint, file=sys.stderr)
     return said
+
+
+def Status(*arguments):
+    """How a program for Windows ends."""
+    return subprocess.run(["wine", *arguments], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                          stderr=subprocess.DEVNULL, timeout=PATIENCE, check=False).returncode
 
 
 class Registry:
@@ -97,14 +106,13 @@ class InstallerTest(unittest.TestCase):
 
     def RemoveAll(self):
         """Whatever a test has left, for one that failed midway."""
-        Wine(PROBE, "remove", *KEYS)
+        # What Windows is told to take away would else go when Wine starts anew, in the midst of another test.
+        Wine(PROBE, "remove", *KEYS, RUNONCE)
         for folder in (self.user, self.machine, r"C:\elsewhere"):
             shutil.rmtree(Drive(folder), ignore_errors=True)
 
     def Setup(self, *options, setup=None):
-        done = subprocess.run(["wine", setup or self.setup, "/S", *options], stdin=subprocess.DEVNULL,
-                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=PATIENCE, check=False)
-        self.assertEqual(done.returncode, 0)
+        self.assertEqual(Status(setup or self.setup, "/S", *options), 0)
 
     def Uninstall(self, folder):
         """Uninstalls; the program goes on in a copy of itself, so its end shows only in what is gone."""
@@ -176,6 +184,34 @@ class InstallerTest(unittest.TestCase):
         self.assertEqual(Registry().values, {})
         self.assertFalse(os.path.exists(Drive(self.machine)), Installed(self.machine))
         self.assertIn("no add-in is registered", Wine(PROBE, check=False))
+
+    def test_ForAll_WithoutAnAdministratorsRights_IsRefused(self):
+        setup = "Z:" + self.setup.replace("/", "\\")
+        self.assertEqual(Status(PROBE, "limited", setup, "/S", "/AllUsers"), NO_RIGHTS)
+        self.assertEqual(Registry().values, {})
+        self.assertFalse(os.path.exists(Drive(self.machine)))
+        self.assertEqual(Status(PROBE, "limited", setup, "/S"), 0)
+        self.assertEqual(Registry().Module("HKCU"), f"{self.user}\\{self.version}\\x64\\Tempodial.dll")
+
+    def test_ForAll_CantBeTakenAwayWithoutAnAdministratorsRights(self):
+        self.Setup("/AllUsers")
+        before = Registry().values
+        program = self.machine + "\\uninstall.exe"
+        # Without a copy of itself it tells how it ends.
+        self.assertEqual(Status(PROBE, "limited", f'"{program}"', "/S", "_?=" + self.machine), NO_RIGHTS)
+        self.assertEqual(Registry().values, before)
+        self.assertIn(f"{self.version}/x64/Tempodial.dll", Installed(self.machine))
+
+    def test_WindowsBefore7_IsRefused(self):
+        older = os.path.join(OUT, "older.exe")
+        shutil.copy(self.setup, older)
+        key = r"HKCU\Software\Wine\AppDefaults\older.exe"
+        Wine("reg", "add", key, "/v", "Version", "/d", "vista", "/f")
+        self.addCleanup(Wine, "reg", "delete", key, "/f")
+        self.assertEqual(Status(older, "/S"), TOO_OLD)
+        self.assertEqual(Registry().values, {})
+        Wine("reg", "add", key, "/v", "Version", "/d", "win7", "/f")
+        self.assertEqual(Status(older, "/S"), 0)
 
     def test_Folder_ThatIsGiven_IsTakenAndKept(self):
         self.Setup(r"/D=C:\elsewhere")

@@ -2,6 +2,7 @@
 //   probe             asks COM for the add-in as Outlook does, and says which module it comes from
 //   probe hold        the same, and keeps it until the input ends
 //   probe list KEY... prints all values below these keys of both hives, a line each: hive\key, name, value
+//   probe limited PROGRAM... runs a program as a user who is no administrator, and ends as it does
 //   probe remove KEY... deletes these keys of both hives with all that is below
 
 #include "addin/base/AddInDesigner.h"
@@ -91,6 +92,32 @@ void List(HKEY hive, const std::string& hiveName, const std::wstring& path)
     RegCloseKey(key);
 }
 
+/// Runs a command with the rights of this process but those of an administrator; its exit status, or an error's number.
+DWORD RunLimited(std::wstring command)
+{
+    SID_IDENTIFIER_AUTHORITY authority = SECURITY_NT_AUTHORITY;
+    SID_AND_ATTRIBUTES administrators {};
+    HANDLE own = nullptr;
+    HANDLE limited = nullptr;
+    STARTUPINFOW start {};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process {};
+    if (AllocateAndInitializeSid(
+            &authority, 2, SECURITY_BUILTIN_DOMAIN_RID, DOMAIN_ALIAS_RID_ADMINS, 0, 0, 0, 0, 0, 0, &administrators.Sid)
+            == FALSE
+        || OpenProcessToken(GetCurrentProcess(), TOKEN_ALL_ACCESS, &own) == FALSE
+        || CreateRestrictedToken(own, 0, 1, &administrators, 0, nullptr, 0, nullptr, &limited) == FALSE
+        || CreateProcessAsUserW(
+               limited, nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process)
+            == FALSE) {
+        return GetLastError();
+    }
+    WaitForSingleObject(process.hProcess, INFINITE);
+    DWORD status = 0;
+    GetExitCodeProcess(process.hProcess, &status);
+    return status;
+}
+
 }
 
 int main(int count, char** arguments)
@@ -102,6 +129,12 @@ int main(int count, char** arguments)
     int status = 0;
     if (what.empty() || what == "hold") {
         status = AskForAddIn(what == "hold");
+    } else if (what == "limited") {
+        std::wstring command;
+        for (int index = 2; index < count; ++index) {
+            command += (index == 2 ? L"" : L" ") + Wide(arguments[index]);
+        }
+        status = static_cast<int>(RunLimited(command));
     }
     for (int index = 2; index < count; ++index) {
         const auto path = Wide(arguments[index]);
