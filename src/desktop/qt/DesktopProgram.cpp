@@ -77,10 +77,7 @@ void DesktopProgram::RunWindows(const ProfileOptions& options)
     const PeriodicImport import(desk);
     const SystemTheme theme([&desk](bool isDark) { desk.FollowSystem(isDark); });
     windows.mWhenAllClosed = [] { QCoreApplication::quit(); };
-    TrayIcon tray(desk, [&windows] { windows.Raise(); });
-    if (isHidden) {
-        tray.WaitForTray();
-    }
+    const TrayIcon tray(desk, [&windows] { windows.Raise(); });
     if (socket) {
         socket->mRaise = [&windows] { windows.Raise(); };
     }

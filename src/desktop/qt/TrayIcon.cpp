@@ -4,55 +4,97 @@
 #include "session/ProductFacts.h"
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <algorithm>
 
 namespace tempodial {
 
 namespace {
 
-constexpr int Second = 1000;
+/// By that name a tray is found on the session's bus.
+constexpr auto BusName = "org.kde.StatusNotifierWatcher";
+
+bool IsAnyWindowShown()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+}
 
 }
 
 TrayIcon::TrayIcon(Desk& desk, std::function<void()> raise)
     : mDesk(desk)
     , mRaise(std::move(raise))
-    , mIcon(ProgramIcon())
+    , mTrays(BusName, QDBusConnection::sessionBus(), QDBusServiceWatcher::WatchForOwnerChange)
     , mEvents(desk.Subscribe({ .Restyled = [this] { Follow(); } }))
+{
+    FillMenu();
+    mTimer.setSingleShot(true);
+    QObject::connect(&mTimer, &QTimer::timeout, &mMenu, [this] { LosePatience(); });
+    QObject::connect(&mTrays, &QDBusServiceWatcher::serviceOwnerChanged, &mMenu, [this] {
+        mIsPatient = true;
+        Follow();
+    });
+    Follow();
+}
+
+void TrayIcon::FillMenu()
 {
     QObject::connect(mMenu.addAction("&Open"), &QAction::triggered, &mMenu, [this] { mRaise(); });
     QObject::connect(mMenu.addAction("&Refresh"), &QAction::triggered, &mMenu,
         [this] { mDesk.Do([this] { mDesk.Session().AddIn().SyncData(SavedDataDays, true); }); });
     QObject::connect(mMenu.addAction("&Quit"), &QAction::triggered, &mMenu, [this] { mDesk.Quit(); });
-    mIcon.setContextMenu(&mMenu);
-    mIcon.setToolTip(ProductName);
-    QObject::connect(&mIcon, &QSystemTrayIcon::activated, &mMenu, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger) {
-            mRaise();
-        }
-    });
-    QObject::connect(&mTimer, &QTimer::timeout, &mMenu, [this] { Look(); });
-    Follow();
+}
+
+bool TrayIcon::IsTrayThere()
+{
+    const auto* bus = QDBusConnection::sessionBus().interface();
+    if (bus != nullptr && bus->isServiceRegistered(BusName)) {
+        mAreOnBus = true;
+        return QSystemTrayIcon::isSystemTrayAvailable();
+    }
+    // The toolkit asks the bus but once, so it is asked late; what it was told of the bus is then no more so.
+    return !mAreOnBus && !mIsPatient && QSystemTrayIcon::isSystemTrayAvailable();
 }
 
 void TrayIcon::Follow()
 {
-    mIcon.setVisible(mDesk.Settings().hasTray && QSystemTrayIcon::isSystemTrayAvailable());
-    mDesk.SetStaysWhenClosed(mIcon.isVisible());
+    const bool isWanted = mDesk.Settings().hasTray;
+    const bool isThere = isWanted && IsTrayThere();
+    if (!isThere) {
+        mIcon.reset();
+    } else if (!mIcon) {
+        Show();
+    }
+    mDesk.SetStaysWhenClosed(isThere);
+    if (isWanted && !isThere && mIsPatient) {
+        mTimer.start(std::chrono::seconds(Patience));
+    } else {
+        mTimer.stop();
+    }
 }
 
-void TrayIcon::WaitForTray()
+void TrayIcon::Show()
 {
-    mTimer.start(Second);
+    mIcon = std::make_unique<QSystemTrayIcon>(ProgramIcon());
+    mIcon->setContextMenu(&mMenu);
+    mIcon->setToolTip(ProductName);
+    QObject::connect(
+        mIcon.get(), &QSystemTrayIcon::activated, &mMenu, [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger) {
+                mRaise();
+            }
+        });
+    mIcon->show();
 }
 
-void TrayIcon::Look()
+void TrayIcon::LosePatience()
 {
+    mIsPatient = false;
     Follow();
-    if (IsShown()) {
-        mTimer.stop();
-    } else if (--mSecondsLeft <= 0) {
-        mTimer.stop();
+    if (!IsShown() && !IsAnyWindowShown()) {
         mRaise();
     }
 }

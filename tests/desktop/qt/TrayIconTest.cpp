@@ -27,8 +27,8 @@ TEST_F(TrayIconTest, HiddenStart_NoTrayComes_BringsTheWindowsUp)
     mWindows = std::make_unique<HostWindows>(*mDesk, HostWindows::Beginning::Hidden);
     auto& window = *mWindows->WindowOf(mDesk->Windows().OpenExplorers().front());
     EXPECT_FALSE(window.isVisible());
-    TrayIcon tray(*mDesk, [this] { mWindows->Raise(); });
-    tray.WaitForTray();
+    mDesk->Change([](DesktopSettings& settings) { settings.hasTray = true; });
+    const TrayIcon tray(*mDesk, [this] { mWindows->Raise(); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.isVisible(); }, 2 * TrayIcon::Patience * 1000));
 }
 
