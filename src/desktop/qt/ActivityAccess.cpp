@@ -3,6 +3,7 @@
 #include "desktop/qt/AgendaView.h"
 
 #include <QStringList>
+#include <QTimer>
 
 namespace tempodial {
 
@@ -82,19 +83,21 @@ void ActivityAccess::doAction(const QString& name)
     if (!isValid()) {
         return;
     }
-    const auto number = mView.ActivityOf(mPiece).number;
-    if (name == OpenAction) {
-        mView.mWishes.open(number);
-        return;
-    }
-    mView.setFocus();
-    mView.SetFocusOn(mPiece);
-    mView.mWishes.select({ number });
-    if (name == SetProjectAction) {
-        mView.mWishes.chooseProject();
-    } else if (name == DeleteAction) {
-        mView.mWishes.remove();
-    }
+    // Whoever asked waits for an answer, and a menu or a message would keep it back until it is closed.
+    QTimer::singleShot(0, &mView, [view = &mView, piece = mPiece, number = mView.ActivityOf(mPiece).number, name] {
+        if (name == OpenAction) {
+            view->mWishes.open(number);
+            return;
+        }
+        view->setFocus();
+        view->SetFocusOn(piece);
+        view->mWishes.select({ number });
+        if (name == SetProjectAction) {
+            view->mWishes.chooseProject();
+        } else if (name == DeleteAction) {
+            view->mWishes.remove();
+        }
+    });
 }
 
 }

@@ -5,6 +5,7 @@
 #include "forms/ModelHands.h"
 #include "session/FormClick.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
 #include <QLabel>
 #include <algorithm>
@@ -172,7 +173,8 @@ void FormView::NameControls(const FormDefinition& form)
             const auto* label = LabelOf(form, control.name);
             auto* widget = WidgetOf(control.name);
             if (label == nullptr || widget == nullptr || IsKind(control, ControlKind::Label)
-                || IsKind(control, ControlKind::Button)) {
+                || dynamic_cast<const QAbstractButton*>(widget) != nullptr) {
+                // Buttons of all kinds have words of their own.
                 continue;
             }
             auto* text = qobject_cast<QLabel*>(WidgetOf(label->name));

@@ -9,6 +9,7 @@
 #include "platform/controls/OptionButton.h"
 #include "platform/controls/TextBox.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -86,6 +87,18 @@ TEST_F(FormWindowTest, Form_Shown_HasAWindowWithItsTitleAndControls)
     EXPECT_TRUE(Find<QPushButton>(window, "SaveandCloseButton").isDefault());
     EXPECT_EQ(Find<QLabel>(window, "Label1").buddy(), window.View().WidgetOf("SubjectText"));
     EXPECT_EQ(Find<QLabel>(window, "Label1").text(), "Subject matches");
+}
+
+TEST_F(FormWindowTest, Form_ButtonsToCheck_AreNamedByTheirOwnWordsForAssistivePrograms)
+{
+    Choose("Create Activity &Report...");
+    const auto& window = WindowOf("ReportForm");
+    const auto buttons = window.findChildren<QRadioButton*>();
+    ASSERT_FALSE(buttons.empty());
+    for (auto* button : buttons) {
+        const auto name = QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name);
+        EXPECT_EQ(name, QString(button->text()).remove('&'));
+    }
 }
 
 TEST_F(FormWindowTest, Form_WorkedByKeys_SavesAProjectWithItsRules)

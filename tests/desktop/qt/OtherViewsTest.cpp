@@ -136,8 +136,12 @@ TEST_F(OtherViewsTest, Accessible_Actions_OpenAndDelete)
     auto* action = agenda->child(0)->actionInterface();
     ASSERT_NE(action, nullptr);
     action->doAction("Open");
+    // Who asks is answered before a window or a menu comes up.
+    EXPECT_TRUE(mDesk->Windows().OpenInspectors().empty());
+    Settle();
     EXPECT_EQ(mDesk->Windows().OpenInspectors().size(), 1U);
     agenda->child(3)->actionInterface()->doAction("Delete");
+    Settle();
     EXPECT_EQ(agenda->childCount(), 3);
 }
 
