@@ -16,6 +16,7 @@ inline constexpr auto RangeDash = " – ";
 
 /// What the bar says while hardly anything has a project, and the step that helps.
 inline constexpr auto NoProjectsYet = "No activity has a project yet.";
+inline constexpr auto FewProjectsYet = "Most of these days has no project yet.";
 inline constexpr auto NoProjectsYetHelp = "Sort out the largest ones and Tempodial assigns the rest by rules.";
 /// What is said while the end of an activity is dragged that isn't final.
 inline constexpr auto MayGrowText = "The tracker may still make this activity longer; the next import will then begin "

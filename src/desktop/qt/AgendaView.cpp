@@ -11,7 +11,6 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace tempodial {
 
@@ -68,8 +67,7 @@ void AgendaView::Follow()
     mGutter = mPainter.GutterFor(mContents.HourNames());
     Put();
     FindFocus();
-    const bool wasEmpty = std::exchange(mIsEmpty, mLog.Activities().empty());
-    if (mFitted != mLog.Days() || (wasEmpty && !mIsEmpty)) {
+    if (mFitted != mLog.Days()) {
         Fit();
     }
 }
@@ -108,6 +106,7 @@ AgendaScene::Place AgendaView::Place() const
 
 void AgendaView::Put()
 {
+    const bool isFitted = mFitted && verticalScrollBar()->value() == mFittedValue;
     mScene->Put(Place());
     mContents.FillPlaced(*mScene);
     mHead->Show(mContents.Heads(*mScene));
@@ -115,6 +114,9 @@ void AgendaView::Put()
     const auto height = static_cast<int>(std::ceil(mScene->Scale().DayHeight()));
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
+    if (isFitted) {
+        ScrollToFirst();
+    }
     viewport()->update();
 }
 
@@ -124,8 +126,14 @@ void AgendaView::Fit()
     if (isVisible()) {
         mFitted = mLog.Days();
     }
+    ScrollToFirst();
+}
+
+void AgendaView::ScrollToFirst()
+{
     const auto from = mScene->Layout().Hours(UsualHours).from;
     verticalScrollBar()->setValue(static_cast<int>(mScene->Scale().PlaceOf(from)));
+    mFittedValue = verticalScrollBar()->value();
 }
 
 void AgendaView::ShowOnly(const std::set<std::string>& names)

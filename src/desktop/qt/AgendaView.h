@@ -118,6 +118,7 @@ private:
     void Put();
     AgendaScene::Place Place() const;
     TimeScale Scale() const;
+    void ScrollToFirst();
     void FindFocus();
     void TellFocus();
     void PaintGhost(QPainter& painter) const;
@@ -140,9 +141,10 @@ private:
     AgendaMouse mMouse { *this };
     AgendaKeys mKeys { *this };
     double mGutter = 0;
-    bool mIsEmpty = true;
-    /// The days to which the view was last scrolled.
+    /// The days to whose first activity the view was last scrolled, and where the bar stood then. As long as it stands
+    /// there, the view follows the first activity, which may be another as an import goes on.
     std::optional<Period> mFitted;
+    int mFittedValue = 0;
 };
 
 }

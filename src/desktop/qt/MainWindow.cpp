@@ -24,6 +24,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTimer>
 
@@ -32,10 +33,18 @@ namespace tempodial {
 namespace {
 
 constexpr QSize UsualSize(1440, 900);
+/// What the frame that a desktop draws takes of the screen.
+constexpr QSize RoomOfFrame(8, 40);
 /// Below it the side panel gives way to the days.
 constexpr int LeastWidthWithPanel = 900;
 /// The days whose activities say which projects are likely.
 constexpr int DaysLookedBack = 28;
+
+/// A size as far as the screen has room for it; one in memory has any.
+QSize InScreen(const QSize& size, const QScreen& screen)
+{
+    return QGuiApplication::platformName() == "offscreen" ? size : size.boundedTo(screen.availableSize() - RoomOfFrame);
+}
 
 }
 
@@ -64,8 +73,8 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
         .Failed = [this](const std::string& message) { mFoot->Say(ToQt(message)); } });
     FollowLog();
     const auto& settings = desk.Settings();
-    resize(
-        settings.width == 0 ? UsualSize : QSize(static_cast<int>(settings.width), static_cast<int>(settings.height)));
+    const QSize kept(static_cast<int>(settings.width), static_cast<int>(settings.height));
+    resize(InScreen(settings.width == 0 ? UsualSize : kept, *screen()));
     mAgenda->setFocus();
 }
 
@@ -379,14 +388,15 @@ void MainWindow::FollowSelection()
     mAgenda->ShowSelected(mSelected);
     mList->ShowSelected(mSelected);
     if (selected.empty()) {
-        const bool hasNoProjects
+        const bool hasFewProjects
             = mLog.HasAny() && ColouredBy(ColourChoice::Automatic, mLog.Activities()) == Coloured::Application;
+        const bool hasNone = mLog.UnassignedMinutes() == mLog.Sums().total;
         auto count = ActivitiesText(static_cast<std::int64_t>(ShownActivities().size()));
         if (mSearch.IsOn()) {
             count += mSearch.IsDone() ? " found in the whole log" : " found so far";
         }
-        mFoot->ShowNothing(
-            hasNoProjects ? NoProjectsYet : ToQt(count), hasNoProjects ? NoProjectsYetHelp : "", hasNoProjects);
+        mFoot->ShowNothing(hasFewProjects ? (hasNone ? NoProjectsYet : FewProjectsYet) : ToQt(count),
+            hasFewProjects ? NoProjectsYetHelp : "", hasFewProjects);
         return;
     }
     const auto today = mDesk.Now().Day();

@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 
 namespace tempodial {
@@ -103,6 +104,24 @@ TEST_F(MainWindowTest, Log_FirstActivitiesCome_AreScrolledTo)
     const auto box = window.Agenda().InView(scene.Geometry().BoxOf(scene.Layout().Pieces().front()));
     EXPECT_GE(box.y(), 0);
     EXPECT_LT(box.bottom(), window.Agenda().viewport()->height());
+}
+
+TEST_F(MainWindowTest, Log_EarlierOnesFollowAndNobodyScrolled_AreScrolledToToo)
+{
+    auto& window = Open();
+    mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(15, 14), On(15, 15)); });
+    Settle();
+    mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(14, 1), On(14, 2)); });
+    Settle();
+    const auto topOf = [&window](std::size_t piece) {
+        const auto& scene = window.Agenda().Scene();
+        return window.Agenda().InView(scene.Geometry().BoxOf(scene.Layout().Pieces()[piece])).y();
+    };
+    EXPECT_GE(topOf(0), 0);
+    window.Agenda().verticalScrollBar()->setValue(window.Agenda().verticalScrollBar()->maximum());
+    mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(13, 0), On(13, 1)); });
+    Settle();
+    EXPECT_LT(topOf(0), 0);
 }
 
 TEST_F(MainWindowTest, Work_Fails_IsToldAtTheFoot)
