@@ -1,5 +1,7 @@
 #include "desktop/ThemeColours.h"
 
+#include "desktop/Contrast.h"
+
 #include <initializer_list>
 
 namespace tempodial {
@@ -11,14 +13,16 @@ ThemeColours PaperAndInk(const Colour& paper, const Colour& ink)
     ThemeColours colours;
     for (auto* ground : { &colours.window, &colours.panel, &colours.paper, &colours.offHours, &colours.today,
              &colours.hover, &colours.card, &colours.band, &colours.track, &colours.accentText, &colours.nowText,
-             &colours.badgeText, &colours.hatch }) {
+             &colours.badgeText, &colours.hatch, &colours.minuteLine }) {
         *ground = paper;
     }
-    for (auto* drawn : { &colours.hourLine, &colours.minuteLine, &colours.border, &colours.text, &colours.quietText,
-             &colours.faintText, &colours.link, &colours.accent, &colours.now, &colours.badge, &colours.unassignedMark,
-             &colours.unassignedInk }) {
+    for (auto* drawn : { &colours.border, &colours.text, &colours.quietText, &colours.faintText, &colours.link,
+             &colours.accent, &colours.now, &colours.badge, &colours.unassignedMark, &colours.unassignedInk }) {
         *drawn = ink;
     }
+    // Lines of the agenda lie behind its texts.
+    constexpr double Faint = 0.3;
+    colours.hourLine = Mixed(ink, paper, Faint);
     return colours;
 }
 

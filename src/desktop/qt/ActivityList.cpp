@@ -17,6 +17,9 @@ namespace tempodial {
 
 namespace {
 
+/// What the mark of its project takes of the first column.
+constexpr int RoomOfMark = 24;
+
 /// What is shown where the log has no table view that can be used.
 TableViewLayout UsualLayout()
 {
@@ -103,7 +106,7 @@ void ActivityList::Show(const std::vector<Activity>& activities, Coloured colour
     if (columns.size() != before) {
         for (std::size_t i = 0; i < columns.size(); ++i) {
             if (columns[i].width > 0) {
-                header()->resizeSection(static_cast<int>(i), columns[i].width);
+                header()->resizeSection(static_cast<int>(i), columns[i].width + (i == 0 ? RoomOfMark : 0));
             }
         }
     }

@@ -117,6 +117,12 @@ void AgendaPainter::PaintGrid(QPainter& painter, const Picture& picture, const Q
     }
 }
 
+void AgendaPainter::Clear(QPainter& painter, const QRectF& box, Date moment, const Picture& picture) const
+{
+    const bool isToday = moment.Day() == picture.now.Day();
+    painter.fillRect(box, ToQt(isToday ? mLook.Colours().today : mLook.Colours().paper));
+}
+
 void AgendaPainter::PaintGaps(QPainter& painter, const Picture& picture, const QRectF& part)
 {
     const auto& scene = picture.scene;
@@ -135,8 +141,9 @@ void AgendaPainter::PaintGaps(QPainter& painter, const Picture& picture, const Q
         }
         const auto room = column.width - 2 * TextIndent;
         const auto width = std::min(mTexts.WidthOf(TextRole::Small, picture.gaps[i]), room);
-        mTexts.Draw(painter, TextRole::Small, ToQt(mLook.Colours().faintText),
-            { column.left + (column.width - width) / 2, (top + bottom - height) / 2 }, room, picture.gaps[i]);
+        const QPointF place(column.left + (column.width - width) / 2, (top + bottom - height) / 2);
+        Clear(painter, QRectF(place, QSizeF(width, height)), gap.from, picture);
+        mTexts.Draw(painter, TextRole::Small, ToQt(mLook.Colours().faintText), place, room, picture.gaps[i]);
     }
 }
 
@@ -214,8 +221,12 @@ void AgendaPainter::PaintRuns(QPainter& painter, const Picture& picture, const Q
         }
         const auto box = run.LabelBox(height);
         if (box && box->top < part.bottom() && box->Bottom() > part.top()) {
-            mTexts.Draw(painter, TextRole::Small, ToQt(mLook.Colours().quietText), { box->left + 3, box->top },
-                box->width - 6, picture.labels[i]);
+            const QPointF place(box->left + 3, box->top);
+            const auto width = std::min(mTexts.WidthOf(TextRole::Small, picture.labels[i]), box->width - 6);
+            Clear(painter, QRectF(place, QSizeF(width, height)),
+                scene.ActivityOf(scene.Layout().Pieces()[run.pieces.begin]).start, picture);
+            mTexts.Draw(
+                painter, TextRole::Small, ToQt(mLook.Colours().quietText), place, box->width - 6, picture.labels[i]);
         }
     }
 }

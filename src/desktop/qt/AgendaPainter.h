@@ -73,6 +73,8 @@ public:
 private:
     void PaintGrounds(QPainter& painter, const Picture& picture, const QRectF& part) const;
     void PaintGrid(QPainter& painter, const Picture& picture, const QRectF& part);
+    /// Takes away the lines behind a text.
+    void Clear(QPainter& painter, const QRectF& box, Date moment, const Picture& picture) const;
     void PaintGaps(QPainter& painter, const Picture& picture, const QRectF& part);
     void PaintPieces(QPainter& painter, const Picture& picture, const QRectF& part);
     void PaintCard(QPainter& painter, const QRectF& box, const AgendaCard& card);

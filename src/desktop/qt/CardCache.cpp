@@ -41,7 +41,7 @@ bool operator<(const CardStyle& one, const CardStyle& other)
 {
     const auto key = [](const CardStyle& style) {
         return std::tuple(KeyOf(style.colours.mark), KeyOf(style.colours.fill), style.isHatched, style.isStriped,
-            style.isDashed, KeyOf(style.hatch));
+            style.isDashed, style.isOutlined, KeyOf(style.hatch));
     };
     return key(one) < key(other);
 }
@@ -103,14 +103,18 @@ void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& styl
     painter.fillRect(QRectF(box.x() + CardRadius, box.y() + CardRadius, inner + CardRadius, middle), pictures.ground);
     painter.fillRect(
         QRectF(box.x(), box.y() + CardRadius, CardRadius, middle), style.isHatched ? pictures.ground : pictures.mark);
-    if (style.isDashed) {
-        QPen pen(ToQt(style.colours.mark), 1);
-        pen.setDashPattern({ 3, 3 });
+    if (style.isDashed || style.isOutlined) {
+        const auto width = style.isOutlined ? 2.0 : 1.0;
+        QPen pen(ToQt(style.colours.mark), width);
+        if (style.isDashed) {
+            pen.setDashPattern({ 3, 3 });
+        }
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(pen);
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), CardRadius, CardRadius);
+        const auto half = width / 2;
+        painter.drawRoundedRect(box.adjusted(half, half, -half, -half), CardRadius, CardRadius);
         painter.restore();
     }
 }
@@ -118,7 +122,8 @@ void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& styl
 void CardCache::DrawStripe(QPainter& painter, const QRectF& box, const CardStyle& style)
 {
     const auto& pictures = Of(style);
-    painter.fillRect(box, style.isHatched ? pictures.ground : pictures.mark);
+    painter.fillRect(
+        box.adjusted(0, 0, 0, style.isOutlined ? -1 : 0), style.isHatched ? pictures.ground : pictures.mark);
     if (style.isHatched) {
         painter.setPen(QPen(ToQt(style.colours.mark), 1));
         painter.setBrush(Qt::NoBrush);

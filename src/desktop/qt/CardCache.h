@@ -21,6 +21,8 @@ struct CardStyle
     Colour hatch;
     /// A dashed outline.
     bool isDashed = false;
+    /// An outline all the same, and stripes apart from one another, as where all colours are alike.
+    bool isOutlined = false;
     /// The mark is striped.
     bool isStriped = false;
 

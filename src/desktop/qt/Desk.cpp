@@ -102,6 +102,7 @@ CardStyle Desk::StyleOf(Coloured kind, const std::string& name)
         .isHatched = !use,
         .hatch = mAppearance.Colours().hatch,
         .isDashed = !use,
+        .isOutlined = mAppearance.IsHighContrast(),
         .isStriped = use && use->isStriped };
 }
 
