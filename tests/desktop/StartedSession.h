@@ -22,6 +22,7 @@ public:
     StartedSession& operator=(const StartedSession&) = delete;
 
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
+    TempodialMain& AddIn() { return mSession.AddIn(); }
     /// An activity of half an hour that the add-in has written.
     Activity Added(const std::string& description, Date start)
     {
