@@ -2,24 +2,13 @@
 
 #include "base/Failure.h"
 #include "base/Utf8.h"
+#include "portable/XmlText.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tempodial {
 
 namespace {
-
-/// True when XML can hold each character of a text.
-bool IsXmlText(std::string_view text)
-{
-    const auto isForbidden = [](char character) {
-        return static_cast<unsigned char>(character) < ' ' && character != '\t' && character != '\n'
-            && character != '\r';
-    };
-    return IsUtf8(text) && std::none_of(text.begin(), text.end(), isForbidden)
-        && text.find("\uFFFE") == std::string_view::npos && text.find("\uFFFF") == std::string_view::npos;
-}
 
 /// The XML declaration at the start of a document, with the blanks behind it.
 std::string_view DeclarationOf(std::string_view source)

@@ -1,6 +1,7 @@
 #include "portable/XmlParser.h"
 
 #include "base/Utf8.h"
+#include "portable/PlainXml.h"
 
 #include <cstddef>
 
@@ -30,6 +31,10 @@ bool XmlParser::Parse(std::string_view text, XmlTree& tree)
         return false;
     }
     try {
+        if (PlainXml(text, tree).Read(DeepestElement)) {
+            return true;
+        }
+        tree.Clear();
         const bool isRead = Read(text, tree);
         if (!isRead) {
             tree.Clear();

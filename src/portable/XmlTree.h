@@ -39,6 +39,8 @@ public:
     Index Next(Index element) const;
     /// What a place stands below.
     Index Parent(Index place) const { return mNodes[place].parent; }
+    /// The name of an element, until something is added.
+    std::string_view Name(Index element) const { return CharactersOf(mNodes[element].characters); }
     /// All text below a place.
     std::string Text(Index place) const;
     /// What stands below a place as XML.
