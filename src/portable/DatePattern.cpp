@@ -14,6 +14,13 @@ constexpr int YearsOfCentury = 100;
 
 void AppendNumber(std::string& text, int value, std::size_t digits)
 {
+    if (value < 100 && digits <= 2) {
+        if (value >= 10 || digits == 2) {
+            text += static_cast<char>('0' + value / 10);
+        }
+        text += static_cast<char>('0' + value % 10);
+        return;
+    }
     std::array<char, 12> buffer {};
     auto at = buffer.size();
     do {

@@ -1,5 +1,7 @@
 #include "portable/JoinedPath.h"
 
+#include "base/Concatenated.h"
+
 namespace tempodial {
 
 namespace {
@@ -22,7 +24,8 @@ std::string JoinedPath(const std::string& path, const std::string& name, char se
         return path + (pathEnds && nameBegins ? name.substr(1) : name);
     }
     const auto last = path.find_last_of("/\\");
-    return path + (last == std::string::npos ? separator : path[last]) + name;
+    const char between = last == std::string::npos ? separator : path[last];
+    return Concatenated({ path, { &between, 1 }, name });
 }
 
 }

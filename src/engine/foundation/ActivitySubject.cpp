@@ -1,5 +1,6 @@
 #include "engine/foundation/ActivitySubject.h"
 
+#include "base/Concatenated.h"
 #include "base/Text.h"
 
 #include <cstdint>
@@ -18,7 +19,7 @@ std::string ActivitySubject(const std::string& application, const std::string& d
     if (description.empty() || description == UnknownText) {
         return application;
     }
-    return application.empty() ? description : application + ", " + description;
+    return application.empty() ? description : Concatenated({ application, ", ", description });
 }
 
 std::string WithoutPeople(const std::string& description, const std::string& people)

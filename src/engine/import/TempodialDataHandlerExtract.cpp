@@ -1,3 +1,4 @@
+#include "base/Concatenated.h"
 #include "base/Number.h"
 #include "base/Text.h"
 #include "engine/core/TempodialMain.h"
@@ -96,8 +97,8 @@ void TempodialDataHandler::ExtractData(const Ref<XmlNode>& objXML, Date dayDate,
     takeTime(activity.endTime, "slot/EndTime");
     attempt.Say([&] {
         auto& formats = *mPlatform->formats;
-        return "start: " + formats.General(activity.startTime) + " End: " + formats.General(activity.endTime)
-            + " Override: " + activity.project;
+        return Concatenated({ "start: ", formats.General(activity.startTime),
+            " End: ", formats.General(activity.endTime), " Override: ", activity.project });
     });
     attempt([&] { activity.duration = MinutesBetween(activity.startTime, activity.endTime); });
 }
@@ -180,7 +181,7 @@ std::string TempodialDataHandler::wrapped(const std::string& towrap)
     auto result = towrap;
     Failing("", LineShape::Silent)([&] {
         if (!IsNothing(towrap)) {
-            result = "\"" + towrap + "\"";
+            result = Concatenated({ "\"", towrap, "\"" });
         }
     });
     return result;

@@ -1,5 +1,6 @@
 #include "engine/projects/TempodialProjectManager.h"
 
+#include "base/Concatenated.h"
 #include "base/Number.h"
 #include "base/Text.h"
 #include "engine/foundation/TempodialStrings.h"
@@ -15,6 +16,19 @@ constexpr std::string_view High = "1";
 constexpr std::string_view Medium = "2";
 constexpr std::string_view Low = "3";
 constexpr std::string_view RecordEnd = "|";
+
+/// The project of that name in a list, case ignored; nothing when there is none. Most projects aren't in the list that
+/// is asked first, so this doesn't fail.
+Ref<TempodialProject> ProjectIn(const OrderedCollection<Ref<TempodialProject>>& list, const std::string& name)
+{
+    for (std::int32_t index = 1; index <= list.Count(); ++index) {
+        const auto& project = list.Item(index);
+        if (EqualIgnoringCase(project->GetName(), name)) {
+            return project;
+        }
+    }
+    return nullptr;
+}
 
 }
 
@@ -141,16 +155,15 @@ TempodialProjectManager::ProjectList& TempodialProjectManager::GetList(const std
 
 Ref<TempodialProject> TempodialProjectManager::FindProject(const std::string& name)
 {
-    const auto attempt = Failing("PM FindProject error ", LineShape::Silent);
     mStage = "high";
-    auto project = attempt.Get([&] { return mHighProjects.ItemKeyed(name); });
+    auto project = ProjectIn(mHighProjects, name);
     if (!project) {
         mStage = "medium";
-        project = attempt.Get([&] { return mMediumProjects.ItemKeyed(name); });
+        project = ProjectIn(mMediumProjects, name);
     }
     if (!project) {
         mStage = "low";
-        project = attempt.Get([&] { return mLowProjects.ItemKeyed(name); });
+        project = ProjectIn(mLowProjects, name);
     }
     return project;
 }
@@ -349,7 +362,7 @@ std::string TempodialProjectManager::WhatProject(const std::string& subject, con
             attempt([&] { result = TestProjectList(*list, foldedSubject, foldedPeople); });
         }
     }
-    Trace("PM What Proj: " + subject + " " + people + " = " + result);
+    Trace(Concatenated({ "PM What Proj: ", subject, " ", people, " = ", result }));
     return result;
 }
 

@@ -1,3 +1,4 @@
+#include "base/Concatenated.h"
 #include "base/Text.h"
 #include "engine/foundation/ActivitySubject.h"
 #include "engine/foundation/TempodialCommonUtils.h"
@@ -310,7 +311,7 @@ bool TempodialWorkLog::IsOurItem(const Ref<OutlookItem>& itemToCheck)
     const auto attempt = Failing("Check Item 2 error ", LineShape::StepNumberText);
     return attempt.Get([&] {
         const auto messageClass = itemToCheck->MessageClass();
-        Trace("Check item 2: " + messageClass + ", " + itemToCheck->Subject());
+        Trace(Concatenated({ "Check item 2: ", messageClass, ", ", itemToCheck->Subject() }));
         return messageClass == mMain->mStrings->mFormClass;
     });
 }
@@ -334,11 +335,10 @@ std::string TempodialWorkLog::CreateSubject(
     const auto attempt = Failing("createsubject error ", LineShape::StepNumberText);
     return attempt.Get([&] {
         const auto& strings = *mMain->mStrings;
-        std::string subject;
+        auto subject = ActivitySubject(application, description);
         if (!project.empty() && project != strings.mNoProject) {
-            subject.append("[").append(project).append("] ");
+            subject = Concatenated({ "[", project, "] ", subject });
         }
-        subject += ActivitySubject(application, description);
         Trace("createsubject: " + subject);
         return subject;
     });
