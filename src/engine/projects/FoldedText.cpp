@@ -12,14 +12,4 @@ FoldedText::FoldedText(std::string_view text)
     }
 }
 
-bool FoldedText::Contains(std::string_view folded) const
-{
-    for (std::size_t index = 1; index < folded.size(); ++index) {
-        if (!mPairs.test(Pair(folded[index - 1], folded[index]))) {
-            return false;
-        }
-    }
-    return !mText.empty() && mText.find(folded) != std::string::npos;
-}
-
 }

@@ -16,7 +16,15 @@ public:
 
     bool IsEmpty() const { return mText.empty(); }
     /// True when a text whose case is folded occurs; the empty one occurs in every text but the empty one.
-    bool Contains(std::string_view folded) const;
+    bool Contains(std::string_view folded) const
+    {
+        for (std::size_t index = 1; index < folded.size(); ++index) {
+            if (!mPairs[Pair(folded[index - 1], folded[index])]) {
+                return false;
+            }
+        }
+        return !mText.empty() && mText.find(folded) != std::string::npos;
+    }
 
 private:
     /// A place for each pair of letters; other characters share them.

@@ -50,11 +50,6 @@ ProjectRule::Term Prepared(std::string_view trimmed)
 
 }
 
-bool ProjectRule::Term::IsIn(const FoldedText& searched) const
-{
-    return std::all_of(parts.begin(), parts.end(), [&searched](const auto& part) { return searched.Contains(part); });
-}
-
 ProjectRule::ProjectRule(std::string text, std::vector<std::string> terms)
     : mText(std::move(text))
     , mTerms(std::move(terms))

@@ -2,6 +2,7 @@
 
 #include "engine/projects/FoldedText.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,7 +25,11 @@ public:
         bool loneQuote = false;
 
         /// True when all that has to occur does so; a text that is empty holds nothing.
-        bool IsIn(const FoldedText& searched) const;
+        bool IsIn(const FoldedText& searched) const
+        {
+            return std::all_of(
+                parts.begin(), parts.end(), [&searched](const auto& part) { return searched.Contains(part); });
+        }
     };
 
     /// A rule without terms.

@@ -97,7 +97,8 @@ bool TempodialProject::isFoldedSubjectMatch(const FoldedText& subject)
 {
     const auto attempt = Failing("isSubjectMatch ", LineShape::TextColonStep);
     const bool match = attempt.Get([&] { return isMatch(subject, mSubjectRule); });
-    const bool excluded = attempt.Get([&] { return isMatch(subject, mNotSubjectRule); });
+    const bool excluded
+        = !mNotSubjectRule.MatchTerms().empty() && attempt.Get([&] { return isMatch(subject, mNotSubjectRule); });
     return match && !excluded;
 }
 
