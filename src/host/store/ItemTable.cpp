@@ -102,6 +102,7 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data, std::o
     static const std::string sql = "INSERT INTO item (id, folder, kind, message_class, starts, ends, span, recurring, "
                                    "subject, mileage, billing, properties, body, by_hand, saved) "
                                    "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+    const auto properties = PropertyCodec::Encode(data.properties);
     Query query(mDatabase, sql);
     query.Bind(row)
         .Bind(folder)
@@ -114,7 +115,7 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data, std::o
         .Bind(data.subject)
         .Bind(data.mileage)
         .Bind(data.billingInformation)
-        .Bind(PropertyCodec::Encode(data.properties))
+        .Bind(properties)
         .Bind(data.body)
         .Bind(std::int64_t { data.isProjectByHand });
     BindMoment(query, saved).Run();
@@ -125,13 +126,19 @@ std::int64_t ItemTable::Insert(std::int64_t folder, const ItemData& data, std::o
 void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData& data, std::optional<Date> saved)
 {
     // An index is written anew when one of its columns is named, so those that stay aren't.
-    static const std::string others = "recurring = ?, subject = ?, mileage = ?, billing = ?, properties = ?, body = ?, "
-                                      "by_hand = ?, saved = ?, revision = revision + 1 WHERE id = ?";
+    static const std::string others
+        = "recurring = ?, subject = ?, mileage = ?, billing = ?, "
+          "properties = ifnull(?, properties), body = ?, by_hand = ?, saved = ?, revision = revision + 1 WHERE id = ?";
     static const std::string sameTimes = "UPDATE item SET " + others;
     static const std::string otherEnd = "UPDATE item SET ends = ?, " + others;
     static const std::string otherTimes = "UPDATE item SET starts = ?, ends = ?, span = ?, " + others;
 
     BeginChange(row);
+    // Most items that are changed just get longer; the properties that stay needn't be put together then.
+    std::optional<std::string> properties;
+    if (data.properties != before.properties) {
+        properties = PropertyCodec::Encode(data.properties);
+    }
     const bool startStays = data.start == before.start && SpanOf(data) == SpanOf(before);
     const bool endStays = data.end == before.end;
     Query query(mDatabase, !startStays ? otherTimes : !endStays ? otherEnd : sameTimes);
@@ -148,7 +155,7 @@ void ItemTable::Update(std::int64_t row, const ItemData& before, const ItemData&
         .Bind(data.subject)
         .Bind(data.mileage)
         .Bind(data.billingInformation)
-        .Bind(PropertyCodec::Encode(data.properties))
+        .BindOptional(properties)
         .Bind(data.body)
         .Bind(std::int64_t { data.isProjectByHand });
     BindMoment(query, saved).Bind(row).Run();

@@ -1,5 +1,6 @@
 #include "host/store/PropertyCodec.h"
 
+#include "base/Ascii.h"
 #include "base/Failure.h"
 #include "base/Text.h"
 
@@ -33,6 +34,29 @@ constexpr auto NeedsEscape = [](char character) {
     return character == '"' || character == '\\' || static_cast<unsigned char>(character) < 0x20;
 };
 
+/// The same for any of eight characters: the high bit of a byte tells that it is less than another one.
+constexpr bool NeedsEscapeIn(AsciiWord word)
+{
+    constexpr auto Limits = EachByte(0x20);
+    constexpr auto Ones = EachByte(1);
+    const auto quote = word ^ EachByte('"');
+    const auto backslash = word ^ EachByte('\\');
+    return ((((word - Limits) & ~word) | ((quote - Ones) & ~quote) | ((backslash - Ones) & ~backslash))
+               & EachByte(0x80))
+        != 0;
+}
+
+/// Length of what stands for itself at the beginning of a text.
+std::size_t PlainLength(std::string_view text)
+{
+    std::size_t length = 0;
+    while (length + sizeof(AsciiWord) <= text.size() && !NeedsEscapeIn(WordAt(text.data() + length))) {
+        length += sizeof(AsciiWord);
+    }
+    const auto rest = text.substr(length);
+    return length + static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), NeedsEscape) - rest.begin());
+}
+
 constexpr auto IsBlank
     = [](char character) { return character == ' ' || character == '\t' || character == '\r' || character == '\n'; };
 
@@ -41,8 +65,7 @@ void AppendText(std::string& json, std::string_view text)
     static constexpr std::string_view digits = "0123456789abcdef";
     json += '"';
     while (!text.empty()) {
-        const auto* const special = std::find_if(text.begin(), text.end(), NeedsEscape);
-        const auto plain = static_cast<std::size_t>(special - text.begin());
+        const auto plain = PlainLength(text);
         json.append(text, 0, plain);
         text.remove_prefix(plain);
         if (text.empty()) {

@@ -52,8 +52,9 @@ Variant StoreUserProperty::Value() const
 
 void StoreUserProperty::SetValue(const Variant& value)
 {
-    auto converted = Converted(value, Get(*mItem, mName).type, mItem->Formats());
-    mItem->Change([&](const ItemData&) { const_cast<ItemProperty&>(Get(*mItem, mName)).value = std::move(converted); });
+    const auto& property = Get(*mItem, mName);
+    auto converted = Converted(value, property.type, mItem->Formats());
+    mItem->Change([&](const ItemData&) { const_cast<ItemProperty&>(property).value = std::move(converted); });
 }
 
 }

@@ -334,6 +334,26 @@ TEST_F(MailboxTest, Own_FolderOfAnotherMailbox_Fails)
     EXPECT_EQ(FailureNumber([&] { mMailbox->Own(OpenTestMailbox()->FolderByPath("Inbox")); }), NotFound);
 }
 
+TEST_F(MailboxTest, Save_OtherFieldsAreChanged_KeepsThePropertiesInTheFile)
+{
+    auto item = NewTestItem(mMailbox, "a");
+    item->UserProperties()->Add("Note", PropertyType::Text, false)->SetValue("kept");
+    item->Save();
+    const auto inFile = [&](const std::string& condition) {
+        return TestDatabase(mMailbox).Number("SELECT count(*) FROM item WHERE " + condition);
+    };
+    item->SetSubject("b");
+    item->Save();
+    EXPECT_EQ(inFile("subject = 'b' AND properties LIKE '%\"kept\"%'"), 1);
+    item->SetDuration(item->Duration() + 5);
+    item->Save();
+    EXPECT_EQ(
+        inFile("ends - starts = " + std::to_string(item->Duration() * 60) + " AND properties LIKE '%\"kept\"%'"), 1);
+    item->UserProperties()->Item("Note")->SetValue("changed");
+    item->Save();
+    EXPECT_EQ(inFile("properties LIKE '%\"changed\"%'"), 1);
+}
+
 TEST_F(MailboxTest, Item_PropertiesThatCanNotBeRead_Fails)
 {
     NewTestItem(mMailbox, "a")->Save();

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
 
 namespace tempodial {
 
@@ -39,6 +40,24 @@ TEST(PropertyCodecTest, Decode_GivesBackWhatWasEncoded)
         { "", PropertyType::Text, Variant("") }, { "Unset", PropertyType::Text, {} } };
     EXPECT_EQ(PropertyCodec::Decode(PropertyCodec::Encode(properties)), properties);
     EXPECT_TRUE(PropertyCodec::Decode(" { } ").empty());
+}
+
+TEST(PropertyCodecTest, Encode_AnyCharacterAtAnyPlace_IsEscapedWhenItMust)
+{
+    using Row = std::pair<std::string, std::string>;
+    for (const auto& [character, written] :
+        { Row("\"", "\\\""), Row("\\", "\\\\"), Row("\x1f", "\\u001f"), Row(std::string(1, '\0'), "\\u0000"),
+            Row("\n", "\\u000a"), Row(" ", " "), Row("!", "!"), Row("#", "#"), Row("[", "["), Row("]", "]"),
+            Row("\x7f", "\x7f"), Row("\xa2", "\xa2"), Row("\xdc", "\xdc"), Row("\x9f", "\x9f") }) {
+        for (std::size_t before = 0; before < 20; ++before) {
+            for (std::size_t behind = 0; behind < 20; ++behind) {
+                const std::string first(before, 'a');
+                const std::string last(behind, 'b');
+                EXPECT_EQ(Encoded({ { "x", PropertyType::Text, Variant(first + character + last) } }),
+                    "{\"x\":[1,\"" + first + written + last + "\"]}");
+            }
+        }
+    }
 }
 
 TEST(PropertyCodecTest, Read_TakesTheWantedTexts)
