@@ -4,9 +4,21 @@
 
 namespace tempodial {
 
+namespace {
+
+/// How long the system runs, as of its last tick: the trace asks for each of its lines, and wants whole seconds.
+std::chrono::nanoseconds SystemAge()
+{
+    std::timespec age {};
+    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &age);
+    return std::chrono::seconds(age.tv_sec) + std::chrono::nanoseconds(age.tv_nsec);
+}
+
+}
+
 HostClock::HostClock(std::optional<Date> start)
     : mStart(start)
-    , mStartedAt(std::chrono::steady_clock::now())
+    , mStartedAt(SystemAge())
 {
 }
 
@@ -29,15 +41,14 @@ Date HostClock::UniversalNow()
 
 std::int64_t HostClock::SecondsGone() const
 {
-    const auto gone = std::chrono::steady_clock::now() - mStartedAt;
-    return std::chrono::duration_cast<std::chrono::seconds>(gone).count();
+    return std::chrono::duration_cast<std::chrono::seconds>(SystemAge() - mStartedAt).count();
 }
 
 void HostClock::Set(Date now)
 {
     mStart = now;
     mUniversalStart.reset();
-    mStartedAt = std::chrono::steady_clock::now();
+    mStartedAt = SystemAge();
 }
 
 }

@@ -28,7 +28,8 @@ private:
     std::optional<Date> mStart;
     /// The same moment in UTC, once it was asked for.
     std::optional<Date> mUniversalStart;
-    std::chrono::steady_clock::time_point mStartedAt;
+    /// How long the system ran then.
+    std::chrono::nanoseconds mStartedAt;
     LocalTime mLocalTime;
 };
 

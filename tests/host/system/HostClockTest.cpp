@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <string>
+#include <thread>
 
 namespace tempodial {
 namespace {
@@ -51,6 +53,14 @@ TEST_F(HostClockTest, Now_WithStart_GoesOnFromThere)
     EXPECT_GE(first, start);
     EXPECT_LT(first, start.AddMinutes(10));
     EXPECT_GE(clock.Now(), first);
+}
+
+TEST_F(HostClockTest, Now_ASecondLater_IsASecondLater)
+{
+    const auto start = Date::FromParts({ 2006, 10, 10, 23, 59, 59 });
+    HostClock clock(start);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1020));
+    EXPECT_GE(clock.Now(), start.AddSeconds(1));
 }
 
 TEST_F(HostClockTest, Set_GoesOnFromThere)
