@@ -4,9 +4,11 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <system_error>
 
 namespace tempodial {
 
@@ -57,6 +59,11 @@ bool IsRoundedUp(std::int64_t number, std::string_view fraction)
 std::int64_t ToWhole(std::string_view text)
 {
     constexpr std::size_t GroupSize = 3;
+    std::int64_t plain = 0;
+    const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), plain);
+    if (problem == std::errc() && end == text.data() + text.size()) {
+        return plain;
+    }
     const auto trimmed = Trim(text);
     std::string_view rest = trimmed;
     const bool isNegative = rest.starts_with('-');
