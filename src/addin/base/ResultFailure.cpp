@@ -81,7 +81,9 @@ Failure FailureOf(HRESULT result, EXCEPINFO& told)
     if (told.pfnDeferredFillIn != nullptr) {
         told.pfnDeferredFillIn(&told);
     }
-    const auto number = told.wCode != 0 ? std::int32_t { told.wCode } : NumberOf(told.scode);
+    // Some hosts tell that there was one and nothing else.
+    const auto code = FAILED(told.scode) ? told.scode : result;
+    const auto number = told.wCode != 0 ? std::int32_t { told.wCode } : NumberOf(code);
     auto text = FromBstr(told.bstrDescription);
     SysFreeString(std::exchange(told.bstrSource, nullptr));
     SysFreeString(std::exchange(told.bstrDescription, nullptr));

@@ -76,6 +76,14 @@ TEST(ResultFailureTest, FailureOf_ExceptionTold_TakesNumberAndTextAndFreesThem)
     EXPECT_EQ(told.bstrHelpFile, nullptr);
 }
 
+TEST(ResultFailureTest, FailureOf_ExceptionThatTellsNothing_IsTheResult)
+{
+    EXCEPINFO told {};
+    const auto failure = FailureOf(DISP_E_EXCEPTION, told);
+    EXPECT_EQ(failure.Number(), static_cast<std::int32_t>(DISP_E_EXCEPTION));
+    EXPECT_FALSE(failure.Description().empty());
+}
+
 TEST(ResultFailureTest, FailureOf_ExceptionWithCode_TakesTheCode)
 {
     EXCEPINFO told {};
