@@ -52,8 +52,8 @@ public:
     tempodial::Hand& Hand() { return *mHand; }
     /// What can be seen otherwise than the models have it.
     std::vector<std::string> Differences() const;
-    /// A person at the models of the add-in's forms.
-    FormHands& Forms() { return mRemote ? static_cast<FormHands&>(*mRemote) : mHands; }
+    /// A person at the add-in's forms, wherever it runs.
+    FormHands& Forms() { return mRemote ? mRemote->Forms() : mHands; }
     /// The calls that are made in this program, and which of them are to fail.
     FaultPlan& Faults() { return *mFaults; }
     /// Lets calls of the add-in fail, wherever it runs; fails with `RequestError` when it runs where they can't.

@@ -2,6 +2,9 @@
 
 #include "driver/Command.h"
 #include "driver/DriverHost.h"
+#include "forms/FormHands.h"
+
+#include <string>
 
 namespace tempodial {
 
@@ -17,6 +20,8 @@ public:
     void AddTo(CommandTable& table);
 
 private:
+    /// Clicks a button, as a step where that is one.
+    void Click(const FormKey& form, const std::string& control);
     Json Forms();
 
     DriverHost& mHost;

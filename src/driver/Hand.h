@@ -4,7 +4,6 @@
 #include "base/Ref.h"
 #include "base/Variant.h"
 #include "driver/CommandPath.h"
-#include "forms/FormHands.h"
 #include "host/store/StoreItem.h"
 #include "host/windows/HostExplorer.h"
 #include "host/windows/HostInspector.h"
@@ -16,11 +15,13 @@
 
 namespace tempodial {
 
-/// What a person does at the host's windows and forms and to its items, by whatever they are shown with. Everything
+/// What a person does at the host's windows and to its items, by whatever they are shown with. Everything
 /// fails as what it works on does, and with `RequestError` where a person can't do it.
-class Hand : public FormHands
+class Hand
 {
 public:
+    virtual ~Hand() = default;
+
     /// Opens a window on a folder, with or without its command bars.
     virtual Ref<HostExplorer> OpenExplorer(const Ref<MAPIFolder>& folder, bool barsReady) = 0;
     virtual void Activate(const Ref<HostExplorer>& window) = 0;
@@ -43,8 +44,6 @@ public:
     /// Drags an item to other times; false when a handler refused it.
     virtual bool Reschedule(const Ref<StoreItem>& item, Date start, Date end) = 0;
     virtual void Delete(const Ref<StoreItem>& item) = 0;
-
-    using FormHands::Close;
 };
 
 }

@@ -3,12 +3,6 @@
 #include "driver/CommandBarsJson.h"
 #include "driver/DriverHost.h"
 #include "session/ActivityGesture.h"
-#include "session/FormClick.h"
-
-#include <algorithm>
-#include <cstdint>
-#include <utility>
-#include <variant>
 
 namespace tempodial {
 
@@ -98,48 +92,6 @@ bool ModelHand::Reschedule(const Ref<StoreItem>& item, Date start, Date end)
 void ModelHand::Delete(const Ref<StoreItem>& item)
 {
     GestureAsStep(mHost.Profile(), { item }, "Delete", [&] { Person(mHost.Mailbox()).Delete(item); });
-}
-
-std::vector<FormSnapshot> ModelHand::Forms()
-{
-    return mHost.Forms().Forms();
-}
-
-void ModelHand::Type(const FormKey& form, const std::string& control, const std::string& text)
-{
-    mHost.Forms().Type(form, control, text);
-}
-
-void ModelHand::Choose(const FormKey& form, const std::string& control, const EntryKey& entry)
-{
-    mHost.Forms().Choose(form, control, entry);
-}
-
-void ModelHand::Check(const FormKey& form, const std::string& control, bool checked)
-{
-    mHost.Forms().Check(form, control, checked);
-}
-
-void ModelHand::Click(const FormKey& form, const std::string& control)
-{
-    const auto click = [&] { mHost.Forms().Click(form, control); };
-    const auto forms = Forms();
-    // The newest of a class comes last.
-    const auto found = std::find_if(forms.rbegin(), forms.rend(), [&](const FormSnapshot& known) {
-        const auto* name = std::get_if<std::string>(&form);
-        return name == nullptr ? known.number == std::get<std::int32_t>(form)
-                               : known.visible && known.className == *name;
-    });
-    if (found == forms.rend()) {
-        click();
-    } else {
-        ClickAsStep(mHost.Profile(), found->className, found->title, click);
-    }
-}
-
-bool ModelHand::Close(const FormKey& form)
-{
-    return mHost.Forms().Close(form);
 }
 
 }

@@ -35,13 +35,6 @@ public:
     bool Reschedule(const Ref<StoreItem>& item, Date start, Date end) override;
     void Delete(const Ref<StoreItem>& item) override;
 
-    std::vector<FormSnapshot> Forms() override;
-    void Type(const FormKey& form, const std::string& control, const std::string& text) override;
-    void Choose(const FormKey& form, const std::string& control, const EntryKey& entry) override;
-    void Check(const FormKey& form, const std::string& control, bool checked) override;
-    void Click(const FormKey& form, const std::string& control) override;
-    bool Close(const FormKey& form) override;
-
 private:
     DriverHost& mHost;
 };

@@ -2,6 +2,7 @@
 
 #include "addin/base/SystemText.h"
 #include "standin/ImportHooks.h"
+#include "wire/Answer.h"
 #include "wire/WireFailure.h"
 
 #include <bit>
@@ -15,8 +16,6 @@ using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
 using CanUnloadNow = HRESULT(STDAPICALLTYPE*)();
 using RigAttach = void (*)(const RigLink*);
 
-constexpr std::size_t LengthSize = 4;
-
 void RequireDone(HRESULT result, const char* what)
 {
     if (FAILED(result)) {
@@ -25,20 +24,14 @@ void RequireDone(HRESULT result, const char* what)
     }
 }
 
-/// An answer in the frame that it goes in, without the length.
+/// An answer without the length in front.
 std::string AnswerTo(Conversation& host, std::string bytes)
 {
     FrameReader request(std::move(bytes));
     FrameWriter asked(static_cast<FrameType>(request.Byte()));
     const auto word = request.Text();
     asked.Text(word).Values(request.Values());
-    try {
-        FrameWriter answer(FrameType::Result);
-        return answer.Value(host.Ask(asked)).Frame().substr(LengthSize);
-    } catch (const WireFailure& failure) {
-        FrameWriter answer(FrameType::Failed);
-        return answer.Number(failure.Number()).Text(failure.what()).Frame().substr(LengthSize);
-    }
+    return AnswerOf([&] { return host.Ask(asked); }).WithoutLength();
 }
 
 }
@@ -100,7 +93,7 @@ bool AddInModule::Disconnect()
 WireValue AddInModule::Do(const std::string& word, const std::vector<WireValue>& arguments)
 {
     FrameWriter request(FrameType::Do);
-    const auto bytes = request.Text(word).Values(arguments).Frame().substr(LengthSize);
+    const auto bytes = request.Text(word).Values(arguments).WithoutLength();
     std::string reply;
     Find<RigRequest>(RigDoName)(
         nullptr, bytes.data(), bytes.size(),
@@ -109,11 +102,8 @@ WireValue AddInModule::Do(const std::string& word, const std::vector<WireValue>&
         },
         &reply);
     FrameReader answer(std::move(reply));
-    if (static_cast<FrameType>(answer.Byte()) == FrameType::Failed) {
-        const auto number = answer.Number();
-        throw WireFailure(number, answer.Text());
-    }
-    return answer.Value();
+    const auto type = static_cast<FrameType>(answer.Byte());
+    return ValueOfAnswer(type, answer);
 }
 
 void AddInModule::AskHost(void* end, const char* bytes, std::size_t size, RigReply reply, void* context)

@@ -1,5 +1,6 @@
 #include "wire/Conversation.h"
 
+#include "wire/Answer.h"
 #include "wire/WireFailure.h"
 
 #include <algorithm>
@@ -34,12 +35,8 @@ WireValue Conversation::Ask(FrameWriter& request)
         }
         FrameReader body(std::move(frame));
         const auto type = static_cast<FrameType>(body.Byte());
-        if (type == FrameType::Result) {
-            return body.Value();
-        }
-        if (type == FrameType::Failed) {
-            const auto number = body.Number();
-            throw WireFailure(number, body.Text());
+        if (IsAnswer(type)) {
+            return ValueOfAnswer(type, body);
         }
         Serve(type, body);
     }
@@ -63,14 +60,8 @@ void Conversation::Serve(FrameType type, FrameReader& body)
         mServer(type, body);
         return;
     }
-    try {
-        const auto value = mServer(type, body);
-        FrameWriter answer(FrameType::Result);
-        Send(answer.Value(value));
-    } catch (const WireFailure& failure) {
-        FrameWriter answer(FrameType::Failed);
-        Send(answer.Number(failure.Number()).Text(failure.what()));
-    }
+    auto answer = AnswerOf([&] { return mServer(type, body); });
+    Send(answer);
 }
 
 void Conversation::Send(FrameWriter& frame)

@@ -77,6 +77,11 @@ FrameWriter& FrameWriter::Values(const std::vector<WireValue>& values)
     return *this;
 }
 
+std::string FrameWriter::WithoutLength() const
+{
+    return mBytes.substr(LengthSize);
+}
+
 const std::string& FrameWriter::Frame()
 {
     std::string length;

@@ -24,6 +24,8 @@ public:
 
     /// The whole frame.
     const std::string& Frame();
+    /// The frame without the length in front.
+    std::string WithoutLength() const;
 
 private:
     std::string mBytes;

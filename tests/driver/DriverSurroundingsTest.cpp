@@ -34,12 +34,6 @@ public:
     MOCK_METHOD(void, ClickCommand, (Inspector, const CommandPath&), (override));
     MOCK_METHOD(bool, Reschedule, (const Ref<StoreItem>&, Date, Date), (override));
     MOCK_METHOD(void, Delete, (const Ref<StoreItem>&), (override));
-    MOCK_METHOD(std::vector<FormSnapshot>, Forms, (), (override));
-    MOCK_METHOD(void, Type, (const FormKey&, const std::string&, const std::string&), (override));
-    MOCK_METHOD(void, Choose, (const FormKey&, const std::string&, const EntryKey&), (override));
-    MOCK_METHOD(void, Check, (const FormKey&, const std::string&, bool), (override));
-    MOCK_METHOD(void, Click, (const FormKey&, const std::string&), (override));
-    MOCK_METHOD(bool, Close, (const FormKey&), (override));
 };
 
 class NotedPump : public EventPump
@@ -134,23 +128,6 @@ TEST_F(DriverSurroundingsTest, Hand_DoesWhatIsDoneToItemsAndTheirWindows)
     EXPECT_CALL(*mHand, Delete(item));
     Do({ { "do", "item.delete" }, { "entryId", id } });
     EXPECT_FALSE(item->IsDeleted());
-}
-
-TEST_F(DriverSurroundingsTest, Hand_WorksTheForms)
-{
-    const FormKey form(3);
-    EXPECT_CALL(*mHand, Type(form, "Text1", "plan"));
-    Do({ { "do", "form.type" }, { "form", 3 }, { "control", "Text1" }, { "text", "plan" } });
-    EXPECT_CALL(*mHand, Choose(form, "Combo1", EntryKey(2)));
-    Do({ { "do", "form.choose" }, { "form", 3 }, { "control", "Combo1" }, { "index", 2 } });
-    EXPECT_CALL(*mHand, Check(form, "Check1", true));
-    Do({ { "do", "form.check" }, { "form", 3 }, { "control", "Check1" }, { "checked", true } });
-    EXPECT_CALL(*mHand, Click(FormKey("SetProjectForm"), "Command1"));
-    Do({ { "do", "form.click" }, { "form", "SetProjectForm" }, { "control", "Command1" } });
-    EXPECT_CALL(*mHand, Close(form)).WillOnce(Return(false));
-    EXPECT_EQ(Do({ { "do", "form.close" }, { "form", 3 } }).at("cancelled"), true);
-    EXPECT_CALL(*mHand, Forms()).WillOnce(Return(std::vector { FormSnapshot { .number = 3, .className = "A" } }));
-    EXPECT_EQ(Do({ { "do", "forms" } }).at("forms").size(), 1);
 }
 
 TEST_F(DriverSurroundingsTest, Differences_AreToldAndRefuseTheCommand)

@@ -12,12 +12,10 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t LengthAndType = 5;
-
 /// What is behind the type of a frame.
 FrameReader BodyOf(FrameWriter& writer)
 {
-    return FrameReader(writer.Frame().substr(LengthAndType));
+    return FrameReader(writer.WithoutLength().substr(1));
 }
 
 }
@@ -50,7 +48,7 @@ TEST(FrameTest, Body_CutAnywhere_IsBroken)
 {
     FrameWriter writer(FrameType::Result);
     writer.Value(WireValue::List({ WireValue::Text("abc"), WireValue::Object(1, "View"), WireValue::Number(5) }));
-    const auto whole = writer.Frame().substr(LengthAndType);
+    const auto whole = writer.WithoutLength().substr(1);
     for (std::size_t size = 0; size < whole.size(); ++size) {
         EXPECT_THROW(FrameReader(whole.substr(0, size)).Value(), WireBroken) << size;
     }

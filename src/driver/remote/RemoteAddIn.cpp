@@ -5,7 +5,6 @@
 #include "platform/controls/EventPump.h"
 #include "platform/controls/MessageBox.h"
 #include "wire/WireFailure.h"
-#include "wire/forms/FormWire.h"
 
 #include <algorithm>
 #include <chrono>
@@ -103,36 +102,6 @@ void RemoteAddIn::Disconnect()
 TempodialMain& RemoteAddIn::Members() const
 {
     throw Failure(Error::NotSupported);
-}
-
-std::vector<FormSnapshot> RemoteAddIn::Forms()
-{
-    return FormsFromWire(Do("forms"));
-}
-
-void RemoteAddIn::Type(const FormKey& form, const std::string& control, const std::string& text)
-{
-    Do("form.type", { ToWire(form), WireValue::Text(control), WireValue::Text(text) });
-}
-
-void RemoteAddIn::Choose(const FormKey& form, const std::string& control, const EntryKey& entry)
-{
-    Do("form.choose", { ToWire(form), WireValue::Text(control), ToWire(entry) });
-}
-
-void RemoteAddIn::Check(const FormKey& form, const std::string& control, bool checked)
-{
-    Do("form.check", { ToWire(form), WireValue::Text(control), WireValue::Flag(checked) });
-}
-
-void RemoteAddIn::Click(const FormKey& form, const std::string& control)
-{
-    Do("form.click", { ToWire(form), WireValue::Text(control) });
-}
-
-bool RemoteAddIn::Close(const FormKey& form)
-{
-    return Do("form.close", { ToWire(form) }).number != 0;
 }
 
 void RemoteAddIn::Add(const FaultPlan::Fault& fault)

@@ -5,11 +5,11 @@
 #include "driver/remote/FaceObjects.h"
 #include "driver/remote/RemotePrograms.h"
 #include "faults/FaultPlan.h"
-#include "forms/FormHands.h"
 #include "host/system/TomlRegistry.h"
 #include "platform/Platform.h"
 #include "session/LoadedAddIn.h"
 #include "wire/Conversation.h"
+#include "wire/forms/AskedForms.h"
 
 #include <string>
 #include <utility>
@@ -32,7 +32,7 @@ struct RemoteSettings
 /// The add-in for Windows in a program of its own, with real automation between it and the host. What it asks of the
 /// host's clock, boxes, messages and desktop, the host's own surroundings answer; its registry is filled with the
 /// host's at the start, and what it leaves in the product's key is brought back at the end.
-class RemoteAddIn final : public LoadedAddIn, public FormHands
+class RemoteAddIn final : public LoadedAddIn
 {
 public:
     /// Starts the program and loads the add-in; fails with `Failure` (429).
@@ -44,13 +44,8 @@ public:
     /// Fails (438), since they are in another program.
     TempodialMain& Members() const override;
 
-    std::vector<FormSnapshot> Forms() override;
-    void Type(const FormKey& form, const std::string& control, const std::string& text) override;
-    void Choose(const FormKey& form, const std::string& control, const EntryKey& entry) override;
-    void Check(const FormKey& form, const std::string& control, bool checked) override;
-    void Click(const FormKey& form, const std::string& control) override;
-    bool Close(const FormKey& form) override;
-
+    /// A person at its forms.
+    FormHands& Forms() { return mForms; }
     /// Lets calls of the add-in to its surroundings there fail.
     void Add(const FaultPlan::Fault& fault);
     /// A value of its registry, nothing when there is none.
@@ -72,6 +67,9 @@ private:
     ChildProcess mProcess;
     Conversation mConversation;
     FaceObjects mObjects;
+    AskedForms mForms { [this](const std::string& word, const std::vector<WireValue>& arguments) {
+        return Do(word, arguments);
+    } };
 };
 
 }

@@ -1,10 +1,7 @@
 #include "addin/com/KeptProperties.h"
 #include "base/Failure.h"
 #include "standin/rig/Rig.h"
-#include "wire/FrameReader.h"
-#include "wire/FrameType.h"
-#include "wire/FrameWriter.h"
-#include "wire/WireFailure.h"
+#include "wire/Answer.h"
 
 #include <cstddef>
 #include <exception>
@@ -13,23 +10,20 @@ namespace tempodial {
 
 namespace {
 
-constexpr std::size_t AnswerLengthSize = 4;
-
-/// Does a request and makes its answer.
-std::string Answered(std::string bytes)
+/// Does a request; everything that it fails with is a `WireFailure`.
+WireValue Done(std::string bytes)
 {
     try {
         FrameReader request(std::move(bytes));
         request.Byte();
         const auto word = request.Text();
-        FrameWriter answer(FrameType::Result);
-        return answer.Value(Rig::Only().Do(word, request.Values())).Frame();
+        return Rig::Only().Do(word, request.Values());
+    } catch (const WireFailure&) {
+        throw;
     } catch (const Failure& failure) {
-        FrameWriter answer(FrameType::Failed);
-        return answer.Number(failure.Number()).Text(failure.Description()).Frame();
+        throw WireFailure(failure.Number(), failure.Description());
     } catch (const std::exception& error) {
-        FrameWriter answer(FrameType::Failed);
-        return answer.Number(WireFailure::Refused).Text(error.what()).Frame();
+        throw WireFailure(WireFailure::Refused, error.what());
     }
 }
 
@@ -46,7 +40,7 @@ extern "C" void TempodialRigAttach(const RigLink* link)
 /// Does a request of the host.
 extern "C" void TempodialRigDo(void* /*end*/, const char* bytes, std::size_t size, RigReply reply, void* context)
 {
-    const auto answer = Answered(std::string(bytes, size)).substr(AnswerLengthSize);
+    const auto answer = AnswerOf([&] { return Done(std::string(bytes, size)); }).WithoutLength();
     reply(context, answer.data(), answer.size());
 }
 

@@ -1,5 +1,6 @@
 #include "wire/forms/FormRequest.h"
 
+#include "wire/forms/AskedForms.h"
 #include "wire/forms/FormWire.h"
 
 #include <gtest/gtest.h>
@@ -41,10 +42,11 @@ public:
     bool Close(const FormKey& form) override
     {
         done = "close " + KeyWords(form);
-        return true;
+        return closes;
     }
 
     std::vector<FormSnapshot> forms;
+    bool closes = true;
     std::string done;
 };
 
@@ -101,6 +103,33 @@ TEST(FormRequestTest, DoFormRequest_EachWord_IsDoneByTheHands)
     EXPECT_EQ(hands.done, "close 7");
     hands.forms = { { .number = 1, .className = "SampleForm" } };
     EXPECT_EQ(FormsFromWire(DoFormRequest(hands, "forms", {})), hands.forms);
+}
+
+TEST(FormRequestTest, AskedForms_AreWorkedByTheHandsOfTheOtherEnd)
+{
+    NotingHands hands;
+    AskedForms asked([&hands](const std::string& word, const std::vector<WireValue>& arguments) {
+        EXPECT_TRUE(IsFormRequest(word));
+        return DoFormRequest(hands, word, arguments);
+    });
+    asked.Type(7, "Box", "plan");
+    EXPECT_EQ(hands.done, "type 7 Box plan");
+    asked.Choose("SampleForm", "Box", 2);
+    EXPECT_EQ(hands.done, "choose \"SampleForm\" Box 2");
+    asked.Choose(7, "Box", "Oct");
+    EXPECT_EQ(hands.done, "choose 7 Box \"Oct\"");
+    asked.Check(7, "Box", true);
+    EXPECT_EQ(hands.done, "check 7 Box on");
+    asked.Check(7, "Box", false);
+    EXPECT_EQ(hands.done, "check 7 Box off");
+    asked.Click(7, "Box");
+    EXPECT_EQ(hands.done, "click 7 Box");
+    EXPECT_TRUE(asked.Close(7));
+    EXPECT_EQ(hands.done, "close 7");
+    hands.closes = false;
+    EXPECT_FALSE(asked.Close("SampleForm"));
+    hands.forms = { { .number = 1, .className = "SampleForm" } };
+    EXPECT_EQ(asked.Forms(), hands.forms);
 }
 
 }
