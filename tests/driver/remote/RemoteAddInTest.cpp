@@ -54,7 +54,8 @@ TEST_F(RemoteAddInTest, Start_ProgramEndsAtOnce_IsRefusedWithItsStatus)
 
 TEST_F(RemoteAddInTest, Start_ProgramTalksNonsense_IsRefused)
 {
-    const auto answer = StartWith("echo nonsense");
+    // It must not be gone before it has been asked.
+    const auto answer = StartWith("echo nonsense; exec cat >/dev/null");
     EXPECT_EQ(answer.at("ok"), false);
     EXPECT_THAT(answer.at("error").get<std::string>(), HasSubstr("no frame"));
 }
