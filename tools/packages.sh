@@ -16,6 +16,10 @@ setup_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix nsis)
 # What ./check --browser needs besides.
 browser_packages=(chromium)
 
+# What ./check --desktop needs besides.
+real_desktop_packages=(xvfb openbox xdotool x11-utils xterm at-spi2-core python3-pyatspi weston qt6-wayland dbus python3-dbus
+    python3-gi)
+
 # What ./check --desktops needs besides.
 desktop_packages=(sway foot fonts-dejavu-core wtype weston kwin-wayland gnome-shell dbus python3-dbusmock)
 
