@@ -6,10 +6,11 @@
 
 namespace tempodial {
 
-/// The application that all widgets need, made once, on a screen in memory.
+/// The application that all widgets need, made once, on a screen in memory, with the same fonts on every machine.
 inline QApplication& OffscreenApplication()
 {
-    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen")
+        && qputenv("FONTCONFIG_FILE", TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/fonts.conf");
     static int count = 1;
     static std::string name = "tests";
     static std::array<char*, 2> values { name.data(), nullptr };
