@@ -2,6 +2,8 @@
 
 #include "base/Concatenated.h"
 
+#include <algorithm>
+
 namespace tempodial {
 
 namespace {
@@ -23,8 +25,8 @@ std::string JoinedPath(const std::string& path, const std::string& name, char se
     if (pathEnds || nameBegins) {
         return path + (pathEnds && nameBegins ? name.substr(1) : name);
     }
-    const auto last = path.find_last_of("/\\");
-    const char between = last == std::string::npos ? separator : path[last];
+    const auto last = std::find_if(path.rbegin(), path.rend(), IsSeparator);
+    const char between = last == path.rend() ? separator : *last;
     return Concatenated({ path, { &between, 1 }, name });
 }
 
