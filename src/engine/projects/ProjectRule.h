@@ -2,7 +2,6 @@
 
 #include "engine/projects/FoldedText.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,8 +26,12 @@ public:
         /// True when all that has to occur does so; a text that is empty holds nothing.
         bool IsIn(const FoldedText& searched) const
         {
-            return std::all_of(
-                parts.begin(), parts.end(), [&searched](const auto& part) { return searched.Contains(part); });
+            for (const auto& part : parts) {
+                if (!searched.Contains(part)) {
+                    return false;
+                }
+            }
+            return true;
         }
     };
 
