@@ -2,12 +2,15 @@
 
 #include "base/Failure.h"
 #include "desktop/DesktopStrings.h"
+#include "desktop/RuleForm.h"
+#include "forms/ModelHands.h"
 #include "host/store/StoreItem.h"
 #include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
 #include "session/Steps.h"
 #include "session/WorkLogFolder.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace tempodial {
@@ -61,6 +64,25 @@ void LogDoings::SetProject(HostExplorer& window, const std::string& project) con
         mSession.Mailbox()->ChoosingProjects(
             ProjectChoice::Person, [&] { mSession.AddIn().SetProjectForItems(project, true, false, {}, {}, true); });
     });
+}
+
+void LogDoings::AddProject(const std::string& project) const
+{
+    constexpr auto Medium = "2";
+    const auto refusal = mSession.AddIn().UpdateorAddProject(project, "", "", "", Medium, true);
+    if (!refusal.empty()) {
+        throw Failure(Error::InvalidCall, refusal);
+    }
+}
+
+void LogDoings::ShowRules(const std::string& project) const
+{
+    mSession.AddIn().ShowSettingsForm(project, nullptr);
+    const auto projects = Projects();
+    if (std::find(projects.begin(), projects.end(), project) != projects.end()) {
+        // Nobody's activity asked for it, and then the product shows the first of the list.
+        ModelHands(*mSession.Forms()).Choose(RuleForm::FormClass, "ProjectComboBox", project);
+    }
 }
 
 void LogDoings::Delete(const Numbers& numbers) const

@@ -31,6 +31,10 @@ public:
     void Open(std::int64_t number) const;
     /// Sets a project on what is selected in a window, whatever project it has.
     void SetProject(HostExplorer& window, const std::string& project) const;
+    /// Puts a project without rules on the list; fails (5) with the product's words when it refuses the name.
+    void AddProject(const std::string& project) const;
+    /// Shows the form with the rules of a project, or with the first project when that isn't on the list.
+    void ShowRules(const std::string& project) const;
     void Delete(const Numbers& numbers) const;
     /// Moves an activity to other times; false when a handler refused it.
     bool Move(std::int64_t number, const TimeSpan& times) const;

@@ -43,6 +43,8 @@ public:
     const std::vector<Activity>& Activities() const { return mShown; }
     /// The place of the one of that number among them; nothing when it isn't shown.
     std::optional<std::size_t> PlaceOf(std::int64_t number) const;
+    /// All of these days, whether the search shows them or not.
+    const std::vector<Activity>& All() const { return mAll; }
     /// True when the days have activities, whether the search shows them or not.
     bool HasAny() const { return !mAll.empty(); }
 

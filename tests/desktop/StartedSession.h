@@ -23,11 +23,12 @@ public:
 
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
     TempodialMain& AddIn() { return mSession.AddIn(); }
+    Session& Opened() { return mSession; }
     /// An activity of half an hour that the add-in has written.
-    Activity Added(const std::string& description, Date start)
+    Activity Added(const std::string& description, Date start, const std::string& project = "Garden")
     {
         mSession.AddIn().CreateCalendarItem(
-            "Garden", description, "Word", "", 30, start, start.AddMinutes(30), "", false);
+            project, description, "Word", "", 30, start, start.AddMinutes(30), "", false);
         return ActivityAt(mSession.Profile(), start).value();
     }
 
