@@ -3,6 +3,7 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/ItemFields.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/ShownLine.h"
 #include "terminal/TerminalText.h"
 
 #include <QFont>
@@ -71,7 +72,8 @@ QVariant ActivityListModel::data(const QModelIndex& index, int role) const
     const auto& activity = *ActivityOf(index.row());
     const auto& column = mLayout.columns[static_cast<std::size_t>(index.column())];
     if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
-        return ToQt(IsolatedLine(mValues->TextOf(activity, column.field)));
+        const auto text = ShownLine(mValues->TextOf(activity, column.field));
+        return role == Qt::ToolTipRole ? PlainToolTip(text) : text;
     }
     if (role == Qt::DecorationRole && index.column() == 0) {
         const auto& name = mColoured == Coloured::Project ? ProjectNameOf(activity) : activity.type;

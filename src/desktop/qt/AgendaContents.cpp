@@ -4,7 +4,7 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/DragGesture.h"
 #include "desktop/qt/QtText.h"
-#include "terminal/TerminalText.h"
+#include "desktop/qt/ShownLine.h"
 
 #include <algorithm>
 
@@ -16,9 +16,9 @@ constexpr int HoursOfDay = 24;
 /// The minutes that a day's bar stands for, unless a day is longer.
 constexpr std::int64_t BarMinutes = 600;
 
-QString LineOf(const std::string& text)
+QString IsolatedText(const std::string& text)
 {
-    return ToQt(IsolatedLine(text));
+    return ShownLine(text);
 }
 
 }
@@ -30,8 +30,8 @@ void AgendaContents::Fill()
     mCards.clear();
     for (const auto& activity : mLog.Activities()) {
         AgendaCard card;
-        card.title = LineOf(words.Title(activity));
-        card.detail = LineOf(words.Detail(activity, mLog.ColouredBy()));
+        card.title = IsolatedText(words.Title(activity));
+        card.detail = IsolatedText(words.Detail(activity, mLog.ColouredBy()));
         card.times = ToQt(words.Times(activity));
         card.style = mDesk.StyleOf(mLog.ColouredBy(), mLog.ColourNameOf(activity));
         card.style.isDashed = IsUnassigned(activity);
@@ -61,7 +61,7 @@ void AgendaContents::FillPlaced(const AgendaScene& scene)
         for (auto i = run.pieces.begin; i < run.pieces.end; ++i) {
             activities.push_back(scene.ActivityOf(scene.Layout().Pieces()[i]));
         }
-        mLabels.push_back(LineOf(words.ShortLabel(activities)));
+        mLabels.push_back(IsolatedText(words.ShortLabel(activities)));
     }
     mGaps.clear();
     for (const auto& gap : scene.Gaps()) {
@@ -122,22 +122,29 @@ StackedBar AgendaContents::BarOf(std::size_t day) const
     bar.scale = std::max(BarMinutes, *std::max_element(sums.minutes.begin(), sums.minutes.end()));
     for (const auto& row : sums.rows) {
         const auto style = mDesk.StyleOf(mLog.ColouredBy(), row.name);
-        bar.parts.push_back({ ToQt(style.colours.mark), row.minutes[day], style.isHatched });
+        bar.parts.push_back({ MarkBrush(style), row.minutes[day], style.isHatched });
     }
     return bar;
+}
+
+QString AgendaContents::LineOf(const Activity& activity) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    return IsolatedText(words.Title(activity)) + ToQt(PartSeparator + words.Times(activity) + PartSeparator)
+        + IsolatedText(words.Detail(activity, Coloured::Project));
 }
 
 QString AgendaContents::ToolTipOf(const Activity& activity) const
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    return LineOf(words.Title(activity)) + "\n" + LineOf(words.Detail(activity, Coloured::Project)) + "\n"
+    return IsolatedText(words.Title(activity)) + "\n" + IsolatedText(words.Detail(activity, Coloured::Project)) + "\n"
         + ToQt(words.Times(activity) + PartSeparator + LengthText(activity.duration));
 }
 
 QString AgendaContents::SpokenOf(const Activity& activity) const
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    return LineOf(words.Spoken(activity, mSelected.count(activity.number) > 0));
+    return IsolatedText(words.Spoken(activity, mSelected.count(activity.number) > 0));
 }
 
 QString AgendaContents::WordsOf(const TimeSpan& times, Date endBefore) const

@@ -43,6 +43,8 @@ public:
     const std::vector<QString>& Gaps() const { return mGaps; }
     const std::vector<QString>& HourNames() const { return mHourNames; }
     std::vector<DayHead::Day> Heads(const AgendaScene& scene) const;
+    /// An activity in a line of a list.
+    QString LineOf(const Activity& activity) const;
     /// What is said of an activity to who rests on it.
     QString ToolTipOf(const Activity& activity) const;
     /// What a screen reader says of an activity.

@@ -38,10 +38,23 @@ bool AgendaKeys::Press(const QKeyEvent& event)
         return true;
     }
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
-        mView.mWishes.open(mView.ActivityOf(*focus).number);
+        if (const auto run = RunOf(*focus)) {
+            mView.ShowRun(*run);
+        } else {
+            mView.mWishes.open(mView.ActivityOf(*focus).number);
+        }
         return true;
     }
     return false;
+}
+
+std::optional<std::size_t> AgendaKeys::RunOf(std::size_t piece) const
+{
+    const auto& runs = mView.Scene().Runs();
+    const auto found = std::find_if(runs.begin(), runs.end(), [piece](const ShortRun& run) {
+        return piece >= run.pieces.begin && piece < run.pieces.end && run.pieces.end - run.pieces.begin > 1;
+    });
+    return found == runs.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - runs.begin()));
 }
 
 std::optional<std::size_t> AgendaKeys::First() const

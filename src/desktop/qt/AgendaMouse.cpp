@@ -3,6 +3,7 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/ShownLine.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -183,6 +184,8 @@ void AgendaMouse::Release(const QMouseEvent& event)
     if (!hasMoved) {
         if (IsOnPiece(mHit) && mIsAloneOnRelease) {
             mView.mWishes.select({ mNumber });
+        } else if (mHit.part == AgendaHit::Part::Label && !event.modifiers().testFlag(Qt::ControlModifier)) {
+            mView.ShowRun(mHit.index);
         }
     } else if (!IsOnPiece(mHit)) {
         mView.mWishes.select(mView.Selected());
@@ -226,7 +229,7 @@ void AgendaMouse::ToolTip(const QHelpEvent& event) const
         text = ToQt(GapText(scene.Gaps()[hit.index].minutes));
         box = { static_cast<double>(event.x()), mView.InScene(event.pos()).y(), 1, 1 };
     }
-    QToolTip::showText(event.globalPos(), text, mView.viewport(), mView.InView(box).toAlignedRect());
+    QToolTip::showText(event.globalPos(), PlainToolTip(text), mView.viewport(), mView.InView(box).toAlignedRect());
 }
 
 bool AgendaMouse::Key(const QKeyEvent& event)

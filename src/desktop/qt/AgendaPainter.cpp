@@ -18,6 +18,7 @@ constexpr int MinutesOfHour = 60;
 constexpr int MinutesOfDay = 1440;
 constexpr double GutterMargin = 8;
 constexpr double TextIndent = 9;
+constexpr double PatternIndent = 17;
 constexpr double FadedOpacity = 0.25;
 /// Pixels between an activity and the one below it.
 constexpr double BetweenPieces = 1;
@@ -169,6 +170,9 @@ void AgendaPainter::PaintPieces(QPainter& painter, const Picture& picture, const
             } else {
                 box.setHeight(box.height() - BetweenPieces);
                 PaintCard(painter, box, card);
+                if (card.isSoft) {
+                    PaintSoftEdge(painter, box);
+                }
             }
             const bool isFocus = picture.focus == i;
             if (card.isSelected || isFocus) {
@@ -189,8 +193,9 @@ void AgendaPainter::PaintCard(QPainter& painter, const QRectF& box, const Agenda
     const auto bold = mTexts.HeightOf(TextRole::Bold);
     const auto usual = mTexts.HeightOf(TextRole::Usual);
     const auto small = mTexts.HeightOf(TextRole::Small);
-    const auto left = box.x() + TextIndent;
-    const auto width = box.width() - TextIndent - 4;
+    const auto indent = card.style.pattern ? PatternIndent : TextIndent;
+    const auto left = box.x() + indent;
+    const auto width = box.width() - indent - 4;
     const auto ink = ToQt(card.style.colours.ink);
     constexpr double Above = 3;
     if (box.height() < bold) {
@@ -207,6 +212,17 @@ void AgendaPainter::PaintCard(QPainter& painter, const QRectF& box, const Agenda
             mTexts.Draw(painter, TextRole::Usual, second, { left, y }, width, *line);
             y += usual;
         }
+    }
+}
+
+void AgendaPainter::PaintSoftEdge(QPainter& painter, const QRectF& box) const
+{
+    // Paper comes through the more the nearer the end is.
+    constexpr int Lines = 3;
+    const auto paper = ToQt(mLook.Colours().paper);
+    for (int line = 1; line <= Lines; ++line) {
+        const auto bottom = box.bottom() - (line - 1) * 3;
+        painter.fillRect(QRectF(box.x(), bottom - (Lines - line + 1), box.width(), Lines - line + 1), paper);
     }
 }
 

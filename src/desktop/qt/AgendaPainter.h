@@ -78,6 +78,8 @@ private:
     void PaintGaps(QPainter& painter, const Picture& picture, const QRectF& part);
     void PaintPieces(QPainter& painter, const Picture& picture, const QRectF& part);
     void PaintCard(QPainter& painter, const QRectF& box, const AgendaCard& card);
+    /// Draws the end of an activity that may still grow.
+    void PaintSoftEdge(QPainter& painter, const QRectF& box) const;
     void PaintRuns(QPainter& painter, const Picture& picture, const QRectF& part);
     void PaintFrame(QPainter& painter, const QRectF& box, bool isFocus) const;
     void PaintNow(QPainter& painter, const Picture& picture);

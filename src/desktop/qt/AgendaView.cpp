@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QNativeGestureEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -62,6 +63,10 @@ void AgendaView::TakeFont()
 
 void AgendaView::Follow()
 {
+    if (mBubble) {
+        // What it lists may be gone.
+        mBubble->close();
+    }
     mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.Days(), Place());
     mContents.Fill();
     mGutter = mPainter.GutterFor(mContents.HourNames());
@@ -215,6 +220,24 @@ QString AgendaView::SpokenOf(const Activity& activity) const
     return mContents.SpokenOf(activity);
 }
 
+void AgendaView::ShowRun(std::size_t run)
+{
+    const auto& pieces = mScene->Runs()[run].pieces;
+    std::vector<ShortBubble::Row> rows;
+    for (auto i = pieces.begin; i < pieces.end; ++i) {
+        rows.push_back({ ActivityOf(i).number, mContents.LineOf(ActivityOf(i)) });
+    }
+    mBubble = new ShortBubble(rows,
+        { .select = [this](std::int64_t number) { mWishes.select({ number }); },
+            .open = [this](std::int64_t number) { mWishes.open(number); },
+            .key = [this](QKeyEvent& event) { return mWishes.key(event); } },
+        this);
+    const auto box = mScene->Runs()[run].LabelBox(mScene->LabelHeight()).value_or(mScene->Runs()[run].room);
+    mBubble->move(viewport()->mapToGlobal(InView(box).bottomLeft().toPoint()));
+    mBubble->show();
+    mBubble->setFocus();
+}
+
 void AgendaView::TellFocus()
 {
     if (mFocus && hasFocus()) {
@@ -313,6 +336,17 @@ void AgendaView::contextMenuEvent(QContextMenuEvent* event)
     }
 }
 
+bool AgendaView::Pinch(const QNativeGestureEvent& event)
+{
+    if (event.gestureType() != Qt::ZoomNativeGesture) {
+        return false;
+    }
+    // A pinch to the double is what ten notches are.
+    constexpr double Notches = 10;
+    Zoom(event.value() * Notches, event.position().y());
+    return true;
+}
+
 void AgendaView::wheelEvent(QWheelEvent* event)
 {
     if (!event->modifiers().testFlag(Qt::ControlModifier)) {
@@ -345,6 +379,9 @@ void AgendaView::focusOutEvent(QFocusEvent* event)
 
 bool AgendaView::viewportEvent(QEvent* event)
 {
+    if (event->type() == QEvent::NativeGesture && Pinch(*static_cast<QNativeGestureEvent*>(event))) {
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         mMouse.ToolTip(*static_cast<QHelpEvent*>(event));
         return true;

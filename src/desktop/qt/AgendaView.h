@@ -9,8 +9,10 @@
 #include "desktop/qt/AgendaPainter.h"
 #include "desktop/qt/DayHead.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/ShortBubble.h"
 
 #include <QAbstractScrollArea>
+#include <QPointer>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -91,6 +93,10 @@ public:
     QString ToolTipOf(const Activity& activity) const { return mContents.ToolTipOf(activity); }
     /// What a screen reader says of an activity.
     QString SpokenOf(const Activity& activity) const;
+    /// Opens the list of a run of short ones.
+    void ShowRun(std::size_t run);
+    /// The list that is open; null when none is.
+    ShortBubble* Bubble() const { return mBubble; }
     /// Shows times that something would have, and a band around what is being selected.
     void ShowGhost(const std::optional<TimeSpan>& times, const QRectF& band);
     /// Says what times something would have, and what is to be known of that.
@@ -123,6 +129,8 @@ private:
     void TellFocus();
     void PaintGhost(QPainter& painter) const;
     void PlaceNote();
+    /// Zooms as two fingers do on a touch pad; false for other gestures.
+    bool Pinch(const QNativeGestureEvent& event);
     void ApplyZoom(double pixelsPerMinute, double place);
 
     Desk& mDesk;
@@ -140,6 +148,7 @@ private:
     QRectF mBand;
     AgendaMouse mMouse { *this };
     AgendaKeys mKeys { *this };
+    QPointer<ShortBubble> mBubble;
     double mGutter = 0;
     /// The days to whose first activity the view was last scrolled, and where the bar stood then. As long as it stands
     /// there, the view follows the first activity, which may be another as an import goes on.

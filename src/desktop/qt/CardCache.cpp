@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <array>
 
 namespace tempodial {
 
@@ -11,6 +12,8 @@ namespace {
 
 constexpr double CardRadius = 4;
 constexpr double MarkWidth = 4;
+/// A pattern needs more room to be told.
+constexpr double PatternWidth = 12;
 /// The side of the picture that holds the corners.
 constexpr double CornerSide = 16;
 
@@ -41,9 +44,17 @@ bool operator<(const CardStyle& one, const CardStyle& other)
 {
     const auto key = [](const CardStyle& style) {
         return std::tuple(KeyOf(style.colours.mark), KeyOf(style.colours.fill), style.isHatched, style.isStriped,
-            style.isDashed, style.isOutlined, KeyOf(style.hatch));
+            style.isDashed, style.isOutlined, KeyOf(style.hatch), style.pattern);
     };
     return key(one) < key(other);
+}
+
+QBrush MarkBrush(const CardStyle& style)
+{
+    static constexpr std::array<Qt::BrushStyle, ToneCount> Patterns { Qt::SolidPattern, Qt::FDiagPattern,
+        Qt::Dense4Pattern, Qt::HorPattern, Qt::CrossPattern, Qt::Dense6Pattern, Qt::BDiagPattern, Qt::VerPattern,
+        Qt::Dense2Pattern, Qt::DiagCrossPattern, Qt::Dense5Pattern, Qt::Dense3Pattern };
+    return { ToQt(style.colours.mark), style.pattern ? Patterns[*style.pattern] : Qt::SolidPattern };
 }
 
 void CardCache::Use(double devicePixels)
@@ -103,28 +114,36 @@ void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& styl
     painter.fillRect(QRectF(box.x() + CardRadius, box.y() + CardRadius, inner + CardRadius, middle), pictures.ground);
     painter.fillRect(
         QRectF(box.x(), box.y() + CardRadius, CardRadius, middle), style.isHatched ? pictures.ground : pictures.mark);
-    if (style.isDashed || style.isOutlined) {
-        const auto width = style.isOutlined ? 2.0 : 1.0;
-        QPen pen(ToQt(style.colours.mark), width);
-        if (style.isDashed) {
-            pen.setDashPattern({ 3, 3 });
-        }
-        painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(pen);
-        painter.setBrush(Qt::NoBrush);
-        const auto half = width / 2;
-        painter.drawRoundedRect(box.adjusted(half, half, -half, -half), CardRadius, CardRadius);
-        painter.restore();
+    if (style.pattern) {
+        painter.fillRect(QRectF(box.x(), box.y(), PatternWidth, box.height()), MarkBrush(style));
     }
+    if (style.isDashed || style.isOutlined) {
+        DrawOutline(painter, box, style);
+    }
+}
+
+void CardCache::DrawOutline(QPainter& painter, const QRectF& box, const CardStyle& style)
+{
+    const auto width = style.isOutlined ? 2.0 : 1.0;
+    QPen pen(ToQt(style.colours.mark), width);
+    if (style.isDashed) {
+        pen.setDashPattern({ 3, 3 });
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const auto half = width / 2;
+    painter.drawRoundedRect(box.adjusted(half, half, -half, -half), CardRadius, CardRadius);
+    painter.restore();
 }
 
 void CardCache::DrawStripe(QPainter& painter, const QRectF& box, const CardStyle& style)
 {
     const auto& pictures = Of(style);
-    painter.fillRect(
-        box.adjusted(0, 0, 0, style.isOutlined ? -1 : 0), style.isHatched ? pictures.ground : pictures.mark);
-    if (style.isHatched) {
+    const auto mark = style.pattern ? MarkBrush(style) : pictures.mark;
+    painter.fillRect(box.adjusted(0, 0, 0, style.isOutlined ? -1 : 0), style.isHatched ? pictures.ground : mark);
+    if (style.isHatched || style.pattern) {
         painter.setPen(QPen(ToQt(style.colours.mark), 1));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(box.adjusted(0.5, 0.5, -0.5, -0.5));

@@ -4,7 +4,9 @@
 
 #include <QBrush>
 #include <QPixmap>
+#include <cstddef>
 #include <map>
+#include <optional>
 #include <tuple>
 
 class QPainter;
@@ -25,9 +27,14 @@ struct CardStyle
     bool isOutlined = false;
     /// The mark is striped.
     bool isStriped = false;
+    /// The place of the pattern that stands for the tone where there is only paper and ink.
+    std::optional<std::size_t> pattern {};
 
     friend bool operator<(const CardStyle& one, const CardStyle& other);
 };
+
+/// What a mark is filled with: its colour, or its pattern.
+QBrush MarkBrush(const CardStyle& style);
 
 /// Draws cards of four kept corners and plain fills, without paths and clips, which take most of the time.
 class CardCache
@@ -50,6 +57,7 @@ private:
     };
 
     const Pictures& Of(const CardStyle& style);
+    static void DrawOutline(QPainter& painter, const QRectF& box, const CardStyle& style);
     Pictures Made(const CardStyle& style) const;
 
     double mDevicePixels = 1;

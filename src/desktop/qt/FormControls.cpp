@@ -20,6 +20,8 @@ namespace {
 
 /// The least width of a combo box, in characters.
 constexpr int LeastCharacters = 4;
+/// The most that its entries can make of that.
+constexpr int MostCharacters = 60;
 /// The lines that a box of several lines has room for.
 constexpr int LinesShown = 4;
 
@@ -154,6 +156,8 @@ QComboBox* NewComboBox(QWidget* parent)
     box->setCompleter(nullptr);
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     box->setMinimumContentsLength(LeastCharacters);
+    // An entry may be a title of any length.
+    box->setMaximumWidth(box->fontMetrics().averageCharWidth() * MostCharacters);
     QObject::disconnect(box->lineEdit(), &QLineEdit::editingFinished, box, nullptr);
     return box;
 }

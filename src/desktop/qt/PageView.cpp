@@ -100,6 +100,9 @@ QWidget* PageView::NewWidget(std::size_t place, const FormPageLayout::Field& lay
     auto* line = qobject_cast<QLineEdit*>(widget);
     if (auto* box = qobject_cast<QComboBox*>(widget)) {
         line = box->lineEdit();
+        // It is as wide as its column, whatever its entries are.
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMaximumWidth(QWIDGETSIZE_MAX);
         box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         connect(box, &QComboBox::activated, this, [this, place] {
             mFields[place].isPending = true;

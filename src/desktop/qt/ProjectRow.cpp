@@ -2,6 +2,7 @@
 
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/ShownLine.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -32,7 +33,7 @@ void ProjectRow::Show(const Content& content)
     setText(content.name);
     setAccessibleName(content.name);
     setAccessibleDescription(ToQt(LengthText(content.minutes)));
-    setToolTip(content.name);
+    setToolTip(PlainToolTip(content.name));
     updateGeometry();
     update();
 }
@@ -50,9 +51,13 @@ QSize ProjectRow::sizeHint() const
 
 void ProjectRow::PaintMark(QPainter& painter, const QRectF& box) const
 {
-    painter.setBrush(mContent.style.isHatched ? QBrush(Qt::NoBrush) : QBrush(ToQt(mContent.style.colours.mark)));
+    painter.setBrush(mContent.style.isHatched ? QBrush(Qt::NoBrush) : MarkBrush(mContent.style));
     QPen outline(ToQt(mContent.style.colours.mark), 1, Qt::DashLine);
-    painter.setPen(mContent.style.isHatched ? outline : QPen(Qt::NoPen));
+    if (mContent.style.pattern) {
+        painter.setPen(QPen(ToQt(mContent.style.colours.mark), 1));
+    } else {
+        painter.setPen(mContent.style.isHatched ? outline : QPen(Qt::NoPen));
+    }
     painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
     if (mContent.style.isStriped) {
         painter.fillRect(box.adjusted(3, 5, -3, -7), ToQt(mContent.style.colours.fill));

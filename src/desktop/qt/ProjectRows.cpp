@@ -2,8 +2,8 @@
 
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/ShownLine.h"
 #include "session/ProductFacts.h"
-#include "terminal/TerminalText.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -90,7 +90,7 @@ void ProjectRows::FillRows()
             continue;
         }
         mNames.push_back(row.name);
-        contents.push_back({ .name = ToQt(IsolatedLine(row.name)),
+        contents.push_back({ .name = ShownLine(row.name),
             .minutes = row.total,
             .most = contents.empty() ? row.total : contents.front().minutes,
             .style = mDesk.StyleOf(mLog.ColouredBy(), row.name) });

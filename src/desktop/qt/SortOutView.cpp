@@ -4,7 +4,7 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/RoomyRows.h"
-#include "terminal/TerminalText.h"
+#include "desktop/qt/ShownLine.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -86,8 +86,8 @@ void SortOutView::Fill()
         auto* item = new QTreeWidgetItem(mList);
         const auto isHidden = mDesk.ShownTitles() == Titles::Hidden;
         item->setText(0, ToQt(LengthText(group.minutes)));
-        item->setText(1, ToQt(IsolatedLine(group.application)));
-        item->setText(2, isHidden ? QString() : ToQt(IsolatedLine(group.description)));
+        item->setText(1, ShownLine(group.application));
+        item->setText(2, isHidden ? QString() : ShownLine(group.description));
         item->setText(3, ToQt(ActivitiesText(group.times)));
         item->setText(4, ToQt(WeekdayText(group.last.Weekday()) + " " + mDesk.Formats()->ShortTime(group.last)));
         for (const auto& activity : mLog.Activities()) {
@@ -95,7 +95,7 @@ void SortOutView::Fill()
                 && activity.description == group.description) {
                 auto* single = new QTreeWidgetItem(item);
                 single->setText(0, ToQt(LengthText(activity.duration)));
-                single->setText(2, ToQt(IsolatedLine(words.Summary(activity))));
+                single->setText(2, ShownLine(words.Summary(activity)));
                 single->setData(0, NumberRole, static_cast<qlonglong>(activity.number));
             }
         }

@@ -24,11 +24,11 @@ void StackedBar::Paint(QPainter& painter, const QRectF& box) const
         const QRectF place(x, box.y(), width > 2 ? width - 1 : width, box.height());
         if (part.isOutline) {
             painter.setBrush(Qt::NoBrush);
-            painter.setPen(QPen(part.colour, 1));
+            painter.setPen(QPen(part.mark.color(), 1));
             painter.drawRect(place.adjusted(0.5, 0.5, -0.5, -0.5));
             painter.setPen(Qt::NoPen);
         } else {
-            painter.fillRect(place, part.colour);
+            painter.fillRect(place, part.mark);
         }
         x += width;
     }

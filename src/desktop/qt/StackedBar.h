@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBrush>
 #include <QColor>
 #include <QRectF>
 #include <cstdint>
@@ -14,7 +15,7 @@ struct StackedBar
 {
     struct Part
     {
-        QColor colour;
+        QBrush mark;
         std::int64_t minutes = 0;
         /// Drawn by its outline alone.
         bool isOutline = false;

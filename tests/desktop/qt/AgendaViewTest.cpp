@@ -1,6 +1,6 @@
 #include "desktop/qt/AgendaView.h"
 
-#include "DesktopFixture.h"
+#include "WorkedWeekFixture.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
 
@@ -9,19 +9,9 @@
 
 namespace tempodial {
 
-/// Three activities on Wednesday and one on Thursday.
-class AgendaViewTest : public DesktopFixture
+class AgendaViewTest : public WorkedWeekFixture
 {
 protected:
-    AgendaViewTest()
-    {
-        Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10));
-        Add("", "Inbox", "Mail", On(15, 10), On(15, 11));
-        Add("Beta", "Sheet", "Calc", On(15, 13), On(15, 14));
-        Add("Beta", "Letter", "Writer", On(16, 9), On(16, 10));
-        mWindow = &Open();
-    }
-
     AgendaView& View() { return mWindow->Agenda(); }
     std::size_t PieceOf(const QString& title)
     {
@@ -81,8 +71,6 @@ protected:
         QTest::mouseRelease(viewport, Qt::LeftButton, modifiers, to);
     }
     int Minutes(double minutes) { return static_cast<int>(View().Scene().Scale().PixelsPerMinute() * minutes); }
-
-    MainWindow* mWindow;
 };
 
 TEST_F(AgendaViewTest, Click_Activity_SelectsItInTheModel)

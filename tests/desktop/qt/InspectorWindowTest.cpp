@@ -1,6 +1,6 @@
 #include "desktop/qt/InspectorWindow.h"
 
-#include "DesktopFixture.h"
+#include "WorkedWeekFixture.h"
 #include "desktop/qt/CommandBarView.h"
 #include "desktop/qt/PageView.h"
 #include "review/ActivityReader.h"
@@ -16,17 +16,9 @@
 
 namespace tempodial {
 
-class InspectorWindowTest : public DesktopFixture
+class InspectorWindowTest : public WorkedWeekFixture
 {
 protected:
-    InspectorWindowTest()
-    {
-        Add("Riverside", "Plan", "Writer", On(15, 9), On(15, 10));
-        Add("Riverside", "Costs", "Calc", On(15, 10), On(15, 11));
-        Add("", "Inbox", "Mail", On(15, 11), On(15, 12));
-        Open();
-    }
-
     std::vector<Activity> Activities() { return ActivitiesStartingIn(mDesk->Profile(), { On(15, 0), On(15, 0) }); }
     /// Opens the window of an activity of that day.
     InspectorWindow& OpenItem(std::size_t place)
@@ -62,8 +54,19 @@ TEST_F(InspectorWindowTest, Activity_Opened_ShowsItsPageAndWhy)
     EXPECT_EQ(window.windowTitle().toStdString(), mDesk->Windows().OpenInspectors().back()->Caption());
     EXPECT_EQ(Line(window, "SubjectBox").text(), "Plan");
     EXPECT_EQ(Line(window, "StartBox").text().toStdString(), mDesk->Formats()->General(On(15, 9)));
-    EXPECT_EQ(qobject_cast<QComboBox*>(window.Page()->WidgetOf("ProjectComboBox"))->currentText(), "Riverside");
+    EXPECT_EQ(qobject_cast<QComboBox*>(window.Page()->WidgetOf("ProjectComboBox"))->currentText(), "Alpha");
     EXPECT_TRUE(window.Why().text().startsWith("Why? ")) << window.Why().text().toStdString();
+}
+
+TEST_F(InspectorWindowTest, LongTitle_InTheKeywordList_LeavesTheWindowItsWidth)
+{
+    const auto usual = OpenItem(0).sizeHint().width();
+    Add("", std::string(100000, 'W'), "Mail", On(15, 15), On(15, 16));
+    auto& window = OpenItem(3);
+    EXPECT_LT(window.sizeHint().width(), 2 * usual);
+    for (const auto* box : window.Page()->findChildren<QComboBox*>()) {
+        EXPECT_LT(box->minimumSizeHint().width(), usual);
+    }
 }
 
 TEST_F(InspectorWindowTest, Field_Left_WritesTheItem)
@@ -147,7 +150,7 @@ TEST_F(InspectorWindowTest, NextItem_Clicked_ShowsTheOneBehind)
     auto& window = OpenItem(0);
     QTest::mouseClick(window.Commands().ButtonOf("Next Item"), Qt::LeftButton, {}, QPoint(5, 5));
     ASSERT_EQ(OpenCount(), 1U);
-    EXPECT_EQ(Line(Front(), "SubjectBox").text(), "Costs");
+    EXPECT_EQ(Line(Front(), "SubjectBox").text(), "Inbox");
 }
 
 TEST_F(InspectorWindowTest, PreviousItem_List_HasThoseBeforeTheNearestFirst)
@@ -156,7 +159,7 @@ TEST_F(InspectorWindowTest, PreviousItem_List_HasThoseBeforeTheNearestFirst)
     auto* menu = window.Commands().ButtonOf("Previous Item")->menu();
     Q_EMIT menu->aboutToShow();
     ASSERT_EQ(menu->actions().size(), 2);
-    EXPECT_TRUE(menu->actions()[0]->text().contains("Costs"));
+    EXPECT_TRUE(menu->actions()[0]->text().contains("Inbox"));
     menu->actions()[1]->trigger();
     EXPECT_EQ(Line(Front(), "SubjectBox").text(), "Plan");
 }
