@@ -21,6 +21,11 @@ constexpr SettingWord<Appearance> AppearanceWords[] { { "system", Appearance::Sy
 constexpr SettingWord<DesktopSettings::View> ViewWords[] { { "day", DesktopSettings::View::Day },
     { "week", DesktopSettings::View::Week }, { "list", DesktopSettings::View::List },
     { "sort-out", DesktopSettings::View::SortOut } };
+constexpr SettingWord<DesktopSettings::ListSpan> ListSpanWords[] { { "week", DesktopSettings::ListSpan::Week },
+    { "month", DesktopSettings::ListSpan::Month }, { "year", DesktopSettings::ListSpan::Year } };
+constexpr SettingWord<DesktopSettings::FirstDay> FirstDayWords[] { { "locale", DesktopSettings::FirstDay::Locale },
+    { "monday", DesktopSettings::FirstDay::Monday }, { "saturday", DesktopSettings::FirstDay::Saturday },
+    { "sunday", DesktopSettings::FirstDay::Sunday } };
 constexpr SettingWord<ColourChoice> ColourWords[] { { "automatic", ColourChoice::Automatic },
     { "project", ColourChoice::Project }, { "application", ColourChoice::Application } };
 
@@ -99,8 +104,10 @@ template <class Settings, class Visitor> void VisitSettings(Settings& settings, 
 {
     visit("appearance", settings.appearance, AppearanceWords);
     visit("view", settings.view, ViewWords);
+    visit("list", settings.listSpan, ListSpanWords);
     visit("colours", settings.colours, ColourWords);
     visit("locale", settings.locale);
+    visit("first-day", settings.firstDay, FirstDayWords);
     visit("zoom", settings.zoom, ZoomRange);
     visit("fold-short", settings.foldsShortOnes);
     visit("hide-titles", settings.hidesTitles);
@@ -114,6 +121,23 @@ template <class Settings, class Visitor> void VisitSettings(Settings& settings, 
     visit("screen", settings.screen);
 }
 
+}
+
+int DesktopSettings::FirstDayOfWeek(int usual) const
+{
+    constexpr int Sunday = 1;
+    constexpr int Monday = 2;
+    constexpr int Saturday = 7;
+    switch (firstDay) {
+    case FirstDay::Monday:
+        return Monday;
+    case FirstDay::Saturday:
+        return Saturday;
+    case FirstDay::Sunday:
+        return Sunday;
+    default:
+        return usual;
+    }
 }
 
 DesktopSettings DesktopSettings::Read(const SettingsFile& file)

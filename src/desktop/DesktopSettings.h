@@ -13,6 +13,9 @@ struct DesktopSettings
 {
     enum class Appearance { System, Light, Dark, HighContrast };
     enum class View { Day, Week, List, SortOut };
+    /// How much time the list shows.
+    enum class ListSpan { Week, Month, Year };
+    enum class FirstDay { Locale, Monday, Saturday, Sunday };
 
     /// The file's name, in the user's folder of configurations.
     static constexpr auto FileName = "tempodial/desktop.toml";
@@ -21,9 +24,12 @@ struct DesktopSettings
 
     Appearance appearance = Appearance::System;
     View view = View::Week;
+    ListSpan listSpan = ListSpan::Week;
     ColourChoice colours = ColourChoice::Automatic;
     /// The locale whose forms are shown; that of the system when it is empty.
     std::string locale;
+    /// The day with which a week begins.
+    FirstDay firstDay = FirstDay::Locale;
     /// Hundredths of a pixel a minute.
     std::int64_t zoom = FittingZoom;
     bool foldsShortOnes = false;
@@ -42,6 +48,9 @@ struct DesktopSettings
     std::string screen;
 
     friend bool operator==(const DesktopSettings&, const DesktopSettings&) = default;
+
+    /// The day with which a week begins, as `Date::Weekday` counts; takes that of the locale.
+    int FirstDayOfWeek(int usual) const;
 
     /// Reads a file of settings; what it lacks is as usual. Fails with `SettingsFileError` when it can't be used.
     static DesktopSettings Read(const SettingsFile& file);

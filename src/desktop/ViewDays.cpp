@@ -1,19 +1,59 @@
 #include "desktop/ViewDays.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace tempodial {
 
-Period DaysOfView(DesktopSettings::View view, Date day, const Period::WeekStart& weekStart)
+namespace {
+
+using View = DesktopSettings::View;
+using ListSpan = DesktopSettings::ListSpan;
+
+constexpr int DaysOfWeek = 7;
+constexpr int DaysOfLongYear = 366;
+constexpr int MonthsOfYear = 12;
+constexpr int LastDay = 31;
+
+/// The day of the same number so many months later, or the month's last.
+Date InMonth(Date day, int months)
 {
-    return view == DesktopSettings::View::Day ? Period { day.Day(), day.Day() } : Period::WeekOf(day, weekStart);
+    const auto parts = day.ToParts();
+    const auto month = Period::MonthOf(Date::FromYearMonthDay(parts.year, parts.month + months, 1));
+    return std::min(month.first.AddDays(parts.day - 1), month.last);
 }
 
-Date PagedDay(DesktopSettings::View view, Date day, int pages)
+}
+
+Period DaysOfView(View view, ListSpan span, Date day, const Period::WeekStart& weekStart)
 {
-    constexpr int DaysOfWeek = 7;
-    const auto paged = day.AddDays(view == DesktopSettings::View::Day ? pages : pages * DaysOfWeek);
-    // A week must lie within the days that there are.
+    if (view == View::Day) {
+        return { day.Day(), day.Day() };
+    }
+    if (view == View::List && span == ListSpan::Month) {
+        return Period::MonthOf(day);
+    }
+    if (view == View::List && span == ListSpan::Year) {
+        const auto year = day.ToParts().year;
+        return { Date::FromYearMonthDay(year, 1, 1), Date::FromYearMonthDay(year, MonthsOfYear, LastDay) };
+    }
+    return Period::WeekOf(day, weekStart);
+}
+
+Date PagedDay(View view, ListSpan span, Date day, int pages)
+{
     const auto always = Period::Always();
-    return paged < always.first.AddDays(DaysOfWeek) || paged > always.last.AddDays(-DaysOfWeek) ? day : paged;
+    // What is shown must lie within the days that there are.
+    const auto isWithin = [&always](Date paged, std::int64_t days) {
+        return paged >= always.first.AddDays(days) && paged <= always.last.AddDays(-days);
+    };
+    if (view == View::List && span != ListSpan::Week) {
+        const auto reach = day.AddDays(std::int64_t { pages } * DaysOfLongYear);
+        const auto months = span == ListSpan::Year ? pages * MonthsOfYear : pages;
+        return isWithin(reach, DaysOfLongYear) ? InMonth(day, months) : day;
+    }
+    const auto paged = day.AddDays(view == View::Day ? pages : pages * DaysOfWeek);
+    return isWithin(paged, DaysOfWeek) ? paged : day;
 }
 
 }

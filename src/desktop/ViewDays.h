@@ -5,10 +5,12 @@
 
 namespace tempodial {
 
-/// The days that a view shows around one of them: that day alone, or its week.
-Period DaysOfView(DesktopSettings::View view, Date day, const Period::WeekStart& weekStart);
+/// The days that a view shows around one of them: that day alone, or its week, and in the list as much as a person
+/// wants.
+Period DaysOfView(
+    DesktopSettings::View view, DesktopSettings::ListSpan span, Date day, const Period::WeekStart& weekStart);
 
 /// The day around which a view shows so many periods later, or earlier for a negative number; the same where time ends.
-Date PagedDay(DesktopSettings::View view, Date day, int pages);
+Date PagedDay(DesktopSettings::View view, DesktopSettings::ListSpan span, Date day, int pages);
 
 }

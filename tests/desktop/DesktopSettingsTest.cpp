@@ -42,8 +42,10 @@ TEST_F(DesktopSettingsTest, Keep_EverySetting_IsReadAgain)
     DesktopSettings settings;
     settings.appearance = DesktopSettings::Appearance::HighContrast;
     settings.view = DesktopSettings::View::SortOut;
+    settings.listSpan = DesktopSettings::ListSpan::Year;
     settings.colours = ColourChoice::Application;
     settings.locale = "de_DE";
+    settings.firstDay = DesktopSettings::FirstDay::Sunday;
     settings.zoom = 250;
     settings.foldsShortOnes = true;
     settings.hidesTitles = true;
@@ -57,6 +59,18 @@ TEST_F(DesktopSettingsTest, Keep_EverySetting_IsReadAgain)
     settings.screen = "HDMI \"1\"";
     WriteSettingsFile(settings.Keep(mFolder.Path("kept.toml")));
     EXPECT_EQ(DesktopSettings::Read(ReadSettingsFile(mFolder.Path("kept.toml"))), settings);
+}
+
+TEST_F(DesktopSettingsTest, FirstDayOfWeek_Set_GoesBeforeTheLocale)
+{
+    DesktopSettings settings;
+    EXPECT_EQ(settings.FirstDayOfWeek(2), 2);
+    using FirstDay = DesktopSettings::FirstDay;
+    for (const auto& [day, number] :
+        { std::pair(FirstDay::Sunday, 1), std::pair(FirstDay::Monday, 2), std::pair(FirstDay::Saturday, 7) }) {
+        settings.firstDay = day;
+        EXPECT_EQ(settings.FirstDayOfWeek(3), number);
+    }
 }
 
 TEST_F(DesktopSettingsTest, Read_FileByHand_IsTaken)

@@ -124,7 +124,9 @@ void CardCache::Draw(QPainter& painter, const QRectF& box, const CardStyle& styl
 
 void CardCache::DrawOutline(QPainter& painter, const QRectF& box, const CardStyle& style)
 {
-    const auto width = style.isOutlined ? 2.0 : 1.0;
+    // Two pixels would leave the text of a low one no room.
+    constexpr double LeastHeight = 20;
+    const auto width = style.isOutlined && box.height() >= LeastHeight ? 2.0 : 1.0;
     QPen pen(ToQt(style.colours.mark), width);
     if (style.isDashed) {
         pen.setDashPattern({ 3, 3 });

@@ -1,9 +1,11 @@
 #include "desktop/qt/Desk.h"
 
+#include "desktop/FailureWords.h"
 #include "desktop/qt/QtEventPump.h"
 #include "host/files/PathOperations.h"
 #include "host/settings/SettingsText.h"
 #include "host/settings/TomlSettings.h"
+#include "session/KnownLocale.h"
 #include "session/ProfileError.h"
 #include "session/ProfileSettings.h"
 #include "session/WorkLogFolder.h"
@@ -26,15 +28,26 @@ std::string ColoursPath(const Profile& profile)
     return profile.Path() + "/" + ColourBook::FileName;
 }
 
+/// A person's locale goes before that of the system, and behind that of the command line.
+ProfileOptions Localised(ProfileOptions options, const DesktopSettings& settings)
+{
+    if (!options.locale && IsKnownLocale(settings.locale)) {
+        options.locale = settings.locale;
+    }
+    return options;
+}
+
 }
 
 Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& appearance)
     : mAppearance(appearance)
     , mSettingsPath(std::move(settingsPath))
     , mSettings(DesktopSettings::Read(ReadSettingsFile(mSettingsPath)))
-    , mSession(options)
+    , mSession(Localised(options, mSettings))
+    , mLog(mSession.Profile())
     , mColours(ReadSettingsFile(ColoursPath(mSession.Profile())))
-    , mWeekStart([first = FirstDayOfWeek(options)] { return first; })
+    , mWeekStart(
+          [this, usual = FirstDayOfWeek(Localised(options, mSettings))] { return mSettings.FirstDayOfWeek(usual); })
 {
     mAppearance.Apply(mSettings.appearance);
     mSettingsTimer.setSingleShot(true);
@@ -103,7 +116,8 @@ CardStyle Desk::StyleOf(Coloured kind, const std::string& name)
         .hatch = mAppearance.Colours().hatch,
         .isDashed = !use,
         .isOutlined = mAppearance.IsHighContrast(),
-        .isStriped = use && use->isStriped };
+        .isStriped = use && use->isStriped,
+        .pattern = use && mAppearance.IsHighContrast() ? std::optional(use->tone) : std::nullopt };
 }
 
 void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
@@ -185,7 +199,7 @@ void Desk::Guarded(const std::function<void()>& work)
     try {
         work();
     } catch (const std::exception& failure) {
-        Fail(failure.what());
+        Fail(FailureSentence(failure, Profile().Path()));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "base/Subscription.h"
 #include "desktop/ColourBook.h"
 #include "desktop/DesktopSettings.h"
+#include "desktop/LogWatch.h"
 #include "desktop/Titles.h"
 #include "desktop/WorkingHours.h"
 #include "desktop/qt/Appearance.h"
@@ -53,6 +54,8 @@ public:
 
     tempodial::Session& Session() { return mSession; }
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
+    /// What changes in the log.
+    const LogWatch& Log() const { return mLog; }
     HostApplication& Windows() const { return mSession.Windows(); }
     const Ref<LocaleFormats>& Formats() const { return Profile().Surroundings().formats; }
     Date Now() const { return Profile().Clock()->Now(); }
@@ -104,6 +107,7 @@ private:
     DesktopSettings mSettings;
     QTimer mSettingsTimer;
     tempodial::Session mSession;
+    LogWatch mLog;
     ColourBook mColours;
     Period::WeekStart mWeekStart;
     int mDepth = 0;

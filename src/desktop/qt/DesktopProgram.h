@@ -7,6 +7,8 @@
 
 namespace tempodial {
 
+class GuardedApplication;
+
 /// The desktop program: its arguments, the profile, the add-in and the windows, until a person quits.
 class DesktopProgram final : public ProfileProgram
 {
@@ -19,7 +21,8 @@ protected:
     ExitStatus Work(const ProfileOptions& options) override;
 
 private:
-    void RunWindows(const ProfileOptions& options);
+    /// True when the profile is an example that a person wants to go.
+    bool RunWindows(const ProfileOptions& options, GuardedApplication& application);
 };
 
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/qt/QtText.h"
 #include "host/files/NativePath.h"
+#include "host/files/PathOperations.h"
 #include "host/files/ProgramFolder.h"
 #include "session/ProfileError.h"
 #include "session/ProfilePlace.h"
@@ -22,6 +23,16 @@ constexpr int LongestWriting = 30000;
 std::string ExampleProgram::FolderOf(const Profile& profile)
 {
     return NativePath::Exactly(profile.Path()).Beside(ExampleName).Text();
+}
+
+bool ExampleProgram::Is(const Profile& profile)
+{
+    return profile.Path() == FolderOf(profile);
+}
+
+void ExampleProgram::Remove(const std::string& folder)
+{
+    RemoveFolder(NativePath::Exactly(folder));
 }
 
 void ExampleProgram::Open(const Profile& profile)

@@ -1,5 +1,7 @@
 #include "desktop/qt/FormWindow.h"
 
+#include "desktop/RuleForm.h"
+#include "desktop/qt/EffectPane.h"
 #include "desktop/qt/FormView.h"
 #include "desktop/qt/QtText.h"
 #include "forms/FormRules.h"
@@ -24,8 +26,12 @@ FormWindow::FormWindow(Desk& desk, const Ref<FormModel>& form)
     , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
 {
     setModal(false);
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QHBoxLayout(this);
     layout->addWidget(mView);
+    if (form->Definition().className == RuleForm::FormClass) {
+        mEffect = new EffectPane(desk, form, this);
+        layout->addWidget(mEffect, 1);
+    }
     Follow();
 }
 
@@ -38,6 +44,9 @@ void FormWindow::Follow()
     }
     setWindowTitle(ToQt(form->Caption()));
     mView->Follow();
+    if (mEffect != nullptr && form->Visible()) {
+        mEffect->Follow();
+    }
     if (form->Visible() != isVisible()) {
         ShowOrHide(form->Visible());
     }

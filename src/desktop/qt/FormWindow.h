@@ -8,6 +8,7 @@
 
 namespace tempodial {
 
+class EffectPane;
 class FormView;
 
 /// The window of a form. It is on the screen while its model is, and keeps no other window from being worked with.
@@ -18,6 +19,8 @@ public:
     FormWindow(Desk& desk, const Ref<FormModel>& form);
 
     FormView& View() { return *mView; }
+    /// What the rules in the form would change; null beside a form that has none.
+    EffectPane* Effect() { return mEffect; }
 
     /// Escape: clicks the button that cancels, where there is one.
     void reject() override;
@@ -32,6 +35,7 @@ private:
     Desk& mDesk;
     std::weak_ptr<FormModel> mForm;
     FormView* mView;
+    EffectPane* mEffect = nullptr;
     bool mComesToFront = false;
     Subscription mChanges;
     Subscription mEvents;

@@ -68,6 +68,10 @@ void HostWindows::Follow()
         auto& window = mExplorers[explorer->Number()];
         if (!window) {
             window.reset(new MainWindow(mDesk, explorer));
+            window->mRemoveExample = [this] {
+                mRemovesExample = true;
+                mDesk.Quit();
+            };
             window->setVisible(!mIsHidden);
         }
     }
@@ -124,7 +128,12 @@ ItemWindow* HostWindows::NewWindow(const Ref<HostInspector>& inspector)
 
 OwnerCommands HostWindows::ForModels()
 {
-    return { .InExplorer = {},
+    return { .InExplorer =
+                 [this](const Ref<HostExplorer>& explorer, std::int32_t command) {
+                     if (auto* window = WindowOf(explorer)) {
+                         window->Commands().Run(command);
+                     }
+                 },
         .InInspector =
             [this](const Ref<HostInspector>& inspector, std::int32_t command) {
                 if (auto* window = WindowOf(inspector); window != nullptr && command == BuiltInCommand::Print) {

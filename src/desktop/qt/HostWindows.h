@@ -32,6 +32,8 @@ public:
     /// Called when the last explorer has gone.
     std::function<void()> mWhenAllClosed;
 
+    /// True when a person wants the example to go that was shown, once the program has ended.
+    bool RemovesExample() const { return mRemovesExample; }
     /// Makes the windows that are missing and lets those go whose model is gone.
     void Follow();
     /// Brings the window that was in front last to the front, wherever it is.
@@ -58,6 +60,7 @@ private:
 
     Desk& mDesk;
     bool mIsHidden;
+    bool mRemovesExample = false;
     Numbered<MainWindow> mExplorers;
     Numbered<FormWindow> mForms;
     BrowserPages mPages;

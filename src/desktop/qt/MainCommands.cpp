@@ -1,5 +1,6 @@
 #include "desktop/qt/MainCommands.h"
 
+#include "desktop/UserGuide.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/NavigationBar.h"
@@ -22,6 +23,7 @@ namespace tempodial {
 MainCommands::MainCommands(MainWindow& window, Desk& desk)
     : mWindow(window)
     , mDesk(desk)
+    , mOutlets(window, desk)
     , mActions(window)
 {
     MakeActions();
@@ -34,16 +36,17 @@ void MainCommands::MakeActions()
     mActions.Add(Command::FileMenu, "New &Window", QKeySequence::New, [this] {
         mDesk.Do([this] { mDesk.Windows().OpenExplorer(mDesk.Windows().ActiveExplorer()->CurrentFolder()); });
     });
+    mActions.Add(Command::FileMenu, "&Export\u2026", QKeySequence("Ctrl+E"), [this] { mOutlets.AskWhereToExport(); });
+    mActions.Add(Command::FileMenu, "Open &Data Folder", {},
+        [this] { mDesk.Do([this] { mDesk.Profile().Surroundings().shell->Open(mDesk.Profile().DataFolder()); }); });
     mActions.Add(Command::FileMenu, "&Close", QKeySequence::Close, [this] { mWindow.close(); });
     mActions.Add(Command::FileMenu, "&Quit", QKeySequence::Quit, [this] { mDesk.Quit(); });
     mActions.Add(Command::EditMenu, "&Undo", QKeySequence::Undo, [this] { mWindow.Undo(); });
     mActions.Add(Command::EditMenu, "&Redo", QKeySequence("Ctrl+Shift+Z"), [this] { mWindow.Redo(); });
     mActions.AddLine(Command::EditMenu);
     mActions.Add(Command::EditMenu, "Select &All", QKeySequence::SelectAll, [this] { mWindow.SelectAll(); });
-    mActions.Add(Command::EditMenu, "&Search", QKeySequence::Find, [this] {
-        mWindow.Bar().SearchField().setFocus(Qt::ShortcutFocusReason);
-        mWindow.Bar().SearchField().selectAll();
-    });
+    mActions.Add(Command::EditMenu, "&Copy", QKeySequence::Copy, [this] { mOutlets.Copy(); });
+    mActions.Add(Command::EditMenu, "&Search", QKeySequence::Find, [this] { FocusSearch(); });
     mActions.Add(Command::GoMenu, "&Today", {}, [this] { mWindow.GoToToday(); });
     mActions.Add(Command::GoMenu, "&Back", QKeySequence("Alt+Left"), [this] { mWindow.Page(-1); });
     mActions.Add(Command::GoMenu, "&Forward", QKeySequence("Alt+Right"), [this] { mWindow.Page(1); });
@@ -60,6 +63,32 @@ void MainCommands::MakeActions()
         [this] { mDesk.Do([this] { mDesk.Session().AddIn().SyncData(SavedDataDays, true); }); });
     mActions.AddLine(Command::ToolsMenu);
     mActions.Add(Command::ToolsMenu, "&Settings\u2026", QKeySequence("Ctrl+,"), [this] { ShowSettings(); });
+}
+
+void MainCommands::Run(std::int32_t command)
+{
+    if (command == BuiltInCommand::Print) {
+        mOutlets.Print();
+    } else if (command == BuiltInCommand::Find) {
+        FocusSearch();
+    } else if (command == BuiltInCommand::Help) {
+        ShowGuide();
+    }
+}
+
+void MainCommands::FocusSearch()
+{
+    mWindow.Bar().SearchField().setFocus(Qt::ShortcutFocusReason);
+    mWindow.Bar().SearchField().selectAll();
+}
+
+void MainCommands::ShowGuide()
+{
+    mDesk.Do([this] {
+        const auto path = UserGuidePath(mDesk.Profile());
+        mDesk.Profile().Surroundings().shell->Open(path);
+        mWindow.Say("If no browser opens with the user guide: it is " + ToQt(path));
+    });
 }
 
 void MainCommands::ShowSettings()
@@ -81,6 +110,17 @@ void MainCommands::MakeViewActions()
             [this, view = view](bool) { mWindow.Show(view); });
     }
     mActions.AddLine(Menu);
+    using Span = DesktopSettings::ListSpan;
+    for (const auto& [span, text] : { std::pair(Span::Week, "List of a Week"),
+             std::pair(Span::Month, "List of a &Month"), std::pair(Span::Year, "List of a &Year") }) {
+        mActions.AddSwitch(
+            Menu, text, {}, [this, span = span] { return mDesk.Settings().listSpan == span; },
+            [this, span = span](bool) {
+                mDesk.Change([span](DesktopSettings& settings) { settings.listSpan = span; });
+                mWindow.Show(View::List);
+            });
+    }
+    mActions.AddLine(Menu);
     mActions.Add(Menu, "Zoom &In", QKeySequence::ZoomIn, [this] { mWindow.Agenda().Zoom(1); });
     mActions.Add(Menu, "Zoom &Out", QKeySequence::ZoomOut, [this] { mWindow.Agenda().Zoom(-1); });
     mActions.Add(Menu, "Zoom to &Fit", QKeySequence("Ctrl+0"), [this] { mWindow.Agenda().ZoomToFit(); });
@@ -94,6 +134,8 @@ void MainCommands::MakeViewActions()
     addSetting("Fold Short &Ones", "", &DesktopSettings::foldsShortOnes);
     addSetting("Hide &Titles", "Ctrl+Shift+H", &DesktopSettings::hidesTitles);
     addSetting("Side &Panel", "F9", &DesktopSettings::hasSidePanel);
+    mActions.Add(Menu, "&Next Pane", QKeySequence("F6"), [this] { mWindow.NextPane(1); });
+    mActions.Add(Menu, "P&revious Pane", QKeySequence("Shift+F6"), [this] { mWindow.NextPane(-1); });
     mActions.AddLine(Menu);
     using Look = DesktopSettings::Appearance;
     for (const auto& [look, text] :
@@ -118,6 +160,7 @@ void MainCommands::ShowMenu(const QPoint& place)
     QObject::connect(
         menu.addAction("Make a &Rule\u2026"), &QAction::triggered, &mWindow, [this] { mWindow.MakeRule(); });
     menu.addSeparator();
+    QObject::connect(menu.addAction("&Copy"), &QAction::triggered, &mWindow, [this] { mOutlets.Copy(); });
     QObject::connect(menu.addAction("&Delete"), &QAction::triggered, &mWindow, [this] { mWindow.DeleteSelected(); });
     menu.exec(place);
 }
@@ -175,6 +218,9 @@ bool MainCommands::TakeLetter(int key)
         return true;
     case Qt::Key_S:
         mWindow.Show(View::SortOut);
+        return true;
+    case Qt::Key_N:
+        mWindow.SetNewProject();
         return true;
     case Qt::Key_R:
         mWindow.MakeRule();

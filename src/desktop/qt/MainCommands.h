@@ -2,6 +2,7 @@
 
 #include "desktop/DesktopSettings.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/LogOutlets.h"
 #include "desktop/qt/WindowActions.h"
 
 class QKeyEvent;
@@ -19,6 +20,9 @@ public:
     MainCommands(MainWindow& window, Desk& desk);
 
     WindowActions& Actions() { return mActions; }
+    LogOutlets& Outlets() { return mOutlets; }
+    /// Does what a command of the host does that needs a window, told by its number.
+    void Run(std::int32_t command);
     /// Opens the menu of what is selected, at a point of the screen.
     void ShowMenu(const QPoint& place);
     /// Takes a key that no view wants; true when it means something.
@@ -30,10 +34,13 @@ private:
     void MakeActions();
     void MakeViewActions();
     void ShowSettings();
+    void FocusSearch();
+    void ShowGuide();
     bool TakeLetter(int key);
 
     MainWindow& mWindow;
     Desk& mDesk;
+    LogOutlets mOutlets;
     WindowActions mActions;
 };
 

@@ -2,13 +2,16 @@
 
 #include "desktop/ActivityWords.h"
 #include "desktop/DesktopStrings.h"
+#include "desktop/EastAsianLetters.h"
 #include "desktop/ViewDays.h"
 #include "desktop/WhyWords.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/ExampleProgram.h"
+#include "desktop/qt/ExampleRibbon.h"
 #include "desktop/qt/JobStrip.h"
 #include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/PaneWalk.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
@@ -21,6 +24,7 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QFontDatabase>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -35,6 +39,8 @@ namespace {
 constexpr QSize UsualSize(1440, 900);
 /// What the frame that a desktop draws takes of the screen.
 constexpr QSize RoomOfFrame(8, 40);
+/// The days before today whose week an example shows, so that some of its work is seen on every day of the week.
+constexpr int ExampleDaysBack = 3;
 /// Below it the side panel gives way to the days.
 constexpr int LeastWidthWithPanel = 900;
 /// The days whose activities say which projects are likely.
@@ -54,7 +60,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     , mDoings(desk.Session())
     , mLog([&desk](const Period& days) { return ActivitiesTouching(desk.Profile(), days); })
     , mView(desk.Settings().view)
-    , mDay(desk.Now().Day())
+    , mDay(ExampleProgram::Is(desk.Profile()) ? desk.Now().Day().AddDays(-ExampleDaysBack) : desk.Now().Day())
     , mBar(new NavigationBar(desk, this))
     , mCommands(*this, desk)
     , mSearch(desk)
@@ -62,14 +68,21 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
 {
     setWindowTitle(ProductName);
     mLog.Colour(desk.Settings().colours);
-    mLog.Show(DaysOfView(mView, mDay, mDesk.WeekStart()));
+    mRead = desk.Log().Count();
+    mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
     Assemble();
     Connect();
     ConnectAgenda();
     ConnectOthers();
     mMenu = std::make_unique<MainMenu>(desk, mExplorer, *menuBar(), mBar->Buttons(), mCommands.Actions().All());
     mEvents = desk.Subscribe({ .Changed = [this] { Follow(); },
-        .Restyled = [this] { Follow(); },
+        .Restyled =
+            [this] {
+                mIsDrawn = false;
+                // The week may begin with another day.
+                mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
+                Follow();
+            },
         .Failed = [this](const std::string& message) { mFoot->Say(ToQt(message)); } });
     FollowLog();
     const auto& settings = desk.Settings();
@@ -103,6 +116,11 @@ void MainWindow::Assemble()
     mPages->addWidget(mWelcome);
     mJob = new JobStrip(mDesk, content);
     middle->addWidget(mPages, 1);
+    if (ExampleProgram::Is(mDesk.Profile())) {
+        mRibbon = new ExampleRibbon(mDesk.Look(), content);
+        mRibbon->mRemove = [this] { mRemoveExample(); };
+        layout->addWidget(mRibbon);
+    }
     layout->addWidget(mBar);
     layout->addLayout(middle, 1);
     layout->addWidget(mJob);
@@ -111,78 +129,6 @@ void MainWindow::Assemble()
     constexpr int Minute = 60000;
     mClock->start(Minute);
     connect(mClock, &QTimer::timeout, this, [this] { mAgenda->FollowClock(); });
-}
-
-void MainWindow::Connect()
-{
-    mBar->mPage = [this](int pages) { Page(pages); };
-    mBar->mGoToToday = [this] { GoToToday(); };
-    mBar->mShow = [this](View view) { Show(view, mDay); };
-    mBar->mSearch = [this](const QString& words) {
-        mSearch.End();
-        mLog.Search(SearchTerms(FromQt(words)));
-        FollowLog();
-    };
-    mBar->mSearchAll = [this] { SearchAll(); };
-    mSearch.mWhenFound = [this] { FollowLog(); };
-    mSide->Month().mGoTo = [this](Date day) { Show(mView, day); };
-    mSide->Projects().mShowOnly = [this](const auto& names) { mAgenda->ShowOnly(names); };
-    mSide->Projects().mSortOut = [this] { Show(View::SortOut, mDay); };
-    mFoot->mWishes = { .setProject = [this](const std::string& project) { SetProject(project); },
-        .makeRule = [this] { MakeRule(); },
-        .askWhy = [this] { AskWhy(); },
-        .open = [this] { OpenSelected(); },
-        .remove = [this] { DeleteSelected(); },
-        .sortOut = [this] { Show(View::SortOut, mDay); },
-        .showSettings = [this] { mDesk.Do([this] { mDesk.Session().AddIn().ShowSettingsForm("", nullptr); }); } };
-}
-
-void MainWindow::ConnectAgenda()
-{
-    auto& wishes = mAgenda->mWishes;
-    wishes.select = [this](const Numbers& numbers) { Select(numbers); };
-    wishes.open = [this](std::int64_t number) { mDesk.Do([&] { mDoings.Open(number); }); };
-    wishes.move = [this](std::int64_t number, const TimeSpan& times) {
-        bool isMoved = true;
-        mDesk.Do([&] { isMoved = mDoings.Move(number, times); });
-        if (!isMoved) {
-            mFoot->Say("It stays where it was, since its move was refused.");
-        }
-    };
-    wishes.create = [this](const TimeSpan& times) { mDesk.Do([&] { mDoings.Create(times); }); };
-    wishes.drop = [this](const QPoint& place) {
-        if (const auto project = mSide->Projects().ProjectAt(place)) {
-            SetProject(*project);
-        }
-    };
-    wishes.menu = [this](const QPoint& place) { mCommands.ShowMenu(place); };
-    wishes.key = [this](QKeyEvent& event) { return mCommands.TakeKey(event); };
-    wishes.say = [this](const QString& text) { mFoot->Say(text); };
-    wishes.chooseProject = [this] { mFoot->ShowAllProjects(); };
-    wishes.remove = [this] { DeleteSelected(); };
-    wishes.followLink = [this] {
-        if (const auto last = LastStartBefore(mDesk.Profile(), mLog.Days().first)) {
-            Show(mView, last->Day());
-        }
-    };
-    mAgenda->Head().mWhenChosen
-        = [this](std::size_t day) { Show(View::Day, mLog.Days().first.AddDays(static_cast<int>(day))); };
-}
-
-void MainWindow::ConnectOthers()
-{
-    const auto select = [this](const Numbers& numbers) { Select(numbers); };
-    const auto open = [this](std::int64_t number) { mDesk.Do([&] { mDoings.Open(number); }); };
-    const auto key = [this](QKeyEvent& event) { return mCommands.TakeKey(event); };
-    mList->mWishes = {
-        .select = select, .open = open, .menu = [this](const QPoint& place) { mCommands.ShowMenu(place); }, .key = key
-    };
-    mWelcome->mOpenFolder
-        = [this](const std::string& path) { mDesk.Do([&] { mDesk.Profile().Surroundings().shell->Open(path); }); };
-    mWelcome->mShowExample = [this] { mDesk.Do([this] { ExampleProgram::Open(mDesk.Profile()); }); };
-    mSortOut->mSelect = select;
-    mSortOut->mOpen = open;
-    mSortOut->mKey = key;
 }
 
 void MainWindow::SearchAll()
@@ -204,7 +150,8 @@ void MainWindow::Show(View view, Date day)
     const bool isOther = view != mView;
     mSearch.End();
     mDesk.Do([&] {
-        mLog.Show(DaysOfView(view, day, mDesk.WeekStart()));
+        mLog.Show(DaysOfView(view, mDesk.Settings().listSpan, day, mDesk.WeekStart()));
+        mIsDrawn = false;
         mView = view;
         mDay = day;
         mDesk.Remember([view](DesktopSettings& settings) { settings.view = view; });
@@ -223,7 +170,7 @@ void MainWindow::GoToToday()
 
 void MainWindow::Page(int pages)
 {
-    Show(mView, PagedDay(mView, mDay, pages));
+    Show(mView, PagedDay(mView, mDesk.Settings().listSpan, mDay, pages));
 }
 
 void MainWindow::GoToDate()
@@ -256,6 +203,32 @@ void MainWindow::SetProject(const std::string& project)
     if (!mSelected.empty()) {
         mDesk.Do([&] { mDoings.SetProject(*mExplorer, project); });
     }
+}
+
+void MainWindow::SetNewProject()
+{
+    if (mSelected.empty()) {
+        return;
+    }
+    bool isDone = false;
+    const auto name
+        = QInputDialog::getText(this, "New Project", "Name of the project:", QLineEdit::Normal, "", &isDone);
+    if (isDone && !name.trimmed().isEmpty()) {
+        mDesk.Do([&] {
+            mDoings.AddProject(FromQt(name.trimmed()));
+            mDoings.SetProject(*mExplorer, FromQt(name.trimmed()));
+        });
+    }
+}
+
+void MainWindow::NextPane(int step)
+{
+    FocusNextPane({ mBar, mSide, mPages->currentWidget(), mFoot }, step);
+}
+
+void MainWindow::Say(const QString& text)
+{
+    mFoot->Say(text);
 }
 
 void MainWindow::DeleteSelected()
@@ -300,7 +273,7 @@ void MainWindow::MakeRule()
     }
     const auto& likely = mFoot->Projects();
     const auto project = IsUnassigned(selected.front()) && !likely.empty() ? likely.front() : selected.front().project;
-    mDesk.Do([&] { mDesk.Session().AddIn().ShowSettingsForm(project, nullptr); });
+    mDesk.Do([&] { mDoings.ShowRules(project); });
 }
 
 void MainWindow::OpenSelected()
@@ -326,11 +299,25 @@ void MainWindow::Follow()
     if (mExplorer->IsGone()) {
         return;
     }
-    mLog.Colour(mDesk.Settings().colours);
-    mLog.Read();
+    ReadChanges();
     // The product may have selected something else, as by going to another folder.
     mSelected = SelectedNumbers(*mExplorer);
-    FollowLog();
+    if (mIsDrawn) {
+        FollowModel();
+    } else {
+        mLog.Colour(mDesk.Settings().colours);
+        FollowLog();
+    }
+}
+
+void MainWindow::ReadChanges()
+{
+    const auto count = mDesk.Log().Count();
+    if (mDesk.Log().HasChanged(mRead, mLog.Days(), mLog.All())) {
+        mIsDrawn = false;
+        mLog.Read();
+    }
+    mRead = count;
 }
 
 void MainWindow::FollowLog()
@@ -339,9 +326,41 @@ void MainWindow::FollowLog()
     const auto days = ToQt(words.PeriodTitle(mLog.Days()));
     mBar->Follow(days, ToQt(ActivityWords::WeekTitle(mLog.Days())), mView, mLog.UnassignedMinutes());
     const auto isNow = mDesk.Now().Day() >= mLog.Days().first && mDesk.Now().Day() <= mLog.Days().last;
-    mSide->Follow(!isNow ? days : (mLog.DayCount() == 1 ? QString("Today") : QString("This week")));
+    mIsDrawn = true;
     mAgenda->Follow();
     FollowPages();
+    constexpr int DaysOfWeek = 7;
+    auto title = days;
+    if (isNow && mLog.DayCount() == 1) {
+        title = "Today";
+    } else if (isNow && mLog.DayCount() == DaysOfWeek) {
+        title = "This week";
+    }
+    mSide->Follow(title);
+    FollowModel();
+    SeeToFonts();
+}
+
+void MainWindow::SeeToFonts()
+{
+    if (mKnowsFonts || !HoldEastAsianLetters(mLog.All())) {
+        return;
+    }
+    mKnowsFonts = true;
+    const auto hasFont = [](QFontDatabase::WritingSystem system) { return !QFontDatabase::families(system).isEmpty(); };
+    if (!hasFont(QFontDatabase::SimplifiedChinese) && !hasFont(QFontDatabase::Japanese)
+        && !hasFont(QFontDatabase::Korean)) {
+        Say("Some titles can't be drawn: install a font for Chinese, Japanese and Korean, such as fonts-noto-cjk, and "
+            "start again.");
+    }
+}
+
+void MainWindow::FollowModel()
+{
+    if (mPages->currentWidget() == mWelcome && !IsNew()) {
+        FollowPages();
+    }
+    mSide->Month().Follow(mLog.Days());
     FollowSelection();
     mJob->Follow();
     ShowSidePanel();
@@ -399,9 +418,18 @@ void MainWindow::FollowSelection()
             hasFewProjects ? NoProjectsYetHelp : "", hasFewProjects);
         return;
     }
+    mFoot->Show(selected, LikelyProjects(mDoings.Projects(), selected, PastActivities()));
+}
+
+const std::vector<Activity>& MainWindow::PastActivities()
+{
     const auto today = mDesk.Now().Day();
-    const Period past { today.AddDays(-DaysLookedBack), today };
-    mFoot->Show(selected, LikelyProjects(mDoings.Projects(), selected, ActivitiesStartingIn(mDesk.Profile(), past)));
+    const std::pair now(mDesk.Log().Count(), today);
+    if (mPastRead != now) {
+        mPast = ActivitiesStartingIn(mDesk.Profile(), { today.AddDays(-DaysLookedBack), today });
+        mPastRead = now;
+    }
+    return mPast;
 }
 
 void MainWindow::ShowEmpty()

@@ -11,9 +11,12 @@
 
 #include <QMainWindow>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QStackedWidget;
@@ -23,6 +26,7 @@ namespace tempodial {
 
 class ActivityList;
 class AgendaView;
+class ExampleRibbon;
 class JobStrip;
 class NavigationBar;
 class SelectionBar;
@@ -40,6 +44,9 @@ public:
     MainWindow(Desk& desk, Ref<HostExplorer> explorer);
     ~MainWindow() override;
 
+    /// A person wants the example to go that is shown.
+    std::function<void()> mRemoveExample;
+
     NavigationBar& Bar() { return *mBar; }
     SidePanel& Side() { return *mSide; }
     SelectionBar& Foot() { return *mFoot; }
@@ -48,6 +55,8 @@ public:
     SortOutView& SortOut() { return *mSortOut; }
     JobStrip& Job() { return *mJob; }
     WelcomePage& Welcome() { return *mWelcome; }
+    /// The ribbon of an example; null above a real log.
+    ExampleRibbon* Ribbon() { return mRibbon; }
     const ShownLog& Log() const { return mLog; }
     const Numbers& Selected() const { return mSelected; }
 
@@ -73,6 +82,16 @@ public:
     void MakeRule();
     /// Opens what has the focus, or the one that is selected.
     void OpenSelected();
+    /// Sets a project that a person names on what is selected, and puts it on the list.
+    void SetNewProject();
+    /// Gives the focus to the next part of the window, or to the one before.
+    void NextPane(int step);
+    /// Says something at the foot.
+    void Say(const QString& text);
+    MainCommands& Commands() { return mCommands; }
+    /// What is shown: the days, or what a search has found.
+    const std::vector<Activity>& ShownActivities() const;
+    std::vector<Activity> SelectedActivities() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -87,15 +106,21 @@ private:
     /// True while there is neither an activity nor a tracker's file.
     bool IsNew() const;
     void SearchAll();
-    /// What is shown: the days, or what a search has found.
-    const std::vector<Activity>& ShownActivities() const;
     /// The model has changed, or how things look.
     void Follow();
+    /// Reads the log again when what is shown has changed.
+    void ReadChanges();
+    /// What is shown of the log has changed, or how it looks.
     void FollowLog();
+    /// Anything else may have changed.
+    void FollowModel();
     void FollowSelection();
     void ShowEmpty();
+    /// Says so when letters are shown for which there is no font.
+    void SeeToFonts();
     void ShowSidePanel();
-    std::vector<Activity> SelectedActivities() const;
+    /// The activities by which projects are likely.
+    const std::vector<Activity>& PastActivities();
 
     Desk& mDesk;
     Ref<HostExplorer> mExplorer;
@@ -104,6 +129,16 @@ private:
     View mView;
     Date mDay;
     Numbers mSelected;
+    /// The change of the log up to which it was read.
+    std::int64_t mRead = 0;
+    /// The windows show what was read.
+    bool mIsDrawn = false;
+    /// It was looked whether there are fonts for what is shown, as far as that needs any.
+    bool mKnowsFonts = false;
+    /// The activities before today, as they were at a change of the log.
+    std::vector<Activity> mPast;
+    std::optional<std::pair<std::int64_t, Date>> mPastRead;
+    ExampleRibbon* mRibbon = nullptr;
     NavigationBar* mBar;
     SidePanel* mSide = nullptr;
     SelectionBar* mFoot = nullptr;

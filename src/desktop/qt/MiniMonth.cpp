@@ -71,6 +71,9 @@ void MiniMonth::Page(int months)
 void MiniMonth::Read()
 {
     mFirst = Period::WeekOf(mMonth, mDesk.WeekStart()).first;
+    if (const std::pair now(mDesk.Log().Count(), mFirst); std::exchange(mRead, now) == now) {
+        return;
+    }
     const Period days { mFirst, mFirst.AddDays(Weeks * DaysOfWeek - 1) };
     mMinutes
         = Totals::Of(EachStartingIn(mDesk.Profile(), days), RowKind::Project, ColumnsOf(days, ColumnSize::Day, nullptr))

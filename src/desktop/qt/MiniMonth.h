@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace tempodial {
@@ -55,6 +56,8 @@ private:
     Date mCursor;
     /// Minutes of each day.
     std::vector<std::int64_t> mMinutes;
+    /// The change of the log up to which they were read, and from which day on.
+    std::pair<std::int64_t, Date> mRead { -1, {} };
 };
 
 }

@@ -5,7 +5,7 @@
 #include "desktop/qt/BrowserPages.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ReportDocument.h"
-#include "host/files/ReplacementFile.h"
+#include "desktop/qt/SavedFile.h"
 #include "host/system/GMimeDraftWriter.h"
 
 #include <QApplication>
@@ -187,10 +187,7 @@ void ReportWindow::Save(Form form, const std::string& path)
     } else {
         throw Failure(Error::InvalidCall, "No table is attached to this report");
     }
-    ReplacementFile file(NativePath::Exactly(path));
-    file.Write(content);
-    file.TakeUsualMode();
-    file.Commit();
+    SaveFile(path, content);
 }
 
 void ReportWindow::Copy()

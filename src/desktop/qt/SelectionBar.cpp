@@ -4,7 +4,7 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/FlatButton.h"
 #include "desktop/qt/QtText.h"
-#include "terminal/TerminalText.h"
+#include "desktop/qt/ShownLine.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -95,15 +95,15 @@ void SelectionBar::Show(const std::vector<Activity>& selected, std::vector<std::
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
     const bool isOne = selected.size() == 1;
-    mTitleText = isOne ? ToQt(IsolatedLine(words.Title(selected.front()))) : ToQt(ActivityWords::Summary(selected));
-    mPlainText = isOne ? ToQt(IsolatedLine(words.Summary(selected.front()))) : QString();
+    mTitleText = isOne ? ShownLine(words.Title(selected.front())) : ToQt(ActivityWords::Summary(selected));
+    mPlainText = isOne ? ShownLine(words.Summary(selected.front())) : QString();
     Forget(selected);
     mProjects = std::move(projects);
     for (std::size_t i = 0; i < Chips; ++i) {
         auto& chip = *mChips[i];
         chip.setVisible(i < mProjects.size());
         if (i < mProjects.size()) {
-            chip.setText(ToQt(IsolatedLine(mProjects[i])).replace("&", "&&"));
+            chip.setText(ShownLine(mProjects[i]).replace("&", "&&"));
             chip.SetBeside({ .mark = ToQt(mDesk.StyleOf(Coloured::Project, mProjects[i]).colours.mark),
                 .hint = QString::number(i + 1) });
             chip.setAccessibleName("Set project " + ToQt(mProjects[i]));
@@ -162,7 +162,7 @@ void SelectionBar::ShowTexts()
     mText->setPalette(quiet);
     const auto cut = [](QLabel* label, const QString& text) {
         label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideRight, label->width()));
-        label->setToolTip(text);
+        label->setToolTip(PlainToolTip(text));
         label->setAccessibleName(text);
     };
     cut(mTitle, mTitleText);
@@ -179,16 +179,17 @@ void SelectionBar::FillMenu(QMenu& menu) const
 {
     constexpr std::size_t Keys = 9;
     for (std::size_t i = 0; i < mProjects.size(); ++i) {
-        auto text = ToQt(IsolatedLine(mProjects[i])).replace("&", "&&");
+        auto text = ShownLine(mProjects[i]).replace("&", "&&");
         if (i < Keys) {
             text += "\t" + QString::number(i + 1);
         }
         connect(menu.addAction(text), &QAction::triggered, this,
             [this, project = mProjects[i]] { mWishes.setProject(project); });
     }
-    if (mProjects.empty()) {
-        menu.addAction("There is no project yet")->setEnabled(false);
+    if (!mProjects.empty()) {
+        menu.addSeparator();
     }
+    connect(menu.addAction("&New Project\u2026\tN"), &QAction::triggered, this, [this] { mWishes.setNewProject(); });
 }
 
 void SelectionBar::ShowAllProjects()

@@ -25,6 +25,7 @@ public:
     struct Wishes
     {
         std::function<void(const std::string& project)> setProject;
+        std::function<void()> setNewProject;
         std::function<void()> makeRule;
         std::function<void()> askWhy;
         std::function<void()> open;

@@ -1,10 +1,16 @@
 #include "desktop/qt/SettingsDialog.h"
 
+#include "desktop/qt/QtText.h"
+#include "session/KnownLocale.h"
+#include "terminal/TerminalText.h"
+
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDBusConnection>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSystemTrayIcon>
 
@@ -13,6 +19,8 @@ namespace tempodial {
 namespace {
 
 constexpr auto TrayText = "&Keep running in the tray when the last window closes";
+constexpr auto NoBusText = "No session bus is there, so the program can't hear when the desktop becomes dark or light: "
+                           "choose an appearance here, or start it within a desktop session.";
 constexpr auto NoTrayText = "This desktop has no tray now, so closing the last window quits.";
 
 template <class Value> int Position(Value value)
@@ -36,6 +44,13 @@ SettingsDialog::SettingsDialog(Desk& desk, Autostart autostart, QWidget* parent)
     mColours = AddChoice(*layout, "colours",
         "&Colours:", { "By project, by application while few have one", "By project", "By application" },
         Position(settings.colours));
+    mFirstDay = AddChoice(*layout, "first-day", "&Week begins on:", { "As the locale", "Monday", "Saturday", "Sunday" },
+        Position(settings.firstDay));
+    mLocale = new QLineEdit(ToQt(settings.locale), this);
+    mLocale->setObjectName("locale");
+    mLocale->setPlaceholderText("As the system");
+    mLocale->setToolTip("A locale such as en_GB or de_DE; it takes effect when the program starts again.");
+    layout->addRow("&Dates and times as in:", mLocale);
     mHidesTitles = AddCheck(*layout, "hide-titles", "&Hide titles", settings.hidesTitles);
     mFoldsShortOnes = AddCheck(*layout, "fold-short", "&Fold short ones", settings.foldsShortOnes);
     mHasLetterKeys = AddCheck(*layout, "letter-keys", "Single &letters choose views", settings.hasLetterKeys);
@@ -46,9 +61,10 @@ SettingsDialog::SettingsDialog(Desk& desk, Autostart autostart, QWidget* parent)
     mStartsHidden->setEnabled(settings.hasTray);
     connect(mHasTray, &QCheckBox::toggled, mStartsHidden, &QWidget::setEnabled);
     if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        auto* hint = new QLabel(NoTrayText, this);
-        hint->setWordWrap(true);
-        layout->addRow(hint);
+        AddHint(*layout, NoTrayText);
+    }
+    if (!QDBusConnection::sessionBus().isConnected()) {
+        AddHint(*layout, NoBusText);
     }
     auto* buttons
         = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, this);
@@ -56,6 +72,13 @@ SettingsDialog::SettingsDialog(Desk& desk, Autostart autostart, QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { Apply(); });
     layout->addRow(buttons);
+}
+
+void SettingsDialog::AddHint(QFormLayout& layout, const char* text)
+{
+    auto* hint = new QLabel(text, this);
+    hint->setWordWrap(true);
+    layout.addRow(hint);
 }
 
 QComboBox* SettingsDialog::AddChoice(
@@ -80,9 +103,17 @@ QCheckBox* SettingsDialog::AddCheck(QFormLayout& layout, const char* name, const
 
 bool SettingsDialog::Apply()
 {
-    mDesk.Change([this](DesktopSettings& settings) {
+    const auto locale = FromQt(mLocale->text().trimmed());
+    if (!locale.empty() && !IsKnownLocale(locale)) {
+        mDesk.Fail("There is no locale " + InQuotes(locale) + ": give one such as en_GB or de_DE, or none.");
+        mLocale->setFocus();
+        return false;
+    }
+    mDesk.Change([this, &locale](DesktopSettings& settings) {
         settings.appearance = static_cast<DesktopSettings::Appearance>(mAppearance->currentIndex());
         settings.colours = static_cast<ColourChoice>(mColours->currentIndex());
+        settings.firstDay = static_cast<DesktopSettings::FirstDay>(mFirstDay->currentIndex());
+        settings.locale = locale;
         settings.hidesTitles = mHidesTitles->isChecked();
         settings.foldsShortOnes = mFoldsShortOnes->isChecked();
         settings.hasLetterKeys = mHasLetterKeys->isChecked();

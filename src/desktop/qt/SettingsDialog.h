@@ -9,6 +9,7 @@ class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QLineEdit;
 
 namespace tempodial {
 
@@ -25,6 +26,7 @@ public:
 private:
     QComboBox* AddChoice(
         QFormLayout& layout, const char* name, const char* label, const QStringList& words, int chosen);
+    void AddHint(QFormLayout& layout, const char* text);
     QCheckBox* AddCheck(QFormLayout& layout, const char* name, const char* text, bool isOn);
     /// Takes over what was chosen; false when some of it couldn't be kept, which is told.
     bool Apply();
@@ -33,6 +35,8 @@ private:
     Autostart mAutostart;
     QComboBox* mAppearance;
     QComboBox* mColours;
+    QComboBox* mFirstDay;
+    QLineEdit* mLocale;
     QCheckBox* mHidesTitles;
     QCheckBox* mFoldsShortOnes;
     QCheckBox* mHasLetterKeys;

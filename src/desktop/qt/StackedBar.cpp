@@ -22,13 +22,15 @@ void StackedBar::Paint(QPainter& painter, const QRectF& box) const
         const auto width = box.width() * static_cast<double>(part.minutes) / static_cast<double>(scale);
         // A hair between two parts, so that neighbours of like colours stay two.
         const QRectF place(x, box.y(), width > 2 ? width - 1 : width, box.height());
-        if (part.isOutline) {
+        if (!part.isOutline) {
+            painter.fillRect(place, part.mark);
+        }
+        // A pattern may be too fine to be seen without its outline.
+        if (part.isOutline || part.mark.style() != Qt::SolidPattern) {
             painter.setBrush(Qt::NoBrush);
             painter.setPen(QPen(part.mark.color(), 1));
             painter.drawRect(place.adjusted(0.5, 0.5, -0.5, -0.5));
             painter.setPen(Qt::NoPen);
-        } else {
-            painter.fillRect(place, part.mark);
         }
         x += width;
     }

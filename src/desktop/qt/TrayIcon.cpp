@@ -1,6 +1,7 @@
 #include "desktop/qt/TrayIcon.h"
 
 #include "desktop/qt/ProgramIcon.h"
+#include "desktop/qt/QtText.h"
 #include "session/ProductFacts.h"
 
 #include <QAction>
@@ -88,6 +89,13 @@ void TrayIcon::Show()
             }
         });
     mIcon->show();
+}
+
+void TrayIcon::Say(const std::string& text)
+{
+    if (IsShown()) {
+        mIcon->showMessage(ProductName, ToQt(text));
+    }
 }
 
 void TrayIcon::LosePatience()

@@ -22,6 +22,8 @@ public:
     /// The seconds that it waits for a tray.
     static constexpr int Patience = 10;
 
+    /// Says something while no window is seen; without the tray nobody hears it.
+    void Say(const std::string& text);
     QMenu& Menu() { return mMenu; }
     bool IsShown() const { return mIcon && mIcon->isVisible(); }
 

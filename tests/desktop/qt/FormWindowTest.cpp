@@ -1,6 +1,7 @@
 #include "desktop/qt/FormWindow.h"
 
 #include "DesktopFixture.h"
+#include "desktop/qt/EffectPane.h"
 #include "desktop/qt/FormView.h"
 #include "engine/core/TempodialMain.h"
 #include "forms/ComboBoxModel.h"
@@ -8,6 +9,7 @@
 #include "platform/controls/CheckBox.h"
 #include "platform/controls/OptionButton.h"
 #include "platform/controls/TextBox.h"
+#include "review/ActivityReader.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -20,6 +22,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTreeView>
 #include <algorithm>
 
 namespace tempodial {
@@ -36,7 +39,7 @@ protected:
     FormWindow& WindowOf(const char* className) { return *mWindows->WindowOf(Shown(className)); }
     FormWindow& ShowSettings(const std::string& project = "")
     {
-        mDesk->Do([&] { mDesk->Session().AddIn().ShowSettingsForm(project, nullptr); });
+        mDesk->Do([&] { LogDoings(mDesk->Session()).ShowRules(project); });
         return WindowOf("ProjectSettingsForm");
     }
     FormWindow& Make(const FormDefinition& definition)
@@ -234,6 +237,55 @@ TEST_F(FormWindowTest, SeveralLines_Typed_BeginsAnotherLineByEnter)
     QTest::keyClick(&text, Qt::Key_Return);
     QTest::keyClicks(&text, "two");
     EXPECT_EQ(mMade->Control("Text").As<TextBox>()->Text(), "one\ntwo");
+}
+
+TEST_F(FormWindowTest, ProjectSettings_RuleTyped_ListsWhatItWouldChangeAndThenChangesIt)
+{
+    AddWeek();
+    Add("", "river plan", "Writer", On(13, 7), On(13, 7, 30));
+    mDesk->Session().AddIn().UpdateorAddProject("Riverside", "", "", "", "2", false);
+    auto& window = ShowSettings("Riverside");
+    auto& pane = *window.Effect();
+    EXPECT_TRUE(pane.Effect()->Changes().empty());
+    QTest::keyClicks(&Find<QLineEdit>(window, "SubjectText"), "river plan");
+    ASSERT_EQ(pane.Effect()->Changes().size(), 1U);
+    EXPECT_EQ(pane.List().model()->rowCount(), 1);
+    EXPECT_EQ(pane.List().model()->index(0, 0).data().toString(), "river plan");
+    EXPECT_EQ(pane.List().model()->index(0, 2).data().toString(), "No Project");
+    const auto number = pane.Effect()->Changes().front().number;
+    Picture(window, "effect-pane");
+    Find<QCheckBox>(window, "ApplyPastCheck").click();
+    EXPECT_EQ(pane.Effect()->Title(), "Saving changes, in the last 7 days: 1 activity · 30 min");
+    QTest::mouseClick(&Find<QPushButton>(window, "SaveandCloseButton"), Qt::LeftButton);
+    EXPECT_EQ(ActivityNumbered(mDesk->Profile(), number)->project, "Riverside");
+}
+
+TEST_F(FormWindowTest, ProjectSettings_ActivityOpenedFromTheList_IsPassedOver)
+{
+    Add("", "river plan", "Writer", On(17, 7), On(17, 7, 30));
+    mDesk->Session().AddIn().UpdateorAddProject("Riverside", "river", "", "", "2", false);
+    auto& window = ShowSettings("Riverside");
+    auto& pane = *window.Effect();
+    ASSERT_EQ(pane.Effect()->Changes().size(), 1U);
+    pane.List().activated(pane.List().model()->index(0, 0));
+    EXPECT_EQ(mDesk->Windows().OpenInspectors().size(), 1U);
+    EXPECT_TRUE(pane.Effect()->Changes().empty());
+}
+
+TEST_F(FormWindowTest, ProjectSettings_SomethingSelected_OffersItsWordsForTheRule)
+{
+    Add("", "a, b", "Writer", On(17, 7), On(17, 7, 30));
+    mDesk->Session().AddIn().UpdateorAddProject("Riverside", "river", "", "", "2", false);
+    mDesk->Do([] {});
+    mMain.SelectAll();
+    auto& window = ShowSettings("Riverside");
+    const auto offers = window.Effect()->findChildren<QPushButton*>();
+    ASSERT_EQ(offers.size(), 2);
+    offers.front()->click();
+    EXPECT_EQ(Find<QLineEdit>(window, "SubjectText").text(), "river, \"a, b\"");
+    EXPECT_EQ(window.Effect()->Effect()->Changes().size(), 1U);
+    Settle();
+    EXPECT_EQ(window.Effect()->findChildren<QPushButton*>().size(), 1) << "what the rule has isn't offered";
 }
 
 TEST_F(FormWindowTest, ProductsForms_InAllColours_AreDrawnWhole)

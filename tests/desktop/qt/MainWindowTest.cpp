@@ -38,6 +38,33 @@ TEST_F(MainWindowTest, Opened_ShowsTheWeekOfToday)
     EXPECT_EQ(window.Agenda().Cards()[0].title, "Plan");
 }
 
+TEST_F(MainWindowTest, Log_ChangedElsewhereOnly_IsNotLaidOutAgain)
+{
+    Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10));
+    auto& window = Open();
+    mDesk->Do([] {});
+    const auto* scene = &window.Agenda().Scene();
+    mDesk->Do([] {});
+    EXPECT_EQ(scene, &window.Agenda().Scene());
+    mDesk->Do([this] { Add("Alpha", "Before", "Writer", On(1, 9), On(1, 10)); });
+    EXPECT_EQ(scene, &window.Agenda().Scene());
+    mDesk->Do([this] { Add("Alpha", "Now", "Writer", On(16, 9), On(16, 10)); });
+    EXPECT_NE(scene, &window.Agenda().Scene());
+    EXPECT_EQ(window.Agenda().Cards().size(), 2U);
+}
+
+TEST_F(MainWindowTest, ActivitiesCome_WhileItIsOpen_FirstOneStaysInSight)
+{
+    auto& window = Open();
+    for (int hour = 9; hour < 18; ++hour) {
+        mDesk->Do([&] { Add("Alpha", "Plan", "Writer", On(15, hour), On(15, hour, 10)); });
+    }
+    const auto& scene = window.Agenda().Scene();
+    const auto box = window.Agenda().InView(scene.Geometry().BoxOf(scene.Layout().Pieces().front()));
+    EXPECT_GE(box.top(), 0);
+    EXPECT_LT(box.bottom(), window.Agenda().viewport()->height());
+}
+
 TEST_F(MainWindowTest, ViewButton_Day_ShowsThatDayAlone)
 {
     Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10));

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QApplication>
+#include "desktop/qt/GuardedApplication.h"
+
 #include <array>
 #include <string>
 
 namespace tempodial {
 
 /// The application that all widgets need, made once, on a screen in memory, with the same fonts on every machine.
-inline QApplication& OffscreenApplication()
+inline GuardedApplication& OffscreenApplication()
 {
     static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen")
         && qputenv("FONTCONFIG_FILE", TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/fonts.conf");
@@ -15,7 +16,7 @@ inline QApplication& OffscreenApplication()
     static std::string name = "tests";
     static std::array<char*, 2> values { name.data(), nullptr };
     // Kept to the end of the process: what is static in the toolkit may outlive it no other way.
-    static auto* const application = isOffscreen ? new QApplication(count, values.data()) : nullptr;
+    static auto* const application = isOffscreen ? new GuardedApplication(count, values.data()) : nullptr;
     application->setQuitOnLastWindowClosed(false);
     return *application;
 }

@@ -1,10 +1,12 @@
 #include "desktop/qt/SettingsDialog.h"
 
 #include "DesktopFixture.h"
+#include "desktop/qt/SelectionBar.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -45,6 +47,31 @@ TEST_F(SettingsDialogTest, Ok_TakesOverWhatWasChosenAndKeepsIt)
     EXPECT_NE(mFolder.Read("config/desktop.toml").find("appearance = \"dark\""), std::string::npos);
     Settle();
     EXPECT_TRUE(mDialog.isNull());
+}
+
+TEST_F(SettingsDialogTest, FirstDay_Chosen_IsShownAtOnce)
+{
+    auto& window = Open();
+    auto& dialog = Show();
+    EXPECT_EQ(window.Log().Days().first, On(13, 0));
+    qobject_cast<QComboBox*>(dialog.ControlOf("first-day"))->setCurrentText("Sunday");
+    QTest::mouseClick(&Button(QDialogButtonBox::Apply), Qt::LeftButton);
+    EXPECT_EQ(window.Log().Days().first, On(12, 0));
+}
+
+TEST_F(SettingsDialogTest, Locale_Unknown_IsRefusedWithWords)
+{
+    auto& window = Open();
+    auto& dialog = Show();
+    auto& locale = *qobject_cast<QLineEdit*>(dialog.ControlOf("locale"));
+    locale.setText("xx_nowhere");
+    QTest::mouseClick(&Button(QDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_TRUE(window.Foot().Said().startsWith("There is no locale \"xx_nowhere\""))
+        << window.Foot().Said().toStdString();
+    EXPECT_FALSE(mDialog.isNull());
+    locale.setText("de_DE");
+    QTest::mouseClick(&Button(QDialogButtonBox::Ok), Qt::LeftButton);
+    EXPECT_EQ(mDesk->Settings().locale, "de_DE");
 }
 
 TEST_F(SettingsDialogTest, Cancel_ChangesNothing)

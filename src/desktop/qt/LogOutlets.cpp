@@ -1,0 +1,83 @@
+#include "desktop/qt/LogOutlets.h"
+
+#include "desktop/ActivityWords.h"
+#include "desktop/qt/LogPage.h"
+#include "desktop/qt/MainWindow.h"
+#include "desktop/qt/QtText.h"
+#include "desktop/qt/SavedFile.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStandardPaths>
+
+namespace tempodial {
+
+namespace {
+
+constexpr auto TextEnding = ".txt";
+
+}
+
+LogOutlets::LogOutlets(MainWindow& window, Desk& desk)
+    : mWindow(window)
+    , mDesk(desk)
+{
+}
+
+QString LogOutlets::Title() const
+{
+    return ToQt(ActivityWords(mDesk.Formats(), mDesk.ShownTitles()).PeriodTitle(mWindow.Log().Days()));
+}
+
+ActivityTable LogOutlets::Table() const
+{
+    const auto selected = mWindow.SelectedActivities();
+    return { mDesk.Formats(), mDesk.ShownTitles(), selected.empty() ? mWindow.ShownActivities() : selected };
+}
+
+void LogOutlets::Print()
+{
+    const auto& shown = mWindow.ShownActivities();
+    const LogPage page(
+        Title(), ToQt(ActivityWords::Summary(shown)), ActivityTable(mDesk.Formats(), mDesk.ShownTitles(), shown));
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, &mWindow);
+    if (dialog.exec() == QDialog::Accepted) {
+        page.print(&printer);
+    }
+}
+
+void LogOutlets::Copy()
+{
+    const auto selected = mWindow.SelectedActivities();
+    if (selected.empty()) {
+        mWindow.Say("Nothing is selected: select what is to be copied, or all with Ctrl+A.");
+        return;
+    }
+    QGuiApplication::clipboard()->setText(ToQt(ActivityTable(mDesk.Formats(), mDesk.ShownTitles(), selected).Text()));
+    mWindow.Say("Copied: " + ToQt(ActivityWords::Summary(selected)));
+}
+
+void LogOutlets::AskWhereToExport()
+{
+    const auto folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const auto path = QFileDialog::getSaveFileName(
+        &mWindow, "Export", folder + "/" + Title().replace('/', '-') + ".csv", "Table (*.csv);;Text (*.txt)");
+    if (!path.isEmpty()) {
+        mDesk.Do([&] {
+            Export(FromQt(path));
+            mWindow.Say("Saved as " + path);
+        });
+    }
+}
+
+void LogOutlets::Export(const std::string& path) const
+{
+    const auto table = Table();
+    SaveFile(path, path.ends_with(TextEnding) ? table.Text() : table.Csv());
+}
+
+}

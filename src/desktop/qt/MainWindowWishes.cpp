@@ -1,0 +1,88 @@
+#include "desktop/qt/ActivityList.h"
+#include "desktop/qt/AgendaView.h"
+#include "desktop/qt/ExampleProgram.h"
+#include "desktop/qt/MainWindow.h"
+#include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/QtText.h"
+#include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/SidePanel.h"
+#include "desktop/qt/SortOutView.h"
+#include "desktop/qt/WelcomePage.h"
+#include "review/ActivityReader.h"
+
+namespace tempodial {
+
+void MainWindow::Connect()
+{
+    mBar->mPage = [this](int pages) { Page(pages); };
+    mBar->mGoToToday = [this] { GoToToday(); };
+    mBar->mShow = [this](View view) { Show(view, mDay); };
+    mBar->mSearch = [this](const QString& words) {
+        mSearch.End();
+        mLog.Search(SearchTerms(FromQt(words)));
+        FollowLog();
+    };
+    mBar->mSearchAll = [this] { SearchAll(); };
+    mSearch.mWhenFound = [this] { FollowLog(); };
+    mSide->Month().mGoTo = [this](Date day) { Show(mView, day); };
+    mSide->Projects().mShowOnly = [this](const auto& names) { mAgenda->ShowOnly(names); };
+    mSide->Projects().mSortOut = [this] { Show(View::SortOut, mDay); };
+    mFoot->mWishes = { .setProject = [this](const std::string& project) { SetProject(project); },
+        .setNewProject = [this] { SetNewProject(); },
+        .makeRule = [this] { MakeRule(); },
+        .askWhy = [this] { AskWhy(); },
+        .open = [this] { OpenSelected(); },
+        .remove = [this] { DeleteSelected(); },
+        .sortOut = [this] { Show(View::SortOut, mDay); },
+        .showSettings = [this] { mDesk.Do([this] { mDesk.Session().AddIn().ShowSettingsForm("", nullptr); }); } };
+}
+
+void MainWindow::ConnectAgenda()
+{
+    auto& wishes = mAgenda->mWishes;
+    wishes.select = [this](const Numbers& numbers) { Select(numbers); };
+    wishes.open = [this](std::int64_t number) { mDesk.Do([&] { mDoings.Open(number); }); };
+    wishes.move = [this](std::int64_t number, const TimeSpan& times) {
+        bool isMoved = true;
+        mDesk.Do([&] { isMoved = mDoings.Move(number, times); });
+        if (!isMoved) {
+            mFoot->Say("It stays where it was, since its move was refused.");
+        }
+    };
+    wishes.create = [this](const TimeSpan& times) { mDesk.Do([&] { mDoings.Create(times); }); };
+    wishes.drop = [this](const QPoint& place) {
+        if (const auto project = mSide->Projects().ProjectAt(place)) {
+            SetProject(*project);
+        }
+    };
+    wishes.menu = [this](const QPoint& place) { mCommands.ShowMenu(place); };
+    wishes.key = [this](QKeyEvent& event) { return mCommands.TakeKey(event); };
+    wishes.say = [this](const QString& text) { mFoot->Say(text); };
+    wishes.chooseProject = [this] { mFoot->ShowAllProjects(); };
+    wishes.remove = [this] { DeleteSelected(); };
+    wishes.followLink = [this] {
+        if (const auto last = LastStartBefore(mDesk.Profile(), mLog.Days().first)) {
+            Show(mView, last->Day());
+        }
+    };
+    mAgenda->Head().mWhenChosen
+        = [this](std::size_t day) { Show(View::Day, mLog.Days().first.AddDays(static_cast<int>(day))); };
+}
+
+void MainWindow::ConnectOthers()
+{
+    const auto select = [this](const Numbers& numbers) { Select(numbers); };
+    const auto open = [this](std::int64_t number) { mDesk.Do([&] { mDoings.Open(number); }); };
+    const auto key = [this](QKeyEvent& event) { return mCommands.TakeKey(event); };
+    mList->mWishes = {
+        .select = select, .open = open, .menu = [this](const QPoint& place) { mCommands.ShowMenu(place); }, .key = key
+    };
+    mWelcome->mOpenFolder
+        = [this](const std::string& path) { mDesk.Do([&] { mDesk.Profile().Surroundings().shell->Open(path); }); };
+    mWelcome->mShowExample = [this] { mDesk.Do([this] { ExampleProgram::Open(mDesk.Profile()); }); };
+    mSortOut->mSelect = select;
+    mSortOut->mOpen = open;
+    mSortOut->mKey = key;
+}
+
+}
