@@ -42,6 +42,16 @@ AgendaHit AgendaHits::At(double x, double y) const
     return hit;
 }
 
+Date AgendaHits::MomentNear(double x, double y) const
+{
+    const auto& geometry = mScene.geometry;
+    const auto last = mScene.layout.Days() - 1;
+    const auto isBeyond = x >= geometry.Column(last).Right();
+    const auto day = isBeyond ? last : geometry.DayAt(x).value_or(0);
+    const auto seconds = geometry.Scale().SecondAt(std::clamp(y, 0.0, geometry.Scale().DayHeight() - 1));
+    return mScene.firstDay.AddDays(day).AddSeconds(seconds);
+}
+
 PieceRange AgendaHits::Near(int day, double top, double bottom) const
 {
     // A piece may be drawn a little higher than its time.

@@ -58,6 +58,8 @@ public:
 
     /// What is under a point; what is drawn later lies above.
     AgendaHit At(double x, double y) const;
+    /// The moment under a point, or at that of the days which is nearest to it.
+    Date MomentNear(double x, double y) const;
     /// The activities that a box meets, each once, in the order of the list that was laid out.
     std::vector<std::size_t> ActivitiesIn(const PixelBox& box) const;
 

@@ -2,13 +2,14 @@
 
 namespace tempodial {
 
-AgendaScene::AgendaScene(const std::vector<Activity>& activities, const Period& days, const Place& place)
+AgendaScene::AgendaScene(
+    const std::vector<Activity>& activities, const std::vector<Activity>& all, const Period& days, const Place& place)
     : mActivities(activities)
     , mDays(days)
     , mLayout(activities, days)
     , mGeometry(place.scale, mLayout.Days(), place.left, place.width)
     , mRuns(ShortRunsOf(activities, mLayout, mGeometry))
-    , mGaps(AgendaGaps(activities, days))
+    , mGaps(AgendaGaps(all, days))
     , mLabelHeight(place.labelHeight)
 {
 }

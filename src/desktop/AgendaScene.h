@@ -28,7 +28,8 @@ public:
     };
 
     /// Takes activities in order of start, which must live as long as this.
-    AgendaScene(const std::vector<Activity>& activities, const Period& days, const Place& place);
+    AgendaScene(const std::vector<Activity>& activities, const std::vector<Activity>& all, const Period& days,
+        const Place& place);
     AgendaScene(const AgendaScene&) = delete;
     AgendaScene& operator=(const AgendaScene&) = delete;
 

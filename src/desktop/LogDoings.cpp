@@ -20,6 +20,26 @@ namespace {
 constexpr auto UndoName = "Undo";
 constexpr auto RedoName = "Redo";
 
+/// How many steps are looked through for what can be done again.
+constexpr std::int64_t MostSteps = 500;
+
+/// The number of the newest undo that holds, unless something else was done since; takes the steps newest first.
+std::optional<std::int64_t> UndoToTakeBack(const std::vector<Step>& steps)
+{
+    const auto isUndo = [&steps](std::int64_t number) {
+        return std::any_of(
+            steps.begin(), steps.end(), [number](const Step& step) { return step.number == number && step.undoes; });
+    };
+    for (const auto& step : steps) {
+        // What was taken back, and what took an undo back, are done with.
+        if (step.isTakenBack || (step.undoes && isUndo(*step.undoes))) {
+            continue;
+        }
+        return step.undoes ? std::optional(step.number) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
 std::string Sentence(const char* verb, const UndoneStep& undone)
 {
     auto text = std::string(verb) + ": " + undone.step.command + PartSeparator + ActivitiesText(undone.items.restored);
@@ -121,11 +141,11 @@ std::string LogDoings::Undo() const
 std::string LogDoings::Redo() const
 {
     Steps steps(mSession.Profile());
-    const auto newest = steps.Newest(1);
-    if (newest.empty() || !newest.front().undoes || newest.front().isTakenBack) {
+    const auto undo = UndoToTakeBack(steps.Newest(MostSteps));
+    if (!undo) {
         throw StepError("there is nothing to do again: the last thing done was no undo");
     }
-    return Sentence("Done again", steps.Undo(newest.front().number, RedoName));
+    return Sentence("Done again", steps.Undo(*undo, RedoName));
 }
 
 std::vector<std::string> LogDoings::Projects() const

@@ -51,6 +51,16 @@ TEST_F(AgendaHitsTest, At_Activity_IsItsBodyOrAnEdge)
     EXPECT_EQ(At(120, 570).index, 1U);
 }
 
+TEST_F(AgendaHitsTest, MomentNear_BesideTheDays_IsThatOfTheNearestPlace)
+{
+    EXPECT_EQ(mHits.MomentNear(60, 570), Moment(0, 570));
+    EXPECT_EQ(mHits.MomentNear(20, 570), Moment(0, 570));
+    EXPECT_EQ(mHits.MomentNear(-5, 570), Moment(0, 570));
+    EXPECT_EQ(mHits.MomentNear(900, 570), Moment(1, 570));
+    EXPECT_EQ(mHits.MomentNear(60, -10), Moment(0, 0));
+    EXPECT_EQ(mHits.MomentNear(60, 5000), Moment(0, 1439));
+}
+
 TEST_F(AgendaHitsTest, At_LowActivity_HasNoEdges)
 {
     EXPECT_EQ(At(160, 300).part, Part::Body);

@@ -90,7 +90,9 @@ void ActivityAccess::doAction(const QString& name)
             return;
         }
         view->setFocus();
-        view->SetFocusOn(piece);
+        if (piece < view->Scene().Layout().Pieces().size()) {
+            view->SetFocusOn(piece);
+        }
         view->mWishes.select({ number });
         if (name == SetProjectAction) {
             view->mWishes.chooseProject();

@@ -27,9 +27,36 @@ AgendaAccess::AgendaAccess(AgendaView& view)
 
 AgendaAccess::~AgendaAccess()
 {
+    Forget();
+}
+
+void AgendaAccess::Follow()
+{
+    auto shown = Shown();
+    if (shown == mPieces) {
+        return;
+    }
+    mPieces = std::move(shown);
+    Forget();
+    QAccessibleEvent event(this, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&event);
+}
+
+AgendaAccess::Pieces AgendaAccess::Shown() const
+{
+    Pieces shown;
+    for (const auto& piece : View().Scene().Layout().Pieces()) {
+        shown.emplace_back(View().Scene().ActivityOf(piece).number, piece.day);
+    }
+    return shown;
+}
+
+void AgendaAccess::Forget()
+{
     for (const auto& [piece, id] : mChildren) {
         QAccessible::deleteAccessibleInterface(id);
     }
+    mChildren.clear();
 }
 
 AgendaView& AgendaAccess::View() const

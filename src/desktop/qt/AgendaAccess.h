@@ -3,6 +3,8 @@
 #include <QAccessibleWidget>
 #include <cstdint>
 #include <map>
+#include <utility>
+#include <vector>
 
 namespace tempodial {
 
@@ -20,6 +22,9 @@ public:
     /// Lets the toolkit know of all agendas.
     static void Install();
 
+    /// The agenda shows other activities: nothing that was asked for before stands for one of them any more.
+    void Follow();
+
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
@@ -27,10 +32,16 @@ public:
     QAccessibleInterface* focusChild() const override;
 
 private:
+    /// Activities by number and day.
+    using Pieces = std::vector<std::pair<std::int64_t, int>>;
+
     AgendaView& View() const;
+    Pieces Shown() const;
+    void Forget();
 
     /// The activities that were asked for, by their pieces.
     mutable std::map<int, QAccessible::Id> mChildren;
+    Pieces mPieces;
 };
 
 }

@@ -80,7 +80,8 @@ void AgendaMouse::PressOn(std::size_t piece, const QMouseEvent& event)
         }
     } else if (event.modifiers().testFlag(Qt::ShiftModifier) && mView.Focus()) {
         selected.clear();
-        const auto [first, last] = std::minmax(*mView.Focus(), piece);
+        const auto focus = *mView.Focus();
+        const auto [first, last] = std::minmax(focus, piece);
         for (auto i = first; i <= last; ++i) {
             selected.insert(mView.ActivityOf(i).number);
         }
@@ -145,8 +146,9 @@ void AgendaMouse::Drag(const QMouseEvent& event)
     }
     mView.viewport()->setCursor(PartOf(mHit) == DragGesture::Part::Whole ? Qt::ClosedHandCursor : Qt::SizeVerCursor);
     const auto isFine = event.modifiers().testFlag(Qt::ShiftModifier);
-    mTimes = mDrag->To(
-        HitAt(ScrolledTo(event.position())).moment, isFine ? DragGesture::Step::Fine : DragGesture::Step::Usual);
+    const auto place = mView.InScene(ScrolledTo(event.position()));
+    mTimes = mDrag->To(mView.Scene().Hits().MomentNear(place.x(), place.y()),
+        isFine ? DragGesture::Step::Fine : DragGesture::Step::Usual);
     mView.ShowGhost(mTimes, {});
     mView.SayTimes(*mTimes, mDrag->Before());
 }
@@ -205,7 +207,7 @@ void AgendaMouse::DoubleClick(const QMouseEvent& event)
     }
     if (IsOnPiece(hit)) {
         mView.mWishes.open(mView.ActivityOf(hit.index).number);
-    } else if (hit.part == AgendaHit::Part::Gap || hit.part == AgendaHit::Part::Free) {
+    } else if (hit.part == AgendaHit::Part::Gap || (hit.part == AgendaHit::Part::Free && !mView.HidesAny())) {
         mView.mWishes.create(hit.span);
     }
 }
@@ -237,7 +239,12 @@ bool AgendaMouse::Key(const QKeyEvent& event)
     if (event.key() != Qt::Key_Escape || !mHasMoved) {
         return false;
     }
+    const bool wasBand = !IsOnPiece(mHit);
     Forget();
+    if (wasBand) {
+        // The press has told that nothing is selected, unless it adds.
+        mView.ShowSelected(mKept);
+    }
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/qt/AgendaView.h"
 
+#include "desktop/qt/AgendaAccess.h"
 #include "desktop/qt/QtText.h"
 
 #include <QAccessible>
@@ -45,6 +46,7 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     verticalScrollBar()->setSingleStep(Step);
     mNote->setMargin(Margin);
     mNote->setTextFormat(Qt::RichText);
+    mNote->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     mNote->hide();
     connect(mNote, &QLabel::linkActivated, this, [this] { mWishes.followLink(); });
     TakeFont();
@@ -67,11 +69,16 @@ void AgendaView::Follow()
         // What it lists may be gone.
         mBubble->close();
     }
-    mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.Days(), Place());
+    mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.All(), mLog.Days(), Place());
     mContents.Fill();
     mGutter = mPainter.GutterFor(mContents.HourNames());
     Put();
     FindFocus();
+    if (QAccessible::isActive()) {
+        if (auto* access = dynamic_cast<AgendaAccess*>(QAccessible::queryAccessibleInterface(this))) {
+            access->Follow();
+        }
+    }
     if (mFitted != mLog.Days()) {
         Fit();
     }
@@ -86,16 +93,23 @@ void AgendaView::FollowClock()
 void AgendaView::FindFocus()
 {
     const auto& pieces = mScene->Layout().Pieces();
-    const auto found = std::find_if(pieces.begin(), pieces.end(),
-        [this](const AgendaPiece& piece) { return mScene->ActivityOf(piece).number == mFocusNumber; });
-    mFocus = found == pieces.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - pieces.begin()));
+    mFocus.reset();
+    for (std::size_t i = 0; i < pieces.size() && mFocusNumber; ++i) {
+        const bool isOfIt = mScene->ActivityOf(pieces[i]).number == *mFocusNumber;
+        // One that crosses midnight has a piece on each of its days.
+        if (isOfIt && (!mFocus || mLog.Days().first.AddDays(pieces[i].day) == mFocusDay)) {
+            mFocus = i;
+        }
+    }
 }
 
 TimeScale AgendaView::Scale() const
 {
     const auto zoom = mDesk.Settings().zoom;
     if (zoom != DesktopSettings::FittingZoom) {
-        return TimeScale(static_cast<double>(zoom) * Hundredth, devicePixelRatioF());
+        // Hundredths are kept, but many small steps of a touchpad must come to something.
+        const auto isExact = std::lround(mZoom / Hundredth) == zoom;
+        return TimeScale(isExact ? mZoom : static_cast<double>(zoom) * Hundredth, devicePixelRatioF());
     }
     const auto hours = mScene ? mScene->Layout().Hours(UsualHours) : UsualHours;
     return TimeScale::Fitting(hours, viewport()->height(), devicePixelRatioF());
@@ -139,6 +153,11 @@ void AgendaView::ScrollToFirst()
     const auto from = mScene->Layout().Hours(UsualHours).from;
     verticalScrollBar()->setValue(static_cast<int>(mScene->Scale().PlaceOf(from)));
     mFittedValue = verticalScrollBar()->value();
+}
+
+bool AgendaView::HidesAny() const
+{
+    return mLog.Activities().size() != mLog.All().size();
 }
 
 void AgendaView::ShowOnly(const std::set<std::string>& names)
@@ -251,6 +270,7 @@ void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
 {
     mFocus = piece;
     mFocusNumber = piece ? std::optional(ActivityOf(*piece).number) : std::nullopt;
+    mFocusDay = piece ? mLog.Days().first.AddDays(mScene->Layout().Pieces()[*piece].day) : Date();
     viewport()->update();
     if (!piece) {
         return;
@@ -288,6 +308,7 @@ void AgendaView::ApplyZoom(double pixelsPerMinute, double place)
 {
     const auto before = mScene->Scale();
     const auto scroll = verticalScrollBar()->value();
+    mZoom = pixelsPerMinute;
     mDesk.RememberSoon([pixelsPerMinute](DesktopSettings& settings) {
         settings.zoom = pixelsPerMinute == 0 ? DesktopSettings::FittingZoom : std::lround(pixelsPerMinute / Hundredth);
     });

@@ -65,6 +65,8 @@ public:
     /// The activities of those numbers are selected.
     void ShowSelected(const Numbers& numbers);
     const Numbers& Selected() const { return mSelected; }
+    /// True when a search leaves some of the days' activities out.
+    bool HidesAny() const;
     /// Only the activities with those names of what gives them their colour are shown in full; none for all.
     void ShowOnly(const std::set<std::string>& names);
     /// Says in the middle why there is nothing, with the step that helps; nothing ends it.
@@ -144,6 +146,9 @@ private:
     std::optional<std::size_t> mFocus;
     /// The activity whose piece it is, by which it is found again when the log has changed.
     std::optional<std::int64_t> mFocusNumber;
+    Date mFocusDay;
+    /// Pixels a minute as they were set last; 0 when they weren't.
+    double mZoom = 0;
     std::optional<TimeSpan> mGhost;
     QRectF mBand;
     AgendaMouse mMouse { *this };

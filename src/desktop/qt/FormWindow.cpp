@@ -77,11 +77,12 @@ void FormWindow::reject()
 
 void FormWindow::closeEvent(QCloseEvent* event)
 {
-    // The model says whether the window goes.
-    event->ignore();
     if (const auto form = mForm.lock(); form && form->Visible()) {
         mDesk.Do([&] { form->CloseByFrame(); });
     }
+    // The model says whether the window goes.
+    const auto form = mForm.lock();
+    event->setAccepted(!form || !form->Visible());
 }
 
 }

@@ -62,7 +62,7 @@ HostWindows::~HostWindows()
 void HostWindows::Follow()
 {
     const auto& explorers = mDesk.Windows().OpenExplorers();
-    const bool hadAny = !mExplorers.empty();
+    const bool hadAny = HasAny();
     DropGone(mExplorers, explorers);
     for (const auto& explorer : explorers) {
         auto& window = mExplorers[explorer->Number()];
@@ -77,21 +77,34 @@ void HostWindows::Follow()
     }
     FollowForms();
     FollowItems();
-    if (hadAny && mExplorers.empty() && mWhenAllClosed) {
+    if (hadAny && !HasAny() && mWhenAllClosed) {
         mWhenAllClosed();
     }
+}
+
+bool HostWindows::HasAny() const
+{
+    return !mExplorers.empty() || !mItems.empty()
+        || std::any_of(mForms.begin(), mForms.end(), [](const auto& form) { return form.second->isVisible(); });
 }
 
 void HostWindows::Raise()
 {
     mIsHidden = false;
-    const auto active = mDesk.Windows().ActiveExplorer().As<HostExplorer>();
-    if (auto* window = active ? WindowOf(active) : nullptr) {
+    if (auto* window = Front()) {
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
         window->show();
         window->raise();
         window->activateWindow();
     }
+}
+
+QWidget* HostWindows::Front() const
+{
+    if (const auto active = mDesk.Windows().ActiveExplorer().As<HostExplorer>()) {
+        return WindowOf(active);
+    }
+    return mItems.empty() ? nullptr : mItems.rbegin()->second.get();
 }
 
 void HostWindows::FollowForms()

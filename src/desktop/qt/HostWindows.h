@@ -29,7 +29,7 @@ public:
     HostWindows(const HostWindows&) = delete;
     HostWindows& operator=(const HostWindows&) = delete;
 
-    /// Called when the last explorer has gone.
+    /// Called when the last window has gone.
     std::function<void()> mWhenAllClosed;
 
     /// True when a person wants the example to go that was shown, once the program has ended.
@@ -53,6 +53,9 @@ private:
     };
     template <class Window> using Numbered = std::map<std::int32_t, std::unique_ptr<Window, Later>>;
 
+    bool HasAny() const;
+    /// The window that a person meant last, null without one.
+    QWidget* Front() const;
     void FollowForms();
     void FollowItems();
     ItemWindow* NewWindow(const Ref<HostInspector>& inspector);

@@ -79,11 +79,11 @@ void ItemWindow::PrintDocument(const QTextDocument& document)
 
 void ItemWindow::closeEvent(QCloseEvent* event)
 {
-    // The model says whether the window goes.
-    event->ignore();
     if (!mInspector->IsGone() && TakeIn()) {
         mDesk.Do([this] { mInspector->Close(); });
     }
+    // The model says whether the window goes.
+    event->setAccepted(mInspector->IsGone());
 }
 
 void ItemWindow::changeEvent(QEvent* event)

@@ -6,6 +6,13 @@
 
 namespace tempodial {
 
+namespace {
+
+/// What is found is shown so often, since showing it costs more than finding it.
+constexpr std::chrono::milliseconds BetweenNews(250);
+
+}
+
 LogSearch::LogSearch(Desk& desk)
     : mDesk(desk)
 {
@@ -17,6 +24,7 @@ void LogSearch::Begin(const SearchTerms& terms)
 {
     const auto& profile = mDesk.Profile();
     mFound.clear();
+    mTold = 0;
     mWalk = std::make_unique<SearchWalk>(terms,
         SearchWalk::Source { .read = [&profile](const Period& days) { return ActivitiesStartingIn(profile, days); },
             .lastStartBefore = [&profile](Date moment) { return LastStartBefore(profile, moment); },
@@ -33,20 +41,37 @@ void LogSearch::End()
 
 void LogSearch::GoOn()
 {
-    const auto before = mFound.size();
     try {
-        mWalk->GoOn([this](Activity&& activity) { mFound.push_back(std::move(activity)); });
+        mWalk->GoOn([this](Activity&& activity) {
+            if (!IsFull()) {
+                mFound.push_back(std::move(activity));
+            }
+        });
     } catch (const std::exception& failure) {
         mTimer.stop();
         mDesk.Fail(failure.what());
         return;
     }
-    if (mWalk->IsDone()) {
+    if (IsDone()) {
         mTimer.stop();
     }
-    if (mFound.size() != before || mWalk->IsDone()) {
+    const auto now = std::chrono::steady_clock::now();
+    if (IsDone() || (mFound.size() != mTold && now - mToldWhen >= BetweenNews)) {
+        mTold = mFound.size();
+        mToldWhen = now;
         mWhenFound();
     }
+}
+
+void LogSearch::Refresh()
+{
+    std::vector<Activity> found;
+    for (const auto& activity : mFound) {
+        if (auto now = ActivityNumbered(mDesk.Profile(), activity.number)) {
+            found.push_back(std::move(*now));
+        }
+    }
+    mFound = std::move(found);
 }
 
 }

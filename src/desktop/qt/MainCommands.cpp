@@ -167,7 +167,13 @@ void MainCommands::ShowMenu(const QPoint& place)
 
 bool MainCommands::TakeKey(const QKeyEvent& event)
 {
-    if (event.modifiers() != Qt::NoModifier && event.modifiers() != Qt::KeypadModifier) {
+    const auto place = event.key() - Qt::Key_1;
+    // On some keyboards the digits need Shift.
+    const auto modifiers = event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (place >= 0 && place < 9 && (modifiers == Qt::NoModifier || modifiers == Qt::ShiftModifier)) {
+        return TakeDigit(static_cast<std::size_t>(place));
+    }
+    if (modifiers != Qt::NoModifier) {
         return false;
     }
     switch (event.key()) {
@@ -189,16 +195,17 @@ bool MainCommands::TakeKey(const QKeyEvent& event)
     default:
         break;
     }
-    const auto place = event.key() - Qt::Key_1;
-    if (place >= 0 && place < 9) {
-        const auto& projects = mWindow.Foot().Projects();
-        if (!mWindow.Selected().empty() && static_cast<std::size_t>(place) < projects.size()) {
-            // The list changes when the project is set.
-            mWindow.SetProject(std::string(projects[static_cast<std::size_t>(place)]));
-        }
-        return true;
-    }
     return mDesk.Settings().hasLetterKeys && TakeLetter(event.key());
+}
+
+bool MainCommands::TakeDigit(std::size_t place)
+{
+    const auto& projects = mWindow.Foot().Projects();
+    if (!mWindow.Selected().empty() && place < projects.size()) {
+        // The list changes when the project is set.
+        mWindow.SetProject(std::string(projects[place]));
+    }
+    return true;
 }
 
 bool MainCommands::TakeLetter(int key)

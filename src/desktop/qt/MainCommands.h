@@ -37,6 +37,7 @@ private:
     void FocusSearch();
     void ShowGuide();
     bool TakeLetter(int key);
+    bool TakeDigit(std::size_t place);
 
     MainWindow& mWindow;
     Desk& mDesk;

@@ -131,15 +131,6 @@ void MainWindow::Assemble()
     connect(mClock, &QTimer::timeout, this, [this] { mAgenda->FollowClock(); });
 }
 
-void MainWindow::SearchAll()
-{
-    const SearchTerms terms(FromQt(mBar->SearchField().text()));
-    if (!terms.AreEmpty()) {
-        Show(View::List, mDay);
-        mSearch.Begin(terms);
-    }
-}
-
 const std::vector<Activity>& MainWindow::ShownActivities() const
 {
     return mSearch.IsOn() ? mSearch.Found() : mLog.Activities();
@@ -150,8 +141,12 @@ void MainWindow::Show(View view, Date day)
     const bool isOther = view != mView;
     mSearch.End();
     mDesk.Do([&] {
+        const auto before = mLog.Days();
         mLog.Show(DaysOfView(view, mDesk.Settings().listSpan, day, mDesk.WeekStart()));
         mIsDrawn = false;
+        if (mLog.Days() != before) {
+            DropUnseen();
+        }
         mView = view;
         mDay = day;
         mDesk.Remember([view](DesktopSettings& settings) { settings.view = view; });
@@ -313,6 +308,10 @@ void MainWindow::Follow()
 void MainWindow::ReadChanges()
 {
     const auto count = mDesk.Log().Count();
+    if (mSearch.IsOn() && count != mRead) {
+        mIsDrawn = false;
+        mSearch.Refresh();
+    }
     if (mDesk.Log().HasChanged(mRead, mLog.Days(), mLog.All())) {
         mIsDrawn = false;
         mLog.Read();
@@ -412,7 +411,8 @@ void MainWindow::FollowSelection()
         const bool hasNone = mLog.UnassignedMinutes() == mLog.Sums().total;
         auto count = ActivitiesText(static_cast<std::int64_t>(ShownActivities().size()));
         if (mSearch.IsOn()) {
-            count += mSearch.IsDone() ? " found in the whole log" : " found so far";
+            count += mSearch.IsFull() ? " found, the newest ones: add a word to see older ones"
+                                      : (mSearch.IsDone() ? " found in the whole log" : " found so far");
         }
         mFoot->ShowNothing(hasFewProjects ? (hasNone ? NoProjectsYet : FewProjectsYet) : ToQt(count),
             hasFewProjects ? NoProjectsYetHelp : "", hasFewProjects);
@@ -466,13 +466,14 @@ void MainWindow::closeEvent(QCloseEvent* event)
         settings.width = width();
         settings.height = height();
     });
-    // The model says whether the window goes.
-    event->ignore();
     if (mDesk.StaysWhenClosed() && mDesk.Windows().OpenExplorers().size() == 1) {
+        event->ignore();
         hide();
         return;
     }
     mDesk.Do([this] { mDesk.Windows().CloseExplorer(mExplorer); });
+    // The model says whether the window goes.
+    event->setAccepted(mExplorer->IsGone());
 }
 
 }

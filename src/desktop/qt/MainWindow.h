@@ -71,6 +71,8 @@ public:
     View ShownView() const { return mView; }
     /// Selects activities in the model, which tells the product.
     void Select(const Numbers& numbers);
+    /// Shows only what those words find.
+    void Search(const QString& words);
     void SelectAll();
     /// Sets a project on what is selected.
     void SetProject(const std::string& project);
@@ -108,6 +110,8 @@ private:
     void SearchAll();
     /// The model has changed, or how things look.
     void Follow();
+    /// What isn't shown any more isn't selected either, so that nothing is done to it unseen.
+    void DropUnseen();
     /// Reads the log again when what is shown has changed.
     void ReadChanges();
     /// What is shown of the log has changed, or how it looks.

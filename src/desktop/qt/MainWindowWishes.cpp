@@ -9,6 +9,9 @@
 #include "desktop/qt/SortOutView.h"
 #include "desktop/qt/WelcomePage.h"
 #include "review/ActivityReader.h"
+#include "session/ActivityGesture.h"
+
+#include <QLineEdit>
 
 namespace tempodial {
 
@@ -17,13 +20,12 @@ void MainWindow::Connect()
     mBar->mPage = [this](int pages) { Page(pages); };
     mBar->mGoToToday = [this] { GoToToday(); };
     mBar->mShow = [this](View view) { Show(view, mDay); };
-    mBar->mSearch = [this](const QString& words) {
-        mSearch.End();
-        mLog.Search(SearchTerms(FromQt(words)));
-        FollowLog();
-    };
+    mBar->mSearch = [this](const QString& words) { Search(words); };
     mBar->mSearchAll = [this] { SearchAll(); };
-    mSearch.mWhenFound = [this] { FollowLog(); };
+    mSearch.mWhenFound = [this] {
+        FollowPages();
+        FollowSelection();
+    };
     mSide->Month().mGoTo = [this](Date day) { Show(mView, day); };
     mSide->Projects().mShowOnly = [this](const auto& names) { mAgenda->ShowOnly(names); };
     mSide->Projects().mSortOut = [this] { Show(View::SortOut, mDay); };
@@ -83,6 +85,35 @@ void MainWindow::ConnectOthers()
     mSortOut->mSelect = select;
     mSortOut->mOpen = open;
     mSortOut->mKey = key;
+}
+
+void MainWindow::SearchAll()
+{
+    const SearchTerms terms(FromQt(mBar->SearchField().text()));
+    if (!terms.AreEmpty()) {
+        Show(View::List, mDay);
+        mSearch.Begin(terms);
+    }
+}
+
+void MainWindow::DropUnseen()
+{
+    mSelected = SelectedNumbers(*mExplorer);
+    Numbers seen;
+    for (const auto& activity : SelectedActivities()) {
+        seen.insert(activity.number);
+    }
+    if (seen != mSelected) {
+        mDoings.Select(*mExplorer, { seen.begin(), seen.end() });
+    }
+}
+
+void MainWindow::Search(const QString& words)
+{
+    mSearch.End();
+    mLog.Search(SearchTerms(FromQt(words)));
+    mIsDrawn = false;
+    mDesk.Do([this] { DropUnseen(); });
 }
 
 }

@@ -186,7 +186,13 @@ void MiniMonth::mouseReleaseEvent(QMouseEvent* event)
 
 void MiniMonth::wheelEvent(QWheelEvent* event)
 {
-    Page(event->angleDelta().y() > 0 ? -1 : 1);
+    constexpr int Notch = 120;
+    mTurned += event->angleDelta().y();
+    const auto months = mTurned / Notch;
+    mTurned %= Notch;
+    if (months != 0) {
+        Page(-months);
+    }
 }
 
 void MiniMonth::keyPressEvent(QKeyEvent* event)

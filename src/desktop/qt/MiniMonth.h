@@ -54,6 +54,8 @@ private:
     Period mShown;
     /// The day that the keys are on.
     Date mCursor;
+    /// How far the wheel was turned, in eighths of a degree, towards the next month.
+    int mTurned = 0;
     /// Minutes of each day.
     std::vector<std::int64_t> mMinutes;
     /// The change of the log up to which they were read, and from which day on.

@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 #include <QButtonGroup>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -73,8 +74,21 @@ NavigationBar::NavigationBar(Desk& desk, QWidget* parent)
     mSearchField->setMinimumHeight(back->sizeHint().height());
     connect(mSearchField, &QLineEdit::textChanged, this, [this](const QString& words) { mSearch(words); });
     connect(mSearchField, &QLineEdit::returnPressed, this, [this] { mSearchAll(); });
+    mSearchField->installEventFilter(this);
     layout->addWidget(mSearchField, 1);
     layout->addLayout(mButtons);
+}
+
+bool NavigationBar::eventFilter(QObject* object, QEvent* event)
+{
+    const bool isEscape = event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent&>(*event).key()
+            == Qt::Key_Escape; // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
+    if (isEscape && !mSearchField->text().isEmpty()) {
+        mSearchField->clear();
+        return true;
+    }
+    return QWidget::eventFilter(object, event);
 }
 
 FlatButton* NavigationBar::Button(const QString& text)

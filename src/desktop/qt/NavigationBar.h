@@ -39,6 +39,10 @@ public:
     QLineEdit& SearchField() { return *mSearchField; }
     FlatButton& ButtonOf(View view) { return *mViews[static_cast<std::size_t>(view)]; }
 
+protected:
+    /// Escape in the field of words empties it.
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     FlatButton* Button(const QString& text);
     void StyleSearchField();

@@ -99,6 +99,11 @@ void ProjectRows::FillRows()
     for (std::size_t i = 0; i < contents.size(); ++i) {
         mRows[i]->Show(contents[i]);
     }
+    if (std::erase_if(mOnly,
+            [this](const std::string& name) { return std::find(mNames.begin(), mNames.end(), name) == mNames.end(); })
+        > 0) {
+        mShowOnly(mOnly);
+    }
     ShowChosen();
 }
 
@@ -153,11 +158,13 @@ void ProjectRows::ShowChosen()
 
 std::optional<std::string> ProjectRows::ProjectAt(const QPoint& place) const
 {
-    if (mUnassigned->isVisible() && mUnassigned->rect().contains(mUnassigned->mapFromGlobal(place))) {
+    // What is scrolled away lies under something else.
+    const auto isOn = [&place](const QWidget& row) { return row.visibleRegion().contains(row.mapFromGlobal(place)); };
+    if (isOn(*mUnassigned)) {
         return NoProject;
     }
     for (std::size_t i = 0; i < mRows.size() && mLog.ColouredBy() == Coloured::Project; ++i) {
-        if (mRows[i]->rect().contains(mRows[i]->mapFromGlobal(place))) {
+        if (isOn(*mRows[i])) {
             return mNames[i];
         }
     }

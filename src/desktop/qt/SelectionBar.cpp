@@ -160,6 +160,8 @@ void SelectionBar::ShowTexts()
     auto quiet = palette();
     quiet.setColor(QPalette::WindowText, ToQt(mDesk.Look().Colours().quietText));
     mText->setPalette(quiet);
+    // The groups beside the texts may have come or gone.
+    layout()->activate();
     const auto cut = [](QLabel* label, const QString& text) {
         label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideRight, label->width()));
         label->setToolTip(PlainToolTip(text));

@@ -37,6 +37,8 @@ SettingsDialog::SettingsDialog(Desk& desk, Autostart autostart, QWidget* parent)
 {
     setWindowTitle("Settings");
     setAttribute(Qt::WA_DeleteOnClose);
+    // What it shows is changed nowhere else meanwhile.
+    setModal(true);
     const auto& settings = desk.Settings();
     auto* layout = new QFormLayout(this);
     mAppearance = AddChoice(*layout, "appearance",

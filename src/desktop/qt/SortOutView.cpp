@@ -76,7 +76,13 @@ void SortOutView::Follow()
 void SortOutView::Fill()
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    const auto row = std::max(mList->indexOfTopLevelItem(mList->currentItem()), 0);
+    const auto current = CurrentPlace();
+    std::set<GroupName> expanded;
+    for (int row = 0; row < mList->topLevelItemCount(); ++row) {
+        if (mList->topLevelItem(row)->isExpanded()) {
+            expanded.insert(NameOf(mGroups[static_cast<std::size_t>(row)]));
+        }
+    }
     mGroups = ActivityGroup::Unassigned([this](const std::function<void(const Activity& activity)>& take) {
         std::for_each(mLog.Activities().begin(), mLog.Activities().end(), take);
     });
@@ -99,20 +105,65 @@ void SortOutView::Fill()
                 single->setData(0, NumberRole, static_cast<qlonglong>(activity.number));
             }
         }
+        item->setExpanded(expanded.count(NameOf(group)) > 0);
     }
     for (int column = 0; column < mList->columnCount(); ++column) {
         mList->resizeColumnToContents(column);
     }
-    // The next group takes the place of one that has got its project.
-    if (!mGroups.empty()) {
-        mList->setCurrentItem(mList->topLevelItem(std::min(row, static_cast<int>(mGroups.size()) - 1)));
-    }
+    GoBackTo(current);
     mIsFilling = false;
-    const auto* current = mList->currentItem();
-    if (current != nullptr && NumbersOf(mGroups[static_cast<std::size_t>(mList->currentIndex().row())]) != mTold) {
+    if (mList->currentItem() != nullptr && CurrentNumbers() != mTold) {
         // This may run during what has changed the log.
         QTimer::singleShot(0, this, [this] { SelectCurrent(); });
     }
+}
+
+SortOutView::Place SortOutView::CurrentPlace() const
+{
+    auto* item = mList->currentItem();
+    if (item == nullptr) {
+        return {};
+    }
+    auto* group = item->parent() != nullptr ? item->parent() : item;
+    Place place;
+    place.row = mList->indexOfTopLevelItem(group);
+    place.group = NameOf(mGroups[static_cast<std::size_t>(place.row)]);
+    if (group != item) {
+        place.single = item->data(0, NumberRole).toLongLong();
+    }
+    return place;
+}
+
+void SortOutView::GoBackTo(const Place& place)
+{
+    if (mGroups.empty()) {
+        return;
+    }
+    const auto found = std::find_if(
+        mGroups.begin(), mGroups.end(), [&place](const ActivityGroup& group) { return NameOf(group) == place.group; });
+    // The next group takes the place of one that has got its project.
+    const auto row = found != mGroups.end() ? static_cast<int>(found - mGroups.begin())
+                                            : std::min(place.row, static_cast<int>(mGroups.size()) - 1);
+    auto* item = mList->topLevelItem(row);
+    for (int i = 0; place.single && i < item->childCount(); ++i) {
+        if (item->child(i)->data(0, NumberRole).toLongLong() == *place.single) {
+            mList->setCurrentItem(item->child(i));
+            return;
+        }
+    }
+    mList->setCurrentItem(item);
+}
+
+SortOutView::Numbers SortOutView::CurrentNumbers() const
+{
+    auto* item = mList->currentItem();
+    if (item == nullptr) {
+        return {};
+    }
+    if (item->parent() != nullptr) {
+        return { item->data(0, NumberRole).toLongLong() };
+    }
+    return NumbersOf(mGroups[static_cast<std::size_t>(mList->indexOfTopLevelItem(item))]);
 }
 
 void SortOutView::Begin()
@@ -134,17 +185,10 @@ SortOutView::Numbers SortOutView::NumbersOf(const ActivityGroup& group) const
 
 void SortOutView::SelectCurrent()
 {
-    auto* item = mList->currentItem();
     if (mIsFilling || !isVisible()) {
         return;
     }
-    if (item == nullptr) {
-        mTold.clear();
-    } else if (item->parent() != nullptr) {
-        mTold = { item->data(0, NumberRole).toLongLong() };
-    } else {
-        mTold = NumbersOf(mGroups[static_cast<std::size_t>(mList->indexOfTopLevelItem(item))]);
-    }
+    mTold = CurrentNumbers();
     mSelect(mTold);
 }
 

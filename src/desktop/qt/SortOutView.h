@@ -7,7 +7,10 @@
 #include <QWidget>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <set>
+#include <string>
+#include <utility>
 #include <vector>
 
 class QLabel;
@@ -41,7 +44,23 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    /// Application and description.
+    using GroupName = std::pair<std::string, std::string>;
+    /// Where a person is in the list.
+    struct Place
+    {
+        int row = 0;
+        GroupName group;
+        /// The number of one of the group; nothing when the whole group is meant.
+        std::optional<std::int64_t> single;
+    };
+
     void Fill();
+    static GroupName NameOf(const ActivityGroup& group) { return { group.application, group.description }; }
+    Place CurrentPlace() const;
+    void GoBackTo(const Place& place);
+    /// What the current line stands for.
+    Numbers CurrentNumbers() const;
     void SelectCurrent();
     Numbers NumbersOf(const ActivityGroup& group) const;
 

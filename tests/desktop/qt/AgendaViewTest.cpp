@@ -3,7 +3,9 @@
 #include "WorkedWeekFixture.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
+#include "review/ActivityReader.h"
 
+#include <QAccessible>
 #include <QScrollBar>
 #include <QTest>
 
@@ -263,6 +265,58 @@ TEST_F(AgendaViewTest, Why_SaysWhereTheProjectIsFrom)
     Click("Inbox");
     Key(Qt::Key_Y);
     EXPECT_EQ(mWindow->Foot().Text(), "No rule of a project matches it.");
+}
+
+TEST_F(AgendaViewTest, Drag_OverTheHours_StaysInTheFirstDay)
+{
+    const auto number = Number("Plan");
+    Drag(Box("Plan").center(), QPoint(5, Box("Plan").center().y()));
+    const auto moved = ActivityNumbered(mDesk->Profile(), number).value();
+    EXPECT_EQ(moved.start, On(13, 9));
+    EXPECT_EQ(moved.end, On(13, 10));
+}
+
+TEST_F(AgendaViewTest, ShiftClick_AboveTheFocus_SelectsAllBetween)
+{
+    Click("Sheet");
+    Click("Plan", Qt::ShiftModifier);
+    EXPECT_EQ(Selected(), (std::set<std::string> { "Plan", "Inbox", "Sheet" }));
+}
+
+TEST_F(AgendaViewTest, Band_Escape_SelectsNothing)
+{
+    auto* viewport = View().viewport();
+    const auto from = Box("Plan").topRight() + QPoint(8, -20);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+    for (const auto& place : { from + QPoint(0, 12), Box("Sheet").bottomLeft() }) {
+        QMouseEvent move(QEvent::MouseMove, place, viewport->mapToGlobal(place), Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(viewport, &move);
+    }
+    EXPECT_FALSE(View().Selected().empty());
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(View().Selected().empty());
+    EXPECT_TRUE(Selected().empty());
+}
+
+TEST_F(AgendaViewTest, Zoom_SmallSteps_AddUp)
+{
+    View().Zoom(1);
+    const auto before = View().Scene().Scale().PixelsPerMinute();
+    for (int i = 0; i < 100; ++i) {
+        View().Zoom(0.01);
+    }
+    EXPECT_GT(View().Scene().Scale().PixelsPerMinute(), before * 1.05);
+}
+
+TEST_F(AgendaViewTest, Accessible_AnotherActivityComesBefore_NoneStandsForAnother)
+{
+    QAccessible::setActive(true);
+    auto* agenda = QAccessible::queryAccessibleInterface(&View());
+    const auto name = agenda->child(0)->text(QAccessible::Name);
+    mDesk->Do([this] { Add("Alpha", "Early", "Writer", On(15, 6), On(15, 7)); });
+    EXPECT_TRUE(agenda->child(0)->text(QAccessible::Name).startsWith("Early"));
+    EXPECT_EQ(agenda->child(1)->text(QAccessible::Name), name);
+    QAccessible::setActive(false);
 }
 
 }

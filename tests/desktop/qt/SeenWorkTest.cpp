@@ -1,0 +1,192 @@
+#include "DesktopFixture.h"
+#include "desktop/qt/AgendaView.h"
+#include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/SortOutView.h"
+#include "review/ActivityReader.h"
+
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace tempodial {
+
+using testing::ElementsAre;
+
+/// What a person does reaches what they see, and nothing else.
+class SeenWorkTest : public DesktopFixture
+{
+protected:
+    using View = DesktopSettings::View;
+
+    SeenWorkTest()
+    {
+        Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10));
+        Add("", "Inbox", "Mail", On(15, 10), On(15, 12));
+        Add("", "News", "Browser", On(16, 11), On(16, 12));
+    }
+
+    std::int64_t Number(MainWindow& window, const std::string& description)
+    {
+        for (const auto& activity : window.Log().All()) {
+            if (activity.description == description) {
+                return activity.number;
+            }
+        }
+        ADD_FAILURE() << "nothing is called " << description;
+        return 0;
+    }
+    std::string ProjectOf(std::int64_t number) { return ActivityNumbered(mDesk->Profile(), number).value().project; }
+    int SelectedInModel() { return mDesk->Windows().OpenExplorers().front()->Selection()->Count(); }
+};
+
+TEST_F(SeenWorkTest, SearchHidesASelectedOne_TheProjectIsSetOnTheOther)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    const auto inbox = Number(window, "Inbox");
+    window.Select({ plan, inbox });
+    QTest::keyClicks(&window.Bar().SearchField(), "inbox");
+    EXPECT_EQ(SelectedInModel(), 1);
+    window.SetProject("Beta");
+    EXPECT_EQ(ProjectOf(inbox), "Beta");
+    EXPECT_EQ(ProjectOf(plan), "Alpha");
+}
+
+TEST_F(SeenWorkTest, OtherDaysAreShown_NothingUnseenStaysSelected)
+{
+    auto& window = Open();
+    window.Select({ Number(window, "Plan") });
+    window.Page(1);
+    EXPECT_EQ(SelectedInModel(), 0);
+    EXPECT_TRUE(window.Selected().empty());
+}
+
+TEST_F(SeenWorkTest, OtherViewOfTheSameDays_KeepsTheSelection)
+{
+    auto& window = Open();
+    window.Select({ Number(window, "Plan") });
+    window.Show(View::List, On(17, 0));
+    EXPECT_EQ(SelectedInModel(), 1);
+}
+
+TEST_F(SeenWorkTest, Search_HidesWork_ItsTimeIsNoGap)
+{
+    Add("", "Late mail", "Mail", On(15, 15), On(15, 16));
+    Add("Alpha", "Sheet", "Calc", On(15, 12), On(15, 15));
+    auto& window = Open();
+    QTest::keyClicks(&window.Bar().SearchField(), "mail");
+    ASSERT_EQ(window.Agenda().Cards().size(), 2U);
+    EXPECT_TRUE(window.Agenda().Scene().Gaps().empty());
+    // A new activity would lie on what isn't seen.
+    bool isCreated = false;
+    window.Agenda().mWishes.create = [&](const TimeSpan&) { isCreated = true; };
+    const auto& geometry = window.Agenda().Scene().Geometry();
+    const auto column = geometry.Column(2);
+    const auto place
+        = window.Agenda().InView({ column.left + column.width / 2, geometry.Scale().PlaceOf(13 * 3600), 1, 1 });
+    QTest::mouseDClick(window.Agenda().viewport(), Qt::LeftButton, {}, place.center().toPoint());
+    EXPECT_FALSE(isCreated);
+}
+
+TEST_F(SeenWorkTest, SearchField_Escape_ShowsAllAgain)
+{
+    auto& window = Open();
+    auto& field = window.Bar().SearchField();
+    field.setFocus();
+    QTest::keyClicks(&field, "inbox");
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_EQ(window.Agenda().Cards().size(), 3U);
+}
+
+TEST_F(SeenWorkTest, FoundInTheWholeLog_ChangesAreSeen)
+{
+    auto& window = Open();
+    const auto inbox = Number(window, "Inbox");
+    const auto news = Number(window, "News");
+    QTest::keyClicks(&window.Bar().SearchField(), "i");
+    QTest::keyClick(&window.Bar().SearchField(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.Foot().Title().contains("found in the whole log"); }));
+    window.Select({ inbox });
+    window.SetProject("Beta");
+    const auto selected = window.SelectedActivities();
+    ASSERT_EQ(selected.size(), 1U);
+    EXPECT_EQ(selected.front().project, "Beta");
+    window.DeleteSelected();
+    const auto& shown = window.ShownActivities();
+    EXPECT_TRUE(std::none_of(
+        shown.begin(), shown.end(), [inbox](const Activity& activity) { return activity.number == inbox; }));
+    EXPECT_NE(ActivityNumbered(mDesk->Profile(), news), std::nullopt);
+}
+
+TEST_F(SeenWorkTest, SortOut_ALargerGroupComes_TheChosenOneStaysChosen)
+{
+    auto& window = Open();
+    window.Show(View::SortOut, On(15, 0));
+    auto& list = window.SortOut().List();
+    list.setCurrentItem(list.topLevelItem(1));
+    list.topLevelItem(1)->setExpanded(true);
+    const auto news = Number(window, "News");
+    ASSERT_THAT(window.Selected(), ElementsAre(news));
+    mDesk->Do([this] { Add("", "Page", "Browser", On(15, 13), On(15, 18)); });
+    Settle();
+    EXPECT_EQ(window.SortOut().Groups().size(), 3U);
+    EXPECT_THAT(window.Selected(), ElementsAre(news));
+    EXPECT_TRUE(list.currentItem()->isExpanded());
+    list.setCurrentItem(list.currentItem()->child(0));
+    mDesk->Do([this] { Add("", "Post", "Browser", On(16, 13), On(16, 19)); });
+    Settle();
+    EXPECT_THAT(window.Selected(), ElementsAre(news));
+    EXPECT_NE(list.currentItem()->parent(), nullptr);
+}
+
+TEST_F(SeenWorkTest, RedoTwice_DoesBothAgain)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    window.Select({ plan });
+    window.SetProject("Beta");
+    window.SetProject("Gamma");
+    window.Undo();
+    window.Undo();
+    EXPECT_EQ(ProjectOf(plan), "Alpha");
+    window.Redo();
+    EXPECT_EQ(ProjectOf(plan), "Beta");
+    window.Redo();
+    EXPECT_EQ(ProjectOf(plan), "Gamma");
+    window.Redo();
+    EXPECT_EQ(ProjectOf(plan), "Gamma");
+    EXPECT_TRUE(window.Foot().Text().contains("there is nothing to do again"));
+    window.Undo();
+    EXPECT_EQ(ProjectOf(plan), "Beta");
+    window.SetProject("Delta");
+    window.Redo();
+    EXPECT_EQ(ProjectOf(plan), "Delta");
+}
+
+TEST_F(SeenWorkTest, Digit_WithShift_SetsTheProjectToo)
+{
+    auto& window = Open();
+    const auto inbox = Number(window, "Inbox");
+    window.Select({ inbox });
+    ASSERT_FALSE(window.Foot().Projects().empty());
+    const auto first = window.Foot().Projects().front();
+    QTest::keyClick(&window.Agenda(), Qt::Key_1, Qt::ShiftModifier);
+    EXPECT_EQ(ProjectOf(inbox), first);
+}
+
+TEST_F(SeenWorkTest, LongTitle_Selected_IsElidedAndLaterWhole)
+{
+    const std::string title(400, 'w');
+    Add("Alpha", title, "Writer", On(14, 9), On(14, 10));
+    auto& window = Open();
+    window.Select({ Number(window, title) });
+    const auto* label = window.Foot().findChildren<QLabel*>().front();
+    EXPECT_TRUE(label->text().endsWith("\u2026"));
+    EXPECT_LE(QFontMetrics(label->font()).horizontalAdvance(label->text()), label->width());
+}
+
+}
