@@ -14,6 +14,9 @@ using FormKey = std::variant<std::int32_t, std::string>;
 /// An entry of a list by its position from 0, or by its text.
 using EntryKey = std::variant<std::int32_t, std::string>;
 
+/// The position of an entry in the list of a control; one that isn't there fails with `FormRefusal`.
+std::int32_t PositionOf(const std::vector<std::string>& list, const std::string& control, const EntryKey& entry);
+
 /// A person at the add-in's forms, wherever the add-in runs. What a person can't do fails with `FormRefusal`.
 class FormHands
 {

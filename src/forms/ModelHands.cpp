@@ -1,13 +1,9 @@
 #include "forms/ModelHands.h"
 
-#include "forms/ButtonModel.h"
 #include "forms/CheckBoxModel.h"
-#include "forms/ComboBoxModel.h"
 #include "forms/FormRefusal.h"
 #include "forms/OptionButtonModel.h"
 #include "forms/TextBoxModel.h"
-
-#include <algorithm>
 
 namespace tempodial {
 
@@ -16,21 +12,6 @@ namespace {
 [[noreturn]] void RefuseKind(const std::string& control, const char* wanted)
 {
     throw FormRefusal("the control \"" + control + "\" is no " + wanted);
-}
-
-/// The position of an entry; a list that hasn't it fails.
-std::int32_t PositionOf(const ComboBoxModel& combo, const std::string& control, const EntryKey& entry)
-{
-    const auto& list = combo.List();
-    const auto count = static_cast<std::int32_t>(list.size());
-    const auto* text = std::get_if<std::string>(&entry);
-    const auto position = text == nullptr
-        ? std::get<std::int32_t>(entry)
-        : static_cast<std::int32_t>(std::find(list.begin(), list.end(), *text) - list.begin());
-    if (position < 0 || position >= count) {
-        throw FormRefusal("the list of \"" + control + "\" has no such entry");
-    }
-    return position;
 }
 
 }
@@ -46,56 +27,87 @@ std::vector<FormSnapshot> ModelHands::Forms()
 
 void ModelHands::Type(const FormKey& form, const std::string& control, const std::string& text)
 {
-    const auto found = WorkableControl(form, control);
-    if (const auto box = found.As<TextBoxModel>()) {
+    const auto field = Field(form, control);
+    if (const auto box = field.As<TextBoxModel>()) {
         box->Type(text);
-    } else if (const auto combo = found.As<ComboBoxModel>()) {
-        combo->Type(text);
     } else {
-        RefuseKind(control, "text box and no combo box");
+        field.As<ComboBoxModel>()->Type(text);
     }
 }
 
 void ModelHands::Choose(const FormKey& form, const std::string& control, const EntryKey& entry)
 {
-    const auto combo = WorkableControl(form, control).As<ComboBoxModel>();
-    if (!combo) {
-        RefuseKind(control, "combo box");
-    }
-    combo->Choose(PositionOf(*combo, control, entry));
+    const auto box = Choice(form, control);
+    box->Choose(PositionOf(box->List(), control, entry));
 }
 
 void ModelHands::Check(const FormKey& form, const std::string& control, bool checked)
 {
-    const auto found = WorkableControl(form, control);
-    if (const auto box = found.As<CheckBoxModel>()) {
+    const auto mark = Mark(form, control, checked);
+    if (const auto box = mark.As<CheckBoxModel>()) {
         box->Check(checked);
-    } else if (const auto option = found.As<OptionButtonModel>()) {
-        if (!checked) {
-            throw FormRefusal("an option button is given up by choosing another one");
-        }
-        option->Choose();
     } else {
-        RefuseKind(control, "check box and no option button");
+        mark.As<OptionButtonModel>()->Choose();
     }
 }
 
 void ModelHands::Click(const FormKey& form, const std::string& control)
 {
-    const auto button = WorkableControl(form, control).As<ButtonModel>();
-    if (!button) {
-        RefuseKind(control, "button");
-    }
-    button->Click();
+    Button(form, control)->Click();
 }
 
 bool ModelHands::Close(const FormKey& form)
 {
-    const auto found = Form(form);
-    if (!found->Visible()) {
+    return VisibleForm(form)->CloseByFrame();
+}
+
+Ref<Control> ModelHands::Field(const FormKey& form, const std::string& control) const
+{
+    auto found = WorkableControl(form, control);
+    if (!found.As<TextBoxModel>() && !found.As<ComboBoxModel>()) {
+        RefuseKind(control, "text box and no combo box");
+    }
+    return found;
+}
+
+Ref<ComboBoxModel> ModelHands::Choice(const FormKey& form, const std::string& control) const
+{
+    auto found = WorkableControl(form, control).As<ComboBoxModel>();
+    if (!found) {
+        RefuseKind(control, "combo box");
+    }
+    return found;
+}
+
+Ref<Control> ModelHands::Mark(const FormKey& form, const std::string& control, bool checked) const
+{
+    auto found = WorkableControl(form, control);
+    if (found.As<OptionButtonModel>()) {
+        if (!checked) {
+            throw FormRefusal("an option button is given up by choosing another one");
+        }
+    } else if (!found.As<CheckBoxModel>()) {
+        RefuseKind(control, "check box and no option button");
+    }
+    return found;
+}
+
+Ref<ButtonModel> ModelHands::Button(const FormKey& form, const std::string& control) const
+{
+    auto found = WorkableControl(form, control).As<ButtonModel>();
+    if (!found) {
+        RefuseKind(control, "button");
+    }
+    return found;
+}
+
+Ref<FormModel> ModelHands::VisibleForm(const FormKey& key) const
+{
+    auto form = Form(key);
+    if (!form->Visible()) {
         throw FormRefusal("the form is hidden");
     }
-    return found->CloseByFrame();
+    return form;
 }
 
 Ref<FormModel> ModelHands::Form(const FormKey& key) const

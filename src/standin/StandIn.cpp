@@ -1,6 +1,7 @@
 #include "standin/StandIn.h"
 
 #include "addin/base/SystemText.h"
+#include "forms/FormDifferences.h"
 #include "forms/FormRefusal.h"
 #include "standin/StandInObject.h"
 #include "standin/WindowEyes.h"
@@ -116,17 +117,8 @@ WireValue StandIn::ComparedForms()
     auto forms = Module().Do("forms", {});
     auto visible = FormsFromWire(forms);
     std::erase_if(visible, [](const FormSnapshot& form) { return !form.visible; });
-    const auto seen = mHands.Forms();
-    if (seen.size() != visible.size()) {
-        throw WireFailure(WireFailure::Refused,
-            std::to_string(visible.size()) + " forms can be seen, and " + std::to_string(seen.size())
-                + " windows show one");
-    }
-    for (std::size_t position = 0; position < seen.size(); ++position) {
-        const auto difference = WindowEyes::Difference(visible[position], seen[position]);
-        if (!difference.empty()) {
-            throw WireFailure(WireFailure::Refused, difference);
-        }
+    if (const auto differences = FormDifferences(visible, mHands.Forms()); !differences.empty()) {
+        throw WireFailure(WireFailure::Refused, differences.front());
     }
     return forms;
 }

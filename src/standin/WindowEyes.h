@@ -24,8 +24,6 @@ public:
     static HWND Control(HWND form, const std::string& name);
     /// What can be seen of a control.
     static ControlSnapshot See(HWND control);
-    /// Where they differ, in words, "" when they are alike.
-    static std::string Difference(const FormSnapshot& model, const FormSnapshot& seen);
 };
 
 }

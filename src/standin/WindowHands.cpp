@@ -70,14 +70,7 @@ void WindowHands::Type(const FormKey& form, const std::string& control, const st
 void WindowHands::Choose(const FormKey& form, const std::string& control, const EntryKey& entry)
 {
     auto* const box = WorkableWindow(form, control, { ControlKind::ComboBox });
-    const auto list = WindowEyes::See(box).list;
-    const auto* text = std::get_if<std::string>(&entry);
-    const auto index = text == nullptr
-        ? std::get<std::int32_t>(entry)
-        : static_cast<std::int32_t>(std::find(list.begin(), list.end(), *text) - list.begin());
-    if (index < 0 || index >= static_cast<std::int32_t>(list.size())) {
-        throw FormRefusal("the list of \"" + control + "\" has no such entry");
-    }
+    const auto index = PositionOf(WindowEyes::See(box).list, control, entry);
     SendMessageW(box, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
     // The box tells its form only of what a person chooses.
     SendMessageW(GetParent(box), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(box), CBN_SELCHANGE), std::bit_cast<LPARAM>(box));
