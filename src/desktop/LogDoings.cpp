@@ -116,12 +116,7 @@ void LogDoings::Delete(const Numbers& numbers) const
 
 bool LogDoings::Move(std::int64_t number, const TimeSpan& times) const
 {
-    bool isMoved = false;
-    AsStep({ number }, "Move", [&] {
-        isMoved
-            = mSession.Windows().User().Reschedule(ItemNumbered(mSession.Profile(), number), times.start, times.end);
-    });
-    return isMoved;
+    return RescheduleAsStep(mSession.Profile(), ItemNumbered(mSession.Profile(), number), times.start, times.end);
 }
 
 void LogDoings::Create(const TimeSpan& times) const

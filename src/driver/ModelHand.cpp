@@ -64,9 +64,7 @@ void ModelHand::Edit(const Ref<HostInspector>& window, const std::string& contro
 
 bool ModelHand::Save(const Ref<HostInspector>& window)
 {
-    bool isSaved = false;
-    GestureAsStep(mHost.Profile(), { window->CurrentItem() }, "Save", [&] { isSaved = window->Save(); });
-    return isSaved;
+    return SaveAsStep(mHost.Profile(), *window);
 }
 
 bool ModelHand::Close(const Ref<HostInspector>& window)
@@ -82,11 +80,7 @@ void ModelHand::ClickCommand(const Ref<HostInspector>& window, const CommandPath
 
 bool ModelHand::Reschedule(const Ref<StoreItem>& item, Date start, Date end)
 {
-    const bool isMoved = SecondsBetween(start, end) == SecondsBetween(item->Start(), item->End());
-    bool isDone = false;
-    GestureAsStep(mHost.Profile(), { item }, isMoved ? "Move" : "Resize",
-        [&] { isDone = Person(mHost.Mailbox()).Reschedule(item, start, end); });
-    return isDone;
+    return RescheduleAsStep(mHost.Profile(), item, start, end);
 }
 
 void ModelHand::Delete(const Ref<StoreItem>& item)

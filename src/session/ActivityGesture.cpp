@@ -1,8 +1,8 @@
 #include "session/ActivityGesture.h"
 
 #include "base/Text.h"
-#include "host/store/StoreItem.h"
 #include "host/windows/BuiltInCommand.h"
+#include "host/windows/Person.h"
 #include "session/Steps.h"
 #include "session/WorkLogFolder.h"
 
@@ -53,6 +53,22 @@ void ClickCommandAsStep(const Profile& profile, HostInspector& window, HostComma
         changed.push_back(window.CurrentItem());
     }
     GestureAsStep(profile, changed, command.Now().caption, [&] { command.Click(); });
+}
+
+bool SaveAsStep(const Profile& profile, HostInspector& window)
+{
+    bool isSaved = false;
+    GestureAsStep(profile, { window.CurrentItem() }, "Save", [&] { isSaved = window.Save(); });
+    return isSaved;
+}
+
+bool RescheduleAsStep(const Profile& profile, const Ref<StoreItem>& item, Date start, Date end)
+{
+    const bool isMoved = SecondsBetween(start, end) == SecondsBetween(item->Start(), item->End());
+    bool isDone = false;
+    GestureAsStep(profile, { item }, isMoved ? "Move" : "Resize",
+        [&] { isDone = Person(profile.Mailbox()).Reschedule(item, start, end); });
+    return isDone;
 }
 
 std::vector<Ref<OutlookItem>> SelectedItems(HostExplorer& window)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Date.h"
+#include "host/store/StoreItem.h"
 #include "host/windows/HostExplorer.h"
 #include "host/windows/HostInspector.h"
 #include "platform/objectmodel/OutlookItem.h"
@@ -23,6 +25,11 @@ void GestureAsStep(const Profile& profile, const std::vector<Ref<OutlookItem>>& 
 /// there, or shown. Fails as the click does.
 void ClickCommandAsStep(const Profile& profile, HostExplorer& window, HostCommandBarControl& command);
 void ClickCommandAsStep(const Profile& profile, HostInspector& window, HostCommandBarControl& command);
+
+/// A person saves what a window shows; false when a handler refused it. Fails as the save does.
+bool SaveAsStep(const Profile& profile, HostInspector& window);
+/// A person drags an item to other times; false when a handler refused it. Fails as the mailbox does.
+bool RescheduleAsStep(const Profile& profile, const Ref<StoreItem>& item, Date start, Date end);
 
 /// What is selected in a window.
 std::vector<Ref<OutlookItem>> SelectedItems(HostExplorer& window);
