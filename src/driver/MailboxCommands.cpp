@@ -1,6 +1,7 @@
 #include "driver/MailboxCommands.h"
 
 #include "driver/RequestError.h"
+#include "host/store/FoldersBelow.h"
 #include "host/store/StoreFolder.h"
 #include "host/windows/Person.h"
 #include "platform/objectmodel/Folders.h"
@@ -13,23 +14,10 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <functional>
 
 namespace tempodial {
 
 namespace {
-
-/// Calls a function with every folder below a folder, those above first.
-void ForEachBelow(const Ref<MAPIFolder>& folder, const std::function<void(const Ref<MAPIFolder>& folder)>& call)
-{
-    const auto folders = folder->Folders();
-    const auto count = folders->Count();
-    for (std::int32_t i = 1; i <= count; ++i) {
-        const auto below = folders->Item(i);
-        call(below);
-        ForEachBelow(below, call);
-    }
-}
 
 ViewType ToViewType(std::int32_t number)
 {
@@ -84,10 +72,10 @@ void MailboxCommands::AddTo(CommandTable& table)
 Json MailboxCommands::Folders()
 {
     auto list = Json::array();
-    ForEachBelow(mHost.Mailbox()->FolderByPath(""), [&](const Ref<MAPIFolder>& folder) {
+    for (const auto& folder : FoldersBelow(mHost.Mailbox()->FolderByPath(""))) {
         list.push_back({ { "path", mHost.Mailbox()->PathOf(folder) }, { "entryId", folder->EntryID() },
             { "items", folder->Items()->Count() } });
-    });
+    }
     return { { "folders", list } };
 }
 
