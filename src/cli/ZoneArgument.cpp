@@ -7,6 +7,7 @@
 #include "terminal/UsageError.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 

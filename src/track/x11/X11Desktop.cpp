@@ -95,7 +95,8 @@ X11Desktop::X11Desktop(const WatchSettings& settings)
     mCompoundAtom = mConnection.Atom("COMPOUND_TEXT");
     mProcessAtom = mConnection.Atom("_NET_WM_PID");
     mConnection.Watch(mConnection.Root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
-    mIdleWatch.emplace(mConnection.Get(), settings.idleNotice);
+    // Of shorter times without input the question once a minute tells enough, and who reads moves the pointer often.
+    mIdleWatch.emplace(mConnection.Get(), settings.idleNotice * 4);
 }
 
 int X11Desktop::Descriptor() const
@@ -135,16 +136,12 @@ std::optional<std::chrono::milliseconds> X11Desktop::Idle()
         return told;
     }
     const auto idle = mConnection.IdleMilliseconds();
-    // Events that came in with the answer show on the descriptor no more.
+    if (idle && mIdleWatch) {
+        mIdleWatch->Asked(std::chrono::milliseconds(*idle));
+    }
+    // Events that came in with the answer show on the descriptor no more; one may say that it holds no longer.
     TakeEvents();
-    if (!idle) {
-        return std::nullopt;
-    }
-    const std::chrono::milliseconds time(*idle);
-    if (mIdleWatch) {
-        mIdleWatch->Asked(time);
-    }
-    return time;
+    return idle ? std::optional(std::chrono::milliseconds(*idle)) : std::nullopt;
 }
 
 void X11Desktop::TakeEvents()

@@ -2,8 +2,8 @@
 
 #include "track/x11/X11Connection.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <string_view>
 
 namespace tempodial {
 
@@ -54,24 +54,35 @@ void X11IdleWatch::Asked(std::chrono::milliseconds idle)
 {
     mAskedAt = Clock::now();
     mInput.reset();
-    if (mAlarmEvent != 0 && idle >= mNotice) {
+    // The server tells the end of a time only that it has seen to be one, which it looks at a little earlier.
+    constexpr int Tenth = 10;
+    if (mAlarmEvent != 0 && idle >= mNotice + mNotice / Tenth) {
         mInput = mAskedAt - idle;
     }
 }
 
-xcb_sync_counter_t X11IdleWatch::CounterOf(const char* name) const
+xcb_sync_counter_t X11IdleWatch::CounterOf(std::string_view name) const
 {
     const X11Answer<xcb_sync_list_system_counters_reply_t> answer(
         ::xcb_sync_list_system_counters_reply(mConnection, ::xcb_sync_list_system_counters(mConnection), nullptr));
     if (!answer) {
         return XCB_NONE;
     }
-    auto counters = ::xcb_sync_list_system_counters_counters_iterator(answer.get());
-    for (; counters.rem > 0; ::xcb_sync_systemcounter_next(&counters)) {
-        const auto length = static_cast<std::size_t>(::xcb_sync_systemcounter_name_length(counters.data));
-        if (std::string_view(::xcb_sync_systemcounter_name(counters.data), length) == name) {
-            return counters.data->counter;
+    // Read as it is sent: a counter, its resolution, the length of its name, the name, up to a multiple of four bytes.
+    // The library's own functions look for the name two bytes behind its beginning.
+    constexpr std::size_t LengthAt = 12;
+    constexpr std::size_t NameAt = 14;
+    constexpr std::size_t Unit = 4;
+    std::string_view rest(reinterpret_cast<const char*>(answer.get() + 1), answer->length * Unit);
+    while (rest.size() >= NameAt) {
+        std::uint16_t length = 0;
+        rest.substr(LengthAt).copy(reinterpret_cast<char*>(&length), sizeof(length));
+        if (rest.substr(NameAt, length) == name) {
+            xcb_sync_counter_t counter = XCB_NONE;
+            rest.copy(reinterpret_cast<char*>(&counter), sizeof(counter));
+            return counter;
         }
+        rest.remove_prefix(std::min((NameAt + length + Unit - 1) / Unit * Unit, rest.size()));
     }
     return XCB_NONE;
 }

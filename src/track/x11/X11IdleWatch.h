@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <xcb/sync.h>
 #include <xcb/xcb.h>
 
@@ -26,7 +27,7 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    xcb_sync_counter_t CounterOf(const char* name) const;
+    xcb_sync_counter_t CounterOf(std::string_view name) const;
     void MakeAlarm(xcb_sync_counter_t counter) const;
 
     xcb_connection_t* mConnection;
