@@ -24,6 +24,8 @@ public:
     void Show(const std::vector<Activity>& activities, const TableViewLayout& layout, Coloured coloured);
     void SetFolded(std::size_t row, bool isFolded);
 
+    /// The activities that are shown.
+    const std::vector<Activity>& Activities() const { return *mActivities; }
     const TableViewLayout& Layout() const { return mLayout; }
     std::size_t Count() const { return mRows ? mRows->Rows().size() : 0; }
     /// The activity of a row; null for a heading.

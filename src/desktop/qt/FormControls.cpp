@@ -12,7 +12,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTextDocument>
 #include <QWheelEvent>
+#include <limits>
 
 namespace tempodial {
 
@@ -22,6 +24,8 @@ namespace {
 constexpr int LeastCharacters = 4;
 /// The most that its entries can make of that.
 constexpr int MostCharacters = 60;
+/// Texts are shown as a whole; by itself the toolkit cuts off what is longer than a page or so.
+constexpr int AnyLength = std::numeric_limits<int>::max();
 /// The lines that a box of several lines has room for.
 constexpr int LinesShown = 4;
 
@@ -49,12 +53,12 @@ void ShowText(QLineEdit& field, const QString& text)
     }
 }
 
-void ShowText(QPlainTextEdit& field, QString text)
+void ShowText(QPlainTextEdit& field, const QString& text)
 {
-    text.replace("\r\n", "\n");
-    if (field.toPlainText() != text) {
+    const auto lines = AsLines(text);
+    if (TextIn(field) != lines) {
         const QSignalBlocker quiet(field);
-        field.setPlainText(text);
+        field.setPlainText(lines);
     }
 }
 
@@ -85,7 +89,7 @@ QWidget* NewLabel(QWidget* parent)
 QWidget* NewTextBox(const ControlDefinition& control, const FormWishes& wishes, QWidget* parent)
 {
     if (!control.severalLines) {
-        auto* field = new QLineEdit(parent);
+        auto* field = NewLine(parent);
         QObject::connect(field, &QLineEdit::textEdited, field,
             [name = control.name, type = wishes.type](const QString& text) { type(name, FromQt(text)); });
         return field;
@@ -94,7 +98,7 @@ QWidget* NewTextBox(const ControlDefinition& control, const FormWishes& wishes, 
     field->setTabChangesFocus(true);
     field->setFixedHeight(field->fontMetrics().lineSpacing() * LinesShown + field->fontMetrics().lineSpacing() / 2);
     QObject::connect(field, &QPlainTextEdit::textChanged, field,
-        [field, name = control.name, type = wishes.type] { type(name, FromQt(field->toPlainText())); });
+        [field, name = control.name, type = wishes.type] { type(name, FromQt(TextIn(*field))); });
     return field;
 }
 
@@ -148,10 +152,18 @@ QWidget* NewOfKind(const ControlDefinition& control, const FormWishes& wishes, Q
 
 }
 
+QLineEdit* NewLine(QWidget* parent)
+{
+    auto* line = new QLineEdit(parent);
+    line->setMaxLength(AnyLength);
+    return line;
+}
+
 QComboBox* NewComboBox(QWidget* parent)
 {
     auto* box = new SteadyComboBox(parent);
     box->setEditable(true);
+    box->lineEdit()->setMaxLength(AnyLength);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -189,6 +201,20 @@ void ShowInComboBox(QComboBox& box, const std::vector<std::string>& list, const 
     } else if (box.currentText() != shown) {
         box.setEditText(shown);
     }
+}
+
+QString TextIn(const QPlainTextEdit& box)
+{
+    // The plain text would have a space for each that doesn't break.
+    return AsLines(box.document()->toRawText());
+}
+
+QString AsLines(QString text)
+{
+    return text.replace("\r\n", "\n")
+        .replace('\r', '\n')
+        .replace(QChar::ParagraphSeparator, '\n')
+        .replace(QChar::LineSeparator, '\n');
 }
 
 QWidget* NewFormControl(const ControlDefinition& control, const FormWishes& wishes, QWidget* parent)

@@ -8,6 +8,8 @@
 #include <string>
 
 class QComboBox;
+class QLineEdit;
+class QPlainTextEdit;
 class QString;
 class QWidget;
 
@@ -22,10 +24,17 @@ struct FormWishes
     std::function<void(const std::string& control)> click;
 };
 
+/// A field of one line.
+QLineEdit* NewLine(QWidget* parent);
 /// A combo box in which anything can be typed; what is typed is no choice, even when the list has it.
 QComboBox* NewComboBox(QWidget* parent);
 /// Shows a list and a text in a combo box, as far as it shows others. The position is -1 when no entry is chosen.
 void ShowInComboBox(QComboBox& box, const std::vector<std::string>& list, const std::string& text, int position);
+
+/// The text in a box of several lines, each behind the first after a line feed.
+QString TextIn(const QPlainTextEdit& box);
+/// A text as such a box has it, whatever its lines end with.
+QString AsLines(QString text);
 
 /// A widget for a control of a form, which tells what a person does to it; it has the control's name.
 QWidget* NewFormControl(const ControlDefinition& control, const FormWishes& wishes, QWidget* parent);

@@ -4,6 +4,7 @@
 #include "desktop/qt/AgendaAccess.h"
 #include "desktop/qt/FormWindow.h"
 #include "desktop/qt/InspectorWindow.h"
+#include "desktop/qt/JobStrip.h"
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/ReportWindow.h"
 #include "host/windows/BuiltInCommand.h"
@@ -14,9 +15,6 @@
 namespace tempodial {
 
 namespace {
-
-/// How far a job is stands in the window itself.
-constexpr auto ProgressFormClass = "ProgressBarForm";
 
 template <class Window> Window* FindWindow(const auto& windows, std::int32_t number)
 {
@@ -112,7 +110,9 @@ void HostWindows::FollowForms()
     const auto forms = mDesk.Session().Forms()->Forms();
     DropGone(mForms, forms);
     for (const auto& form : forms) {
-        if (form->Visible() && mForms.count(form->Number()) == 0 && form->Definition().className != ProgressFormClass) {
+        // How far a job is stands in the window itself.
+        const bool isProgress = form->Definition().className == JobStrip::FormClass;
+        if (form->Visible() && mForms.count(form->Number()) == 0 && !isProgress) {
             mForms[form->Number()].reset(new FormWindow(mDesk, form));
         }
     }

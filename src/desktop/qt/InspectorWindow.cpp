@@ -6,10 +6,12 @@
 #include "desktop/qt/PageView.h"
 #include "desktop/qt/QtText.h"
 #include "review/ActivityReader.h"
+#include "session/ActivityGesture.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QTextDocument>
 
 namespace tempodial {
@@ -50,6 +52,7 @@ InspectorWindow::InspectorWindow(Desk& desk, Ref<HostInspector> inspector)
     mBody->setTabChangesFocus(true);
     mBody->setAccessibleName("Text");
     Content().addWidget(mBody, 1);
+    connect(new QShortcut(QKeySequence(SaveKeys), this), &QShortcut::activated, this, [this] { Save(); });
     Follow();
 }
 
@@ -84,6 +87,18 @@ bool InspectorWindow::TakeIn()
 {
     Say({});
     return mPage == nullptr || mPage->WriteTyped();
+}
+
+void InspectorWindow::Save()
+{
+    if (Model().IsGone() || !TakeIn()) {
+        return;
+    }
+    bool isSaved = true;
+    OwnDesk().Do([&] { isSaved = SaveAsStep(OwnDesk().Profile(), Model()); });
+    if (!isSaved) {
+        Say("It isn't saved, since that was refused.");
+    }
 }
 
 void InspectorWindow::Print()

@@ -17,10 +17,13 @@ class InspectorWindow final : public ItemWindow
 public:
     InspectorWindow(Desk& desk, Ref<HostInspector> inspector);
 
+    /// The keys that save what is shown, and keep the window open.
+    static constexpr auto SaveKeys = "Ctrl+Shift+S";
+
     void Print() override;
-    CommandBarView& Commands() { return *mCommands; }
+    CommandBarView& Commands() const { return *mCommands; }
     /// The page; null for an item without one.
-    PageView* Page() { return mPage; }
+    PageView* Page() const { return mPage; }
     const QLabel& Why() const { return *mWhy; }
     const QPlainTextEdit& Body() const { return *mBody; }
 
@@ -30,6 +33,7 @@ protected:
 
 private:
     void ShowWhy();
+    void Save();
 
     CommandBarView* mCommands;
     PageView* mPage = nullptr;

@@ -12,12 +12,6 @@
 
 namespace tempodial {
 
-namespace {
-
-constexpr auto UnsavedDot = "\u2022 ";
-
-}
-
 ItemWindow::ItemWindow(Desk& desk, Ref<HostInspector> inspector)
     : mDesk(desk)
     , mInspector(std::move(inspector))

@@ -16,6 +16,9 @@ namespace tempodial {
 class ItemWindow : public QWidget
 {
 public:
+    /// Stands before the title of what isn't saved.
+    static constexpr auto UnsavedDot = "\u2022 ";
+
     ItemWindow(Desk& desk, Ref<HostInspector> inspector);
 
     /// A person prints what is shown.

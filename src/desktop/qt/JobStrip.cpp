@@ -16,7 +16,6 @@ namespace tempodial {
 namespace {
 
 /// What a job of the product shows, as its form names it.
-constexpr auto FormName = "ProgressBarForm";
 constexpr auto UpperText = "Label1";
 constexpr auto LowerText = "Label2";
 constexpr auto BarName = "ProgressBar1";
@@ -61,7 +60,7 @@ QString JobStrip::Text() const
 
 void JobStrip::Follow()
 {
-    const auto form = mDesk.Session().Forms()->NewestVisible(FormName);
+    const auto form = mDesk.Session().Forms()->NewestVisible(FormClass);
     if (!form) {
         mForm.reset();
         hide();

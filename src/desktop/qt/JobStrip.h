@@ -18,6 +18,9 @@ class FlatButton;
 class JobStrip final : public QWidget
 {
 public:
+    /// The form of the product in whose place it is.
+    static constexpr auto FormClass = "ProgressBarForm";
+
     JobStrip(Desk& desk, QWidget* parent);
 
     /// Looks at the job.

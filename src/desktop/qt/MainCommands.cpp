@@ -2,6 +2,7 @@
 
 #include "desktop/UserGuide.h"
 #include "desktop/qt/AgendaView.h"
+#include "desktop/qt/FoldersDialog.h"
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/QtText.h"
@@ -9,6 +10,7 @@
 #include "desktop/qt/SettingsDialog.h"
 #include "desktop/qt/SidePanel.h"
 #include "host/windows/BuiltInCommand.h"
+#include "platform/objectmodel/Views.h"
 #include "session/ProductFacts.h"
 
 #include <QAction>
@@ -121,6 +123,11 @@ void MainCommands::MakeViewActions()
             });
     }
     mActions.AddLine(Menu);
+    mActions.Add(Menu, FolderCaption, {}, [this] { (new FoldersDialog(mDesk, mWindow.Explorer(), &mWindow))->show(); });
+    auto* folderViews = new QMenu(ViewsCaption, &mWindow);
+    QObject::connect(folderViews, &QMenu::aboutToShow, &mWindow, [this, folderViews] { FillViews(*folderViews); });
+    mActions.AddMenu(Menu, *folderViews);
+    mActions.AddLine(Menu);
     mActions.Add(Menu, "Zoom &In", QKeySequence::ZoomIn, [this] { mWindow.Agenda().Zoom(1); });
     mActions.Add(Menu, "Zoom &Out", QKeySequence::ZoomOut, [this] { mWindow.Agenda().Zoom(-1); });
     mActions.Add(Menu, "Zoom to &Fit", QKeySequence("Ctrl+0"), [this] { mWindow.Agenda().ZoomToFit(); });
@@ -145,6 +152,27 @@ void MainCommands::MakeViewActions()
             Menu, text, {}, [this, look = look] { return mDesk.Settings().appearance == look; },
             [this, look = look](
                 bool) { mDesk.Change([look](DesktopSettings& settings) { settings.appearance = look; }); });
+    }
+}
+
+void MainCommands::FillViews(QMenu& menu)
+{
+    menu.clear();
+    mDesk.Do([&] {
+        const auto& explorer = mWindow.Explorer();
+        const auto current = explorer->CurrentView();
+        const auto views = explorer->CurrentFolder()->Views();
+        for (std::int32_t i = 1; i <= views->Count(); ++i) {
+            const auto name = views->Item(i)->Name();
+            auto* action = menu.addAction(ToQt(name).replace("&", "&&"));
+            action->setCheckable(true);
+            action->setChecked(name == current);
+            QObject::connect(action, &QAction::triggered, &mWindow,
+                [this, name] { mDesk.Do([&] { mWindow.Explorer()->PickView(name); }); });
+        }
+    });
+    if (menu.isEmpty()) {
+        menu.addAction("There is none")->setEnabled(false);
     }
 }
 

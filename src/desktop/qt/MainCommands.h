@@ -6,6 +6,7 @@
 #include "desktop/qt/WindowActions.h"
 
 class QKeyEvent;
+class QMenu;
 class QPoint;
 
 namespace tempodial {
@@ -16,6 +17,10 @@ class MainWindow;
 class MainCommands
 {
 public:
+    /// What leads to the folders, and to the views of the one that is shown.
+    static constexpr auto FolderCaption = "Fold&er\u2026";
+    static constexpr auto ViewsCaption = "&Views";
+
     /// Both must live as long as this.
     MainCommands(MainWindow& window, Desk& desk);
 
@@ -36,6 +41,8 @@ private:
     void ShowSettings();
     void FocusSearch();
     void ShowGuide();
+    /// Lists the views of the folder that the window shows.
+    void FillViews(QMenu& menu);
     bool TakeLetter(int key);
     bool TakeDigit(std::size_t place);
 

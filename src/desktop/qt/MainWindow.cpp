@@ -5,6 +5,7 @@
 #include "desktop/EastAsianLetters.h"
 #include "desktop/ViewDays.h"
 #include "desktop/WhyWords.h"
+#include "desktop/WindowTitle.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/ExampleProgram.h"
@@ -66,7 +67,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     , mSearch(desk)
     , mClock(new QTimer(this))
 {
-    setWindowTitle(ProductName);
+    setWindowTitle(ToQt(WindowTitle(desk.Profile(), *mExplorer).value_or(ProductName)));
     mLog.Colour(desk.Settings().colours);
     mRead = desk.Log().Count();
     mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
@@ -75,6 +76,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     ConnectAgenda();
     ConnectOthers();
     mMenu = std::make_unique<MainMenu>(desk, mExplorer, *menuBar(), mBar->Buttons(), mCommands.Actions().All());
+    mChanges = mExplorer->SubscribeToChanges({ .Changed = {}, .BroughtToFront = [this] { mComesToFront = true; } });
     mEvents = desk.Subscribe({ .Changed = [this] { Follow(); },
         .Restyled =
             [this] {
@@ -303,6 +305,11 @@ void MainWindow::Follow()
         mLog.Colour(mDesk.Settings().colours);
         FollowLog();
     }
+    setWindowTitle(ToQt(WindowTitle(mDesk.Profile(), *mExplorer).value_or(FromQt(windowTitle()))));
+    if (std::exchange(mComesToFront, false) && isVisible() && !isActiveWindow()) {
+        raise();
+        activateWindow();
+    }
 }
 
 void MainWindow::ReadChanges()
@@ -458,6 +465,19 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
     ShowSidePanel();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        // Of several windows that come up together only the last one stays in front.
+        QTimer::singleShot(0, this, [this] {
+            if (isActiveWindow() && !mExplorer->IsGone() && mDesk.Windows().ActiveExplorer() != mExplorer) {
+                mDesk.Do([this] { mDesk.Windows().ActivateExplorer(mExplorer); });
+            }
+        });
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -59,6 +59,7 @@ public:
     ExampleRibbon* Ribbon() { return mRibbon; }
     const ShownLog& Log() const { return mLog; }
     const Numbers& Selected() const { return mSelected; }
+    const Ref<HostExplorer>& Explorer() const { return mExplorer; }
 
     /// Shows the days around one of them in a view.
     void Show(View view, Date day);
@@ -98,6 +99,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void Assemble();
@@ -156,6 +158,8 @@ private:
     std::unique_ptr<MainMenu> mMenu;
     LogSearch mSearch;
     QTimer* mClock;
+    bool mComesToFront = false;
+    Subscription mChanges;
     Subscription mEvents;
 };
 

@@ -96,7 +96,7 @@ QWidget* PageView::NewWidget(std::size_t place, const FormPageLayout::Field& lay
             [this, name = layout.name](bool isChecked) { mDesk.Do([&] { mInspector->Edit(name, isChecked); }); });
         return box;
     }
-    auto* widget = layout.kind == PageKind::Combo ? static_cast<QWidget*>(NewComboBox(this)) : new QLineEdit(this);
+    auto* widget = layout.kind == PageKind::Combo ? static_cast<QWidget*>(NewComboBox(this)) : NewLine(this);
     auto* line = qobject_cast<QLineEdit*>(widget);
     if (auto* box = qobject_cast<QComboBox*>(widget)) {
         line = box->lineEdit();

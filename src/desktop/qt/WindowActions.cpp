@@ -1,6 +1,7 @@
 #include "desktop/qt/WindowActions.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QWidget>
 #include <algorithm>
 
@@ -31,6 +32,11 @@ QAction* WindowActions::AddSwitch(std::int32_t menu, const char* text, const QKe
     action->setCheckable(true);
     mSwitches.emplace_back(action, std::move(isOn));
     return action;
+}
+
+void WindowActions::AddMenu(std::int32_t menu, const QMenu& below)
+{
+    Of(menu).actions.push_back(below.menuAction());
 }
 
 void WindowActions::AddLine(std::int32_t menu)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+class QMenu;
 class QWidget;
 
 namespace tempodial {
@@ -24,6 +25,8 @@ public:
     /// The same of one that is on or off; it is asked before the menu opens.
     QAction* AddSwitch(std::int32_t menu, const char* text, const QKeySequence& keys, std::function<bool()> isOn,
         std::function<void(bool)> turn);
+    /// Adds a menu of its own to a menu.
+    void AddMenu(std::int32_t menu, const QMenu& below);
     /// Adds a line behind what was added.
     void AddLine(std::int32_t menu);
 
