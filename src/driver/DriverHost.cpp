@@ -63,6 +63,14 @@ void DriverHost::Stop()
     mRemote = nullptr;
 }
 
+FormHands& DriverHost::Forms()
+{
+    if (mSurroundings.forms) {
+        return *mSurroundings.forms;
+    }
+    return mRemote ? mRemote->Forms() : mHands;
+}
+
 std::vector<std::string> DriverHost::Differences() const
 {
     return mSurroundings.differences ? mSurroundings.differences() : std::vector<std::string>();

@@ -53,7 +53,9 @@ public:
     /// What can be seen otherwise than the models have it.
     std::vector<std::string> Differences() const;
     /// A person at the add-in's forms, wherever it runs.
-    FormHands& Forms() { return mRemote ? mRemote->Forms() : mHands; }
+    FormHands& Forms();
+    /// True when forms have windows, which make steps of clicks themselves.
+    bool HasFormWindows() const { return static_cast<bool>(mSurroundings.forms); }
     /// The calls that are made in this program, and which of them are to fail.
     FaultPlan& Faults() { return *mFaults; }
     /// Lets calls of the add-in fail, wherever it runs; fails with `RequestError` when it runs where they can't.

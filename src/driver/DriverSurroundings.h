@@ -4,6 +4,7 @@
 #include "driver/DriverMessageBox.h"
 #include "driver/Hand.h"
 #include "driver/remote/RemotePrograms.h"
+#include "forms/FormHands.h"
 #include "platform/controls/EventPump.h"
 
 #include <functional>
@@ -28,6 +29,8 @@ struct DriverSurroundings
     DriverMessageBox::Shower showMessage {};
     /// Makes the person who does what commands ask for, for a host that outlives that person.
     std::function<Ref<Hand>(DriverHost& host)> person {};
+    /// A person at windows of forms, which make steps of clicks themselves.
+    Ref<FormHands> forms = nullptr;
     /// What can be seen otherwise than the models have it, each a text; asked behind each command.
     std::function<std::vector<std::string>()> differences {};
 };

@@ -63,7 +63,7 @@ void FormCommands::Click(const FormKey& form, const std::string& control)
         return name == nullptr ? known.number == std::get<std::int32_t>(form)
                                : known.visible && known.className == *name;
     });
-    if (found == forms.rend()) {
+    if (found == forms.rend() || mHost.HasFormWindows()) {
         click();
     } else {
         ClickAsStep(mHost.Profile(), found->className, found->title, click);

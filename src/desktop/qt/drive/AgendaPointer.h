@@ -1,11 +1,14 @@
 #pragma once
 
 #include "base/Date.h"
+#include "desktop/AgendaHits.h"
+#include "desktop/TimeSpan.h"
 
 #include <QPoint>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace tempodial {
 
@@ -27,6 +30,9 @@ public:
     /// Clicks on an activity that was reached.
     void Click(std::int64_t number, Qt::KeyboardModifiers modifiers = {});
     void DoubleClick(std::int64_t number);
+    /// Drags an activity that was reached to other times, or one of its edges; false when no such drag leads there
+    /// within what can be seen.
+    bool Drag(std::int64_t number, const TimeSpan& times);
     /// Presses a key in the agenda.
     void Press(Qt::Key key);
 
@@ -34,6 +40,11 @@ private:
     std::optional<std::size_t> PieceOf(std::int64_t number) const;
     /// A place of the viewport where the pointer is over a piece and over no other.
     std::optional<QPoint> PlaceOn(std::size_t piece) const;
+    /// A place where it is over a part of a piece, and one to which that has to be dragged for other times; nothing
+    /// when there are none.
+    std::optional<std::pair<QPoint, QPoint>> WayOf(std::size_t piece, const TimeSpan& times) const;
+    std::optional<QPoint> PlaceOn(std::size_t piece, AgendaHit::Part part) const;
+    AgendaHit HitAt(const QPoint& place) const;
 
     MainWindow& mWindow;
 };

@@ -1,8 +1,14 @@
 #include "desktop/qt/drive/ShownState.h"
 
+#include "desktop/WindowTitle.h"
+#include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/HostWindows.h"
 #include "desktop/qt/MainWindow.h"
+#include "desktop/qt/QtText.h"
+#include "desktop/qt/drive/FormEyes.h"
+#include "desktop/qt/drive/ItemEyes.h"
 #include "desktop/qt/drive/ShownMenus.h"
 #include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
@@ -50,6 +56,28 @@ std::set<std::int64_t> Selected(const MainWindow& window, HostExplorer& explorer
     return numbers;
 }
 
+/// The activities that a list has to show in its rows, those of folded groups apart, and those that it shows.
+std::pair<std::set<std::int64_t>, std::set<std::int64_t>> Rows(
+    const std::vector<Activity>& activities, const ActivityListModel& list)
+{
+    std::set<std::int64_t> expected;
+    for (const auto& activity : activities) {
+        expected.insert(activity.number);
+    }
+    std::set<std::int64_t> shown;
+    for (int row = 0; row < static_cast<int>(list.Count()); ++row) {
+        const auto* group = list.GroupOf(row);
+        if (group == nullptr) {
+            shown.insert(list.ActivityOf(row)->number);
+        } else if (group->isFolded) {
+            for (const auto place : group->activities) {
+                expected.erase(list.Activities()[place].number);
+            }
+        }
+    }
+    return { expected, shown };
+}
+
 std::size_t VisibleWindows()
 {
     const auto windows = QApplication::topLevelWidgets();
@@ -57,12 +85,6 @@ std::size_t VisibleWindows()
         [](const auto* window) { return window->isVisible() && dynamic_cast<const MainWindow*>(window) != nullptr; }));
 }
 
-}
-
-ShownState::ShownState(const Desk& desk, WindowFinder windowOf)
-    : mDesk(desk)
-    , mWindowOf(std::move(windowOf))
-{
 }
 
 std::vector<std::string> ShownState::Differences() const
@@ -75,26 +97,45 @@ std::vector<std::string> ShownState::Differences() const
     }
     for (const auto& explorer : explorers) {
         const auto name = "window " + std::to_string(explorer->Number());
-        auto* window = mWindowOf(explorer);
+        auto* window = mWindows.WindowOf(explorer);
         if (window == nullptr) {
             differences.push_back("no " + name);
             continue;
         }
-        for (const auto& difference : MenuDifferences(*window, *explorer->Bars())) {
+        for (const auto& difference : DifferencesOf(*explorer, *window)) {
             differences.push_back(name + ": " + difference);
         }
-        const auto stored = Words(ActivitiesTouching(mDesk.Profile(), window->Log().Days()));
-        const auto shown = Words(window->Agenda().Scene().Activities());
-        if (stored != shown) {
-            const auto [model, seen] = std::mismatch(stored.begin(), stored.end(), shown.begin(), shown.end());
-            differences.push_back(name + ": the agenda shows " + (seen == shown.end() ? "nothing" : *seen) + " for "
-                + (model == stored.end() ? "nothing" : *model));
+    }
+    for (const auto& others :
+        { ShownFormDifferences(*mDesk.Session().Forms(), mWindows), ShownItemDifferences(mDesk, mWindows) }) {
+        differences.insert(differences.end(), others.begin(), others.end());
+    }
+    return differences;
+}
+
+std::vector<std::string> ShownState::DifferencesOf(HostExplorer& explorer, MainWindow& window) const
+{
+    auto differences = MenuDifferences(window, *explorer.Bars());
+    const auto activities = ActivitiesTouching(mDesk.Profile(), window.Log().Days());
+    const auto stored = Words(activities);
+    const auto shown = Words(window.Agenda().Scene().Activities());
+    if (stored != shown) {
+        const auto [model, seen] = std::mismatch(stored.begin(), stored.end(), shown.begin(), shown.end());
+        differences.push_back("the agenda shows " + (seen == shown.end() ? "nothing" : *seen) + " for "
+            + (model == stored.end() ? "nothing" : *model));
+    }
+    if (const auto title = WindowTitle(mDesk.Profile(), explorer); title && ToQt(*title) != window.windowTitle()) {
+        differences.push_back("the title is \"" + FromQt(window.windowTitle()) + "\" for \"" + *title + "\"");
+    }
+    if (window.List().isVisible()) {
+        const auto [expected, listed] = Rows(activities, window.List().Model());
+        if (listed != expected) {
+            differences.push_back("the list shows " + List(listed) + " for " + List(expected));
         }
-        const auto selected = Selected(*window, *explorer);
-        if (window->Agenda().Selected() != selected) {
-            differences.push_back(
-                name + ": selected are " + List(window->Agenda().Selected()) + " for " + List(selected));
-        }
+    }
+    const auto selected = Selected(window, explorer);
+    if (window.Agenda().Selected() != selected) {
+        differences.push_back("selected are " + List(window.Agenda().Selected()) + " for " + List(selected));
     }
     return differences;
 }
