@@ -7,7 +7,7 @@ namespace tempodial {
 
 namespace {
 
-using View = DesktopSettings::View;
+using LogView = DesktopSettings::View;
 using ListSpan = DesktopSettings::ListSpan;
 
 constexpr int DaysOfWeek = 7;
@@ -25,34 +25,34 @@ Date InMonth(Date day, int months)
 
 }
 
-Period DaysOfView(View view, ListSpan span, Date day, const Period::WeekStart& weekStart)
+Period DaysOfView(LogView view, ListSpan span, Date day, const Period::WeekStart& weekStart)
 {
-    if (view == View::Day) {
+    if (view == LogView::Day) {
         return { day.Day(), day.Day() };
     }
-    if (view == View::List && span == ListSpan::Month) {
+    if (view == LogView::List && span == ListSpan::Month) {
         return Period::MonthOf(day);
     }
-    if (view == View::List && span == ListSpan::Year) {
+    if (view == LogView::List && span == ListSpan::Year) {
         const auto year = day.ToParts().year;
         return { Date::FromYearMonthDay(year, 1, 1), Date::FromYearMonthDay(year, MonthsOfYear, LastDay) };
     }
     return Period::WeekOf(day, weekStart);
 }
 
-Date PagedDay(View view, ListSpan span, Date day, int pages)
+Date PagedDay(LogView view, ListSpan span, Date day, int pages)
 {
     const auto always = Period::Always();
     // What is shown must lie within the days that there are.
     const auto isWithin = [&always](Date paged, std::int64_t days) {
         return paged >= always.first.AddDays(days) && paged <= always.last.AddDays(-days);
     };
-    if (view == View::List && span != ListSpan::Week) {
+    if (view == LogView::List && span != ListSpan::Week) {
         const auto reach = day.AddDays(std::int64_t { pages } * DaysOfLongYear);
         const auto months = span == ListSpan::Year ? pages * MonthsOfYear : pages;
         return isWithin(reach, DaysOfLongYear) ? InMonth(day, months) : day;
     }
-    const auto paged = day.AddDays(view == View::Day ? pages : pages * DaysOfWeek);
+    const auto paged = day.AddDays(view == LogView::Day ? pages : pages * DaysOfWeek);
     return isWithin(paged, DaysOfWeek) ? paged : day;
 }
 

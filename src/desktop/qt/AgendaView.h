@@ -21,6 +21,7 @@
 #include <vector>
 
 class QLabel;
+class QNativeGestureEvent;
 
 namespace tempodial {
 
