@@ -6,7 +6,7 @@ namespace tempodial {
 
 namespace {
 
-RuledProject Ruled(const std::string& name, const std::string& subject, const std::string& people)
+RuledProject ProjectRuledBy(const std::string& name, const std::string& subject, const std::string& people)
 {
     return { .name = name, .precedence = "2", .subjectRule = subject, .peopleRule = people };
 }
@@ -25,7 +25,7 @@ protected:
         return WhySentence(activity, mRules);
     }
 
-    RuleTrial mRules { { Ruled("Alpha", "plan", ""), Ruled("Beta", "sheet", "") } };
+    RuleTrial mRules { { ProjectRuledBy("Alpha", "plan", ""), ProjectRuledBy("Beta", "sheet", "") } };
 };
 
 }
@@ -52,7 +52,7 @@ TEST_F(WhyWordsTest, WhySentence_RulesGiveAnother_SaysWhich)
 
 TEST_F(WhyWordsTest, WhySentence_RuleForPeople_SaysSo)
 {
-    mRules = RuleTrial({ Ruled("Alpha", "", "berger") });
+    mRules = RuleTrial({ ProjectRuledBy("Alpha", "", "berger") });
     EXPECT_EQ(Why("Alpha", false, "letter"), "Given by the people rule \"berger\" of Alpha.");
 }
 

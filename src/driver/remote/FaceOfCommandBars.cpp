@@ -108,13 +108,13 @@ template <> const FaceClass<CommandBarControl>& FaceOf()
 
 template <> const FaceClass<CommandBarButton>& FaceOf()
 {
-    using Button = CommandBarButton;
-    using Members = FaceMembers<Button>;
-    static const FaceClass<Button> face { "CommandBarButton",
-        WithControlMembers<Button>({ { "Style", Members::Property(&Button::Style, &Button::SetStyle) },
-            { "Picture", PictureProperty(&Button::SetPicture) }, { "Mask", PictureProperty(&Button::SetMask) } }),
-        [](const Ref<Button>& button, const FaceRaiser& raise) {
-            return button->Subscribe({ .Click = [raise](const Ref<Button>& clicked, bool& cancel) {
+    using BarButton = CommandBarButton;
+    using Members = FaceMembers<BarButton>;
+    static const FaceClass<BarButton> face { "CommandBarButton",
+        WithControlMembers<BarButton>({ { "Style", Members::Property(&BarButton::Style, &BarButton::SetStyle) },
+            { "Picture", PictureProperty(&BarButton::SetPicture) }, { "Mask", PictureProperty(&BarButton::SetMask) } }),
+        [](const Ref<BarButton>& button, const FaceRaiser& raise) {
+            return button->Subscribe({ .Click = [raise](const Ref<BarButton>& clicked, bool& cancel) {
                 cancel = raise.RefusedAbout(ClickEvent, clicked) || cancel;
             } });
         } };
