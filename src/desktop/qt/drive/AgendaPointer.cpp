@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
+#include <algorithm>
 
 namespace tempodial {
 
@@ -56,6 +57,15 @@ bool AgendaPointer::Drag(std::int64_t number, const TimeSpan& times)
     move(way->second);
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, way->second);
     return true;
+}
+
+bool AgendaPointer::IsOneOfRun(std::int64_t number) const
+{
+    const auto piece = PieceOf(number).value();
+    const auto& runs = mWindow.Agenda().Scene().Runs();
+    return std::any_of(runs.begin(), runs.end(), [piece](const ShortRun& run) {
+        return piece >= run.pieces.begin && piece < run.pieces.end && run.pieces.end - run.pieces.begin > 1;
+    });
 }
 
 void AgendaPointer::Press(Qt::Key key)

@@ -33,6 +33,8 @@ public:
     /// Drags an activity that was reached to other times, or one of its edges; false when no such drag leads there
     /// within what can be seen.
     bool Drag(std::int64_t number, const TimeSpan& times);
+    /// True for one of several short activities that Enter lists instead of opening it.
+    bool IsOneOfRun(std::int64_t number) const;
     /// Presses a key in the agenda.
     void Press(Qt::Key key);
 

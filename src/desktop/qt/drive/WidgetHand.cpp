@@ -114,7 +114,9 @@ void WidgetHand::ClickCommand(const Ref<HostExplorer>& window, const CommandPath
 Ref<HostInspector> WidgetHand::Open(const Ref<StoreItem>& item)
 {
     auto* window = Reached(*item);
-    if (window == nullptr) {
+    const bool isAlone = ReachedAlone(*item) != nullptr;
+    // In the list of short ones, going to one selects it.
+    if (window == nullptr || (!isAlone && AgendaPointer(*window).IsOneOfRun(item->Number()))) {
         return ModelHand::Open(item);
     }
     std::int32_t last = 0;
@@ -122,7 +124,7 @@ Ref<HostInspector> WidgetHand::Open(const Ref<StoreItem>& item)
         last = std::max(last, inspector->Number());
     }
     WorkAt(mDesk, [&] {
-        if (ReachedAlone(*item) != nullptr) {
+        if (isAlone) {
             AgendaPointer(*window).DoubleClick(item->Number());
         } else {
             AgendaPointer(*window).Press(Qt::Key_Return);

@@ -320,6 +320,17 @@ TEST_F(DeskDriverTest, Activate_BringsTheWindowToTheFront)
     EXPECT_EQ(mDesk->Driver().Host().Windows().ActiveExplorer(), Window().Explorer());
 }
 
+TEST_F(DeskDriverTest, Open_OneOfSeveralShortOnes_OpensItsWindow)
+{
+    const auto first = Activity("a", "09:41");
+    Activity("b", "10:41");
+    const auto near = Activity("c", "09:40");
+    Do({ { "do", "inspector.open" }, { "entryId", first } });
+    Do({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { near } } });
+    EXPECT_EQ(Do({ { "do", "inspector.open" }, { "entryId", near } }).at("inspector"), 2);
+    EXPECT_EQ(Do({ { "do", "inspector.open" }, { "entryId", near } }).at("inspector"), 3);
+}
+
 TEST_F(DeskDriverTest, Stopped_SelectionStays_WindowsShowWhatThereIs)
 {
     const auto id = Activity("a", "09:00");
