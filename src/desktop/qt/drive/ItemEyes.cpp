@@ -62,7 +62,7 @@ std::string Seen(const QWidget* widget)
     return line == nullptr ? "nothing" : "\"" + FromQt(line->text()) + "\"";
 }
 
-std::string Command(const std::string& caption, bool isEnabled)
+std::string CommandWords(const std::string& caption, bool isEnabled)
 {
     return caption + (isEnabled ? "" : " (disabled)");
 }
@@ -73,14 +73,14 @@ void CompareCommands(const InspectorWindow& window, const HostCommandBars& bars,
     for (const auto& bar : bars.All()) {
         for (const auto& entry : bar->Entries()) {
             if (bar->Visible() && entry->Now().visible) {
-                expected.push_back(Command(WithoutKey(entry->Now().caption), entry->Now().enabled));
+                expected.push_back(CommandWords(WithoutKey(entry->Now().caption), entry->Now().enabled));
             }
         }
     }
     Texts shown;
     for (const auto* action : window.Commands().actions()) {
         if (!action->isSeparator() && action->isVisible()) {
-            shown.push_back(Command(FromQt(action->text()), action->isEnabled()));
+            shown.push_back(CommandWords(FromQt(action->text()), action->isEnabled()));
         }
     }
     if (shown != expected) {
