@@ -10,7 +10,7 @@
 namespace tempodial {
 
 /// An endless row of invented activities; the same seed gives the same row on every machine. Seven of ten belong to one
-/// of the fifty projects, so that the rules of the others are all tried in vain.
+/// of the fifty projects, so that the rules of the others are all tried and none matches.
 class Activities
 {
 public:

@@ -17,7 +17,6 @@ namespace tempodial {
 
 namespace {
 
-constexpr auto Name = "tempodial";
 /// What is done when no command is named.
 constexpr auto UsualCommand = "status";
 

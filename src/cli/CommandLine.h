@@ -18,6 +18,8 @@ namespace tempodial {
 class CommandLine
 {
 public:
+    static constexpr auto Name = "tempodial";
+
     /// Prints answers to the first stream, which that screen is behind, and what went wrong to the second.
     CommandLine(
         std::vector<std::unique_ptr<Command>> commands, std::ostream& out, const Screen& screen, std::ostream& error);

@@ -8,11 +8,8 @@
 int main(int count, char** arguments)
 {
     using namespace tempodial;
-    try {
-        PrepareProcess();
+    return RunMain(CommandLine::Name, count, arguments, [](const std::vector<std::string>& given) {
         CommandLine commandLine(AllCommands(), std::cout, Screen::Of(STDOUT_FILENO), std::cerr);
-        return static_cast<int>(commandLine.Run({ arguments + 1, arguments + count }));
-    } catch (...) {
-        return static_cast<int>(ExitStatus::NotDone);
-    }
+        return commandLine.Run(given);
+    });
 }

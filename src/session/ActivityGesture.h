@@ -16,7 +16,7 @@
 namespace tempodial {
 
 /// A person changes items by a gesture of that caption, in a window or a view. When one of them belongs to the work log
-/// it is a step by the caption without its mark of the keyboard; in the midst of an import it is none. Fails as the
+/// it is a step by the caption without its mark of the keyboard; during an import it is none. Fails as the
 /// work does, and as the profile's mailbox and registry do; then nothing has changed.
 void GestureAsStep(const Profile& profile, const std::vector<Ref<OutlookItem>>& items, const std::string& caption,
     const std::function<void()>& work);

@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <malloc.h>
 #include <new>
+#include <string_view>
 #include <unistd.h>
 
 namespace tempodial {
@@ -21,8 +22,6 @@ namespace {
 /// this to 32 MiB, and a long report's texts leave holes then.
 constexpr int LargeBlock = 4 << 20;
 constexpr auto NoMemory = "there isn't enough memory: close other programs and run the command again";
-
-}
 
 void PrepareProcess()
 {
@@ -36,6 +35,26 @@ void PrepareProcess()
     }
     (void)std::signal(SIGPIPE, SIG_IGN);
     (void)std::signal(SIGXFSZ, SIG_IGN);
+}
+
+}
+
+int RunMain(const char* program, int count, char** arguments,
+    const std::function<ExitStatus(const std::vector<std::string>& arguments)>& work) noexcept
+{
+    try {
+        PrepareProcess();
+        return static_cast<int>(work({ arguments + 1, arguments + count }));
+    } catch (...) {
+        // No memory is taken for it, since there may be none.
+        for (const std::string_view part :
+            { std::string_view(program), std::string_view(": "), std::string_view(NoMemory), std::string_view("\n") }) {
+            if (::write(STDERR_FILENO, part.data(), part.size()) < 0) {
+                break;
+            }
+        }
+        return static_cast<int>(ExitStatus::NotDone);
+    }
 }
 
 void EndWithReader()

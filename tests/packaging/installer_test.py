@@ -106,7 +106,7 @@ class InstallerTest(unittest.TestCase):
 
     def RemoveAll(self):
         """Whatever a test has left, for one that failed midway."""
-        # What Windows is told to take away would else go when Wine starts anew, in the midst of another test.
+        # What Windows is told to take away would else go when Wine starts anew, during another test.
         Wine(PROBE, "remove", *KEYS, RUNONCE)
         for folder in (self.user, self.machine, r"C:\elsewhere"):
             shutil.rmtree(Drive(folder), ignore_errors=True)

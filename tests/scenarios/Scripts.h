@@ -27,9 +27,9 @@ void Closings(DrivenPerson& person);
 void Windows(DrivenPerson& person);
 /// Every dialog, with its questions.
 void Dialogs(DrivenPerson& person);
-/// Every job, cancelled in its midst.
+/// Every job, cancelled halfway.
 void CancelledJobs(DrivenPerson& person);
-/// A sync in the midst of which the last window is closed.
+/// A sync during which the last window is closed.
 void LastWindowInASync(DrivenPerson& person);
 
 /// All of them.

@@ -5,8 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <new>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace tempodial {
 
@@ -31,6 +34,17 @@ TEST(ProgramRunTest, RunProgram_FullDisk_AsksForRoomAndNotForACopy)
         "prog: the disk is full: make room on the disk and run the command again\n");
     EXPECT_THAT(ComplaintOf(Failure(Error::DeviceError, "the disk fails")), HasSubstr("put a good copy in the place"));
     EXPECT_THAT(ComplaintOf(Failure(Error::OutOfMemory, "no memory")), Not(HasSubstr("disk")));
+}
+
+TEST(ProgramRunTest, RunMain_WorkThatCantBegin_IsToldWithoutMemory)
+{
+    std::string name = "prog";
+    char* arguments[] { name.data() };
+    const auto run = [&arguments] {
+        return RunMain(
+            "prog", 1, arguments, [](const std::vector<std::string>&) -> ExitStatus { throw std::bad_alloc(); });
+    };
+    EXPECT_EXIT(std::exit(run()), testing::ExitedWithCode(1), "^prog: there isn't enough memory: close other programs");
 }
 
 }

@@ -85,7 +85,7 @@ public:
     void Do(const std::function<void()>& work) noexcept;
     /// True while something is being done.
     bool IsBusy() const { return mDepth > 0; }
-    /// Brings the windows up to date in the midst of a job, a few times a second.
+    /// Brings the windows up to date during a job, a few times a second.
     void Follow();
     /// The desktop is dark, or light, which matters when the program is to look as it does.
     void FollowSystem(bool isDark);

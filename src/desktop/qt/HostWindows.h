@@ -46,7 +46,7 @@ public:
     ItemWindow* WindowOf(const Ref<HostInspector>& inspector) const;
 
 private:
-    /// A window may be in the midst of an event of its own when it goes.
+    /// A window may be handling an event of its own when it goes.
     struct Later
     {
         void operator()(QWidget* window) const;

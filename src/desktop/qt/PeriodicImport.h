@@ -9,7 +9,7 @@
 namespace tempodial {
 
 /// Imports what the tracker writes, without being asked: when it is time, when the program comes to the front, and when
-/// today's file has grown. Never in the midst of something else.
+/// today's file has grown. Never while something else goes on.
 class PeriodicImport
 {
 public:

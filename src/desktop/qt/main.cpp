@@ -6,11 +6,6 @@
 int main(int count, char** arguments)
 {
     using namespace tempodial;
-    try {
-        PrepareProcess();
-        DesktopProgram program(std::cout, std::cerr);
-        return static_cast<int>(program.Run({ arguments + 1, arguments + count }));
-    } catch (...) {
-        return static_cast<int>(ExitStatus::NotDone);
-    }
+    return RunMain(DesktopProgram::Name, count, arguments,
+        [](const std::vector<std::string>& given) { return DesktopProgram(std::cout, std::cerr).Run(given); });
 }

@@ -32,7 +32,7 @@ public:
     bool IsPutByReference() const { return (mFlags & PutByReference) != 0; }
     /// True when a method may be meant.
     bool IsMethod() const { return (mFlags & Method) != 0; }
-    /// True when the binding reads a property for its own needs, which isn't to be counted among the add-in's calls.
+    /// True when the binding reads a property for its own needs, which must not be counted among the add-in's calls.
     bool IsOwnRead() const { return mFlags == Read; }
 
     /// The argument at a position from 0.

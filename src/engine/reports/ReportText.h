@@ -24,7 +24,7 @@ public:
         const std::string& lineTemplate);
     /// The closing line of a plain report.
     std::string BuildTail(std::int32_t total);
-    /// The activity list of all groups that have details. The details are given up, since a long report isn't to be
+    /// The activity list of all groups that have details. The details are given up, since a long report must not be
     /// held twice.
     std::string BuildDetail(ReportData& data, bool html, const std::string& groupTemplate);
 

@@ -17,7 +17,7 @@ class Mailbox;
 class MailboxStore;
 
 /// The journal of steps of a mailbox: while a step is begun, all writes are held and what they change is kept, and the
-/// end commits both together. A failure undoes them all. What is done in the midst of an import belongs to no step, and
+/// end commits both together. A failure undoes them all. What is done during an import belongs to no step, and
 /// an import that begins within a step ends it; `ImportStep` is for what imports do. Rules live elsewhere: a step notes
 /// them and whether they are safe there.
 class StepJournal

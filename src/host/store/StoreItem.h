@@ -20,7 +20,7 @@ struct ItemWindowEvents
 {
     /// That is over, as code has closed the item or it was deleted.
     std::function<void()> LetGo;
-    /// What it holds has changed, or whether that is saved. It is told in the midst of things, so it is only to be
+    /// What it holds has changed, or whether that is saved. It is told while other work goes on, so it is only to be
     /// taken note of.
     std::function<void()> Changed;
 };

@@ -10,7 +10,7 @@ namespace tempodial {
 /// What whoever draws a part of a window wants to know.
 struct ChangeEvents
 {
-    /// Something that is seen may have changed. It is told in the midst of things, so it is only to be taken note of.
+    /// Something that is seen may have changed. It is told while other work goes on, so it is only to be taken note of.
     std::function<void()> Changed;
 };
 

@@ -46,7 +46,7 @@ public:
     void Save();
     /// Everything in it.
     const MailDraft& Draft() const { return mDraft; }
-    /// Everything in it, of which nothing is left in the mail: it may be long, and isn't to be held twice.
+    /// Everything in it, of which nothing is left in the mail: it may be long, and must not be held twice.
     MailDraft TakeDraft() { return std::exchange(mDraft, {}); }
     /// The paths of the files that couldn't be attached.
     const std::vector<std::string>& NotAttached() const { return mNotAttached; }

@@ -9,7 +9,7 @@ namespace tempodial {
 /// What whoever draws a window of the host wants to know, beside what the add-in hears.
 struct HostWindowEvents
 {
-    /// Something that is seen may have changed. It is told in the midst of things, so it is only to be taken note of.
+    /// Something that is seen may have changed. It is told while other work goes on, so it is only to be taken note of.
     std::function<void()> Changed;
     /// The window is to stand in front of others.
     std::function<void()> BroughtToFront;

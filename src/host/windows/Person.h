@@ -10,7 +10,7 @@
 
 namespace tempodial {
 
-/// What a person does to the items of a mailbox without opening them. It is durable at once, in the midst of an import
+/// What a person does to the items of a mailbox without opening them. It is durable at once, during an import
 /// too; each fails as the store does.
 class Person
 {
@@ -27,7 +27,7 @@ public:
     bool Reschedule(const Ref<StoreItem>& item, Date start, Date end) const;
     /// Deletes an item.
     void Delete(const Ref<StoreItem>& item) const;
-    /// Does several of these in one commit, all of them or, when the work fails, none; in the midst of an import or a
+    /// Does several of these in one commit, all of them or, when the work fails, none; during an import or a
     /// step with what is held there. Fails as the work does.
     void Together(const std::function<void()>& work) const;
 

@@ -85,7 +85,7 @@ FormWindow* WidgetForms::WindowOf(const FormKey& form) const
     }
     const auto model = mModels.Form(form);
     if (windows->WindowOf(model) == nullptr) {
-        // It may have come up in the midst of a job, since the windows last looked.
+        // It may have come up during a job, since the windows last looked.
         mDesk.Show();
     }
     return windows->WindowOf(model);

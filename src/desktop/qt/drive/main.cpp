@@ -7,11 +7,7 @@
 int main(int count, char** arguments)
 {
     using namespace tempodial;
-    try {
-        PrepareProcess();
-        DeskDriverProgram program(STDIN_FILENO, std::cout, std::cerr);
-        return static_cast<int>(program.Run({ arguments + 1, arguments + count }));
-    } catch (...) {
-        return static_cast<int>(ExitStatus::NotDone);
-    }
+    return RunMain(DeskDriverProgram::Name, count, arguments, [](const std::vector<std::string>& given) {
+        return DeskDriverProgram(STDIN_FILENO, std::cout, std::cerr).Run(given);
+    });
 }
