@@ -127,6 +127,13 @@ TEST_F(DamageTest, Commands_AnyLackOfMemory_GiveAllOrNothing)
     constexpr rlim_t Step = 3 << 20;
     constexpr rlim_t Most = 1 << 30;
     const auto out = mFolder.Path("out.csv");
+    // With less the system can't load it, or gives it no stack to say so.
+    constexpr rlim_t Room = 1 << 20;
+    rlim_t least = 24 << 20;
+    while (least < Most && RunTempodialWith({ .memory = least }, { "--version" }).status != 0) {
+        least += Room;
+    }
+    least += Room;
     for (const auto& arguments : { Arguments { "list", "--json", "2006" }, Arguments { "report", "--text", "2006" },
              Arguments { "export", "2006", "--out", out },
              Arguments { "assign", "Wish", "--from", "2006-09-01T00:00", "--to", "2006-10-10T23:00" } }) {
@@ -135,13 +142,10 @@ TEST_F(DamageTest, Commands_AnyLackOfMemory_GiveAllOrNothing)
         const auto whole = Run({ "list", "--json", "2006" }).out;
         int refused = 0;
         bool isDone = false;
-        for (rlim_t memory = 24 << 20; memory < Most && !isDone; memory += Step) {
+        for (auto memory = least; memory < Most && !isDone; memory += Step) {
             SCOPED_TRACE(memory >> 20);
             const auto result = RunTempodialWith({ .memory = memory }, Whole(arguments));
             isDone = result.status == 0;
-            if (result.status == 127) {
-                continue; // The system couldn't load it.
-            }
             ASSERT_TRUE(isDone || result.status == 1) << result.status << result.error;
             if (!isDone) {
                 ++refused;
