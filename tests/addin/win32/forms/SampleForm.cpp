@@ -1,6 +1,9 @@
 #include "addin/win32/forms/SampleForm.h"
 
 #include "addin/base/WindowText.h"
+#include "forms/FormDifferences.h"
+
+#include <gmock/gmock.h>
 
 #include <string>
 
@@ -62,7 +65,7 @@ void SampleForm::ExpectAlike() const
 {
     WindowHands::HandleMessages();
     const auto modelled = Modelled();
-    EXPECT_EQ(WindowEyes::Difference(modelled, Shown()), "");
+    EXPECT_THAT(FormDifferences({ modelled }, { Shown() }), testing::IsEmpty());
     EXPECT_EQ(modelled, Shown());
 }
 

@@ -1,6 +1,7 @@
 #include "standin/WindowHands.h"
 
 #include "addin/win32/forms/SampleForm.h"
+#include "forms/FormDifferences.h"
 #include "forms/FormRefusal.h"
 
 #include <gmock/gmock.h>
@@ -9,6 +10,7 @@
 namespace tempodial {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -61,12 +63,12 @@ TEST_F(WindowHandsTest, Difference_WindowShowsSomethingElse_SaysWhat)
 {
     mForm->Show();
     const auto shown = Shown();
-    EXPECT_EQ(WindowEyes::Difference(Modelled(), shown), "");
+    EXPECT_THAT(FormDifferences({ Modelled() }, { shown }), IsEmpty());
     As<ComboBox>("Project")->AddItem("Plan");
-    EXPECT_THAT(WindowEyes::Difference(Modelled(), shown), HasSubstr(R"(list ["Plan"])"));
+    EXPECT_THAT(FormDifferences({ Modelled() }, { shown }), ElementsAre(HasSubstr(R"(list ["Plan"])")));
     mForm->SetCaption("Other");
-    EXPECT_THAT(WindowEyes::Difference(Modelled(), shown),
-        HasSubstr(R"("Other" with 13 controls, and its window shows "Sample ")"));
+    EXPECT_THAT(FormDifferences({ Modelled() }, { shown }),
+        ElementsAre(HasSubstr(R"("Other" with 13 controls, and its window shows "Sample ")")));
 }
 
 TEST_F(WindowHandsTest, Difference_PersonChangedWhatTheModelDidNotHear_IsSeen)
@@ -74,8 +76,8 @@ TEST_F(WindowHandsTest, Difference_PersonChangedWhatTheModelDidNotHear_IsSeen)
     mForm->Show();
     // Without telling the form of it, as no person can.
     SendMessageW(ControlWindow("Tick"), BM_SETCHECK, BST_CHECKED, 0);
-    EXPECT_THAT(WindowEyes::Difference(Modelled(), Shown()),
-        HasSubstr("\"Tick\" of kind 4, text \"&Back apply\", list [], index -1, checked"));
+    EXPECT_THAT(FormDifferences({ Modelled() }, { Shown() }),
+        ElementsAre(HasSubstr("\"Tick\" of kind 4, text \"&Back apply\", list [], index -1, checked")));
 }
 
 }
