@@ -23,10 +23,15 @@ void AgendaAccess::Install()
 AgendaAccess::AgendaAccess(AgendaView& view)
     : QAccessibleWidget(&view, QAccessible::List, view.accessibleName())
 {
+    view.mWhenFollowed = [this] { Follow(); };
 }
 
 AgendaAccess::~AgendaAccess()
 {
+    // An agenda that goes takes this with it.
+    if (auto* view = dynamic_cast<AgendaView*>(object())) {
+        view->mWhenFollowed = nullptr;
+    }
     Forget();
 }
 

@@ -22,9 +22,6 @@ public:
     /// Lets the toolkit know of all agendas.
     static void Install();
 
-    /// The agenda shows other activities: nothing that was asked for before stands for one of them any more.
-    void Follow();
-
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
@@ -36,6 +33,8 @@ private:
     using Pieces = std::vector<std::pair<std::int64_t, int>>;
 
     AgendaView& View() const;
+    /// The agenda shows other activities: nothing that was asked for before stands for one of them any more.
+    void Follow();
     Pieces Shown() const;
     void Forget();
 

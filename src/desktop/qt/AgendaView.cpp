@@ -1,6 +1,5 @@
 #include "desktop/qt/AgendaView.h"
 
-#include "desktop/qt/AgendaAccess.h"
 #include "desktop/qt/QtText.h"
 
 #include <QAccessible>
@@ -74,10 +73,8 @@ void AgendaView::Follow()
     mGutter = mPainter.GutterFor(mContents.HourNames());
     Put();
     FindFocus();
-    if (QAccessible::isActive()) {
-        if (auto* access = dynamic_cast<AgendaAccess*>(QAccessible::queryAccessibleInterface(this))) {
-            access->Follow();
-        }
+    if (mWhenFollowed) {
+        mWhenFollowed();
     }
     if (mFitted != mLog.Days()) {
         Fit();

@@ -59,6 +59,9 @@ public:
     };
     Wishes mWishes;
 
+    /// Called when other activities are shown, for what stands for them elsewhere.
+    std::function<void()> mWhenFollowed;
+
     /// The log has changed, or how things look.
     void Follow();
     /// The present moment has moved on.

@@ -2,6 +2,7 @@
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
 #include "review/ActivityReader.h"
 
@@ -9,6 +10,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -187,6 +189,39 @@ TEST_F(SeenWorkTest, LongTitle_Selected_IsElidedAndLaterWhole)
     const auto* label = window.Foot().findChildren<QLabel*>().front();
     EXPECT_TRUE(label->text().endsWith("\u2026"));
     EXPECT_LE(QFontMetrics(label->font()).horizontalAdvance(label->text()), label->width());
+}
+
+TEST_F(SeenWorkTest, FocusOnTheLaterDay_LogChanges_StaysOnThatDay)
+{
+    Add("Alpha", "Night", "Writer", On(15, 23), On(16, 1));
+    auto& window = Open();
+    const auto& pieces = window.Agenda().Scene().Layout().Pieces();
+    std::size_t last = 0;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        last = window.Agenda().ActivityOf(i).description == "Night" ? i : last;
+    }
+    ASSERT_EQ(pieces[last].day, 3);
+    window.Agenda().SetFocusOn(last);
+    mDesk->Do([this] { Add("Alpha", "Early", "Writer", On(14, 6), On(14, 7)); });
+    ASSERT_TRUE(window.Agenda().Focus());
+    const auto focus = *window.Agenda().Focus();
+    EXPECT_EQ(window.Agenda().ActivityOf(focus).description, "Night");
+    EXPECT_EQ(window.Agenda().Scene().Layout().Pieces()[focus].day, 3);
+}
+
+TEST_F(SeenWorkTest, OnlyAProjectThatOtherDaysLack_IsForgottenThere)
+{
+    auto& window = Open();
+    auto& projects = window.Side().Projects();
+    QPushButton* row = nullptr;
+    for (auto* button : projects.findChildren<QPushButton*>()) {
+        row = button->isCheckable() && button->isVisible() ? button : row;
+    }
+    ASSERT_NE(row, nullptr);
+    row->click();
+    ASSERT_TRUE(row->isChecked());
+    window.Page(5);
+    EXPECT_FALSE(projects.ShowAll()) << "nothing is left that could fade all";
 }
 
 }
