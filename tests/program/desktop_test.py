@@ -1,5 +1,6 @@
 """Tests of the desktop program as a process: one for a profile, and what others say beside it."""
 
+import fcntl
 import os
 import pathlib
 import signal
@@ -69,6 +70,59 @@ class DesktopTest(unittest.TestCase):
     def test_CommandsThatRead_BesideIt_AreAnswered(self):
         self.StartDesktop()
         self.assertEqual(self.Run(PROGRAM, "list", "today").returncode, 0)
+
+    def Refusal(self, status=1):
+        """What a start says that ends at once with a status, and leaves the profile as it is."""
+        def State():
+            return {path: path.read_bytes() for path in self.profile.glob("*.*") if path.suffix in (".db", ".toml")}
+        before = State()
+        refused = self.Run(DESKTOP)
+        self.assertEqual(refused.returncode, status, refused.stderr)
+        self.assertEqual(State(), before)
+        return refused.stderr.removeprefix("tempodial-desktop: ").strip()
+
+    def test_Start_DamagedMailbox_SaysWhatToDoAndLeavesIt(self):
+        self.assertEqual(self.Run(PROGRAM, "--quiet", "demo", "--days", "2").returncode, 0)
+        mailbox = self.profile / "mailbox.db"
+        whole = mailbox.read_bytes()
+        name = f"the mailbox {mailbox} "
+        for damaged, text in (
+                (b"garbage", "isn't a mailbox: move it away, or name another profile"),
+                (b"", "is empty, so it is no mailbox: move it away and put a good copy"),
+                (whole[:20000], "is damaged: it is shorter than it says: move it away and put a good copy"),
+                (whole[:8192] + bytes(20480) + whole[28672:], "is damaged: check the disk"),
+                (whole[:60] + b"\0\0\0\x63" + whole[64:], "comes from a newer version of Tempodial")):
+            with self.subTest(text):
+                mailbox.write_bytes(damaged)
+                self.assertTrue(self.Refusal().startswith(name + text))
+        mailbox.write_bytes(whole)
+        self.StartDesktop()
+
+    def test_Start_DamagedProjects_SaysWhatToDoAndLeavesThem(self):
+        self.assertEqual(self.Run(PROGRAM, "--quiet", "demo", "--days", "2").returncode, 0)
+        (self.profile / "registry.toml").write_text("x = [")
+        self.assertIn("registry.toml can't be read, line 1", self.Refusal())
+
+    def test_Start_ProfileIsInUse_EndsAsCommandsDo(self):
+        self.assertEqual(self.Run(PROGRAM, "--quiet", "demo", "--days", "2").returncode, 0)
+        holder = os.open(self.profile, os.O_RDONLY)
+        self.addCleanup(os.close, holder)
+        fcntl.flock(holder, fcntl.LOCK_EX)
+        self.assertIn("is in use by", self.Refusal(status=3))
+
+    def test_Start_WithoutAScreen_SaysWhatToDo(self):
+        for name in ("DISPLAY", "WAYLAND_DISPLAY"):
+            self.environment.pop(name, None)
+        self.environment["QT_QPA_PLATFORM"] = "xcb"
+        self.assertTrue(self.Refusal().endswith("no window can be opened: start it within a desktop session, or use "
+                                                "\"tempodial\" in a terminal"))
+
+    def test_Start_BrokenSettings_OpensAndLeavesThem(self):
+        settings = self.folder / "config" / "tempodial" / "desktop.toml"
+        settings.parent.mkdir(parents=True)
+        settings.write_text("[[desktop]]\nzoom = 3\n")
+        self.StartDesktop().terminate()
+        self.assertEqual(settings.read_text(), "[[desktop]]\nzoom = 3\n")
 
 
 if __name__ == "__main__":

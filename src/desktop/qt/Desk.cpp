@@ -1,10 +1,10 @@
 #include "desktop/qt/Desk.h"
 
 #include "desktop/FailureWords.h"
+#include "desktop/UnreadLines.h"
 #include "desktop/qt/QtEventPump.h"
-#include "host/files/PathOperations.h"
-#include "host/settings/SettingsText.h"
-#include "host/settings/TomlSettings.h"
+#include "faults/Wrapped.h"
+#include "host/store/MailboxTrouble.h"
 #include "session/KnownLocale.h"
 #include "session/ProfileError.h"
 #include "session/ProfileSettings.h"
@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <cstdlib>
 #include <exception>
+#include <optional>
 #include <utility>
 
 namespace tempodial {
@@ -23,9 +24,15 @@ namespace {
 /// How often the windows follow a job.
 constexpr std::chrono::milliseconds BetweenFollows(250);
 
-std::string ColoursPath(const Profile& profile)
+/// What a read of a mailbox has met after which nothing more is written.
+std::optional<Failure> TroubleOf(const Ref<Mailbox>& mailbox)
 {
-    return profile.Path() + "/" + ColourBook::FileName;
+    try {
+        RequireNoTrouble(mailbox);
+        return std::nullopt;
+    } catch (const Failure& trouble) {
+        return trouble;
+    }
 }
 
 /// A person's locale goes before that of the system, and behind that of the command line.
@@ -41,11 +48,13 @@ ProfileOptions Localised(ProfileOptions options, const DesktopSettings& settings
 
 Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& appearance)
     : mAppearance(appearance)
-    , mSettingsPath(std::move(settingsPath))
-    , mSettings(DesktopSettings::Read(ReadSettingsFile(mSettingsPath)))
+    , mSettingsFile(std::move(settingsPath))
+    , mSettings(mSettingsFile.TakenBy(DesktopSettings::Read))
     , mSession(Localised(options, mSettings))
     , mLog(mSession.Profile())
-    , mColours(ReadSettingsFile(ColoursPath(mSession.Profile())))
+    , mColoursFile(mSession.Profile().Path() + "/" + ColourBook::FileName)
+    , mColours(mColoursFile.TakenBy([](const SettingsFile& file) { return ColourBook(file); }))
+    , mTroubles(MakeRef<ImportTroubles>(mSession.Profile().Path(), mSession.Profile().DataFolder()))
     , mWeekStart(
           [this, usual = FirstDayOfWeek(Localised(options, mSettings))] { return mSettings.FirstDayOfWeek(usual); })
 {
@@ -83,6 +92,9 @@ void Desk::Quit()
 void Desk::Start(const Ref<MessageBox>& messageBox)
 {
     auto surroundings = mSession.Surroundings(Imports::ByLines);
+    surroundings.fileSystem = Wrapped(surroundings.fileSystem, mTroubles);
+    surroundings.registry = Wrapped(surroundings.registry, mTroubles);
+    surroundings.importJournal = Wrapped(surroundings.importJournal, mTroubles);
     surroundings.messageBox = messageBox;
     surroundings.eventPump = MakeRef<QtEventPump>(surroundings.eventPump, [this] { Follow(); });
     mSession.Start(surroundings, { .imports = Imports::ByLines });
@@ -100,6 +112,12 @@ void Desk::Exit()
         KeepSettings();
     }
     KeepColours();
+}
+
+void Desk::EndQuietly() noexcept
+{
+    Guarded([this] { mSession.Exit(); });
+    Guarded([this] { mSession.End(); });
 }
 
 WorkingHours Desk::Hours() const
@@ -122,9 +140,13 @@ CardStyle Desk::StyleOf(Coloured kind, const std::string& name)
 
 void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
 {
-    const auto before = mSettings.appearance;
-    Remember(change);
-    if (mSettings.appearance != before) {
+    const auto before = mSettings;
+    change(mSettings);
+    if (mSettings != before) {
+        Write("settings", mSettingsFile, [this] { mSettingsFile.PutAside(); });
+        KeepSettings();
+    }
+    if (mSettings.appearance != before.appearance) {
         mAppearance.Apply(mSettings.appearance);
     }
     mEvents.Raise(&DeskEvents::Restyled);
@@ -154,26 +176,61 @@ void Desk::RememberSoon(const std::function<void(DesktopSettings& settings)>& ch
     mSettingsTimer.start(Moment);
 }
 
+std::string Desk::Notice() const
+{
+    std::string notice;
+    if (const auto& refusal = mSettingsFile.Refusal(); !refusal.empty()) {
+        notice = "All settings are as usual: " + refusal
+            + " and start again, or change a setting here, which keeps that " + "file as " + mSettingsFile.PathAside()
+            + ".";
+    }
+    if (const auto& refusal = mColoursFile.Refusal(); !refusal.empty()) {
+        notice += (notice.empty() ? "" : " ") + ("All colours are given anew: " + refusal) + " and start again.";
+    }
+    return notice;
+}
+
 void Desk::KeepSettings()
 {
     mSettingsTimer.stop();
-    try {
-        MakeFoldersAbove(NativePath::Exactly(mSettingsPath));
-        WriteSettingsFile(mSettings.Keep(mSettingsPath));
-    } catch (const Failure& failure) {
-        Fail("The settings couldn't be kept in " + mSettingsPath + ": " + failure.Description());
-    }
+    Write("settings", mSettingsFile, [this] { mSettingsFile.Keep(mSettings.Keep(mSettingsFile.Path())); });
 }
 
 void Desk::KeepColours()
 {
-    if (!mColours.HasChanged()) {
-        return;
+    if (mColours.HasChanged()) {
+        Write("colours", mColoursFile, [this] { mColoursFile.Keep(mColours.Keep()); });
     }
+}
+
+void Desk::Write(const char* what, const EditedFile& file, const std::function<void()>& write)
+{
     try {
-        WriteSettingsFile(mColours.Keep());
+        write();
     } catch (const Failure& failure) {
-        Fail("The colours couldn't be kept in " + ColoursPath(Profile()) + ": " + failure.Description());
+        Fail("The " + std::string(what) + " couldn't be kept in " + file.Path() + ": " + failure.Description());
+    }
+}
+
+void Desk::Fail(const std::exception& failure)
+{
+    const auto trouble = TroubleOf(mSession.Mailbox());
+    Fail(trouble ? TroubleSentence(*trouble) : FailureSentence(failure, Profile().Path()));
+}
+
+void Desk::TellTroubles()
+{
+    auto told = mTroubles->Take();
+    if (mTroubles->TakeImported()) {
+        const auto unread = UnreadSentence(Profile().Journal()->Unread());
+        told += (told.empty() || unread.empty() ? "" : " ") + unread;
+    }
+    if (!told.empty()) {
+        Fail(told);
+    }
+    // Whatever else is said, this stays true.
+    if (const auto trouble = TroubleOf(mSession.Mailbox())) {
+        Fail(*trouble);
     }
 }
 
@@ -191,6 +248,7 @@ void Desk::Do(const std::function<void()>& work) noexcept
             mSession.DropReplaced();
             KeepColours();
         });
+        Guarded([this] { TellTroubles(); });
     }
 }
 
@@ -199,7 +257,7 @@ void Desk::Guarded(const std::function<void()>& work)
     try {
         work();
     } catch (const std::exception& failure) {
-        Fail(FailureSentence(failure, Profile().Path()));
+        Fail(failure);
     }
 }
 

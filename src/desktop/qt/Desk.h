@@ -3,6 +3,8 @@
 #include "base/Subscription.h"
 #include "desktop/ColourBook.h"
 #include "desktop/DesktopSettings.h"
+#include "desktop/EditedFile.h"
+#include "desktop/ImportTroubles.h"
 #include "desktop/LogWatch.h"
 #include "desktop/Titles.h"
 #include "desktop/WorkingHours.h"
@@ -15,6 +17,7 @@
 
 #include <QTimer>
 #include <chrono>
+#include <exception>
 #include <functional>
 #include <string>
 
@@ -36,8 +39,8 @@ struct DeskEvents
 class Desk
 {
 public:
-    /// Opens the profile and reads the settings of that path; fails with `ProfileInUse`, `ProfileError` or
-    /// `SettingsFileError`. The appearance must live as long as this.
+    /// Opens the profile and reads the settings of that path; fails with `ProfileInUse` or `ProfileError`. The
+    /// appearance must live as long as this.
     Desk(const ProfileOptions& options, std::string settingsPath, Appearance& appearance);
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
@@ -51,6 +54,8 @@ public:
     void Start(const Ref<MessageBox>& messageBox);
     /// Ends all as a normal exit does, and keeps the settings.
     void Exit();
+    /// Ends what was started, whatever is wrong with the profile.
+    void EndQuietly() noexcept;
 
     tempodial::Session& Session() { return mSession; }
     const tempodial::Profile& Profile() const { return mSession.Profile(); }
@@ -67,7 +72,9 @@ public:
     CardStyle StyleOf(Coloured kind, const std::string& name);
     Titles ShownTitles() const { return mSettings.hidesTitles ? Titles::Hidden : Titles::Shown; }
     const DesktopSettings& Settings() const { return mSettings; }
-    /// Changes the settings, keeps them and shows the change.
+    /// What is to be said of settings and colours that can't be used; empty when all can.
+    std::string Notice() const;
+    /// Changes the settings, keeps them and shows the change. A file of them that can't be used goes aside.
     void Change(const std::function<void(DesktopSettings& settings)>& change);
     /// The same of what nobody but the one that changes it looks at.
     void Remember(const std::function<void(DesktopSettings& settings)>& change);
@@ -93,22 +100,30 @@ public:
     void Show() { mEvents.Raise(&DeskEvents::Changed); }
     /// Tells that something went wrong.
     void Fail(const std::string& message) { mEvents.Raise(&DeskEvents::Failed, message); }
+    /// Tells what failed, and what to do.
+    void Fail(const std::exception& failure);
 
     Subscription Subscribe(DeskEvents events) { return mEvents.Subscribe(std::move(events)); }
 
 private:
     /// Does work; what it fails with is told.
     void Guarded(const std::function<void()>& work);
+    /// Tells what the product has met and gone on all the same.
+    void TellTroubles();
     void KeepSettings();
     void KeepColours();
+    /// Writes one of the program's own files, of which a person is told in such words when that fails.
+    void Write(const char* what, const EditedFile& file, const std::function<void()>& write);
 
     Appearance& mAppearance;
-    std::string mSettingsPath;
+    EditedFile mSettingsFile;
     DesktopSettings mSettings;
     QTimer mSettingsTimer;
     tempodial::Session mSession;
     LogWatch mLog;
+    EditedFile mColoursFile;
     ColourBook mColours;
+    Ref<ImportTroubles> mTroubles;
     Period::WeekStart mWeekStart;
     int mDepth = 0;
     bool mStaysWhenClosed = false;

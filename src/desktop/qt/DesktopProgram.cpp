@@ -8,6 +8,7 @@
 #include "desktop/qt/PeriodicImport.h"
 #include "desktop/qt/ProgramIcon.h"
 #include "desktop/qt/QtMessageBox.h"
+#include "desktop/qt/RefusalBox.h"
 #include "desktop/qt/SystemTheme.h"
 #include "desktop/qt/TrackerSilence.h"
 #include "desktop/qt/TrayIcon.h"
@@ -15,9 +16,10 @@
 #include "session/OpenProfile.h"
 #include "session/ProfileError.h"
 
-#include <QMessageBox>
 #include <chrono>
+#include <cstdlib>
 #include <exception>
+#include <iostream>
 #include <optional>
 #include <string>
 
@@ -31,12 +33,34 @@ constexpr std::chrono::seconds LongestWait(5);
 constexpr auto Description = "The work log in windows: what was done when, for which project, and what is to be\n"
                              "sorted out.\n";
 
-/// Shows on the screen why the program can't run, since who started it there sees no terminal.
-void ShowRefusal(const std::exception& failure)
+/// Tells why the toolkit can't go on, as when there is no screen, and ends as a program that hasn't done its work.
+void EndOnFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
-    if (QGuiApplication::platformName() != "offscreen") {
-        QMessageBox::critical(nullptr, ProductName, failure.what());
+    std::cerr << message.toStdString() << std::endl;
+    if (type == QtFatalMsg) {
+        std::cerr << DesktopProgram::Name
+                  << ": no window can be opened: start it within a desktop session, or use \"tempodial\" in a terminal"
+                  << std::endl;
+        std::_Exit(static_cast<int>(ExitStatus::NotDone));
     }
+}
+
+/// The folder of the profile that is meant; empty when there is none, of which is told where there is a screen.
+std::string PathOf(const ProfileOptions& options)
+{
+    try {
+        return ProfilePath(options);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+/// Shows on the screen why the program can't run, since who started it there sees no terminal; true when a person has
+/// seen to it and wants it tried again.
+bool IsTriedAgain(const std::exception& failure, const ProfileOptions& options)
+{
+    const bool isSeen = QGuiApplication::platformName() != "offscreen";
+    return isSeen && RefusalBox(StartRefusal(failure, options)).IsTriedAgain();
 }
 
 }
@@ -50,10 +74,11 @@ ExitStatus DesktopProgram::Work(const ProfileOptions& given)
 {
     auto options = given;
     options.wait = LongestWait;
-    const auto path = ProfilePath(options);
+    const auto path = PathOf(options);
     if (InstanceSocket::RaiseOther(path)) {
         return ExitStatus::Done;
     }
+    qInstallMessageHandler(EndOnFatal);
     std::string name = Name;
     int count = 1;
     char* values[] { name.data(), nullptr };
@@ -62,34 +87,50 @@ ExitStatus DesktopProgram::Work(const ProfileOptions& given)
     QApplication::setDesktopFileName("io.github.tempodial.Tempodial");
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
-    try {
-        if (RunWindows(options, application)) {
-            ExampleProgram::Remove(path);
+    while (true) {
+        try {
+            if (RunWindows(options, application)) {
+                ExampleProgram::Remove(path);
+            }
+            return ExitStatus::Done;
+        } catch (const ProfileInUse& failure) {
+            // Another start may have been quicker by a moment.
+            if (InstanceSocket::RaiseOther(path)) {
+                return ExitStatus::Done;
+            }
+            if (!IsTriedAgain(failure, options)) {
+                throw;
+            }
+        } catch (const std::exception& failure) {
+            if (!IsTriedAgain(failure, options)) {
+                throw;
+            }
         }
-    } catch (const ProfileInUse& failure) {
-        // Another start may have been quicker by a moment.
-        if (!InstanceSocket::RaiseOther(path)) {
-            ShowRefusal(failure);
-            throw;
-        }
-    } catch (const std::exception& failure) {
-        ShowRefusal(failure);
-        throw;
     }
-    return ExitStatus::Done;
 }
 
 bool DesktopProgram::RunWindows(const ProfileOptions& options, GuardedApplication& application)
 {
     Appearance appearance;
     Desk desk(RequireForm(options), Desk::UsualSettingsPath(), appearance);
+    try {
+        return ShowWindows(desk, application);
+    } catch (...) {
+        application.mFailed = nullptr;
+        desk.EndQuietly();
+        throw;
+    }
+}
+
+bool DesktopProgram::ShowWindows(Desk& desk, GuardedApplication& application)
+{
     std::optional<InstanceSocket> socket;
     try {
         socket.emplace(desk.Profile().Path());
     } catch (const Failure& failure) {
         Complain(failure.Description() + ": a second start won't find this one");
     }
-    application.mFailed = [&desk](const std::string& message) { desk.Fail(message); };
+    application.mFailed = [&desk](const std::exception& failure) { desk.Fail(failure); };
     desk.Start(MakeRef<QtMessageBox>(desk.Session().Mailbox(), [&desk] { desk.Show(); }));
     const bool isHidden = desk.Settings().hasTray && desk.Settings().startsHidden;
     HostWindows windows(desk, isHidden ? HostWindows::Beginning::Hidden : HostWindows::Beginning::Shown);

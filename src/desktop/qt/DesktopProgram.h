@@ -7,6 +7,7 @@
 
 namespace tempodial {
 
+class Desk;
 class GuardedApplication;
 
 /// The desktop program: its arguments, the profile, the add-in and the windows, until a person quits.
@@ -21,8 +22,10 @@ protected:
     ExitStatus Work(const ProfileOptions& options) override;
 
 private:
-    /// True when the profile is an example that a person wants to go.
+    /// Opens the profile; true when it is an example that a person wants to go.
     bool RunWindows(const ProfileOptions& options, GuardedApplication& application);
+    /// Starts the desk and shows its windows until a person quits; true as above.
+    bool ShowWindows(Desk& desk, GuardedApplication& application);
 };
 
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QApplication>
+#include <exception>
 #include <functional>
-#include <string>
 
 namespace tempodial {
 
@@ -14,12 +14,12 @@ public:
     using QApplication::QApplication;
 
     /// Told what an event failed with.
-    std::function<void(const std::string& message)> mFailed;
+    std::function<void(const std::exception& failure)> mFailed;
 
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    void Tell(const std::string& message) const noexcept;
+    void Tell(const std::exception& failure) const noexcept;
 };
 
 }

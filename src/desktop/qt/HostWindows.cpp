@@ -6,6 +6,7 @@
 #include "desktop/qt/InspectorWindow.h"
 #include "desktop/qt/JobStrip.h"
 #include "desktop/qt/MainWindow.h"
+#include "desktop/qt/QtText.h"
 #include "desktop/qt/ReportWindow.h"
 #include "host/windows/BuiltInCommand.h"
 #include "review/ActivityReader.h"
@@ -70,6 +71,7 @@ void HostWindows::Follow()
                 mRemovesExample = true;
                 mDesk.Quit();
             };
+            window->Say(ToQt(mDesk.Notice()));
             window->setVisible(!mIsHidden);
         }
     }

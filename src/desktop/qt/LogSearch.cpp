@@ -49,7 +49,7 @@ void LogSearch::GoOn()
         });
     } catch (const std::exception& failure) {
         mTimer.stop();
-        mDesk.Fail(failure.what());
+        mDesk.Fail(failure);
         return;
     }
     if (IsDone()) {

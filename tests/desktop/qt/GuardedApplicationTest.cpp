@@ -16,7 +16,7 @@ class GuardedApplicationTest : public testing::Test
 protected:
     GuardedApplicationTest()
     {
-        mApplication.mFailed = [this](const std::string& message) { mTold.push_back(message); };
+        mApplication.mFailed = [this](const std::exception& failure) { mTold.emplace_back(failure.what()); };
     }
     ~GuardedApplicationTest() override { mApplication.mFailed = nullptr; }
 
@@ -47,7 +47,7 @@ TEST_F(GuardedApplicationTest, Slot_FailsWithoutWords_IsTold)
 
 TEST_F(GuardedApplicationTest, TheOneThatIsTold_Fails_NothingLeaves)
 {
-    mApplication.mFailed = [](const std::string&) { throw std::runtime_error("again"); };
+    mApplication.mFailed = [](const std::exception&) { throw std::runtime_error("again"); };
     EXPECT_NO_THROW(ClickAndThrow(std::runtime_error("first")));
     mApplication.mFailed = nullptr;
     EXPECT_NO_THROW(ClickAndThrow(std::runtime_error("nobody is told")));

@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <exception>
+#include <utility>
 
 namespace tempodial {
 
@@ -26,9 +28,14 @@ void Settle()
 
 }
 
-DeskDriver::DeskDriver(const ProfileOptions& options, const std::string& settingsPath)
-    : mDesk(options, settingsPath, mAppearance)
+DeskDriver::DeskDriver(GuardedApplication& application, const ProfileOptions& options, const std::string& settingsPath)
+    : mApplication(application)
+    , mDesk(options, settingsPath, mAppearance)
 {
+    mApplication.mFailed = [this](const std::exception& failure) {
+        mFailures.push_back(std::string("an event failed: ") + failure.what());
+        mDesk.Fail(failure);
+    };
     DriverSurroundings surroundings;
     surroundings.eventPump = MakeRef<QtEventPump>(mDesk.Profile().Surroundings().eventPump, [this] { mDesk.Follow(); });
     surroundings.showMessage = ClickedMessages(mDesk.Session().Mailbox());
@@ -45,6 +52,7 @@ DeskDriver::~DeskDriver()
     mDesk.Exit();
     mWindows.reset();
     Settle();
+    mApplication.mFailed = nullptr;
 }
 
 MainWindow* DeskDriver::WindowOf(const Ref<HostExplorer>& explorer) const
@@ -55,7 +63,7 @@ MainWindow* DeskDriver::WindowOf(const Ref<HostExplorer>& explorer) const
 std::vector<std::string> DeskDriver::Follow()
 {
     if (!mDesk.Session().IsStarted()) {
-        return {};
+        return std::exchange(mFailures, {});
     }
     if (mShown != &mDesk.Windows()) {
         mWindows.reset();
@@ -66,7 +74,10 @@ std::vector<std::string> DeskDriver::Follow()
     }
     mDesk.Do([] {});
     Settle();
-    return ShownState(mDesk, *mWindows).Differences();
+    auto differences = ShownState(mDesk, *mWindows).Differences();
+    const auto failures = std::exchange(mFailures, {});
+    differences.insert(differences.end(), failures.begin(), failures.end());
+    return differences;
 }
 
 }

@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Appearance.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/GuardedApplication.h"
 #include "desktop/qt/HostWindows.h"
 #include "driver/Driver.h"
 #include "session/ProfileOptions.h"
@@ -17,9 +18,9 @@ namespace tempodial {
 class DeskDriver
 {
 public:
-    /// Opens the profile, with the settings of that path; fails with `ProfileInUse` or `ProfileError`. An application
-    /// of the toolkit must be there.
-    DeskDriver(const ProfileOptions& options, const std::string& settingsPath);
+    /// Opens the profile, with the settings of that path; fails with `ProfileInUse` or `ProfileError`. What an event of
+    /// the application fails with is told as a difference.
+    DeskDriver(GuardedApplication& application, const ProfileOptions& options, const std::string& settingsPath);
     ~DeskDriver();
     DeskDriver(const DeskDriver&) = delete;
     DeskDriver& operator=(const DeskDriver&) = delete;
@@ -32,8 +33,11 @@ private:
     /// Lets the windows follow the models, and answers what they show otherwise.
     std::vector<std::string> Follow();
 
+    GuardedApplication& mApplication;
     Appearance mAppearance;
     Desk mDesk;
+    /// What events have failed with since that was answered last.
+    std::vector<std::string> mFailures;
     std::unique_ptr<HostWindows> mWindows;
     /// The host whose windows are shown; only compared.
     const HostApplication* mShown = nullptr;

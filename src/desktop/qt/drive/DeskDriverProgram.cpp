@@ -4,7 +4,6 @@
 #include "driver/AnswerLines.h"
 #include "session/InstalledForm.h"
 
-#include <QApplication>
 #include <iostream>
 
 namespace tempodial {
@@ -38,12 +37,12 @@ ExitStatus DeskDriverProgram::Work(const ProfileOptions& options)
     std::string name = Name;
     int count = 1;
     char* values[] { name.data(), nullptr };
-    QApplication application(count, values);
+    GuardedApplication application(count, values);
     QApplication::setQuitOnLastWindowClosed(false);
     // A profile of a test has settings of its own.
     const auto settings
         = options.profile ? *options.profile + "/" + DesktopSettings::FileName : Desk::UsualSettingsPath();
-    DeskDriver desk(RequireForm(options), settings);
+    DeskDriver desk(application, RequireForm(options), settings);
     return AnswerLines(desk.Driver(), mInput, Out(), Complaints(), Name);
 }
 

@@ -20,6 +20,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QTimer>
 #include <QToolButton>
 #include <stdexcept>
 
@@ -42,7 +43,7 @@ protected:
         const ProfileOptions options {
             .profile = mFolder.Path("profile"), .locale = "en_US", .now = Date::FromParts({ 2006, 10, 10, 9, 0, 0 })
         };
-        mDesk = std::make_unique<DeskDriver>(options, mFolder.Path("desktop.toml"));
+        mDesk = std::make_unique<DeskDriver>(OffscreenApplication(), options, mFolder.Path("desktop.toml"));
         Do({ { "do", "start" } });
     }
     ~DeskDriverTest() override { mDesk->Driver().Exit(); }
@@ -365,6 +366,15 @@ TEST_F(DeskDriverTest, Differences_OfMenusActivitiesAndWindows_AreTold)
     // What a window shows otherwise for a moment it mends by itself.
     Window().Agenda().ShowSelected({ 99 });
     Do({ { "do", "shell" } });
+}
+
+TEST_F(DeskDriverTest, EventOfTheToolkit_Fails_IsADifferenceOfTheNextAnswer)
+{
+    QTimer::singleShot(0, [] { throw std::runtime_error("no such card"); });
+    const auto answer = Answered({ { "do", "windows" } });
+    EXPECT_EQ(answer.at("ok"), false) << answer;
+    EXPECT_THAT(answer.at("differences"), ElementsAre("an event failed: no such card"));
+    EXPECT_FALSE(Do({ { "do", "windows" } }).contains("differences")) << "it is told once";
 }
 
 }
