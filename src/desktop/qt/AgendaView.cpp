@@ -10,6 +10,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -54,10 +55,15 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
 
 AgendaView::~AgendaView() = default;
 
-void AgendaView::TakeFont()
+void AgendaView::TakePixels()
 {
     mPainter.Texts().Use(font(), devicePixelRatioF());
     mPainter.Cards().Use(devicePixelRatioF());
+}
+
+void AgendaView::TakeFont()
+{
+    TakePixels();
     mHead->setFont(font());
     setViewportMargins(0, mHead->sizeHint().height(), 0, 0);
 }
@@ -176,6 +182,12 @@ void AgendaView::ShowSelected(const Numbers& numbers)
 
 void AgendaView::paintEvent(QPaintEvent* event)
 {
+    if (mPainter.Texts().DevicePixels() != devicePixelRatioF()) {
+        // The window has come to another screen, or its screen to another scale. What lies on whole device pixels is
+        // laid out behind this.
+        TakePixels();
+        QTimer::singleShot(0, this, [this] { Follow(); });
+    }
     QPainter painter(viewport());
     const auto scroll = verticalScrollBar()->value();
     painter.translate(0, -scroll);

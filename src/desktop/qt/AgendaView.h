@@ -126,6 +126,8 @@ protected:
 
 private:
     void TakeFont();
+    /// The pictures that are kept are for the screen that the window is on now.
+    void TakePixels();
     /// Lays the scene out anew for the width and the zoom.
     void Put();
     AgendaScene::Place Place() const;

@@ -22,6 +22,8 @@ public:
     /// The texts are in sizes of that font from now on; all pictures go.
     void Use(const QFont& font, qreal devicePixels);
 
+    /// The device pixels a pixel that the pictures are for.
+    qreal DevicePixels() const { return mDevicePixels; }
     const QFont& FontOf(TextRole role) const { return mFonts[static_cast<std::size_t>(role)]; }
     /// The height of a line.
     double HeightOf(TextRole role) const { return QFontMetricsF(FontOf(role)).height(); }

@@ -10,7 +10,9 @@ namespace tempodial {
 /// The application that all widgets need, made once, on a screen in memory, with the same fonts on every machine.
 inline GuardedApplication& OffscreenApplication()
 {
-    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen")
+    // What screens there are may be said there.
+    static const bool isOffscreen
+        = (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:") || qputenv("QT_QPA_PLATFORM", "offscreen"))
         && qputenv("FONTCONFIG_FILE", TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/fonts.conf");
     static int count = 1;
     static std::string name = "tests";
