@@ -117,6 +117,15 @@ class DesktopTest(unittest.TestCase):
         self.assertTrue(self.Refusal().endswith("no window can be opened: start it within a desktop session, or use "
                                                 "\"tempodial\" in a terminal"))
 
+    def test_Start_WithoutABus_OpensTheLog(self):
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.folder}/none"
+        settings = self.folder / "config" / "tempodial" / "desktop.toml"
+        settings.parent.mkdir(parents=True)
+        settings.write_text("[[desktop]]\ntray = true\nstart-hidden = true\n")
+        first = self.StartDesktop()
+        self.assertEqual(self.Run(DESKTOP).returncode, 0)
+        self.assertIsNone(first.poll())
+
     def test_Start_BrokenSettings_OpensAndLeavesThem(self):
         settings = self.folder / "config" / "tempodial" / "desktop.toml"
         settings.parent.mkdir(parents=True)

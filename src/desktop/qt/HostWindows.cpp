@@ -71,7 +71,9 @@ void HostWindows::Follow()
                 mRemovesExample = true;
                 mDesk.Quit();
             };
-            window->Say(ToQt(mDesk.Notice()));
+            if (const auto notice = mDesk.Notice(); !notice.empty()) {
+                window->Say(ToQt(notice));
+            }
             window->setVisible(!mIsHidden);
         }
     }

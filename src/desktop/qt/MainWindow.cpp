@@ -170,16 +170,6 @@ void MainWindow::Page(int pages)
     Show(mView, PagedDay(mView, mDesk.Settings().listSpan, mDay, pages));
 }
 
-void MainWindow::GoToDate()
-{
-    bool isDone = false;
-    const auto text = QInputDialog::getText(
-        this, "Go to Date", "Date:", QLineEdit::Normal, ToQt(mDesk.Formats()->ShortDate(mDay)), &isDone);
-    if (isDone) {
-        mDesk.Do([&] { Show(mView, mDesk.Formats()->Parse(FromQt(text)).Day()); });
-    }
-}
-
 void MainWindow::Select(const Numbers& numbers)
 {
     mSelected = numbers;

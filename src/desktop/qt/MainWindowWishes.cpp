@@ -10,7 +10,9 @@
 #include "desktop/qt/WelcomePage.h"
 #include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
+#include "terminal/TerminalText.h"
 
+#include <QInputDialog>
 #include <QLineEdit>
 
 namespace tempodial {
@@ -94,6 +96,25 @@ void MainWindow::SearchAll()
         Show(View::List, mDay);
         mSearch.Begin(terms);
     }
+}
+
+void MainWindow::GoToDate()
+{
+    const auto& formats = mDesk.Formats();
+    bool isDone = false;
+    const auto text = QInputDialog::getText(
+        this, "Go to Date", "Date:", QLineEdit::Normal, ToQt(formats->ShortDate(mDay)), &isDone);
+    if (!isDone) {
+        return;
+    }
+    Date day;
+    try {
+        day = formats->Parse(FromQt(text)).Day();
+    } catch (const Failure&) {
+        mDesk.Fail(InQuotes(FromQt(text)) + " is no date: type one such as " + formats->ShortDate(mDay) + ".");
+        return;
+    }
+    Show(mView, day);
 }
 
 void MainWindow::DropUnseen()

@@ -54,6 +54,28 @@ TEST_F(BadDaysTest, HostileCaption_IsDrawnAsALineAndQuickly)
     Picture(window, "hostile-caption");
 }
 
+TEST_F(BadDaysTest, NoFontForTheLetters_SaysWhichToInstallOnce)
+{
+    Add("", "Agenda", "Writer", On(15, 9), On(15, 10));
+    Add("", "\u4f1a\u8bae\u8bb0\u5f55", "Writer", On(1, 9), On(1, 10));
+    auto& window = Open();
+    EXPECT_EQ(window.Foot().Said(), "") << "those letters aren't shown in this week";
+    window.Show(View::Week, On(1, 0));
+    EXPECT_EQ(window.Foot().Said(),
+        "Some titles can't be drawn: install a font for Chinese, Japanese and Korean, such as fonts-noto-cjk, and "
+        "start "
+        "again.");
+    window.Say({});
+    window.Show(View::Day, On(1, 0));
+    EXPECT_EQ(window.Foot().Said(), "");
+}
+
+TEST_F(BadDaysTest, NoFontForTheLettersOfToday_IsSaidAtTheStart)
+{
+    Add("", "\u4f1a\u8bae", "Writer", On(17, 9), On(17, 10));
+    EXPECT_TRUE(Open().Foot().Said().startsWith("Some titles can't be drawn"));
+}
+
 TEST_F(BadDaysTest, TwoHundredInAnHour_EachHasItsLaneAndAllAreQuick)
 {
     for (int i = 0; i < 200; ++i) {

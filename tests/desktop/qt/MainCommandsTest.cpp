@@ -176,6 +176,26 @@ TEST_F(MainCommandsTest, N_GivesTheGroupAProjectThatIsNew)
     EXPECT_TRUE(IsUnassigned(*ActivityAt(mDesk->Profile(), On(16, 9, 10))));
 }
 
+TEST_F(MainCommandsTest, GoToDate_ADateOrNot_GoesThereOrSaysWhatADateIs)
+{
+    auto& window = Open();
+    const auto type = [](const char* text) {
+        return [text](QInputDialog& dialog) {
+            dialog.setTextValue(text);
+            dialog.accept();
+        };
+    };
+    AtDialog<QInputDialog>(type("10/10/2006"));
+    window.GoToDate();
+    const auto days = window.Log().Days();
+    EXPECT_EQ(days.first, Date::FromYearMonthDay(2006, 10, 9));
+    EXPECT_EQ(window.Foot().Said(), "");
+    AtDialog<QInputDialog>(type("teatime"));
+    window.GoToDate();
+    EXPECT_EQ(window.Foot().Said(), "\"teatime\" is no date: type one such as 10/10/2006.");
+    EXPECT_EQ(window.Log().Days(), days);
+}
+
 TEST_F(MainCommandsTest, N_NameThatTheProductRefuses_ChangesNothing)
 {
     auto& window = OpenWithWork();
