@@ -227,7 +227,8 @@ std::string Replace(std::string_view text, std::string_view find, std::string_vi
         out.append(text.substr(done, offset - done)).append(by);
         done = offset + find.size();
     }
-    return out.append(text.substr(done));
+    out.append(text.substr(done));
+    return out; // handed on; what `append` answers would be copied
 }
 
 std::vector<std::string> Split(std::string_view text, std::string_view separator)

@@ -11,11 +11,17 @@ namespace tempodial {
 
 namespace {
 
-std::string AnswerText(const Reply& reply, const Options& options, const TextLayout& layout)
+/// What stands behind the content of an answer.
+std::string EndOfAnswer(const Reply& reply, const Options& options, const TextLayout& layout)
 {
-    auto text = options.screen.isTerminal ? Harmless(Replace(reply.content, CrLf, "\n")) : reply.content;
-    text += reply.text.Text(layout);
+    auto text = reply.text.Text(layout);
     return options.quiet ? text : text + Harmless(reply.summary);
+}
+
+/// An answer as a terminal shows it.
+std::string ShownAnswer(const Reply& reply, const Options& options, const TextLayout& layout)
+{
+    return Harmless(Replace(reply.content, CrLf, "\n")) + EndOfAnswer(reply, options, layout);
 }
 
 /// True when a text without colours takes more rows than the screen has, the one for the next input included.
@@ -54,9 +60,14 @@ ExitStatus ReplyPrinter::Print(const Reply& reply, const Options& options)
 
 void ReplyPrinter::PrintText(const Reply& reply, const Options& options)
 {
-    const auto text = AnswerText(reply, options, options.layout);
+    if (!options.screen.isTerminal) {
+        // The content may be long, and goes as it is.
+        mOut << reply.content << EndOfAnswer(reply, options, options.layout);
+        return;
+    }
+    const auto text = ShownAnswer(reply, options, options.layout);
     const bool isPaged = options.screen.isInteractive && !reply.isRedirected
-        && IsLonger(AnswerText(reply, options, { .width = options.layout.width }), options.screen);
+        && IsLonger(ShownAnswer(reply, options, { .width = options.layout.width }), options.screen);
     if (!isPaged || !Pager::Chosen().Show(text)) {
         mOut << text;
     }

@@ -226,7 +226,8 @@ std::string TempodialReport::BuildHTMLReport(
         attempt([&] { report += details; });
     }
     mHasText = !report.empty();
-    return report += Ending;
+    report += Ending;
+    return report;
 }
 
 std::optional<std::string> TempodialReport::ReadTemplate(
