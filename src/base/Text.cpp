@@ -286,7 +286,11 @@ int CompareIgnoringCase(std::string_view a, std::string_view b)
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b)
 {
-    // Unequal lengths settle most questions, but fold to equal ones outside of ASCII.
+    if (!a.empty() && !b.empty() && IsAscii(a.front()) && IsAscii(b.front())
+        && FoldAscii(a.front()) != FoldAscii(b.front())) {
+        return false;
+    }
+    // Unequal lengths settle most questions that are left, but fold to equal ones outside of ASCII.
     const bool mayBeEqual = a.size() == b.size() || !IsAscii(a) || !IsAscii(b);
     return mayBeEqual && CompareIgnoringCase(a, b) == 0;
 }

@@ -251,7 +251,11 @@ TEST(TextTest, CompareIgnoringCase_AnyTexts_OrdersFoldedCharacters)
     EXPECT_LT(CompareIgnoringCase("Zebra", "Ärger"), 0);
     EXPECT_LT(CompareIgnoringCase("Ärger", "Éclair"), 0);
     EXPECT_TRUE(EqualIgnoringCase("\u212aelvin", "kelvin"));
+    EXPECT_TRUE(EqualIgnoringCase("Kelvin", "\u212aelvin"));
     EXPECT_FALSE(EqualIgnoringCase("a", "b"));
+    EXPECT_FALSE(EqualIgnoringCase("\u212a", "a"));
+    EXPECT_TRUE(EqualIgnoringCase("", ""));
+    EXPECT_FALSE(EqualIgnoringCase("", "a"));
     EXPECT_FALSE(EqualIgnoringCase("a", "ab"));
 }
 
