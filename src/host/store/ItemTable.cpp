@@ -17,9 +17,9 @@ const std::string Columns = "item.id, item.folder, item.kind, item.message_class
                             "item.recurring, item.subject, item.mileage, item.billing, item.properties, item.body, "
                             "item.by_hand, item.saved";
 
-StoredItem Read(MailboxDatabase& database, const Query& query)
+/// An item whose columns stand in a row from one on.
+StoredItem Read(MailboxDatabase& database, const Query& query, int column = 0)
 {
-    int column = 0;
     StoredItem item;
     item.row = query.Int(column++);
     item.folder = query.Int(column++);
@@ -31,7 +31,7 @@ StoredItem Read(MailboxDatabase& database, const Query& query)
     item.data.subject = query.Text(column++);
     item.data.mileage = query.Text(column++);
     item.data.billingInformation = query.Text(column++);
-    item.data.properties = database.Properties(query.Text(column++));
+    item.data.properties = database.Properties(query.View(column++));
     item.data.body = query.Text(column++);
     item.data.isProjectByHand = query.Int(column++) != 0;
     if (!query.IsNull(column)) {
@@ -192,16 +192,17 @@ std::optional<StoredItem> ItemTable::Load(std::int64_t row)
     return query.Step() ? std::optional(Read(mDatabase, query)) : std::nullopt;
 }
 
-std::vector<StoredItem> ItemTable::Load(std::span<const std::int64_t> rows)
+std::vector<std::optional<StoredItem>> ItemTable::Load(std::span<const std::int64_t> rows)
 {
+    // Each says its place. To have SQLite put them in order takes them through a table of its own, with all their
+    // texts.
     static const std::string sql
-        = "SELECT " + Columns + " FROM json_each(?) AS list CROSS JOIN item ON item.id = list.value ORDER BY list.id";
-    std::vector<StoredItem> items;
-    items.reserve(rows.size());
+        = "SELECT list.key, " + Columns + " FROM json_each(?) AS list CROSS JOIN item ON item.id = list.value";
+    std::vector<std::optional<StoredItem>> items(rows.size());
     Query query(mDatabase, sql);
     query.Bind(JsonList(rows));
     while (query.Step()) {
-        items.push_back(Read(mDatabase, query));
+        items[static_cast<std::size_t>(query.Int(0))] = Read(mDatabase, query, 1);
     }
     return items;
 }
@@ -216,7 +217,10 @@ std::vector<std::int64_t> ItemTable::All(std::int64_t folder, const ItemOrder& o
 
 std::vector<std::int64_t> ItemTable::Select(std::int64_t folder, const FilterCondition& condition)
 {
-    return Rows(folder, condition, " ORDER BY item.id");
+    auto rows = Rows(folder, condition, "");
+    // SQLite would go back to the table of the items for this.
+    std::sort(rows.begin(), rows.end());
+    return rows;
 }
 
 std::int64_t ItemTable::First(std::int64_t folder, const FilterCondition& condition)

@@ -47,8 +47,8 @@ public:
 
     /// The item of a row, nothing when it is gone.
     std::optional<StoredItem> Load(std::int64_t row);
-    /// The items of rows in that order; one that is gone is left out.
-    std::vector<StoredItem> Load(std::span<const std::int64_t> rows);
+    /// The items of rows in that order; nothing for one that is gone.
+    std::vector<std::optional<StoredItem>> Load(std::span<const std::int64_t> rows);
 
     /// The rows of a folder.
     std::vector<std::int64_t> All(std::int64_t folder, const ItemOrder& order);

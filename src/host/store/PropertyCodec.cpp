@@ -85,6 +85,8 @@ void AppendText(std::string& json, std::string_view text)
     json += '"';
 }
 
+/// An activity has so many properties when nobody has added any.
+constexpr std::size_t UsualCount = 8;
 /// So many texts can be wanted at once.
 constexpr std::size_t MostWanted = 16;
 
@@ -100,7 +102,8 @@ public:
     std::vector<ItemProperty> Properties()
     {
         std::vector<ItemProperty> properties;
-        ForEach([&] { properties.push_back(Property()); });
+        properties.reserve(UsualCount);
+        ForEach([&] { ReadProperty(properties.emplace_back()); });
         return properties;
     }
     /// Reads the texts of these names as they are spelled; false when one of them isn't there as a text.
@@ -198,16 +201,14 @@ private:
         return true;
     }
 
-    ItemProperty Property()
+    void ReadProperty(ItemProperty& property)
     {
-        ItemProperty property;
         property.name = Text(mName);
         property.type = BeginValue();
         if (Take(',')) {
             property.value = Value(property.type);
         }
         Expect(']');
-        return property;
     }
     /// Reads what stands between a name and its value.
     PropertyType BeginValue()

@@ -191,17 +191,9 @@ void StoreItems::ReadPage(std::size_t index)
     length = std::min(length, mRows->size() - start);
 
     const std::span<const std::int64_t> wanted(mRows->data() + start, length);
-    auto read = mStore->Table().Load(wanted);
-    mPage.assign(length, std::nullopt);
+    mPage = mStore->Table().Load(wanted);
     mPageStart = start;
     mPageReadAt = mStore->Table().Changes();
-    std::size_t position = 0;
-    for (auto& item : read) {
-        while (wanted[position] != item.row) {
-            ++position;
-        }
-        mPage[position] = std::move(item);
-    }
 }
 
 }
