@@ -120,6 +120,11 @@ std::vector<FolderDescriptor::Entry> FolderDescriptor::Everything() const
     return entries;
 }
 
+std::optional<FileStatus> FolderDescriptor::StatusOf(const std::string& name) const
+{
+    return FileStatus::Look(mNumber, name.c_str(), 0);
+}
+
 bool FolderDescriptor::IsEmpty() const
 {
     const auto listing = ListingOf(mNumber);

@@ -37,6 +37,8 @@ public:
     std::vector<Entry> Files() const;
     /// All that stands in it, in the order of the names; of links what they are, not what they lead to.
     std::vector<Entry> Everything() const;
+    /// What stands at a name in it, behind links; nothing when that can't be looked at.
+    std::optional<FileStatus> StatusOf(const std::string& name) const;
     /// True when nothing stands in it.
     bool IsEmpty() const;
     /// True when it is what stands at a path.

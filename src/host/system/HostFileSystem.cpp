@@ -58,8 +58,7 @@ Folder HostFileSystem::GetFolder(const std::string& path)
 {
     Folder folder { path, {} };
     for (const auto& entry : FolderDescriptor(NativePath(path)).Files()) {
-        folder.files.push_back({ entry.name, BuildPath(path, entry.name), static_cast<std::int64_t>(entry.status.size),
-            mLocalTime.At(entry.status.created) });
+        folder.files.push_back(FileOf(entry.name, BuildPath(path, entry.name), entry.status));
     }
     std::sort(folder.files.begin(), folder.files.end(), [](const File& a, const File& b) { return a.name < b.name; });
     return folder;
@@ -73,14 +72,16 @@ bool HostFileSystem::FileExists(const std::string& path)
 
 File HostFileSystem::GetFile(const std::string& path)
 {
-    mAppended.Forget();
+    if (const auto status = mAppended.LookAgain(path)) {
+        return FileOf(mAppended.Name(), path, *status);
+    }
     const NativePath native(path);
     const auto status = StatusOf(native, Links::Followed);
     if (status.kind != FileStatus::Kind::File) {
         throw Failure(Error::PermissionDenied);
     }
-    mAppended.Seen(path, status);
-    return { native.Name(), path, static_cast<std::int64_t>(status.size), mLocalTime.At(status.created) };
+    mAppended.Seen(path, native, status);
+    return FileOf(native.Name(), path, status);
 }
 
 void HostFileSystem::MoveFile(const std::string& source, const std::string& target)
@@ -126,18 +127,22 @@ void HostFileSystem::DeleteFile(const std::string& path, bool force)
 
 Ref<TextStream> HostFileSystem::OpenTextFile(const std::string& path, OpenMode mode, bool create)
 {
-    const NativePath native(path);
     switch (mode) {
     case OpenMode::Reading:
-        return MakeRef<FileReader>(native, create);
+        return MakeRef<FileReader>(NativePath(path), create);
     case OpenMode::Writing:
         mAppended.Forget();
         RequireChangeable();
-        return MakeRef<FileReplacer>(native, create, mBeforeChange);
+        return MakeRef<FileReplacer>(NativePath(path), create, mBeforeChange);
     case OpenMode::Appending:
-        return MakeRef<FileAppender>(mAppended.Open(path, native, create));
+        return MakeRef<FileAppender>(mAppended.Open(path, create));
     }
     throw Failure(Error::InvalidCall);
+}
+
+File HostFileSystem::FileOf(const std::string& name, std::string path, const FileStatus& status)
+{
+    return { name, std::move(path), static_cast<std::int64_t>(status.size), mLocalTime.At(status.created) };
 }
 
 void HostFileSystem::RequireChangeable() const

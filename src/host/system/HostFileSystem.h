@@ -35,6 +35,7 @@ public:
     Ref<TextStream> OpenTextFile(const std::string& path, OpenMode mode, bool create) override;
 
 private:
+    File FileOf(const std::string& name, std::string path, const FileStatus& status);
     void RequireChangeable() const;
 
     std::string mTemporaryFolder;

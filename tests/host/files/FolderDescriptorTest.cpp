@@ -102,6 +102,19 @@ TEST_F(FolderDescriptorTest, Everything_InOrder_LinksAsWhatTheyAre)
     EXPECT_EQ(seen, "a1 b0 c2 ");
 }
 
+TEST_F(FolderDescriptorTest, StatusOf_Names_AreLookedAtBehindLinks)
+{
+    mTemp.Write("file", "1234567");
+    fs::create_symlink("file", mTemp.Path("link"));
+    for (const auto* name : { "file", "link" }) {
+        const auto status = mFolder.StatusOf(name);
+        ASSERT_TRUE(status) << name;
+        EXPECT_EQ(status->kind, FileStatus::Kind::File) << name;
+        EXPECT_EQ(status->size, 7U) << name;
+    }
+    EXPECT_FALSE(mFolder.StatusOf("absent"));
+}
+
 TEST_F(FolderDescriptorTest, IsAt_AnotherInItsPlace_IsFalse)
 {
     EXPECT_TRUE(mFolder.IsAt(NativePath(mTemp.Path())));

@@ -7,7 +7,6 @@
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <sys/file.h>
 #include <sys/resource.h>
@@ -330,51 +329,6 @@ TEST_F(HostTextStreamTest, Appending_ExistingOrNewFile_AddsAtTheEndAtOnce)
     };
     ::stat(mFolder.Path("log").c_str(), &status);
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
-}
-
-TEST_F(HostTextStreamTest, Appending_FileJustLookedAt_GoesOnInIt)
-{
-    const auto path = mFolder.Path("log");
-    for (const auto* text : { "one ", "two ", "three" }) {
-        mFiles.OpenTextFile(path, OpenMode::Appending, true)->Write(text);
-        EXPECT_EQ(mFiles.GetFile(path).path, path);
-    }
-    EXPECT_EQ(mFolder.Read("log"), "one two three");
-}
-
-TEST_F(HostTextStreamTest, Appending_AnotherFileSinceTheLook_IsThatOne)
-{
-    const auto path = mFolder.Path("log");
-    const std::function<void()> changes[] = {
-        [&] { mFiles.MoveFile(path, mFolder.Path("moved")); },
-        [&] { mFiles.DeleteFile(path, false); },
-        [&] {
-            // By another program, and looked at again.
-            std::filesystem::rename(path, mFolder.Path("moved"));
-            mFolder.Write("log", "");
-            mFiles.GetFile(path);
-        },
-        [&] { mFiles.OpenTextFile(path, OpenMode::Writing, true)->Close(); },
-    };
-    for (const auto& change : changes) {
-        mFolder.Write("log", "");
-        mFiles.OpenTextFile(path, OpenMode::Appending, true)->Write("old");
-        mFiles.GetFile(path);
-        change();
-        mFiles.OpenTextFile(path, OpenMode::Appending, true)->Write("new");
-        EXPECT_EQ(mFolder.Read("log"), "new");
-        std::filesystem::remove(mFolder.Path("moved"));
-    }
-}
-
-TEST_F(HostTextStreamTest, Appending_ReadOnlySinceTheLastTime_Fails)
-{
-    const auto path = mFolder.Path("log");
-    mFiles.OpenTextFile(path, OpenMode::Appending, true)->Write("one");
-    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
-    mFiles.GetFile(path);
-    EXPECT_EQ(OpenFailure("log", OpenMode::Appending, true), 70);
-    EXPECT_EQ(mFolder.Read("log"), "one");
 }
 
 TEST_F(HostTextStreamTest, Appending_DiskIsFull_Fails)
