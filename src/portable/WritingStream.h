@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Concatenated.h"
 #include "base/Failure.h"
 #include "base/Text.h"
 #include "platform/system/TextStream.h"
@@ -14,7 +15,7 @@ class WritingStream : public TextStream
 public:
     std::string ReadLine() final { throw Failure(Error::BadFileMode); }
     std::string ReadAll() final { throw Failure(Error::BadFileMode); }
-    void WriteLine(const std::string& text) final { Write(text + std::string(CrLf)); }
+    void WriteLine(const std::string& text) final { Write(Concatenated({ text, CrLf })); }
 };
 
 }

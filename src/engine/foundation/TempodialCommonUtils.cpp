@@ -38,7 +38,7 @@ void TempodialCommonUtils::Terminate()
     mFileSystem = nullptr;
 }
 
-std::string TempodialCommonUtils::GetDataFolderName()
+const std::string& TempodialCommonUtils::DataFolder()
 {
     const auto attempt = Failing("", LineShape::Silent);
     if (mDataFolderName.empty()) {
@@ -53,6 +53,11 @@ std::string TempodialCommonUtils::GetDataFolderName()
     return mDataFolderName;
 }
 
+std::string TempodialCommonUtils::GetDataFolderName()
+{
+    return DataFolder();
+}
+
 Ref<const Folder> TempodialCommonUtils::GetDataFolder()
 {
     return Failing("", LineShape::Silent).Get([&] {
@@ -63,7 +68,7 @@ Ref<const Folder> TempodialCommonUtils::GetDataFolder()
 std::string TempodialCommonUtils::GetDataFilePath(const std::string& filename)
 {
     // The folder's name is its path; a look at the folder would list all of its files for each block of the trace.
-    return Failing("", LineShape::Silent).Get([&] { return mFileSystem->BuildPath(GetDataFolderName(), filename); });
+    return Failing("", LineShape::Silent).Get([&] { return mFileSystem->BuildPath(DataFolder(), filename); });
 }
 
 Ref<TextStream> TempodialCommonUtils::OpenDataFile(const std::string& filename, bool createIt, OpenMode mode)

@@ -32,6 +32,8 @@ public:
     void MarkEmailObjectGuardInPlace();
 
 private:
+    /// The path of the data folder, which is made when it is absent.
+    const std::string& DataFolder();
     /// True when a policy of the site guards the e-mail objects.
     bool PolicyInPlace(const Attempt& attempt);
 

@@ -74,7 +74,8 @@ std::string HtmlText::HTMLEscape(std::string& text)
 {
     const auto attempt = Failing("HTMLEscape ", LineShape::ColonText);
     mStage = "HTMLEscape";
-    if (text.find_first_of("&<>") == NotFound) {
+    // A search for each is many times quicker than one for all.
+    if (text.find('&') == NotFound && text.find('<') == NotFound && text.find('>') == NotFound) {
         return text;
     }
     const auto replace

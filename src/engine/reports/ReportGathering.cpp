@@ -1,5 +1,6 @@
 #include "engine/reports/ReportGathering.h"
 
+#include "base/Concatenated.h"
 #include "base/Number.h"
 #include "base/Text.h"
 #include "engine/foundation/TempodialStrings.h"
@@ -7,13 +8,19 @@
 #include "platform/objectmodel/MAPIFolder.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
+#include <string_view>
 
 namespace tempodial {
 
 namespace {
 
 constexpr std::int32_t LongestName = 35;
+/// Bytes that a line about an activity seldom exceeds.
+constexpr std::size_t UsualLine = 256;
+/// What the first columns of the CSV file tell.
+const std::array<std::string, 4> ColumnAttributes { "Project", "Type", "Description", "People" };
 /// After so many days in a row without an activity events are let in, so that a cancel is heard among them too.
 constexpr std::int32_t LongestSilence = 100;
 
@@ -113,7 +120,7 @@ void ReportGathering::GatherItem(const Ref<AppointmentItem>& item, const Attempt
         auto& group = mData.groups[index];
         if (mRequest.detailed) {
             // kept: the line break also in front of the first line of the element that was there from the start.
-            attempt([&] { mData.details.Append(group.details, std::string(CrLf) + ToDetailString(item)); });
+            attempt([&] { mData.details.Append(group.details, Concatenated({ CrLf, ToDetailString(item) })); });
         }
         attempt([&] { group.minutes = Sum(group.minutes, item->Duration()); });
         return;
@@ -159,15 +166,20 @@ std::string ReportGathering::ToCSVLine(const Ref<AppointmentItem>& item)
     const auto attempt = Failing("ToCSVLine ", LineShape::ColonText);
     auto& formats = *mPlatform->formats;
     std::string line;
-    for (const auto* attribute : { "Project", "Type", "Description", "People" }) {
-        line += attempt.Get([&] { return ToCSV(GetText(attribute, item)); }) + ",";
+    line.reserve(UsualLine);
+    for (const auto& attribute : ColumnAttributes) {
+        line += attempt.Get([&] { return ToCSV(GetText(attribute, item)); });
+        line += ',';
     }
     const auto day = attempt.Get([&] { return formats.LongDate(item->Start()); });
     const auto start = attempt.Get([&] { return formats.ShortTime(item->Start()); });
     const auto end = attempt.Get([&] { return formats.ShortTime(item->End()); });
-    line += ToCSV(day) + "," + ToCSV(start) + "," + ToCSV(end) + ",";
+    for (const auto& text : { ToCSV(day), ToCSV(start), ToCSV(end) }) {
+        line += text;
+        line += ',';
+    }
     attempt([&] { line += GetText("Duration", item); });
-    attempt.Say("ToCSVLine: " + line);
+    attempt.Say(Concatenated({ "ToCSVLine: ", line }));
     return line;
 }
 
@@ -176,7 +188,7 @@ std::string ReportGathering::ToCSV(const std::string& text)
     const auto attempt = Failing("ToCSV ", LineShape::ColonText);
     // kept: quotes aren't doubled, and a line break stays in the field.
     return attempt.Get([&] {
-        auto field = "\"" + text + "\"";
+        auto field = Concatenated({ "\"", text, "\"" });
         std::replace(field.begin() + 1, field.end() - 1, '"', '\'');
         return field;
     });
@@ -186,26 +198,26 @@ std::string ReportGathering::ToDetailString(const Ref<AppointmentItem>& item)
 {
     const auto attempt = Failing("ToDetailString ", LineShape::ColonText);
     auto& formats = *mPlatform->formats;
-    const std::string separator = mRequest.html ? "&nbsp;" : " ";
-    const auto two = separator + separator;
+    const std::string_view two = mRequest.html ? "&nbsp;&nbsp;" : "  ";
 
     std::string line;
+    line.reserve(UsualLine);
     if (mRequest.attribute != "Start") {
-        attempt([&] { line = formats.MediumDate(item->Start()) + two; });
+        attempt([&] { line.append(formats.MediumDate(item->Start())).append(two); });
     }
     auto text = GetDetailText(item, attempt);
     if (mRequest.html) {
         attempt([&] { text = mHtml.HTMLEscape(text); });
     }
     attempt([&] {
-        line += formats.ShortTime(item->Start()) + " - " + formats.ShortTime(item->End()) + two + "("
-            + Padded(mMain->GetAttribute("Duration", item).ToInt32(), 2) + " " + mMain->mStrings->mReportMins + ")"
-            + two + two + text;
+        line += Concatenated({ formats.ShortTime(item->Start()), " - ", formats.ShortTime(item->End()), two, "(",
+            Padded(mMain->GetAttribute("Duration", item).ToInt32(), 2), " ", mMain->mStrings->mReportMins, ")", two,
+            two, text });
     });
     if (mRequest.html) {
         line += "<br>";
     }
-    attempt.Say("ToDetailString: " + line);
+    attempt.Say(Concatenated({ "ToDetailString: ", line }));
     return line;
 }
 
@@ -215,7 +227,7 @@ std::string ReportGathering::GetDetailText(const Ref<AppointmentItem>& item, con
         const auto project = attempt.Get([&] { return GetText("Project", item); });
         const auto description = attempt.Get([&] { return GetText("Description", item); });
         const bool hasProject = !project.empty() && project != mMain->mStrings->mNoProject;
-        return hasProject ? "[" + project + "] " + description : description;
+        return hasProject ? Concatenated({ "[", project, "] ", description }) : description;
     }
     if (mRequest.attribute == "Project") {
         const auto type = attempt.Get([&] { return GetText("Type", item); });
