@@ -8,7 +8,6 @@
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
-#include <SQLiteCpp/Statement.h>
 #include <sqlite3.h>
 
 #include <cerrno>
@@ -258,19 +257,27 @@ void MailboxDatabase::ReadProperties(std::string_view json, std::span<const Want
     }
 }
 
-SQLite::Statement& MailboxDatabase::Prepare(const std::string& sql)
+void MailboxDatabase::Finalizer::operator()(sqlite3_stmt* statement) const noexcept
+{
+    sqlite3_finalize(statement);
+}
+
+sqlite3_stmt* MailboxDatabase::Prepare(const std::string& sql)
 {
     if (const auto known = mStatements.find(sql); known != mStatements.end()) {
-        return *known->second;
+        return known->second.get();
     }
     if (mStatements.size() >= StatementsKept && mRunning == 0) {
         mStatements.clear();
     }
-    try {
-        return *mStatements.emplace(sql, std::make_unique<SQLite::Statement>(*mConnection, sql)).first->second;
-    } catch (const SQLite::Exception& problem) {
-        throw Failed(problem.getExtendedErrorCode(), problem.what());
+    auto* const handle = mConnection->getHandle();
+    sqlite3_stmt* statement = nullptr;
+    const int code = sqlite3_prepare_v2(handle, sql.c_str(), static_cast<int>(sql.size()), &statement, nullptr);
+    std::unique_ptr<sqlite3_stmt, Finalizer> prepared(statement);
+    if (code != SQLITE_OK) {
+        throw Failed(code, sqlite3_errmsg(handle));
     }
+    return mStatements.emplace(sql, std::move(prepared)).first->second.get();
 }
 
 void MailboxDatabase::AddFunctions()

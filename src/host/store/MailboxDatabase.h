@@ -15,9 +15,9 @@
 #include <unordered_map>
 #include <vector>
 
+struct sqlite3_stmt; // NOLINT(readability-identifier-naming): the library names it so
 namespace SQLite { // NOLINT(readability-identifier-naming): the library names it so
 class Database;
-class Statement;
 }
 
 namespace tempodial {
@@ -104,7 +104,12 @@ public:
 private:
     friend class Query;
 
-    SQLite::Statement& Prepare(const std::string& sql);
+    struct Finalizer
+    {
+        void operator()(sqlite3_stmt* statement) const noexcept;
+    };
+
+    sqlite3_stmt* Prepare(const std::string& sql);
     void AddFunctions();
     void RollBack();
     /// True when the system refused for want of room.
@@ -116,7 +121,7 @@ private:
 
     std::string mPath;
     std::unique_ptr<SQLite::Database> mConnection;
-    std::unordered_map<std::string, std::unique_ptr<SQLite::Statement>> mStatements;
+    std::unordered_map<std::string, std::unique_ptr<sqlite3_stmt, Finalizer>> mStatements;
     std::size_t mRunning = 0;
     bool mHeld = false;
     std::optional<Failure> mUndone;

@@ -2,12 +2,7 @@
 
 #include "host/store/MailboxDatabase.h"
 
-#include <SQLiteCpp/Column.h>
-#include <SQLiteCpp/Exception.h>
-#include <SQLiteCpp/Statement.h>
 #include <sqlite3.h>
-
-#include <limits>
 
 namespace tempodial {
 
@@ -21,67 +16,47 @@ Query::Query(MailboxDatabase& database, const std::string& sql)
 Query::~Query()
 {
     // Values bound without a copy stay until the next run binds its own, all of them.
-    mStatement.tryReset();
+    sqlite3_reset(mStatement);
     --mDatabase.mRunning;
-}
-
-/// Binds a value of that many bytes.
-template <class Binding> void Query::Checked(std::size_t size, Binding&& binding)
-{
-    // SQLiteCpp counts bytes in an int.
-    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-        throw mDatabase.Failed(SQLITE_TOOBIG, sqlite3_errstr(SQLITE_TOOBIG));
-    }
-    try {
-        binding();
-    } catch (const SQLite::Exception& problem) {
-        throw mDatabase.Failed(problem.getExtendedErrorCode(), problem.what());
-    }
 }
 
 Query& Query::Bind(std::int64_t value)
 {
-    Checked(sizeof(value), [&] { mStatement.bind(++mBound, value); });
-    return *this;
+    return Bound(sqlite3_bind_int64(mStatement, ++mBound, value));
 }
 
 Query& Query::Bind(const std::string& text)
 {
-    Checked(text.size(), [&] { mStatement.bindNoCopy(++mBound, text); });
-    return *this;
+    return Bound(sqlite3_bind_text64(mStatement, ++mBound, text.data(), text.size(), SQLITE_STATIC, SQLITE_UTF8));
 }
 
 Query& Query::Bind(std::string&& text)
 {
-    Checked(text.size(), [&] { mStatement.bind(++mBound, text); });
-    return *this;
+    return Bound(sqlite3_bind_text64(mStatement, ++mBound, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
 }
 
 Query& Query::BindNull()
 {
-    Checked(0, [&] { mStatement.bind(++mBound); });
-    return *this;
+    return Bound(sqlite3_bind_null(mStatement, ++mBound));
 }
 
 Query& Query::BindBytes(std::string_view bytes)
 {
-    Checked(bytes.size(), [&] { mStatement.bindNoCopy(++mBound, bytes.data(), static_cast<int>(bytes.size())); });
-    return *this;
+    return Bound(sqlite3_bind_blob64(mStatement, ++mBound, bytes.data(), bytes.size(), SQLITE_STATIC));
 }
 
 bool Query::Step()
 {
-    const auto code = mStatement.tryExecuteStep();
+    const auto code = sqlite3_step(mStatement);
     if (code == SQLITE_ROW) {
         return true;
     }
     if (code == SQLITE_DONE) {
         return false;
     }
-    const auto extended = mStatement.getExtendedErrorCode();
-    const std::string text = mStatement.getErrorMsg();
-    mStatement.tryReset();
-    throw mDatabase.Failed(extended, text);
+    const std::string text = sqlite3_errmsg(sqlite3_db_handle(mStatement));
+    sqlite3_reset(mStatement);
+    throw mDatabase.Failed(code, text);
 }
 
 void Query::Run()
@@ -91,24 +66,31 @@ void Query::Run()
 
 std::int64_t Query::Int(int column) const
 {
-    return mStatement.getColumn(column).getInt64();
+    return sqlite3_column_int64(mStatement, column);
 }
 
 std::string Query::Text(int column) const
 {
-    return mStatement.getColumn(column).getString();
+    return std::string(View(column));
 }
 
 std::string_view Query::View(int column) const
 {
-    const auto value = mStatement.getColumn(column);
-    const auto* const bytes = static_cast<const char*>(value.getBlob());
-    return { bytes, bytes == nullptr ? 0 : static_cast<std::size_t>(value.getBytes()) };
+    const auto* const bytes = static_cast<const char*>(sqlite3_column_blob(mStatement, column));
+    return { bytes, bytes == nullptr ? 0 : static_cast<std::size_t>(sqlite3_column_bytes(mStatement, column)) };
 }
 
 bool Query::IsNull(int column) const
 {
-    return mStatement.getColumn(column).isNull();
+    return sqlite3_column_type(mStatement, column) == SQLITE_NULL;
+}
+
+Query& Query::Bound(int code)
+{
+    if (code != SQLITE_OK) {
+        throw mDatabase.Failed(code, sqlite3_errmsg(sqlite3_db_handle(mStatement)));
+    }
+    return *this;
 }
 
 }

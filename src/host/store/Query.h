@@ -1,14 +1,11 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
-namespace SQLite { // NOLINT(readability-identifier-naming): the library names it so
-class Statement;
-}
+struct sqlite3_stmt; // NOLINT(readability-identifier-naming): the library names it so
 
 namespace tempodial {
 
@@ -48,10 +45,11 @@ public:
     bool IsNull(int column) const;
 
 private:
-    template <class Binding> void Checked(std::size_t size, Binding&& binding);
+    /// Fails unless a value was bound.
+    Query& Bound(int code);
 
     MailboxDatabase& mDatabase;
-    SQLite::Statement& mStatement;
+    sqlite3_stmt* mStatement;
     int mBound = 0;
 };
 
