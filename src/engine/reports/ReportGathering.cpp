@@ -189,7 +189,9 @@ std::string ReportGathering::ToCSV(const std::string& text)
     // kept: quotes aren't doubled, and a line break stays in the field.
     return attempt.Get([&] {
         auto field = Concatenated({ "\"", text, "\"" });
-        std::replace(field.begin() + 1, field.end() - 1, '"', '\'');
+        if (text.find('"') != std::string::npos) {
+            std::replace(field.begin() + 1, field.end() - 1, '"', '\'');
+        }
         return field;
     });
 }
