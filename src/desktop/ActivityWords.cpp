@@ -8,6 +8,9 @@ namespace tempodial {
 
 namespace {
 
+/// Stands between what is said one after the other.
+constexpr auto SpokenSeparator = ", ";
+
 /// Adds a part of a line, unless it is empty.
 void AddPart(std::string& line, const std::string& part, const char* separator = PartSeparator)
 {
@@ -66,14 +69,19 @@ std::string ActivityWords::Summary(const std::vector<Activity>& activities)
     return ActivitiesText(static_cast<std::int64_t>(activities.size())) + PartSeparator + LengthText(minutes);
 }
 
-std::string ActivityWords::Spoken(const Activity& activity, bool isSelected) const
+std::string ActivityWords::Spoken(const Activity& activity) const
 {
-    constexpr auto Separator = ", ";
     auto line = Title(activity);
-    AddPart(line, mFormats->LongDate(activity.start), Separator);
-    AddPart(line, mFormats->ShortTime(activity.start) + " to " + mFormats->ShortTime(activity.end), Separator);
-    AddPart(line, ProjectNameOf(activity), Separator);
-    AddPart(line, isSelected ? "selected" : "", Separator);
+    AddPart(line, mFormats->LongDate(activity.start), SpokenSeparator);
+    AddPart(line, mFormats->ShortTime(activity.start) + " to " + mFormats->ShortTime(activity.end), SpokenSeparator);
+    AddPart(line, ProjectNameOf(activity), SpokenSeparator);
+    return line;
+}
+
+std::string ActivityWords::Described(const Activity& activity) const
+{
+    auto line = LengthText(activity.duration);
+    AddPart(line, Title(activity) == activity.type ? "" : activity.type, SpokenSeparator);
     return line;
 }
 

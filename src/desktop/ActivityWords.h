@@ -28,8 +28,10 @@ public:
     std::string Summary(const Activity& activity) const;
     /// The same of several: how many, and how long together.
     static std::string Summary(const std::vector<Activity>& activities);
-    /// What a screen reader says: name, day, times, project, and whether it is selected.
-    std::string Spoken(const Activity& activity, bool isSelected) const;
+    /// What a screen reader says: name, day, times and project.
+    std::string Spoken(const Activity& activity) const;
+    /// What it says besides: length and application.
+    std::string Described(const Activity& activity) const;
     /// What stands beside stripes: of one its name, of several their number and their applications.
     std::string ShortLabel(const std::vector<Activity>& activities) const;
     /// The days that are shown.

@@ -22,6 +22,9 @@ inline constexpr auto NoProjectsYetHelp = "Sort out the largest ones and Tempodi
 inline constexpr auto MayGrowText = "The tracker may still make this activity longer; the next import will then begin "
                                     "a new one.";
 
+/// What is said of an activity whose end isn't final.
+inline constexpr auto NotFinalText = "may still grow";
+
 /// Why a view is empty.
 enum class EmptyView { NothingRecorded, NothingInPeriod, NothingFound };
 

@@ -57,11 +57,17 @@ TEST_F(ActivityWordsTest, Summary_OneOrSeveral_SayTheirLength)
     EXPECT_EQ(ActivityWords::Summary({ mActivity, mActivity }), "2 activities · 2 h 30");
 }
 
-TEST_F(ActivityWordsTest, Spoken_Activity_HasDayTimesProjectAndState)
+TEST_F(ActivityWordsTest, Spoken_Activity_HasDayTimesAndProject)
 {
-    EXPECT_EQ(mWords.Spoken(mActivity, false), "a.doc, Monday, 9 October 2006, 09:05 to 10:20, Riverside");
+    EXPECT_EQ(mWords.Spoken(mActivity), "a.doc, Monday, 9 October 2006, 09:05 to 10:20, Riverside");
     mActivity.project = "";
-    EXPECT_EQ(mDiscreet.Spoken(mActivity, true), "Word, Monday, 9 October 2006, 09:05 to 10:20, No Project, selected");
+    EXPECT_EQ(mDiscreet.Spoken(mActivity), "Word, Monday, 9 October 2006, 09:05 to 10:20, No Project");
+}
+
+TEST_F(ActivityWordsTest, Described_Activity_HasLengthAndApplicationOnce)
+{
+    EXPECT_EQ(mWords.Described(mActivity), "1 h 15, Word");
+    EXPECT_EQ(mDiscreet.Described(mActivity), "1 h 15");
 }
 
 TEST_F(ActivityWordsTest, ShortLabel_OneOrSeveral_NamesThemOrTheirApplications)

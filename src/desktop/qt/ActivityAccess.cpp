@@ -3,7 +3,6 @@
 #include "desktop/qt/AgendaView.h"
 
 #include <QStringList>
-#include <QTimer>
 
 namespace tempodial {
 
@@ -15,8 +14,8 @@ constexpr auto DeleteAction = "Delete";
 
 }
 
-ActivityAccess::ActivityAccess(AgendaView& view, std::size_t piece)
-    : mAlive(&view)
+ActivityAccess::ActivityAccess(AgendaView& view, const PaintedTable& table, std::size_t piece)
+    : PaintedCell(view, table)
     , mView(view)
     , mPiece(piece)
 {
@@ -24,21 +23,27 @@ ActivityAccess::ActivityAccess(AgendaView& view, std::size_t piece)
 
 bool ActivityAccess::isValid() const
 {
-    return mAlive && mPiece < mView.Scene().Layout().Pieces().size();
+    return PaintedCell::isValid() && mPiece < mView.Scene().Layout().Pieces().size();
 }
 
-QAccessibleInterface* ActivityAccess::parent() const
+QString ActivityAccess::Name() const
 {
-    return QAccessible::queryAccessibleInterface(mAlive.data());
+    return mView.SpokenOf(mView.ActivityOf(mPiece));
+}
+
+QString ActivityAccess::Description() const
+{
+    return mView.DescribedOf(mPiece);
 }
 
 QString ActivityAccess::text(QAccessible::Text kind) const
 {
-    if (!isValid() || (kind != QAccessible::Name && kind != QAccessible::Description)) {
-        return {};
-    }
-    const auto& activity = mView.ActivityOf(mPiece);
-    return kind == QAccessible::Name ? mView.SpokenOf(activity) : mView.ToolTipOf(activity);
+    return kind == QAccessible::Help && isValid() ? mView.ToolTipOf(mView.ActivityOf(mPiece)) : PaintedCell::text(kind);
+}
+
+QRectF ActivityAccess::Box() const
+{
+    return mView.InView(mView.Scene().Geometry().BoxOf(mView.Scene().Layout().Pieces()[mPiece]));
 }
 
 QRect ActivityAccess::rect() const
@@ -46,31 +51,39 @@ QRect ActivityAccess::rect() const
     if (!isValid()) {
         return {};
     }
-    const auto box = mView.InView(mView.Scene().Geometry().BoxOf(mView.Scene().Layout().Pieces()[mPiece]));
+    const auto box = Box();
     return { mView.viewport()->mapToGlobal(box.topLeft().toPoint()), box.size().toSize() };
 }
 
 QAccessible::State ActivityAccess::state() const
 {
-    QAccessible::State state;
-    if (!isValid()) {
-        state.invalid = true;
+    auto state = PaintedCell::state();
+    if (state.invalid) {
         return state;
     }
-    const auto& activity = mView.ActivityOf(mPiece);
     state.focusable = true;
     state.selectable = true;
     state.multiSelectable = true;
-    state.selected = mView.Selected().count(activity.number) > 0;
+    state.selected = mView.Selected().contains(mView.ActivityOf(mPiece).number);
     state.focused = mView.hasFocus() && mView.Focus() == mPiece;
-    const auto box = mView.InView(mView.Scene().Geometry().BoxOf(mView.Scene().Layout().Pieces()[mPiece]));
-    state.offscreen = !box.intersects(mView.viewport()->rect());
+    state.offscreen = !Box().intersects(mView.viewport()->rect());
     return state;
 }
 
 void* ActivityAccess::interface_cast(QAccessible::InterfaceType type)
 {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                : PaintedCell::interface_cast(type);
+}
+
+int ActivityAccess::columnIndex() const
+{
+    return isValid() ? mView.Scene().Layout().Pieces()[mPiece].day : -1;
+}
+
+int ActivityAccess::rowIndex() const
+{
+    return isValid() ? static_cast<int>(mPiece - mView.Scene().Layout().OfDay(columnIndex()).begin) : -1;
 }
 
 QStringList ActivityAccess::actionNames() const
@@ -83,14 +96,15 @@ void ActivityAccess::doAction(const QString& name)
     if (!isValid()) {
         return;
     }
-    // Whoever asked waits for an answer, and a menu or a message would keep it back until it is closed.
-    QTimer::singleShot(0, &mView, [view = &mView, piece = mPiece, number = mView.ActivityOf(mPiece).number, name] {
+    const auto number = mView.ActivityOf(mPiece).number;
+    const auto day = columnIndex();
+    const auto perform = [view = &mView, number, day, name] {
         if (name == OpenAction) {
             view->mWishes.open(number);
             return;
         }
         view->setFocus();
-        if (piece < view->Scene().Layout().Pieces().size()) {
+        if (const auto piece = view->PieceOf(number, day)) {
             view->SetFocusOn(piece);
         }
         view->mWishes.select({ number });
@@ -99,7 +113,9 @@ void ActivityAccess::doAction(const QString& name)
         } else if (name == DeleteAction) {
             view->mWishes.remove();
         }
-    });
+    };
+    // Whoever asked waits for an answer, and a menu or a message would keep it back until it is closed.
+    QMetaObject::invokeMethod(&mView, perform, Qt::QueuedConnection);
 }
 
 }

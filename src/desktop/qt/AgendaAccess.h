@@ -1,16 +1,16 @@
 #pragma once
 
+#include "desktop/qt/AgendaTable.h"
+#include "desktop/qt/AgendaView.h"
+
 #include <QAccessibleWidget>
-#include <cstdint>
-#include <map>
-#include <utility>
-#include <vector>
+#include <cstddef>
+#include <optional>
 
 namespace tempodial {
 
-class AgendaView;
-
-/// An agenda as assistive programs see it: a list of its activities by day and time, each made when it is asked for.
+/// An agenda as assistive programs see it: the heads of its days, its activities by day and time, and what it says when
+/// there are none. Each is made when it is asked for.
 class AgendaAccess final : public QAccessibleWidget
 {
 public:
@@ -19,28 +19,27 @@ public:
     AgendaAccess(const AgendaAccess&) = delete;
     AgendaAccess& operator=(const AgendaAccess&) = delete;
 
-    /// Lets the toolkit know of all agendas.
-    static void Install();
+    /// Tells which piece has the focus of a view, or that the view itself has it.
+    static void TellFocus(AgendaView& view);
+    /// Tells what has been selected, and what isn't any more.
+    static void TellSelection(AgendaView& view, const AgendaView::Numbers& before);
 
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
     QAccessibleInterface* focusChild() const override;
+    void* interface_cast(QAccessible::InterfaceType type) override;
 
 private:
-    /// Activities by number and day.
-    using Pieces = std::vector<std::pair<std::int64_t, int>>;
+    /// The place of a piece among the children.
+    static int IndexOf(const AgendaView& view, std::size_t piece);
 
     AgendaView& View() const;
-    /// The agenda shows other activities: nothing that was asked for before stands for one of them any more.
+    /// The view shows other activities, or other words.
     void Follow();
-    Pieces Shown() const;
-    void Forget();
 
-    /// The activities that were asked for, by their pieces.
-    mutable std::map<int, QAccessible::Id> mChildren;
-    Pieces mPieces;
+    AgendaTable mTable;
 };
 
 }

@@ -144,7 +144,28 @@ QString AgendaContents::ToolTipOf(const Activity& activity) const
 QString AgendaContents::SpokenOf(const Activity& activity) const
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    return IsolatedText(words.Spoken(activity, mSelected.count(activity.number) > 0));
+    return IsolatedText(words.Spoken(activity));
+}
+
+QString AgendaContents::DescribedOf(const Activity& activity) const
+{
+    const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
+    const auto described = IsolatedText(words.Described(activity));
+    return DragGesture::MayGrow(activity.end, mDesk.Now()) ? described + ", " + NotFinalText : described;
+}
+
+QString AgendaContents::DescribedDay(int day) const
+{
+    QStringList parts;
+    if (mLog.Days().first.AddDays(day) == mDesk.Now().Day()) {
+        parts.append("today");
+    }
+    for (const auto& row : mLog.Sums().rows) {
+        if (const auto minutes = row.minutes[static_cast<std::size_t>(day)]; minutes > 0) {
+            parts.append(IsolatedText(row.name) + " " + ToQt(LengthText(minutes)));
+        }
+    }
+    return parts.join(", ");
 }
 
 QString AgendaContents::WordsOf(const TimeSpan& times, Date endBefore) const

@@ -47,8 +47,11 @@ public:
     QString LineOf(const Activity& activity) const;
     /// What is said of an activity to who rests on it.
     QString ToolTipOf(const Activity& activity) const;
-    /// What a screen reader says of an activity.
+    /// What a screen reader says of an activity, and what it says besides.
     QString SpokenOf(const Activity& activity) const;
+    QString DescribedOf(const Activity& activity) const;
+    /// What it says of a day's bar: where the time went.
+    QString DescribedDay(int day) const;
     /// What is said of times that something would have, and of the end that it has.
     QString WordsOf(const TimeSpan& times, Date endBefore) const;
 

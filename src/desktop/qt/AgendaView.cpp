@@ -1,8 +1,9 @@
 #include "desktop/qt/AgendaView.h"
 
+#include "desktop/DesktopStrings.h"
+#include "desktop/qt/AgendaAccess.h"
 #include "desktop/qt/QtText.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLabel>
@@ -78,9 +79,13 @@ void AgendaView::Follow()
     mContents.Fill();
     mGutter = mPainter.GutterFor(mContents.HourNames());
     Put();
+    const bool hadFocus = mFocus.has_value();
     FindFocus();
     if (mWhenFollowed) {
         mWhenFollowed();
+    }
+    if (hadFocus && !mFocus) {
+        AgendaAccess::TellFocus(*this);
     }
     if (mFitted != mLog.Days()) {
         Fit();
@@ -95,15 +100,20 @@ void AgendaView::FollowClock()
 
 void AgendaView::FindFocus()
 {
+    mFocus = mFocusNumber ? PieceOf(*mFocusNumber, DaysBetween(mLog.Days().first, mFocusDay)) : std::nullopt;
+}
+
+std::optional<std::size_t> AgendaView::PieceOf(std::int64_t number, int day) const
+{
     const auto& pieces = mScene->Layout().Pieces();
-    mFocus.reset();
-    for (std::size_t i = 0; i < pieces.size() && mFocusNumber; ++i) {
-        const bool isOfIt = mScene->ActivityOf(pieces[i]).number == *mFocusNumber;
+    std::optional<std::size_t> found;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
         // One that crosses midnight has a piece on each of its days.
-        if (isOfIt && (!mFocus || mLog.Days().first.AddDays(pieces[i].day) == mFocusDay)) {
-            mFocus = i;
+        if (mScene->ActivityOf(pieces[i]).number == number && (!found || pieces[i].day == day)) {
+            found = i;
         }
     }
+    return found;
 }
 
 TimeScale AgendaView::Scale() const
@@ -171,13 +181,12 @@ void AgendaView::ShowOnly(const std::set<std::string>& names)
 
 void AgendaView::ShowSelected(const Numbers& numbers)
 {
-    if (mSelected != numbers) {
-        QAccessibleEvent event(this, QAccessible::SelectionWithin);
-        QAccessible::updateAccessibility(&event);
-    }
-    mSelected = numbers;
+    const auto before = std::exchange(mSelected, numbers);
     mContents.Select(numbers);
     viewport()->update();
+    if (before != numbers) {
+        AgendaAccess::TellSelection(*this, before);
+    }
 }
 
 void AgendaView::paintEvent(QPaintEvent* event)
@@ -243,9 +252,16 @@ void AgendaView::SayTimes(const TimeSpan& times, const TimeSpan& before) const
     mWishes.say(mContents.WordsOf(times, before.end));
 }
 
-QString AgendaView::SpokenOf(const Activity& activity) const
+QString AgendaView::DescribedOf(std::size_t piece) const
 {
-    return mContents.SpokenOf(activity);
+    const auto& activity = ActivityOf(piece);
+    auto described = mContents.DescribedOf(activity);
+    for (const auto& gap : mScene->Gaps()) {
+        if (gap.to == activity.start) {
+            described += ", after " + ToQt(GapText(gap.minutes));
+        }
+    }
+    return described;
 }
 
 void AgendaView::ShowRun(std::size_t run)
@@ -266,15 +282,6 @@ void AgendaView::ShowRun(std::size_t run)
     mBubble->setFocus();
 }
 
-void AgendaView::TellFocus()
-{
-    if (mFocus && hasFocus()) {
-        QAccessibleEvent event(this, QAccessible::Focus);
-        event.setChild(static_cast<int>(*mFocus));
-        QAccessible::updateAccessibility(&event);
-    }
-}
-
 void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
 {
     mFocus = piece;
@@ -284,7 +291,7 @@ void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
     if (!piece) {
         return;
     }
-    TellFocus();
+    AgendaAccess::TellFocus(*this);
     const auto box = mScene->Geometry().BoxOf(mScene->Layout().Pieces()[*piece]);
     auto* bar = verticalScrollBar();
     constexpr int Around = 8;
@@ -397,7 +404,7 @@ void AgendaView::keyPressEvent(QKeyEvent* event)
 void AgendaView::focusInEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusInEvent(event);
-    TellFocus();
+    AgendaAccess::TellFocus(*this);
     viewport()->update();
 }
 
@@ -422,7 +429,11 @@ bool AgendaView::viewportEvent(QEvent* event)
 void AgendaView::ShowNote(const QString& text, const QString& link)
 {
     const auto step = link.isEmpty() ? QString() : "<br><br><a href=\"#\">" + link.toHtmlEscaped() + "</a>";
-    mNote->setText("<center>" + text.toHtmlEscaped() + step + "</center>");
+    const auto shown = "<center>" + text.toHtmlEscaped() + step + "</center>";
+    if (shown != mNote->text()) {
+        mNote->setText(shown);
+        mNote->setAccessibleName(link.isEmpty() ? text : text + " " + link);
+    }
     mNote->setVisible(!text.isEmpty());
     PlaceNote();
 }

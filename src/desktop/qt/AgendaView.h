@@ -59,7 +59,7 @@ public:
     };
     Wishes mWishes;
 
-    /// Called when other activities are shown, for what stands for them elsewhere.
+    /// Called when other activities may be shown, or other words of them, for what stands for them elsewhere.
     std::function<void()> mWhenFollowed;
 
     /// The log has changed, or how things look.
@@ -85,6 +85,8 @@ public:
     DayHead& Head() { return *mHead; }
     const AgendaScene& Scene() const { return *mScene; }
     const std::vector<AgendaCard>& Cards() const { return mContents.Cards(); }
+    /// The piece of an activity of that number on a day of those shown, or on another where that day has none.
+    std::optional<std::size_t> PieceOf(std::int64_t number, int day) const;
     /// The piece that has the focus.
     std::optional<std::size_t> Focus() const { return mFocus; }
     /// Gives a piece the focus and scrolls to it.
@@ -97,8 +99,12 @@ public:
     QRectF InView(const PixelBox& box) const;
     /// What is said of an activity to who rests on it.
     QString ToolTipOf(const Activity& activity) const { return mContents.ToolTipOf(activity); }
-    /// What a screen reader says of an activity.
-    QString SpokenOf(const Activity& activity) const;
+    /// What a screen reader says of an activity, of its piece besides, and of a day's bar.
+    QString SpokenOf(const Activity& activity) const { return mContents.SpokenOf(activity); }
+    QString DescribedOf(std::size_t piece) const;
+    QString DescribedDay(int day) const { return mContents.DescribedDay(day); }
+    /// Why there is nothing; hidden when there is something.
+    QLabel& Note() const { return *mNote; }
     /// Opens the list of a run of short ones.
     void ShowRun(std::size_t run);
     /// The list that is open; null when none is.
@@ -134,7 +140,6 @@ private:
     TimeScale Scale() const;
     void ScrollToFirst();
     void FindFocus();
-    void TellFocus();
     void PaintGhost(QPainter& painter) const;
     void PlaceNote();
     /// Zooms as two fingers do on a touch pad; false for other gestures.

@@ -34,17 +34,11 @@ DayHead::DayHead(const Appearance& look, QWidget* parent)
     : QWidget(parent)
     , mLook(look)
 {
-    setAccessibleName("Days");
 }
 
 void DayHead::Show(std::vector<Day> days)
 {
     mDays = std::move(days);
-    QString spoken;
-    for (const auto& day : mDays) {
-        spoken += day.spoken + "\n";
-    }
-    setAccessibleDescription(spoken.trimmed());
     update();
 }
 

@@ -37,6 +37,10 @@ public:
 
     void Show(std::vector<Day> days);
     const std::vector<Day>& Days() const { return mDays; }
+    /// The place of the day there, as many as there are for none.
+    std::size_t DayAt(double x) const;
+    /// A person wants to see the day of that place.
+    void Choose(int day) { mWhenChosen(static_cast<std::size_t>(day)); }
 
     QSize sizeHint() const override;
 
@@ -47,8 +51,6 @@ protected:
 
 private:
     void Paint(QPainter& painter, const Day& day) const;
-    /// The place of the day there, as many as there are for none.
-    std::size_t DayAt(double x) const;
 
     const Appearance& mLook;
     std::vector<Day> mDays;

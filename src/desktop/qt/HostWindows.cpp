@@ -1,7 +1,7 @@
 #include "desktop/qt/HostWindows.h"
 
 #include "desktop/Neighbours.h"
-#include "desktop/qt/AgendaAccess.h"
+#include "desktop/qt/AccessFactory.h"
 #include "desktop/qt/FormWindow.h"
 #include "desktop/qt/InspectorWindow.h"
 #include "desktop/qt/JobStrip.h"
@@ -46,7 +46,7 @@ HostWindows::HostWindows(Desk& desk, Beginning beginning)
     , mPages([&desk](const std::string& path) { desk.Profile().Surroundings().shell->Open(path); })
     , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
 {
-    AgendaAccess::Install();
+    InstallAccess();
     desk.Windows().SetOwnerCommands(ForModels());
     Follow();
 }

@@ -3,12 +3,12 @@
 #include "desktop/ActivityWords.h"
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/Glyphs.h"
+#include "desktop/qt/MonthAccess.h"
 #include "desktop/qt/QtText.h"
 #include "review/ActivityReader.h"
 #include "review/PeriodColumns.h"
 #include "review/Totals.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -66,6 +66,7 @@ void MiniMonth::Page(int months)
     const auto parts = mMonth.ToParts();
     mMonth = Date::FromYearMonthDay(parts.year, parts.month + months, 1);
     Read();
+    Say();
 }
 
 void MiniMonth::Read()
@@ -79,14 +80,58 @@ void MiniMonth::Read()
         = Totals::Of(EachStartingIn(mDesk.Profile(), days), RowKind::Project, ColumnsOf(days, ColumnSize::Day, nullptr))
               .minutes;
     update();
+    if (mWhenFollowed) {
+        mWhenFollowed();
+    }
+}
+
+std::optional<int> MiniMonth::PlaceOf(Date day) const
+{
+    const auto place = DaysBetween(mFirst, day);
+    return place >= 0 && place < Weeks * DaysOfWeek ? std::optional(place) : std::nullopt;
+}
+
+QRectF MiniMonth::BoxOf(int place) const
+{
+    const auto column = place % DaysOfWeek + 1;
+    const auto row = place / DaysOfWeek + 2;
+    return { column * CellWidth(), row * CellHeight(), CellWidth(), CellHeight() };
+}
+
+bool MiniMonth::IsToday(Date day) const
+{
+    return day == mDesk.Now().Day();
+}
+
+QString MiniMonth::SpokenOf(Date day) const
+{
+    const auto place = PlaceOf(day);
+    const auto minutes = place ? mMinutes[static_cast<std::size_t>(*place)] : 0;
+    return ToQt(mDesk.Formats()->LongDate(day) + PartSeparator + LengthText(minutes));
+}
+
+QString MiniMonth::NameOfColumn(int column) const
+{
+    return ToQt(WeekdayText(mFirst.AddDays(column).Weekday()));
+}
+
+QString MiniMonth::NameOfWeek(int week) const
+{
+    const auto first = mFirst.AddDays(week * DaysOfWeek);
+    return ToQt(ActivityWords::WeekTitle({ first, first.AddDays(DaysOfWeek - 1) }));
+}
+
+QString MiniMonth::Title() const
+{
+    const auto parts = mMonth.ToParts();
+    return ToQt(mDesk.Formats()->MonthAbbreviation(parts.month)) + " " + QString::number(parts.year);
 }
 
 void MiniMonth::Say()
 {
-    const auto place = DaysBetween(mFirst, mCursor);
-    const auto isSeen = place >= 0 && place < static_cast<int>(mMinutes.size());
-    const auto minutes = isSeen ? mMinutes[static_cast<std::size_t>(place)] : 0;
-    setAccessibleDescription(ToQt(mDesk.Formats()->LongDate(mCursor) + PartSeparator + LengthText(minutes)));
+    if (const auto said = Title() + ", " + SpokenOf(mCursor); said != accessibleDescription()) {
+        setAccessibleDescription(said);
+    }
 }
 
 void MiniMonth::paintEvent(QPaintEvent* /*event*/)
@@ -100,27 +145,24 @@ void MiniMonth::paintEvent(QPaintEvent* /*event*/)
     title.setWeight(QFont::DemiBold);
     painter.setFont(title);
     painter.setPen(ToQt(colours.text));
-    const auto parts = mMonth.ToParts();
-    painter.drawText(QRectF(0, 0, this->width(), height), Qt::AlignVCenter,
-        ToQt(mDesk.Formats()->MonthAbbreviation(parts.month)) + " " + QString::number(parts.year));
+    painter.drawText(QRectF(0, 0, this->width(), height), Qt::AlignVCenter, Title());
     PaintGlyph(painter, Glyph::Back, ArrowBox(-1), ToQt(colours.quietText));
     PaintGlyph(painter, Glyph::Forward, ArrowBox(1), ToQt(colours.quietText));
     painter.setFont(SmallFont(font()));
     painter.setPen(ToQt(colours.faintText));
     for (int day = 0; day < DaysOfWeek; ++day) {
-        const auto name = ToQt(WeekdayText(mFirst.AddDays(day).Weekday())).left(1);
-        painter.drawText(QRectF((day + 1) * width, height, width, height), Qt::AlignCenter, name);
+        painter.drawText(QRectF((day + 1) * width, height, width, height), Qt::AlignCenter, NameOfColumn(day).left(1));
     }
     const auto most = mMinutes.empty() ? 0 : *std::max_element(mMinutes.begin(), mMinutes.end());
     for (int week = 0; week < Weeks; ++week) {
-        const auto first = mFirst.AddDays(week * DaysOfWeek);
         const auto top = (week + 2) * height;
-        const auto name = ActivityWords::WeekTitle({ first, first.AddDays(DaysOfWeek - 1) });
+        const auto name = NameOfWeek(week);
         painter.setFont(SmallFont(font()));
         painter.setPen(ToQt(colours.faintText));
-        painter.drawText(QRectF(0, top, width, height), Qt::AlignCenter, ToQt(name.substr(name.find(' ') + 1)));
+        painter.drawText(QRectF(0, top, width, height), Qt::AlignCenter, name.mid(name.indexOf(' ') + 1));
         for (int day = 0; day < DaysOfWeek; ++day) {
-            PaintDay(painter, first.AddDays(day), { (day + 1) * width, top, width, height }, most);
+            const auto place = week * DaysOfWeek + day;
+            PaintDay(painter, mFirst.AddDays(place), BoxOf(place), most);
         }
     }
 }
@@ -128,8 +170,8 @@ void MiniMonth::paintEvent(QPaintEvent* /*event*/)
 void MiniMonth::PaintDay(QPainter& painter, Date day, const QRectF& cell, std::int64_t most)
 {
     const auto& colours = mDesk.Look().Colours();
-    const auto isToday = day == mDesk.Now().Day();
-    if (day >= mShown.first && day <= mShown.last) {
+    const auto isToday = IsToday(day);
+    if (IsShown(day)) {
         painter.fillRect(cell.adjusted(0, 1, 0, -1), ToQt(colours.band));
     }
     const auto radius = std::min(cell.width(), cell.height()) / 2;
@@ -202,8 +244,7 @@ void MiniMonth::keyPressEvent(QKeyEvent* event)
         mMonth = Period::MonthOf(mCursor).first;
         Read();
         Say();
-        QAccessibleEvent change(this, QAccessible::DescriptionChanged);
-        QAccessible::updateAccessibility(&change);
+        MonthAccess::TellFocus(*this);
     };
     switch (event->key()) {
     case Qt::Key_Left:
@@ -230,6 +271,7 @@ void MiniMonth::keyPressEvent(QKeyEvent* event)
 void MiniMonth::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
+    MonthAccess::TellFocus(*this);
     update();
 }
 

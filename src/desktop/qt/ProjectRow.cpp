@@ -32,7 +32,8 @@ void ProjectRow::Show(const Content& content)
     mContent = content;
     setText(content.name);
     setAccessibleName(content.name);
-    setAccessibleDescription(ToQt(LengthText(content.minutes)));
+    const auto length = ToQt(LengthText(content.minutes));
+    setAccessibleDescription(content.link.isEmpty() ? length : length + ", " + content.link);
     setToolTip(PlainToolTip(content.name));
     updateGeometry();
     update();

@@ -5,7 +5,6 @@
 #include "desktop/qt/SidePanel.h"
 #include "review/ActivityReader.h"
 
-#include <QAccessible>
 #include <QScrollBar>
 #include <QTest>
 
@@ -306,15 +305,6 @@ TEST_F(AgendaViewTest, Zoom_SmallSteps_AddUp)
         View().Zoom(0.01);
     }
     EXPECT_GT(View().Scene().Scale().PixelsPerMinute(), before * 1.05);
-}
-
-TEST_F(AgendaViewTest, Accessible_AnotherActivityComesBefore_NoneStandsForAnother)
-{
-    auto* agenda = QAccessible::queryAccessibleInterface(&View());
-    const auto first = QAccessible::uniqueId(agenda->child(0));
-    mDesk->Do([this] { Add("Alpha", "Early", "Writer", On(15, 6), On(15, 7)); });
-    EXPECT_EQ(QAccessible::accessibleInterface(first), nullptr);
-    EXPECT_TRUE(agenda->child(0)->text(QAccessible::Name).startsWith("Early"));
 }
 
 }

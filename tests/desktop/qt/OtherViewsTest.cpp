@@ -1,6 +1,5 @@
 #include "DesktopFixture.h"
 #include "desktop/qt/ActivityList.h"
-#include "desktop/qt/AgendaAccess.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/FlatButton.h"
 #include "desktop/qt/JobStrip.h"
@@ -11,14 +10,13 @@
 
 #include <gmock/gmock.h>
 
-#include <QAccessible>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
 
 namespace tempodial {
 
-/// The list, the view that sorts out, and the agenda for assistive programs.
+/// The list and the view that sorts out.
 class OtherViewsTest : public DesktopFixture
 {
 protected:
@@ -110,39 +108,6 @@ TEST_F(OtherViewsTest, SortOut_DigitKey_SetsTheProjectOfAllAndGoesOn)
     EXPECT_EQ(window.Selected().size(), 1U);
     QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(window.SortOut().Groups().size(), 2U);
-}
-
-TEST_F(OtherViewsTest, Accessible_Agenda_TellsEachActivityWithDayAndProject)
-{
-    auto& window = Open();
-    auto* agenda = QAccessible::queryAccessibleInterface(&window.Agenda());
-    ASSERT_NE(agenda, nullptr);
-    EXPECT_EQ(agenda->role(), QAccessible::List);
-    ASSERT_EQ(agenda->childCount(), 4);
-    auto* plan = agenda->child(0);
-    EXPECT_EQ(plan->text(QAccessible::Name), "Plan, Wednesday, 15 November 2006, 09:00 to 10:00, Alpha");
-    EXPECT_FALSE(plan->state().selected);
-    EXPECT_TRUE(plan->state().focusable);
-    EXPECT_EQ(agenda->indexOfChild(plan), 0);
-    const auto middle = plan->rect().center();
-    EXPECT_EQ(agenda->childAt(middle.x(), middle.y()), plan);
-    EXPECT_EQ(agenda->child(4), nullptr);
-}
-
-TEST_F(OtherViewsTest, Accessible_Actions_OpenAndDelete)
-{
-    auto& window = Open();
-    auto* agenda = QAccessible::queryAccessibleInterface(&window.Agenda());
-    auto* action = agenda->child(0)->actionInterface();
-    ASSERT_NE(action, nullptr);
-    action->doAction("Open");
-    // Who asks is answered before a window or a menu comes up.
-    EXPECT_TRUE(mDesk->Windows().OpenInspectors().empty());
-    Settle();
-    EXPECT_EQ(mDesk->Windows().OpenInspectors().size(), 1U);
-    agenda->child(3)->actionInterface()->doAction("Delete");
-    Settle();
-    EXPECT_EQ(agenda->childCount(), 3);
 }
 
 TEST_F(OtherViewsTest, JobStrip_JobTakesAWhile_IsShownAndCancels)
