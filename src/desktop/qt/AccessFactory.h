@@ -2,7 +2,8 @@
 
 namespace tempodial {
 
-/// Lets the toolkit know what our own widgets paint, for assistive programs. May be called again.
+/// Lets the toolkit know what our own widgets are for assistive programs: what they paint, windows, and groups of
+/// controls. May be called again.
 void InstallAccess();
 
 }

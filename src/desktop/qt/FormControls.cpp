@@ -174,6 +174,15 @@ QComboBox* NewComboBox(QWidget* parent)
     return box;
 }
 
+void NameControl(QWidget& widget, const std::string& caption)
+{
+    const auto name = ToQt(WithoutKey(caption));
+    widget.setAccessibleName(name);
+    if (const auto* box = qobject_cast<QComboBox*>(&widget); box != nullptr && box->isEditable()) {
+        box->lineEdit()->setAccessibleName(name);
+    }
+}
+
 void ShowInComboBox(QComboBox& box, const std::vector<std::string>& list, const std::string& text, int position)
 {
     bool isSameList = box.count() == static_cast<int>(list.size());

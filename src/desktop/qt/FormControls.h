@@ -28,6 +28,8 @@ struct FormWishes
 QLineEdit* NewLine(QWidget* parent);
 /// A combo box in which anything can be typed; what is typed is no choice, even when the list has it.
 QComboBox* NewComboBox(QWidget* parent);
+/// Names a control for assistive programs by the caption of its label, with the field in it.
+void NameControl(QWidget& widget, const std::string& caption);
 /// Shows a list and a text in a combo box, as far as it shows others. The position is -1 when no entry is chosen.
 void ShowInComboBox(QComboBox& box, const std::vector<std::string>& list, const std::string& text, int position);
 

@@ -181,7 +181,7 @@ void FormView::NameControls(const FormDefinition& form)
             if (text->buddy() == nullptr) {
                 text->setBuddy(widget);
             }
-            widget->setAccessibleName(ToQt(WithoutKey(label->text)));
+            NameControl(*widget, label->text);
         }
     }
 }

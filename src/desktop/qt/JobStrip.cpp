@@ -43,6 +43,7 @@ JobStrip::JobStrip(Desk& desk, QWidget* parent)
     mText->setTextFormat(Qt::PlainText);
     mText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setAccessibleName("Progress");
+    mBar->setAccessibleName("Progress");
     connect(mCancel, &QPushButton::clicked, this, [this] {
         mDesk.Do([this] {
             if (mForm) {

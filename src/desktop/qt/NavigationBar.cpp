@@ -27,6 +27,7 @@ NavigationBar::NavigationBar(Desk& desk, QWidget* parent)
     , mSearchField(new QLineEdit(this))
     , mButtons(new QHBoxLayout)
 {
+    setAccessibleName("Navigation");
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(BarMargin, BarMargin / 2 + 2, BarMargin, BarMargin / 2 + 2);
     layout->setSpacing(BarSpacing);

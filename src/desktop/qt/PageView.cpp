@@ -79,7 +79,7 @@ void PageView::AddField(QGridLayout& grid, int row, int column, int columns, con
     auto* widget = NewWidget(place, layout);
     mFields[place].widget = widget;
     widget->setObjectName(ToQt(layout.name));
-    widget->setAccessibleName(ToQt(WithoutKey(layout.label)));
+    NameControl(*widget, layout.label);
     if (layout.kind != PageKind::Check) {
         auto* label = new QLabel(ToQt(layout.label), this);
         label->setBuddy(widget);

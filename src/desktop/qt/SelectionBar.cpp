@@ -165,7 +165,11 @@ void SelectionBar::ShowTexts()
     const auto cut = [](QLabel* label, const QString& text) {
         label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideRight, label->width()));
         label->setToolTip(PlainToolTip(text));
-        label->setAccessibleName(text);
+        // Whoever listens hears of each change; the markup of the tool tip would be read out as the description.
+        if (label->accessibleName() != text) {
+            label->setAccessibleName(text);
+            label->setAccessibleDescription(text);
+        }
     };
     cut(mTitle, mTitleText);
     cut(mText, Text());
@@ -198,6 +202,8 @@ void SelectionBar::ShowAllProjects()
 {
     QMenu menu(this);
     FillMenu(menu);
+    // An assistive program triggers an entry without choosing it in the menu.
+    connect(&menu, &QMenu::triggered, &menu, &QMenu::close);
     menu.exec(mMore->mapToGlobal(QPoint(0, 0)) - QPoint(0, menu.sizeHint().height()));
 }
 

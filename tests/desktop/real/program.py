@@ -7,6 +7,7 @@ import subprocess
 import time
 
 import pyatspi
+from gi.repository import GLib
 
 import screens
 from screens import WaitFor
@@ -51,6 +52,33 @@ def Do(node, action):
     actions = node.queryAction()
     names = [actions.getName(i) for i in range(actions.nActions)]
     actions.doAction(names.index(action))
+
+
+class Listener:
+    """Hears events of the accessibility bus."""
+
+    def __init__(self, *names):
+        self.heard = []
+        self.names = names
+        pyatspi.Registry.registerEventListener(self._Take, *names)
+
+    def _Take(self, event):
+        try:
+            self.heard.append((event.source, event.source.getRoleName(), event.source.name, event.detail1))
+        except RuntimeError:
+            # What it was about has gone.
+            pass
+
+    def Heard(self, fits, what):
+        """The source of the first event whose role, name and detail fit."""
+        def Look():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return next((source for source, *about in self.heard if fits(*about)), None)
+        return WaitFor(Look, what)
+
+    def End(self):
+        pyatspi.Registry.deregisterEventListener(self._Take, *self.names)
 
 
 class Program:
@@ -130,11 +158,11 @@ class Program:
         return WaitFor(Look, f"{role} {name!r}")
 
     def Agenda(self):
-        return self.Find("list", "Activities")
+        return self.Find("table", "Activities")
 
     def Activities(self):
         """The activities in the tree, in the order in which it has them."""
-        return Children(self.Agenda())
+        return [node for node in Children(self.Agenda()) if node.getRoleName() == "table cell"]
 
     def Activity(self, part):
         """The first activity whose name has that part."""

@@ -79,7 +79,7 @@ class WorkingDayTest(unittest.TestCase):
 
         # Two clicks give a project, one key takes it back.
         name = self.SelectUnassigned()
-        chip = next(node for node in Walk(self.program.Find("filler", "Selection"))
+        chip = next(node for node in Walk(self.program.Find("panel", "Selection"))
                     if node.name.startswith("Set project ") and node.getRoleName() == "push button" and IsSeen(node))
         project = chip.name.removeprefix("Set project ")
         self.hand.Click(Centre(chip))
