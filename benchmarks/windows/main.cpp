@@ -9,10 +9,12 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <cstddef>
 #include <exception>
 #include <iostream>
 #include <optional>
 #include <string>
+#include <vector>
 
 using namespace tempodial;
 
@@ -137,17 +139,18 @@ void Run(const std::string& what, const std::string& profile, const std::string&
 
 int main(int count, char** arguments)
 {
-    constexpr int Wanted = 4;
-    if (count != Wanted) {
-        std::cerr << Usage;
-        return 2;
-    }
-    try {
-        PrepareProcess();
-        Run(arguments[1], arguments[2], arguments[3]);
-        return 0;
-    } catch (const std::exception& problem) {
-        std::cerr << "bench-desktop: " << problem.what() << '\n';
-        return 1;
-    }
+    return RunMain("bench-desktop", count, arguments, [](const std::vector<std::string>& words) {
+        constexpr std::size_t Wanted = 3;
+        if (words.size() != Wanted) {
+            std::cerr << Usage;
+            return ExitStatus::Usage;
+        }
+        try {
+            Run(words[0], words[1], words[2]);
+            return ExitStatus::Done;
+        } catch (const std::exception& problem) {
+            std::cerr << "bench-desktop: " << problem.what() << '\n';
+            return ExitStatus::NotDone;
+        }
+    });
 }
