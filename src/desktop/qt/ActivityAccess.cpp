@@ -1,5 +1,6 @@
 #include "desktop/qt/ActivityAccess.h"
 
+#include "desktop/qt/Afterwards.h"
 #include "desktop/qt/AgendaView.h"
 
 #include <QStringList>
@@ -98,7 +99,8 @@ void ActivityAccess::doAction(const QString& name)
     }
     const auto number = mView.ActivityOf(mPiece).number;
     const auto day = columnIndex();
-    const auto perform = [view = &mView, number, day, name] {
+    // Whoever asked waits for an answer, and a menu or a message would keep it back until it is closed.
+    Afterwards(mView, [view = &mView, number, day, name] {
         if (name == OpenAction) {
             view->mWishes.open(number);
             return;
@@ -113,9 +115,7 @@ void ActivityAccess::doAction(const QString& name)
         } else if (name == DeleteAction) {
             view->mWishes.remove();
         }
-    };
-    // Whoever asked waits for an answer, and a menu or a message would keep it back until it is closed.
-    QMetaObject::invokeMethod(&mView, perform, Qt::QueuedConnection);
+    });
 }
 
 }

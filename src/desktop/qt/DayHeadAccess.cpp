@@ -1,9 +1,9 @@
 #include "desktop/qt/DayHeadAccess.h"
 
+#include "desktop/qt/Afterwards.h"
 #include "desktop/qt/AgendaView.h"
 
 #include <QStringList>
-#include <QTimer>
 
 namespace tempodial {
 
@@ -50,7 +50,7 @@ void DayHeadAccess::doAction(const QString& name)
 {
     if (name == pressAction() && isValid()) {
         // What is shown then is told before this is let go of.
-        QTimer::singleShot(0, &mView, [view = &mView, day = mDay] { view->Head().Choose(day); });
+        Afterwards(mView, [view = &mView, day = mDay] { view->Head().Choose(day); });
     }
 }
 

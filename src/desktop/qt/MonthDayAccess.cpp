@@ -1,9 +1,9 @@
 #include "desktop/qt/MonthDayAccess.h"
 
+#include "desktop/qt/Afterwards.h"
 #include "desktop/qt/MiniMonth.h"
 
 #include <QStringList>
-#include <QTimer>
 
 namespace tempodial {
 
@@ -74,7 +74,7 @@ QStringList MonthDayAccess::actionNames() const
 void MonthDayAccess::doAction(const QString& name)
 {
     if (name == pressAction()) {
-        QTimer::singleShot(0, &mMonth, [month = &mMonth, day = mDay] { month->mGoTo(day); });
+        Afterwards(mMonth, [month = &mMonth, day = mDay] { month->mGoTo(day); });
     }
 }
 
