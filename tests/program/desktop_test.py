@@ -11,6 +11,8 @@ import unittest
 
 PROGRAM = pathlib.Path(os.environ["TEMPODIAL_EXECUTABLE"])
 DESKTOP = PROGRAM.with_name("tempodial-desktop")
+# Lets a command run without the administrator's rights.
+UNPRIVILEGED = ["setpriv", "--reuid", "65534", "--regid", "65534", "--clear-groups"] if os.getuid() == 0 else []
 
 
 @unittest.skipUnless(DESKTOP.exists(), "it isn't built")
@@ -20,12 +22,14 @@ class DesktopTest(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = pathlib.Path(folder.name)
         self.profile = self.folder / "profile"
+        # What starts programs.
+        self.front = []
         self.environment = dict(os.environ, HOME=str(self.folder), XDG_CONFIG_HOME=str(self.folder / "config"),
                                 XDG_RUNTIME_DIR=str(self.folder), QT_QPA_PLATFORM="offscreen", TZ="UTC")
         self.environment.pop("TEMPODIAL_PROFILE", None)
 
     def Run(self, program, *arguments):
-        return subprocess.run([program, "--profile", self.profile, *arguments], env=self.environment, text=True,
+        return subprocess.run([*self.front, program, "--profile", self.profile, *arguments], env=self.environment, text=True,
                               capture_output=True, timeout=60, check=False)
 
     def Sockets(self):
@@ -71,12 +75,12 @@ class DesktopTest(unittest.TestCase):
         self.StartDesktop()
         self.assertEqual(self.Run(PROGRAM, "list", "today").returncode, 0)
 
-    def Refusal(self, status=1):
+    def Refusal(self, *arguments, status=1):
         """What a start says that ends at once with a status, and leaves the profile as it is."""
         def State():
             return {path: path.read_bytes() for path in self.profile.glob("*.*") if path.suffix in (".db", ".toml")}
         before = State()
-        refused = self.Run(DESKTOP)
+        refused = self.Run(DESKTOP, *arguments)
         self.assertEqual(refused.returncode, status, refused.stderr)
         self.assertEqual(State(), before)
         return refused.stderr.removeprefix("tempodial-desktop: ").strip()
@@ -116,6 +120,30 @@ class DesktopTest(unittest.TestCase):
         self.environment["QT_QPA_PLATFORM"] = "xcb"
         self.assertTrue(self.Refusal().endswith("no window can be opened: start it within a desktop session, or use "
                                                 "\"tempodial\" in a terminal"))
+
+    def test_Start_DamageInTheMidstOfALargeMailbox_SaysWhatToDoAndLeavesIt(self):
+        tracker = self.profile / "Tempodial"
+        tracker.mkdir(parents=True)
+        for day in range(1, 13):
+            lines = [f"<slot><StartTime>{start}</StartTime><EndTime>{start + 100}</EndTime><AppType>2</AppType>"
+                     f"<WordDocName>{'x' * 300}{start}.doc</WordDocName></slot>" for start in range(20000, 60000, 100)]
+            (tracker / f"tracker_granules200611{day:02}.out").write_text("\r\n".join(["tracker", *lines, ""]))
+        now = ("--now", "2006-11-12T20:00:00")
+        self.assertEqual(self.Run(PROGRAM, *now, "--quiet", "sync").returncode, 0)
+        mailbox = self.profile / "mailbox.db"
+        content = mailbox.read_bytes()
+        middle = len(content) // 8192 * 4096
+        mailbox.write_bytes(content[:middle] + b"\xee" * 245760 + content[middle + 245760:])
+        self.assertIn(f"The mailbox {mailbox} is damaged", self.Refusal(*now))
+
+    def test_Start_ProfileIsReadOnly_SaysWhatToDo(self):
+        self.assertEqual(self.Run(PROGRAM, "--quiet", "demo", "--days", "2").returncode, 0)
+        self.folder.chmod(0o755)
+        for path in [*self.profile.rglob("*"), self.profile]:
+            path.chmod(0o555 if path.is_dir() else 0o444)
+        self.addCleanup(self.profile.chmod, 0o700)
+        self.front = UNPRIVILEGED
+        self.assertIn("can't be read and written: check who owns it and its permissions", self.Refusal())
 
     def test_Start_WithoutABus_OpensTheLog(self):
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.folder}/none"
