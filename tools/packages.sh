@@ -8,7 +8,7 @@ build_packages=(cmake ninja-build g++ pkgconf libsqlite3-dev libsqlitecpp-dev li
 # What the tests and lints need besides.
 check_packages=(git python3 clang-format clang-tidy libgtest-dev libgmock-dev g++-mingw-w64-x86-64-posix wine wine64 nsis
     dbus python3-dbusmock libemail-outlook-message-perl libemail-address-perl python3-olefile python3-icalendar
-    strace xvfb openbox xterm xdotool appstream desktop-file-utils fish mandoc tidy zsh)
+    strace xvfb openbox xterm xdotool fonts-dejavu-core appstream desktop-file-utils fish mandoc tidy zsh)
 
 # What the setup program for Windows is built with.
 setup_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix nsis)

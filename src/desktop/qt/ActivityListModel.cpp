@@ -2,6 +2,7 @@
 
 #include "desktop/DesktopStrings.h"
 #include "desktop/ItemFields.h"
+#include "desktop/qt/ProjectMark.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ShownLine.h"
 #include "terminal/TerminalText.h"
@@ -77,7 +78,8 @@ QVariant ActivityListModel::data(const QModelIndex& index, int role) const
     }
     if (role == Qt::DecorationRole && index.column() == 0) {
         const auto& name = mColoured == Coloured::Project ? ProjectNameOf(activity) : activity.type;
-        return ToQt(mDesk.StyleOf(mColoured, name).colours.mark);
+        constexpr int MarkSide = 12;
+        return ProjectMarkPicture(MarkSide, mDesk.StyleOf(mColoured, name));
     }
     if (role == Qt::TextAlignmentRole) {
         const auto isRight = column.alignment == TableColumn::Alignment::Right;

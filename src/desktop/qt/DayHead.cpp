@@ -28,6 +28,16 @@ double LineHeight(const QFont& font)
     return QFontMetricsF(NumberFont(font)).height() + 4;
 }
 
+/// As many letters of a name as there is room for: "Mo" tells more than "M\u2026".
+QString Shortened(QString name, const QFont& font, double room)
+{
+    const QFontMetricsF metrics(font);
+    while (!name.isEmpty() && metrics.horizontalAdvance(name) > room) {
+        name.chop(1);
+    }
+    return name;
+}
+
 }
 
 DayHead::DayHead(const Appearance& look, QWidget* parent)
@@ -85,8 +95,8 @@ void DayHead::Paint(QPainter& painter, const Day& day) const
     const QRectF rest(circle.right() + HeadMargin / 2, HeadMargin, right - circle.right() - HeadMargin / 2, line);
     painter.setFont(font());
     painter.setPen(day.isToday ? ToQt(colours.link) : quiet);
-    const auto name = QFontMetricsF(font()).elidedText(day.name, Qt::ElideRight, rest.width() - totalWidth - 4);
-    painter.drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, name);
+    painter.drawText(
+        rest, Qt::AlignLeft | Qt::AlignVCenter, Shortened(day.name, font(), rest.width() - totalWidth - 4));
     painter.setFont(bold);
     painter.setPen(ToQt(colours.text));
     painter.drawText(rest, Qt::AlignRight | Qt::AlignVCenter, day.total);

@@ -1,5 +1,6 @@
 #include "desktop/qt/FlatButton.h"
 
+#include "desktop/qt/ProjectMark.h"
 #include "desktop/qt/QtText.h"
 
 #include <QPainter>
@@ -15,7 +16,7 @@ namespace {
 constexpr double ButtonMargin = 11;
 constexpr double ButtonHeight = 30;
 constexpr double GlyphSize = 16;
-constexpr double MarkSize = 11;
+constexpr double MarkSize = 12;
 constexpr double BetweenParts = 6;
 constexpr double BadgeMargin = 10;
 
@@ -124,9 +125,7 @@ void FlatButton::paintEvent(QPaintEvent* /*event*/)
         x += GlyphSize + BetweenParts;
     }
     if (mExtras.mark) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(*mExtras.mark);
-        painter.drawRoundedRect(QRectF(x, middle - MarkSize / 2, MarkSize, MarkSize), 2.5, 2.5);
+        PaintProjectMark(painter, { x, middle - MarkSize / 2, MarkSize, MarkSize }, *mExtras.mark);
         x += MarkSize + BetweenParts;
     }
     painter.setFont(TextFont());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/qt/Appearance.h"
+#include "desktop/qt/CardCache.h"
 #include "desktop/qt/Glyphs.h"
 
 #include <QPushButton>
@@ -17,8 +18,8 @@ public:
     struct Extras
     {
         Glyph glyph = Glyph::None;
-        /// The colour of the mark of a project.
-        std::optional<QColor> mark;
+        /// The project whose mark it is.
+        std::optional<CardStyle> mark;
         /// A small word behind the text, such as the key that does the same.
         QString hint;
         /// True when that word lies on a ground of its own, since it asks for something.

@@ -4,6 +4,7 @@
 #include "desktop/qt/EffectPane.h"
 #include "desktop/qt/FormView.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/WindowRoom.h"
 #include "forms/FormRules.h"
 
 #include <QApplication>
@@ -59,6 +60,9 @@ void FormWindow::Follow()
 void FormWindow::ShowOrHide(bool isVisible)
 {
     const auto* front = QApplication::activeWindow();
+    if (isVisible) {
+        GiveRoom(*this);
+    }
     setVisible(isVisible);
     if (isVisible && front != nullptr && front != this && windowHandle() != nullptr) {
         // It stands before the window that it came from, and lets that be worked with.

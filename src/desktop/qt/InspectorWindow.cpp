@@ -5,6 +5,7 @@
 #include "desktop/qt/CommandBarView.h"
 #include "desktop/qt/PageView.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/WindowRoom.h"
 #include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
 
@@ -39,7 +40,7 @@ InspectorWindow::InspectorWindow(Desk& desk, Ref<HostInspector> inspector)
     , mWhy(NewTextLabel(this))
     , mBody(new QPlainTextEdit(this))
 {
-    resize(UsualInspectorSize);
+    resize(UsualInspectorSize * LetterScale(*this));
     Content().addWidget(mCommands);
     if (Model().ShownPage()) {
         mPage = new PageView(desk, Shown(), this);
@@ -54,6 +55,7 @@ InspectorWindow::InspectorWindow(Desk& desk, Ref<HostInspector> inspector)
     Content().addWidget(mBody, 1);
     connect(new QShortcut(QKeySequence(SaveKeys), this), &QShortcut::activated, this, [this] { Save(); });
     Follow();
+    GiveRoom(*this);
 }
 
 void InspectorWindow::FollowContent()

@@ -46,8 +46,10 @@ double MiniMonth::CellHeight() const
 
 QSize MiniMonth::sizeHint() const
 {
-    // The name of the month, those of the days, and the weeks.
-    return { 0, static_cast<int>((Weeks + 2) * CellHeight()) };
+    constexpr double BetweenNumbers = 6;
+    const auto cell = QFontMetricsF(SmallFont(font())).horizontalAdvance("00") + BetweenNumbers;
+    // The weeks' numbers and the days; the name of the month, those of the days, and the weeks.
+    return { static_cast<int>((DaysOfWeek + 1) * cell), static_cast<int>((Weeks + 2) * CellHeight()) };
 }
 
 void MiniMonth::Follow(const Period& shown)

@@ -1,6 +1,7 @@
 #include "desktop/qt/ProjectRow.h"
 
 #include "desktop/DesktopStrings.h"
+#include "desktop/qt/ProjectMark.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ShownLine.h"
 
@@ -47,23 +48,9 @@ double ProjectRow::LineHeight() const
 QSize ProjectRow::sizeHint() const
 {
     const auto below = mContent.link.isEmpty() ? BarThickness + RowMargin : LineHeight() + 2 * RowMargin;
-    return { 0, static_cast<int>(LineHeight() + below + 3) };
-}
-
-void ProjectRow::PaintMark(QPainter& painter, const QRectF& box) const
-{
-    painter.setBrush(mContent.style.isHatched ? QBrush(Qt::NoBrush) : MarkBrush(mContent.style));
-    QPen outline(ToQt(mContent.style.colours.mark), 1, Qt::DashLine);
-    if (mContent.style.pattern) {
-        painter.setPen(QPen(ToQt(mContent.style.colours.mark), 1));
-    } else {
-        painter.setPen(mContent.style.isHatched ? outline : QPen(Qt::NoPen));
-    }
-    painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    if (mContent.style.isStriped) {
-        painter.fillRect(box.adjusted(3, 5, -3, -7), ToQt(mContent.style.colours.fill));
-        painter.fillRect(box.adjusted(3, 8, -3, -4), ToQt(mContent.style.colours.fill));
-    }
+    // A name may be cut, the link is read as a whole.
+    const auto link = mContent.link.isEmpty() ? 0.0 : QFontMetricsF(font()).horizontalAdvance(mContent.link);
+    return { static_cast<int>(NameIndent + link + RowMargin), static_cast<int>(LineHeight() + below + 3) };
 }
 
 void ProjectRow::paintEvent(QPaintEvent* /*event*/)
@@ -86,7 +73,7 @@ void ProjectRow::paintEvent(QPaintEvent* /*event*/)
     }
     const auto top = isCard ? RowMargin : 1.0;
     const auto line = LineHeight();
-    PaintMark(painter, { RowMargin, top + (line - MarkSide) / 2, MarkSide, MarkSide });
+    PaintProjectMark(painter, { RowMargin, top + (line - MarkSide) / 2, MarkSide, MarkSide }, mContent.style);
     const QRectF place(NameIndent, top, box.width() - NameIndent - RowMargin, line);
     auto bold = font();
     if (isCard) {

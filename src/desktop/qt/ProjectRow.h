@@ -36,7 +36,6 @@ protected:
 
 private:
     double LineHeight() const;
-    void PaintMark(QPainter& painter, const QRectF& box) const;
 
     const Appearance& mLook;
     Content mContent;

@@ -72,7 +72,10 @@ void ProjectRows::Follow(const QString& title)
     quiet.setColor(QPalette::ButtonText, ToQt(mDesk.Look().Colours().quietText));
     mTitle->setPalette(quiet);
     mColours->setPalette(quiet);
-    mColours->setText(mLog.ColouredBy() == Coloured::Project ? "Coloured by project" : "Coloured by application");
+    const QString colours(mLog.ColouredBy() == Coloured::Project ? "Coloured by project" : "Coloured by application");
+    // The arrow of its menu stands apart from the words.
+    mColours->setText(colours + " ");
+    mColours->setAccessibleName(colours);
     mUnassigned->Show({ .name = NoProject,
         .minutes = mLog.UnassignedMinutes(),
         .style = mDesk.StyleOf(Coloured::Project, NoProject),

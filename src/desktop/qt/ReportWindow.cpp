@@ -6,6 +6,7 @@
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ReportDocument.h"
 #include "desktop/qt/SavedFile.h"
+#include "desktop/qt/WindowRoom.h"
 #include "host/system/GMimeDraftWriter.h"
 
 #include <QApplication>
@@ -77,7 +78,7 @@ ReportWindow::ReportWindow(Desk& desk, Ref<HostInspector> inspector, BrowserPage
     , mDocument(new ReportDocument(mViewer))
     , mMailChanges(Model().ShownMail()->SubscribeToChanges({ .Changed = [this] { mHasChanged = true; } }))
 {
-    resize(UsualReportSize);
+    resize(UsualReportSize * LetterScale(*this));
     AddCommands();
     auto font = mSubject->font();
     font.setBold(true);

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
+#include <algorithm>
 
 namespace tempodial {
 
@@ -73,7 +74,6 @@ SelectionBar::SelectionBar(Desk& desk, QWidget* parent)
     Button(*inner, "Project Settings\u2026", &Wishes::showSettings);
     layout->addWidget(mOffers);
     ShowGroups(false, false);
-    setMinimumHeight(mMore->sizeHint().height() + 3 * FootSpacing);
 }
 
 FlatButton* SelectionBar::Button(QBoxLayout& layout, const QString& text, std::function<void()> Wishes::*wish)
@@ -104,8 +104,7 @@ void SelectionBar::Show(const std::vector<Activity>& selected, std::vector<std::
         chip.setVisible(i < mProjects.size());
         if (i < mProjects.size()) {
             chip.setText(ShownLine(mProjects[i]).replace("&", "&&"));
-            chip.SetBeside({ .mark = ToQt(mDesk.StyleOf(Coloured::Project, mProjects[i]).colours.mark),
-                .hint = QString::number(i + 1) });
+            chip.SetBeside({ .mark = mDesk.StyleOf(Coloured::Project, mProjects[i]), .hint = QString::number(i + 1) });
             chip.setAccessibleName("Set project " + ToQt(mProjects[i]));
         }
     }
@@ -160,6 +159,9 @@ void SelectionBar::ShowTexts()
     auto quiet = palette();
     quiet.setColor(QPalette::WindowText, ToQt(mDesk.Look().Colours().quietText));
     mText->setPalette(quiet);
+    // As high as two lines and the buttons need, whether they are there or not, so that nothing moves.
+    setMinimumHeight(std::max(mMore->sizeHint().height(), mTitle->sizeHint().height() + mText->sizeHint().height())
+        + 3 * FootSpacing);
     // The groups beside the texts may have come or gone.
     layout()->activate();
     const auto cut = [](QLabel* label, const QString& text) {
@@ -174,6 +176,13 @@ void SelectionBar::ShowTexts()
     cut(mTitle, mTitleText);
     cut(mText, Text());
     mText->setVisible(!Text().isEmpty());
+    // What was asked for is told as a whole, in both lines when one is too short.
+    const bool isLong = !mSaid.isEmpty() && mText->text() != mSaid;
+    mTitle->setVisible(!isLong);
+    mText->setWordWrap(isLong);
+    if (isLong) {
+        mText->setText(mSaid);
+    }
 }
 
 void SelectionBar::resizeEvent(QResizeEvent* /*event*/)
@@ -204,7 +213,10 @@ void SelectionBar::ShowAllProjects()
     FillMenu(menu);
     // An assistive program triggers an entry without choosing it in the menu.
     connect(&menu, &QMenu::triggered, &menu, &QMenu::close);
+    // Assistive programs find a menu by the button that it belongs to.
+    mMore->setMenu(&menu);
     menu.exec(mMore->mapToGlobal(QPoint(0, 0)) - QPoint(0, menu.sizeHint().height()));
+    mMore->setMenu(nullptr);
 }
 
 void SelectionBar::paintEvent(QPaintEvent* /*event*/)

@@ -1,6 +1,7 @@
 #include "desktop/qt/SettingsDialog.h"
 
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/WindowRoom.h"
 #include "session/KnownLocale.h"
 #include "terminal/TerminalText.h"
 
@@ -74,6 +75,7 @@ SettingsDialog::SettingsDialog(Desk& desk, Autostart autostart, QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, [this] { Apply(); });
     layout->addRow(buttons);
+    GiveRoom(*this);
 }
 
 void SettingsDialog::AddHint(QFormLayout& layout, const char* text)

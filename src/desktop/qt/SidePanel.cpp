@@ -6,8 +6,16 @@
 #include <QFrame>
 #include <QPainter>
 #include <QScrollArea>
+#include <QStyle>
+#include <algorithm>
 
 namespace tempodial {
+
+namespace {
+
+constexpr int Margin = 14;
+
+}
 
 SidePanel::SidePanel(Desk& desk, const ShownLog& log, QWidget* parent)
     : QWidget(parent)
@@ -16,8 +24,7 @@ SidePanel::SidePanel(Desk& desk, const ShownLog& log, QWidget* parent)
     , mMonth(new MiniMonth(desk, this))
     , mProjects(new ProjectRows(desk, log, this))
 {
-    constexpr int Margin = 14;
-    setFixedWidth(Width);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setAccessibleName("Days and projects");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, 0);
@@ -30,6 +37,19 @@ SidePanel::SidePanel(Desk& desk, const ShownLog& log, QWidget* parent)
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(mProjects);
     layout->addWidget(scroll, 1);
+}
+
+QSize SidePanel::sizeHint() const
+{
+    constexpr int Width = 262;
+    const auto rows = mProjects->minimumSizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const auto needed = std::max(mMonth->sizeHint().width(), rows) + 2 * Margin;
+    return { std::max(Width, needed), QWidget::sizeHint().height() };
+}
+
+QSize SidePanel::minimumSizeHint() const
+{
+    return { sizeHint().width(), QWidget::minimumSizeHint().height() };
 }
 
 void SidePanel::Follow(const QString& title)

@@ -11,8 +11,6 @@ namespace tempodial {
 class SidePanel final : public QWidget
 {
 public:
-    static constexpr int Width = 262;
-
     /// The log must live as long as this.
     SidePanel(Desk& desk, const ShownLog& log, QWidget* parent);
 
@@ -21,6 +19,9 @@ public:
 
     MiniMonth& Month() { return *mMonth; }
     ProjectRows& Projects() { return *mProjects; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -5,31 +5,51 @@
 
 namespace tempodial {
 
+namespace {
+
+/// Draws the outline of what is to be filled in or chosen, on the line that the toolkit draws.
+void DrawOutline(const QStyleOption& option, QPainter& painter, bool isRound)
+{
+    const auto box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(option.palette.color(QPalette::PlaceholderText));
+    if (isRound) {
+        painter.drawEllipse(box);
+    } else {
+        painter.drawRect(box);
+    }
+    painter.restore();
+}
+
+}
+
+void ThemeStyle::drawComplexControl(
+    ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && (option->state & State_HasFocus) == 0) {
+        DrawOutline(*option, *painter, false);
+    }
+}
+
 void ThemeStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (element == PE_FrameLineEdit && (option->state & State_HasFocus) == 0) {
-        painter->setPen(option->palette.color(QPalette::PlaceholderText));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    }
-    const bool isRadio = element == PE_IndicatorRadioButton;
-    if (!isRadio && element != PE_IndicatorCheckBox) {
+    if (element == PE_IndicatorBranch && (option->state & State_Selected) != 0) {
+        auto selected = *option;
+        selected.palette.setColor(QPalette::ButtonText, option->palette.color(QPalette::HighlightedText));
+        selected.palette.setColor(QPalette::WindowText, option->palette.color(QPalette::HighlightedText));
+        QProxyStyle::drawPrimitive(element, &selected, painter, widget);
         return;
     }
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(option->palette.color(QPalette::PlaceholderText));
-    // On the line that the toolkit draws.
-    const auto box = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (isRadio) {
-        painter->drawEllipse(box);
-    } else {
-        painter->drawRect(box);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isRound = element == PE_IndicatorRadioButton;
+    const bool hasNoFocus = (option->state & State_HasFocus) == 0;
+    if (isRound || element == PE_IndicatorCheckBox || (element == PE_FrameLineEdit && hasNoFocus)) {
+        DrawOutline(*option, *painter, isRound);
     }
-    painter->restore();
 }
 
 }

@@ -29,11 +29,6 @@ KeptPicture::KeptPicture(const std::string& name, QImage drawn)
     mKept = mKept.convertToFormat(QImage::Format_RGB32);
 }
 
-bool KeptPicture::AreComparable()
-{
-    return !QDir(KeptFolder).entryList({ QString("*-qt") + qVersion() + ".png" }).isEmpty();
-}
-
 double KeptPicture::Difference() const
 {
     if (mKept.size() != mDrawn.size()) {

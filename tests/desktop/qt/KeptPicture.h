@@ -12,8 +12,6 @@ public:
     /// The picture of that name as it is drawn now. Its file is named after the version and the scale, too.
     KeptPicture(const std::string& name, QImage drawn);
 
-    /// True when there are pictures for this version of the toolkit, so that this one should be among them.
-    static bool AreComparable();
     /// The part of the pixels that differ to be seen; 1 when the sizes do, or none is kept.
     double Difference() const;
     /// Leaves the picture as it is drawn now in a folder, and answers its path.

@@ -13,7 +13,7 @@ class MiniMonthTest : public DesktopFixture
 protected:
     MiniMonthTest()
     {
-        mMonth.resize(SidePanel::Width, mMonth.sizeHint().height());
+        mMonth.resize(262, mMonth.sizeHint().height());
         mMonth.Follow({ On(13, 0), On(19, 0) });
         mMonth.mGoTo = [this](Date day) { mGone = day; };
     }

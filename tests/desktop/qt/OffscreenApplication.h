@@ -12,7 +12,9 @@ inline GuardedApplication& OffscreenApplication()
 {
     // What screens there are may be said there.
     static const bool isOffscreen
-        = (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:") || qputenv("QT_QPA_PLATFORM", "offscreen"))
+        = (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:")
+              || qputenv(
+                  "QT_QPA_PLATFORM", "offscreen:configfile=" TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/screen.json"))
         && qputenv("FONTCONFIG_FILE", TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/fonts.conf");
     static int count = 1;
     static std::string name = "tests";
