@@ -19,7 +19,7 @@ public:
     DesktopProgram(std::ostream& out, std::ostream& error);
 
 protected:
-    ExitStatus Work(const ProfileOptions& options) override;
+    ExitStatus Work(const ProfileOptions& given) override;
 
 private:
     /// Opens the profile; true when it is an example that a person wants to go.

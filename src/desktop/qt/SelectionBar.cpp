@@ -160,28 +160,32 @@ void SelectionBar::ShowTexts()
     quiet.setColor(QPalette::WindowText, ToQt(mDesk.Look().Colours().quietText));
     mText->setPalette(quiet);
     // As high as two lines and the buttons need, whether they are there or not, so that nothing moves.
-    setMinimumHeight(std::max(mMore->sizeHint().height(), mTitle->sizeHint().height() + mText->sizeHint().height())
-        + 3 * FootSpacing);
+    setMinimumHeight(std::max(mMore->sizeHint().height(), 2 * mTitle->fontMetrics().height()) + 3 * FootSpacing);
     // The groups beside the texts may have come or gone.
     layout()->activate();
-    const auto cut = [](QLabel* label, const QString& text) {
-        label->setText(QFontMetrics(label->font()).elidedText(text, Qt::ElideRight, label->width()));
-        label->setToolTip(PlainToolTip(text));
-        // Whoever listens hears of each change; the markup of the tool tip would be read out as the description.
-        if (label->accessibleName() != text) {
-            label->setAccessibleName(text);
-            label->setAccessibleDescription(text);
-        }
-    };
-    cut(mTitle, mTitleText);
-    cut(mText, Text());
-    mText->setVisible(!Text().isEmpty());
-    // What was asked for is told as a whole, in both lines when one is too short.
-    const bool isLong = !mSaid.isEmpty() && mText->text() != mSaid;
+    const bool isLong = mText->fontMetrics().horizontalAdvance(mSaid) > mText->width();
+    constexpr int MostLines = 4;
+    // What is said comes as a whole, since what to do stands at its end; in the line of the title, too.
+    ShowText(*mTitle, mTitleText, 1);
+    ShowText(*mText, Text(), isLong ? MostLines : 1);
     mTitle->setVisible(!isLong);
-    mText->setWordWrap(isLong);
-    if (isLong) {
-        mText->setText(mSaid);
+    mText->setVisible(!Text().isEmpty());
+    // The bar is as high as its text is in this width.
+    updateGeometry();
+}
+
+void SelectionBar::ShowText(QLabel& label, const QString& text, int lines)
+{
+    // A line ends before a word that has no room in it.
+    constexpr double Filled = 0.9;
+    const auto width = lines == 1 ? label.width() : static_cast<int>(lines * label.width() * Filled);
+    label.setWordWrap(lines > 1);
+    label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, width));
+    label.setToolTip(PlainToolTip(text));
+    // Whoever listens hears of each change; the markup of the tool tip would be read out as the description.
+    if (label.accessibleName() != text) {
+        label.setAccessibleName(text);
+        label.setAccessibleDescription(text);
     }
 }
 

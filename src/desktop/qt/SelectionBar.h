@@ -45,7 +45,7 @@ public:
     void Show(const std::vector<Activity>& selected, std::vector<std::string> projects);
     /// Shows what is to be said while nothing is selected.
     void ShowNothing(const QString& title, const QString& text, bool offersSorting);
-    /// Says something for a while, or until something else is selected; nothing ends it.
+    /// Says something for a while, or until something else is selected, in up to four lines; nothing ends it.
     void Say(const QString& text);
     const QString& Said() const { return mSaid; }
 
@@ -69,6 +69,7 @@ private:
     /// Lets go of what was said when others are selected.
     void Forget(const std::vector<Activity>& selected);
     void ShowTexts();
+    static void ShowText(QLabel& label, const QString& text, int lines);
     void ShowGroups(bool hasSelection, bool offersSorting);
 
     Desk& mDesk;

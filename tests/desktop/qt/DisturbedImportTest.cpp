@@ -7,6 +7,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QLabel>
+#include <QTest>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -98,6 +101,23 @@ TEST_F(DisturbedImportTest, TodaysFile_Vanishes_IsSaidAndTheNextIsRight)
         Said(), HasSubstr("The tracker's file tracker_granules20061117.out has gone; what was imported of it is"));
     fs::rename(mFolder.Path("away"), PathOf(17));
     ExpectNextIsRight();
+}
+
+TEST_F(DisturbedImportTest, Warning_LongerThanTheBar_IsReadAsAWhole)
+{
+    mWindow->resize(1000, 700);
+    ImportWhile([this] { fs::rename(PathOf(17), mFolder.Path("away")); });
+    Settle();
+    const auto labels = mWindow->Foot().findChildren<QLabel*>();
+    const auto said = std::find_if(
+        labels.begin(), labels.end(), [this](const QLabel* label) { return label->text() == mWindow->Foot().Said(); });
+    ASSERT_NE(said, labels.end()) << "nothing of it is cut";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return (*said)->height() >= (*said)->heightForWidth((*said)->width()); }));
+    Picture(*mWindow, "vanished-file");
+    const auto isWrapped = [&] { return (*said)->wordWrap(); };
+    EXPECT_TRUE(isWrapped());
+    mWindow->Say("Short.");
+    EXPECT_FALSE(isWrapped());
 }
 
 TEST_F(DisturbedImportTest, PastFile_VanishesBeforeItsTurn_NothingElseIsLost)
