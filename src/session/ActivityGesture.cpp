@@ -15,7 +15,8 @@ namespace {
 bool BelongsTo(const Ref<MAPIFolder>& folder, const Ref<OutlookItem>& item)
 {
     const auto stored = item.As<StoreItem>();
-    return stored && stored->Parent()->EntryID() == folder->EntryID();
+    // What is deleted may still be selected.
+    return stored && !stored->IsDeleted() && stored->Parent()->EntryID() == folder->EntryID();
 }
 
 /// True for a command of the host's own that changes items.

@@ -49,7 +49,14 @@ std::vector<Step> Steps::Newest(std::int64_t most)
 
 UndoneStep Steps::Undo(std::optional<std::int64_t> number, const std::string& command)
 {
+    if (mJournal.IsBarred()) {
+        throw StepError("an import is going on: try again when it is over");
+    }
     UndoneStep undone { Chosen(number), {} };
+    if (mJournal.HasUnsaved(undone.step)) {
+        throw StepError("an activity of that step is open with changes that aren't saved: save them or close its "
+                        "window, and try again");
+    }
     Record(command, [&] {
         undone.items = mJournal.TakeBack(undone.step, mProfile.Clock()->UniversalNow());
         TakeRulesBack(undone.step);

@@ -48,9 +48,10 @@ public:
     /// The newest steps that are still kept, newest first, so many at most.
     std::vector<Step> Newest(std::int64_t most);
     /// Takes a step back, the newest that is neither an undo nor taken back when no number is given, as a step of that
-    /// name. What was changed since stays as it is. Fails with `StepError`.
+    /// name. What was changed since stays as it is. Fails with `StepError`, also during an import, and when one of its
+    /// items holds what isn't saved.
     UndoneStep Undo(std::optional<std::int64_t> number, const std::string& command);
-    /// What `Undo` would do; changes nothing, and fails as it does.
+    /// What `Undo` would do; changes nothing, and fails as it does for want of the step.
     UndoneStep Preview(std::optional<std::int64_t> number);
     /// Brings into the registry the projects of a step that was cut off before they reached it.
     void Recover();

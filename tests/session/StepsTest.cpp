@@ -173,4 +173,33 @@ TEST_F(StepsTest, Preview_ChangesNothing)
     EXPECT_EQ(mSteps->Newest(10).size(), 1U);
 }
 
+TEST_F(StepsTest, Undo_DuringAnImport_IsRefusedAndTheImportGoesOn)
+{
+    mSteps->Record("add", [&] { Saved("a"); });
+    mProfile->Journal()->Begin();
+    Saved("b");
+    EXPECT_THAT([&] { mSteps->Undo(std::nullopt, "undo"); },
+        ThrowsMessage<StepError>("an import is going on: try again when it is over"));
+    mProfile->Journal()->End();
+    EXPECT_EQ(Count(), 2);
+    EXPECT_EQ(mSteps->Undo(std::nullopt, "undo").items.restored, 1);
+    EXPECT_EQ(Count(), 1);
+}
+
+TEST_F(StepsTest, Undo_ItemHoldsWhatIsntSaved_IsRefused)
+{
+    const auto item = Saved("a");
+    mSteps->Record("change", [&] {
+        item->SetSubject("b");
+        item->Save();
+    });
+    item->SetBody("typed");
+    EXPECT_THAT([&] { mSteps->Undo(std::nullopt, "undo"); },
+        ThrowsMessage<StepError>(HasSubstr("save them or close its window")));
+    EXPECT_EQ(item->Body(), "typed");
+    item->Discard();
+    mSteps->Undo(std::nullopt, "undo");
+    EXPECT_EQ(item->Subject(), "a");
+}
+
 }

@@ -5,6 +5,7 @@
 #include "host/store/MailboxStore.h"
 #include "host/store/StoreItem.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tempodial {
@@ -22,7 +23,7 @@ StepJournal::~StepJournal()
 
 void StepJournal::Begin(Date moment, const std::string& command, RulesReader rules)
 {
-    if (mStore->Database().IsHolding()) {
+    if (IsBarred()) {
         return;
     }
     mStore->Database().Hold();
@@ -86,6 +87,20 @@ StepItems StepJournal::TakeBack(const Step& step, Date saved)
         }
     }
     return items;
+}
+
+bool StepJournal::IsBarred() const
+{
+    return mStore->Database().IsHolding();
+}
+
+bool StepJournal::HasUnsaved(const Step& step)
+{
+    const auto items = mTable.ItemsOf(step.number);
+    return std::any_of(items.begin(), items.end(), [this](std::int64_t row) {
+        const auto item = mStore->Live(row);
+        return item && item->HasChanges();
+    });
 }
 
 void StepJournal::NoteRulesReached()

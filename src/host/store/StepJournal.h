@@ -41,6 +41,10 @@ public:
     /// Takes back, within a step that was begun for it, what another one did to items; they are saved at that moment in
     /// UTC. The rules are the caller's matter. When in the end nothing goes back, that one isn't taken back.
     StepItems TakeBack(const Step& step, Date saved);
+    /// True while writes are held for something else, such as an import, so that no step begins.
+    bool IsBarred() const;
+    /// True when an item that a step changed holds what isn't saved, which taking it back would drop.
+    bool HasUnsaved(const Step& step);
     /// What taking a step back would do to items.
     StepItems Preview(const Step& step) { return mTable.Restorable(step.number); }
 

@@ -197,4 +197,22 @@ TEST_F(DisturbedImportTest, Mailbox_IsDamagedWhileItIsOpen_IsSaidWhateverIsDone)
     EXPECT_THAT(Said(), damaged) << "also of what comes next";
 }
 
+TEST_F(DisturbedImportTest, Undo_Meanwhile_SaysThatAnImportIsGoingOn)
+{
+    Add("Alpha", "Plan", "Writer", On(1, 9), On(1, 10));
+    const auto plan = ActivityAt(mDesk->Profile(), On(1, 9, 10))->number;
+    mWindow->Show(DesktopSettings::View::Day, On(1, 0));
+    mWindow->Select({ plan });
+    mWindow->SetProject("Beta");
+    const auto busy = HasSubstr("an import is going on: try again when it is over");
+    ImportWhile([&] {
+        mWindow->Undo();
+        EXPECT_THAT(Said(), busy);
+    });
+    EXPECT_EQ(ActivityNumbered(mDesk->Profile(), plan)->project, "Beta");
+    EXPECT_EQ(Count(), 2U * Documents + 1);
+    mWindow->Undo();
+    EXPECT_EQ(ActivityNumbered(mDesk->Profile(), plan)->project, "Alpha");
+}
+
 }

@@ -5,6 +5,7 @@
 #include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
 #include "review/ActivityReader.h"
+#include "session/ProductFacts.h"
 
 #include <gmock/gmock.h>
 
@@ -65,6 +66,20 @@ TEST_F(SeenWorkTest, OtherDaysAreShown_NothingUnseenStaysSelected)
     window.Page(1);
     EXPECT_EQ(SelectedInModel(), 0);
     EXPECT_TRUE(window.Selected().empty());
+}
+
+TEST_F(SeenWorkTest, DeletedOneInTheSelection_TheOthersGetTheProject)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    const auto inbox = Number(window, "Inbox");
+    window.Select({ plan, inbox });
+    mDesk->Do([&] { mDesk->Windows().User().Delete(ItemNumbered(mDesk->Profile(), plan)); });
+    ASSERT_EQ(SelectedInModel(), 2) << "the model has let it go";
+    window.SetProject("Beta");
+    EXPECT_EQ(ProjectOf(inbox), "Beta");
+    window.Undo();
+    EXPECT_EQ(ProjectOf(inbox), NoProject);
 }
 
 TEST_F(SeenWorkTest, OtherViewOfTheSameDays_KeepsTheSelection)
