@@ -35,6 +35,13 @@ std::string ActivitiesText(std::int64_t count)
     return std::to_string(count) + (count == 1 ? " activity" : " activities");
 }
 
+std::string PassedOverText(std::int64_t count)
+{
+    return ActivitiesText(count)
+        + (count == 1 ? " was passed over since it is open: set its project in its own window."
+                      : " were passed over since they are open: set their projects in their own windows.");
+}
+
 std::string GapText(std::int64_t minutes)
 {
     return LengthText(minutes) + " without a record";

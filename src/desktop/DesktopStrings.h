@@ -34,6 +34,8 @@ std::string EmptyText(EmptyView reason);
 std::string LengthText(std::int64_t minutes);
 /// A number of things, such as 1 activity, 3 activities.
 std::string ActivitiesText(std::int64_t count);
+/// What is said of activities that got no project since they are open, and what to do.
+std::string PassedOverText(std::int64_t count);
 /// What stands in a gap.
 std::string GapText(std::int64_t minutes);
 /// What stands beside several stripes; each application is named once.

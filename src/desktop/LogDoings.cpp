@@ -1,11 +1,13 @@
 #include "desktop/LogDoings.h"
 
 #include "base/Failure.h"
+#include "base/Text.h"
 #include "desktop/DesktopStrings.h"
 #include "desktop/RuleForm.h"
 #include "forms/ModelHands.h"
 #include "host/store/StoreItem.h"
 #include "review/ActivityReader.h"
+#include "review/RuledProject.h"
 #include "session/ActivityGesture.h"
 #include "session/Steps.h"
 #include "session/WorkLogFolder.h"
@@ -38,6 +40,41 @@ std::optional<std::int64_t> UndoToTakeBack(const std::vector<Step>& steps)
         return step.undoes ? std::optional(step.number) : std::nullopt;
     }
     return std::nullopt;
+}
+
+bool IsListed(const std::vector<std::string>& projects, const std::string& project)
+{
+    return std::any_of(
+        projects.begin(), projects.end(), [&](const std::string& name) { return EqualIgnoringCase(name, project); });
+}
+
+/// Lets the product have the projects as a step that was taken back has left them, since it keeps its own list and
+/// would write that again.
+void TakeProjects(const LogDoings& doings, const Session& session, const Step& step)
+{
+    if (!step.rulesAfter || !session.IsConnected()) {
+        return;
+    }
+    auto& addIn = session.AddIn();
+    const auto kept = RuledProject::ReadAll(session.Profile());
+    session.Profile().Registry()->Together([&] {
+        for (const auto& project : kept) {
+            const auto& name = project.name;
+            if (addIn.GetProjectSubRule(name) != project.subjectRule
+                || addIn.GetProjectNotSubRule(name) != project.notSubjectRule
+                || addIn.GetProjectPeopleRule(name) != project.peopleRule
+                || addIn.GetProjectPrecedence(name) != project.precedence || !IsListed(doings.Projects(), name)) {
+                addIn.UpdateorAddProject(
+                    name, project.subjectRule, project.notSubjectRule, project.peopleRule, project.precedence, false);
+            }
+        }
+        for (const auto& name : doings.Projects()) {
+            if (std::none_of(kept.begin(), kept.end(),
+                    [&](const RuledProject& project) { return EqualIgnoringCase(project.name, name); })) {
+                addIn.DeleteProject(name);
+            }
+        }
+    });
 }
 
 std::string Sentence(const char* verb, const UndoneStep& undone)
@@ -75,14 +112,50 @@ void LogDoings::Select(HostExplorer& window, const Numbers& numbers) const
 
 void LogDoings::Open(std::int64_t number) const
 {
-    mSession.Windows().OpenInspector(ItemNumbered(mSession.Profile(), number));
+    if (const auto inspector = InspectorOf(number)) {
+        // Two windows would show one item, and each would drop what the other holds.
+        mSession.Windows().ActivateInspector(inspector);
+    } else {
+        mSession.Windows().OpenInspector(ItemNumbered(mSession.Profile(), number));
+    }
 }
 
-void LogDoings::SetProject(HostExplorer& window, const std::string& project) const
+Ref<HostInspector> LogDoings::InspectorOf(std::int64_t number) const
 {
-    GestureAsStep(mSession.Profile(), SelectedItems(window), "Set project " + project, [&] {
+    for (const auto& inspector : mSession.Windows().OpenInspectors()) {
+        if (inspector->ShownItem() && inspector->ShownItem()->Number() == number) {
+            return inspector;
+        }
+    }
+    return nullptr;
+}
+
+std::int64_t LogDoings::SetProject(const Ref<HostExplorer>& window, const std::string& project) const
+{
+    return SetProjectAfter([] {}, window, project);
+}
+
+std::int64_t LogDoings::SetNewProject(const Ref<HostExplorer>& window, const std::string& project) const
+{
+    return SetProjectAfter([&] { AddProject(project); }, window, project);
+}
+
+std::int64_t LogDoings::SetProjectAfter(
+    const std::function<void()>& work, const Ref<HostExplorer>& window, const std::string& project) const
+{
+    if (mSession.Windows().ActiveExplorer() != window) {
+        // The product takes what is selected in the window that is in front.
+        mSession.Windows().ActivateExplorer(window);
+    }
+    const auto selected = SelectedNumbers(*window);
+    GestureAsStep(mSession.Profile(), SelectedItems(*window), "Set project " + project, [&] {
+        work();
         mSession.Mailbox()->ChoosingProjects(
             ProjectChoice::Person, [&] { mSession.AddIn().SetProjectForItems(project, true, false, {}, {}, true); });
+    });
+    return std::count_if(selected.begin(), selected.end(), [&](std::int64_t number) {
+        const auto activity = ActivityNumbered(mSession.Profile(), number);
+        return activity && activity->project != project && InspectorOf(number);
     });
 }
 
@@ -116,7 +189,13 @@ void LogDoings::Delete(const Numbers& numbers) const
 
 bool LogDoings::Move(std::int64_t number, const TimeSpan& times) const
 {
-    return RescheduleAsStep(mSession.Profile(), ItemNumbered(mSession.Profile(), number), times.start, times.end);
+    const auto item = ItemNumbered(mSession.Profile(), number);
+    if (item->HasChanges()) {
+        throw Failure(Error::InvalidCall,
+            "It stays where it was, since it is open with changes that aren't saved: save them or close its window, "
+            "and move it then.");
+    }
+    return RescheduleAsStep(mSession.Profile(), item, times.start, times.end);
 }
 
 void LogDoings::Create(const TimeSpan& times) const
@@ -130,7 +209,9 @@ void LogDoings::Create(const TimeSpan& times) const
 
 std::string LogDoings::Undo() const
 {
-    return Sentence("Undone", Steps(mSession.Profile()).Undo(std::nullopt, UndoName));
+    const auto undone = Steps(mSession.Profile()).Undo(std::nullopt, UndoName);
+    TakeProjects(*this, mSession, undone.step);
+    return Sentence("Undone", undone);
 }
 
 std::string LogDoings::Redo() const
@@ -140,7 +221,9 @@ std::string LogDoings::Redo() const
     if (!undo) {
         throw StepError("there is nothing to do again: the last thing done was no undo");
     }
-    return Sentence("Done again", steps.Undo(*undo, RedoName));
+    const auto undone = steps.Undo(*undo, RedoName);
+    TakeProjects(*this, mSession, undone.step);
+    return Sentence("Done again", undone);
 }
 
 std::vector<std::string> LogDoings::Projects() const

@@ -43,4 +43,11 @@ TEST(DesktopStringsTest, EmptyText_Reasons_DifferAndSayWhatHelps)
     EXPECT_NE(EmptyText(EmptyView::NothingFound).find("Escape"), std::string::npos);
 }
 
+TEST(DesktopStringsTest, PassedOverText_Activities_SaysWhatToDo)
+{
+    EXPECT_EQ(PassedOverText(1), "1 activity was passed over since it is open: set its project in its own window.");
+    EXPECT_EQ(PassedOverText(2),
+        "2 activities were passed over since they are open: set their projects in their own windows.");
+}
+
 }

@@ -35,9 +35,8 @@ MainCommands::MainCommands(MainWindow& window, Desk& desk)
 void MainCommands::MakeActions()
 {
     using Command = BuiltInCommand;
-    mActions.Add(Command::FileMenu, "New &Window", QKeySequence::New, [this] {
-        mDesk.Do([this] { mDesk.Windows().OpenExplorer(mDesk.Windows().ActiveExplorer()->CurrentFolder()); });
-    });
+    mActions.Add(Command::FileMenu, "New &Window", QKeySequence::New,
+        [this] { mDesk.Do([this] { mDesk.Windows().OpenExplorer(mWindow.Explorer()->CurrentFolder()); }); });
     mActions.Add(Command::FileMenu, "&Export\u2026", QKeySequence("Ctrl+E"), [this] { mOutlets.AskWhereToExport(); });
     mActions.Add(Command::FileMenu, "Open &Data Folder", {},
         [this] { mDesk.Do([this] { mDesk.Profile().Surroundings().shell->Open(mDesk.Profile().DataFolder()); }); });

@@ -188,7 +188,9 @@ void MainWindow::SelectAll()
 void MainWindow::SetProject(const std::string& project)
 {
     if (!mSelected.empty()) {
-        mDesk.Do([&] { mDoings.SetProject(*mExplorer, project); });
+        std::int64_t open = 0;
+        mDesk.Do([&] { open = mDoings.SetProject(mExplorer, project); });
+        SayPassedOver(open);
     }
 }
 
@@ -201,10 +203,9 @@ void MainWindow::SetNewProject()
     const auto name
         = QInputDialog::getText(this, "New Project", "Name of the project:", QLineEdit::Normal, "", &isDone);
     if (isDone && !name.trimmed().isEmpty()) {
-        mDesk.Do([&] {
-            mDoings.AddProject(FromQt(name.trimmed()));
-            mDoings.SetProject(*mExplorer, FromQt(name.trimmed()));
-        });
+        std::int64_t open = 0;
+        mDesk.Do([&] { open = mDoings.SetNewProject(mExplorer, FromQt(name.trimmed())); });
+        SayPassedOver(open);
     }
 }
 

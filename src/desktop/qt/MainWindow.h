@@ -114,6 +114,8 @@ private:
     void Follow();
     /// What isn't shown any more isn't selected either, so that nothing is done to it unseen.
     void DropUnseen();
+    /// Says how many the product has passed over since they are open.
+    void SayPassedOver(std::int64_t count);
     /// Reads the log again when what is shown has changed.
     void ReadChanges();
     /// What is shown of the log has changed, or how it looks.

@@ -1,3 +1,4 @@
+#include "desktop/DesktopStrings.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/ExampleProgram.h"
@@ -126,6 +127,13 @@ void MainWindow::DropUnseen()
     }
     if (seen != mSelected) {
         mDoings.Select(*mExplorer, { seen.begin(), seen.end() });
+    }
+}
+
+void MainWindow::SayPassedOver(std::int64_t count)
+{
+    if (count > 0) {
+        mFoot->Say(ToQt(PassedOverText(count)));
     }
 }
 

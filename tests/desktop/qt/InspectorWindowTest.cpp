@@ -1,8 +1,10 @@
 #include "desktop/qt/InspectorWindow.h"
 
 #include "WorkedWeekFixture.h"
+#include "desktop/qt/AgendaView.h"
 #include "desktop/qt/CommandBarView.h"
 #include "desktop/qt/PageView.h"
+#include "desktop/qt/SelectionBar.h"
 #include "review/ActivityReader.h"
 
 #include <QCheckBox>
@@ -200,6 +202,49 @@ TEST_F(InspectorWindowTest, Activity_InAllColours_IsDrawnWhole)
             EXPECT_TRUE(window.Page()->rect().contains(widget->geometry())) << widget->objectName().toStdString();
         }
     }
+}
+
+TEST_F(InspectorWindowTest, Activity_OpenedTwice_ComesToTheFrontWithWhatIsTyped)
+{
+    auto& window = OpenItem(0);
+    const auto first = mDesk->Windows().OpenInspectors().front();
+    Retype(Line(window, "SubjectBox"), "Site plan");
+    OpenItem(1);
+    mDesk->Do([&] { LogDoings(mDesk->Session()).Open(Activities()[0].number); });
+    EXPECT_EQ(OpenCount(), 2U);
+    EXPECT_EQ(mDesk->Windows().ActiveInspector(), first);
+    EXPECT_EQ(Line(window, "SubjectBox").text(), "Site plan");
+}
+
+TEST_F(InspectorWindowTest, UndoOfItsStep_Unsaved_IsRefusedAndKeepsWhatIsTyped)
+{
+    const auto plan = Activities()[0].number;
+    mWindow->Select({ plan });
+    mWindow->SetProject("Beta");
+    auto& window = OpenItem(0);
+    auto& line = Line(window, "SubjectBox");
+    Retype(line, "Site plan");
+    QTest::keyClick(&line, Qt::Key_Tab);
+    mWindow->Undo();
+    EXPECT_TRUE(mWindow->Foot().Said().contains("save them or close its window"));
+    EXPECT_EQ(line.text(), "Site plan");
+    mMessages->NextAnswer(Answer::No);
+    window.close();
+    mWindow->Undo();
+    EXPECT_EQ(ActivityNumbered(mDesk->Profile(), plan)->project, "Alpha");
+}
+
+TEST_F(InspectorWindowTest, Dragged_Unsaved_StaysAndSavesNothing)
+{
+    const auto plan = Activities()[0].number;
+    auto& line = Line(OpenItem(0), "SubjectBox");
+    Retype(line, "Site plan");
+    QTest::keyClick(&line, Qt::Key_Tab);
+    mWindow->Agenda().mWishes.move(plan, { On(15, 8), On(15, 9) });
+    EXPECT_TRUE(mWindow->Foot().Said().contains("save them or close its window"));
+    EXPECT_EQ(Activities()[0].description, "Plan");
+    EXPECT_EQ(Activities()[0].start, On(15, 9));
+    EXPECT_TRUE(Item()->HasChanges());
 }
 
 }

@@ -174,6 +174,26 @@ TEST_F(MainCommandsTest, N_GivesTheGroupAProjectThatIsNew)
     EXPECT_THAT(LogDoings(mDesk->Session()).Projects(), testing::Contains("Post"));
     window.Undo();
     EXPECT_TRUE(IsUnassigned(*ActivityAt(mDesk->Profile(), On(16, 9, 10))));
+    EXPECT_THAT(LogDoings(mDesk->Session()).Projects(), testing::Not(testing::Contains("Post")));
+    window.Redo();
+    EXPECT_EQ(ActivityAt(mDesk->Profile(), On(16, 9, 10))->project, "Post");
+    EXPECT_THAT(LogDoings(mDesk->Session()).Projects(), testing::Contains("Post"));
+}
+
+TEST_F(MainCommandsTest, NewWindow_AnotherIsInFront_ShowsTheFolderOfThisOne)
+{
+    auto& window = OpenWithWork();
+    const auto inbox = mDesk->Session().Mailbox()->NameSpace()->GetDefaultFolder(DefaultFolder::Inbox);
+    mDesk->Do([&] { mDesk->Windows().OpenExplorer(inbox); });
+    for (auto* action : window.findChildren<QAction*>()) {
+        if (action->shortcut() == QKeySequence::New) {
+            action->trigger();
+        }
+    }
+    const auto& explorers = mDesk->Windows().OpenExplorers();
+    ASSERT_EQ(explorers.size(), 3U);
+    EXPECT_EQ(explorers.back()->CurrentFolder()->EntryID(), explorers.front()->CurrentFolder()->EntryID());
+    EXPECT_NE(explorers.back()->CurrentFolder()->EntryID(), inbox->EntryID());
 }
 
 TEST_F(MainCommandsTest, GoToDate_ADateOrNot_GoesThereOrSaysWhatADateIs)

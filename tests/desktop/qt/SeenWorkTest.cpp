@@ -1,4 +1,5 @@
 #include "DesktopFixture.h"
+#include "desktop/DesktopStrings.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/SelectionBar.h"
@@ -6,6 +7,7 @@
 #include "desktop/qt/SortOutView.h"
 #include "review/ActivityReader.h"
 #include "session/ProductFacts.h"
+#include "session/WorkLogFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -80,6 +82,35 @@ TEST_F(SeenWorkTest, DeletedOneInTheSelection_TheOthersGetTheProject)
     EXPECT_EQ(ProjectOf(inbox), "Beta");
     window.Undo();
     EXPECT_EQ(ProjectOf(inbox), NoProject);
+}
+
+TEST_F(SeenWorkTest, AnotherWindowInFront_TheProjectIsSetOnWhatThisOneShows)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    const auto inbox = Number(window, "Inbox");
+    window.Select({ plan });
+    mDesk->Do([this] { mDesk->Windows().OpenExplorer(WorkLogOf(mDesk->Profile())); });
+    mWindows->WindowOf(mDesk->Windows().OpenExplorers().back())->Select({ inbox });
+    window.SetProject("Beta");
+    EXPECT_EQ(ProjectOf(plan), "Beta");
+    EXPECT_EQ(ProjectOf(inbox), NoProject);
+}
+
+TEST_F(SeenWorkTest, OpenOneInTheSelection_IsPassedOverAndTheBarSaysSo)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    const auto inbox = Number(window, "Inbox");
+    mDesk->Do([&] { LogDoings(mDesk->Session()).Open(plan); });
+    window.Select({ plan, inbox });
+    window.SetProject("Beta");
+    EXPECT_EQ(ProjectOf(plan), "Alpha");
+    EXPECT_EQ(ProjectOf(inbox), "Beta");
+    EXPECT_EQ(window.Foot().Said().toStdString(), PassedOverText(1));
+    window.Say({});
+    window.SetProject("Alpha");
+    EXPECT_EQ(window.Foot().Said(), "") << "the open one has that project";
 }
 
 TEST_F(SeenWorkTest, OtherViewOfTheSameDays_KeepsTheSelection)

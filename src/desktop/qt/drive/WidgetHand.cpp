@@ -115,8 +115,11 @@ Ref<HostInspector> WidgetHand::Open(const Ref<StoreItem>& item)
 {
     auto* window = Reached(*item);
     const bool isAlone = ReachedAlone(*item) != nullptr;
-    // In the list of short ones, going to one selects it.
-    if (window == nullptr || (!isAlone && AgendaPointer(*window).IsOneOfRun(item->Number()))) {
+    const auto& inspectors = mDesk.Windows().OpenInspectors();
+    const bool isOpen = std::any_of(
+        inspectors.begin(), inspectors.end(), [&](const auto& inspector) { return inspector->ShownItem() == item; });
+    // In the list of short ones, going to one selects it; and no gesture opens a further window on one.
+    if (window == nullptr || isOpen || (!isAlone && AgendaPointer(*window).IsOneOfRun(item->Number()))) {
         return ModelHand::Open(item);
     }
     std::int32_t last = 0;
@@ -211,7 +214,8 @@ bool WidgetHand::Reschedule(const Ref<StoreItem>& item, Date start, Date end)
 {
     auto* window = ReachedAlone(*item);
     bool isDragged = false;
-    if (window != nullptr) {
+    // What is open with changes can't be dragged.
+    if (window != nullptr && !item->HasChanges()) {
         WorkAt(mDesk, [&] { isDragged = AgendaPointer(*window).Drag(item->Number(), { start, end }); });
     }
     return isDragged ? item->Start() == start && item->End() == end : ModelHand::Reschedule(item, start, end);

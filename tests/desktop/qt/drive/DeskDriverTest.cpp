@@ -377,4 +377,19 @@ TEST_F(DeskDriverTest, EventOfTheToolkit_Fails_IsADifferenceOfTheNextAnswer)
     EXPECT_FALSE(Do({ { "do", "windows" } }).contains("differences")) << "it is told once";
 }
 
+TEST_F(DeskDriverTest, WhatADeskRefuses_IsDoneAsTheModelDoesIt)
+{
+    const auto id = Activity("plan", "10:00");
+    EXPECT_EQ(Do({ { "do", "inspector.open" }, { "entryId", id } }).at("inspector"), 1);
+    EXPECT_EQ(Do({ { "do", "inspector.open" }, { "entryId", id } }).at("inspector"), 2);
+    Do({ { "do", "inspector.set" }, { "inspector", 1 }, { "control", "SubjectBox" }, { "value", "sketch" } });
+    Do({ { "do", "explorer.select" }, { "explorer", 1 }, { "items", { id } } });
+    Do({ { "do", "item.change" }, { "entryId", id }, { "start", "2006-10-10T11:00:00" },
+        { "end", "2006-10-10T11:45:00" } });
+    EXPECT_EQ(Times(), "2006-10-10T11:00:00 2006-10-10T11:45:00");
+    Do({ { "do", "inspector.set" }, { "inspector", 1 }, { "control", "SubjectBox" }, { "value", "sketches" } });
+    Do({ { "do", "explorer.close" }, { "explorer", 1 } });
+    EXPECT_EQ(Do({ { "do", "windows" } }).at("inspectors").size(), 2U) << "the product has stopped, the host hasn't";
+}
+
 }
