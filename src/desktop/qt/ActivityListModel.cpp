@@ -24,6 +24,10 @@ void ActivityListModel::Show(const std::vector<Activity>& activities, const Tabl
     mValues.emplace(mDesk.Formats(), ItemFields(mDesk.Profile()), mDesk.ShownTitles());
     mLayout = layout;
     mActivities = &activities;
+    mNumbers.clear();
+    for (const auto& activity : activities) {
+        mNumbers.push_back(activity.number);
+    }
     mColoured = coloured;
     mRows.emplace(activities, mLayout, *mValues, folded);
     endResetModel();
@@ -44,9 +48,8 @@ const Activity* ActivityListModel::ActivityOf(int row) const
 
 std::pair<std::int64_t, std::string> ActivityListModel::KeyOf(int row) const
 {
-    const auto* activity = ActivityOf(row);
-    return activity != nullptr ? std::pair(activity->number, std::string())
-                               : std::pair(std::int64_t { 0 }, GroupOf(row)->key);
+    const auto& place = mRows->Rows()[static_cast<std::size_t>(row)].activity;
+    return place ? std::pair(mNumbers[*place], std::string()) : std::pair(std::int64_t { 0 }, GroupOf(row)->key);
 }
 
 const ListGroup* ActivityListModel::GroupOf(int row) const

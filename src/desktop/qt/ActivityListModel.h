@@ -47,6 +47,8 @@ private:
     std::optional<FieldValues> mValues;
     TableViewLayout mLayout;
     const std::vector<Activity>* mActivities = nullptr;
+    /// The number of each: when others are shown, these may have gone already.
+    std::vector<std::int64_t> mNumbers;
     Coloured mColoured = Coloured::Project;
     std::optional<ListRows> mRows;
 };

@@ -78,13 +78,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     mMenu = std::make_unique<MainMenu>(desk, mExplorer, *menuBar(), mBar->Buttons(), mCommands.Actions().All());
     mChanges = mExplorer->SubscribeToChanges({ .Changed = {}, .BroughtToFront = [this] { mComesToFront = true; } });
     mEvents = desk.Subscribe({ .Changed = [this] { Follow(); },
-        .Restyled =
-            [this] {
-                mIsDrawn = false;
-                // The week may begin with another day.
-                mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
-                Follow();
-            },
+        .Restyled = [this] { FollowSettings(); },
         .Failed = [this](const std::string& message) { mFoot->Say(ToQt(message)); } });
     FollowLog();
     const auto& settings = desk.Settings();
@@ -143,12 +137,9 @@ void MainWindow::Show(View view, Date day)
     const bool isOther = view != mView;
     mSearch.End();
     mDesk.Do([&] {
-        const auto before = mLog.Days();
         mLog.Show(DaysOfView(view, mDesk.Settings().listSpan, day, mDesk.WeekStart()));
         mIsDrawn = false;
-        if (mLog.Days() != before) {
-            DropUnseen();
-        }
+        DropUnseen();
         mView = view;
         mDay = day;
         mDesk.Remember([view](DesktopSettings& settings) { settings.view = view; });
@@ -180,7 +171,9 @@ void MainWindow::SelectAll()
 {
     Numbers all;
     for (const auto& activity : ShownActivities()) {
-        all.insert(activity.number);
+        if (mView != View::SortOut || IsUnassigned(activity)) {
+            all.insert(activity.number);
+        }
     }
     Select(all);
 }
@@ -287,9 +280,11 @@ void MainWindow::Follow()
     if (mExplorer->IsGone()) {
         return;
     }
+    const auto selected = mSelected;
     ReadChanges();
     // The product may have selected something else, as by going to another folder.
     mSelected = SelectedNumbers(*mExplorer);
+    DropLost(selected);
     if (mIsDrawn) {
         FollowModel();
     } else {

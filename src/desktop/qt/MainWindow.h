@@ -112,8 +112,14 @@ private:
     void SearchAll();
     /// The model has changed, or how things look.
     void Follow();
-    /// What isn't shown any more isn't selected either, so that nothing is done to it unseen.
+    /// The settings have changed, or how things look.
+    void FollowSettings();
+    /// What isn't shown isn't selected either, so that nothing is done to it unseen.
     void DropUnseen();
+    /// The same with what was selected and isn't shown any more, since the log has changed.
+    void DropLost(const Numbers& selected);
+    /// Selects no more than what of the selection is shown.
+    Numbers SeenOnes() const;
     /// Says how many the product has passed over since they are open.
     void SayPassedOver(std::int64_t count);
     /// Reads the log again when what is shown has changed.
@@ -137,6 +143,8 @@ private:
     View mView;
     Date mDay;
     Numbers mSelected;
+    /// What of the selection isn't shown any more, until nothing goes on in which that may not change.
+    Numbers mLost;
     /// The change of the log up to which it was read.
     std::int64_t mRead = 0;
     /// The windows show what was read.

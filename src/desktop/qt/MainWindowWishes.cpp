@@ -1,4 +1,5 @@
 #include "desktop/DesktopStrings.h"
+#include "desktop/ViewDays.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/ExampleProgram.h"
@@ -15,6 +16,8 @@
 
 #include <QInputDialog>
 #include <QLineEdit>
+#include <algorithm>
+#include <iterator>
 
 namespace tempodial {
 
@@ -121,13 +124,50 @@ void MainWindow::GoToDate()
 void MainWindow::DropUnseen()
 {
     mSelected = SelectedNumbers(*mExplorer);
+    const auto seen = SeenOnes();
+    if (seen != mSelected) {
+        mDoings.Select(*mExplorer, { seen.begin(), seen.end() });
+    }
+}
+
+void MainWindow::DropLost(const Numbers& selected)
+{
+    const auto seen = SeenOnes();
+    std::set_difference(selected.begin(), selected.end(), seen.begin(), seen.end(), std::inserter(mLost, mLost.end()));
+    if (mDesk.IsBusy()) {
+        return;
+    }
+    Numbers kept;
+    for (const auto number : mSelected) {
+        if (mLost.count(number) == 0 || seen.count(number) > 0) {
+            kept.insert(number);
+        }
+    }
+    mLost.clear();
+    if (kept != mSelected) {
+        mDoings.Select(*mExplorer, { kept.begin(), kept.end() });
+        mSelected = kept;
+    }
+}
+
+MainWindow::Numbers MainWindow::SeenOnes() const
+{
     Numbers seen;
     for (const auto& activity : SelectedActivities()) {
         seen.insert(activity.number);
     }
-    if (seen != mSelected) {
-        mDoings.Select(*mExplorer, { seen.begin(), seen.end() });
+    return seen;
+}
+
+void MainWindow::FollowSettings()
+{
+    if (mExplorer->IsGone()) {
+        return;
     }
+    mIsDrawn = false;
+    // The week may begin with another day.
+    mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
+    mDesk.Do([this] { DropUnseen(); });
 }
 
 void MainWindow::SayPassedOver(std::int64_t count)

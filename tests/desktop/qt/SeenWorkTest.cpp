@@ -70,6 +70,60 @@ TEST_F(SeenWorkTest, OtherDaysAreShown_NothingUnseenStaysSelected)
     EXPECT_TRUE(window.Selected().empty());
 }
 
+TEST_F(SeenWorkTest, ListGrowsShorter_NothingUnseenStaysSelected)
+{
+    Add("Alpha", "Older", "Writer", On(1, 9), On(1, 10));
+    auto& window = Open();
+    const auto setSpan = [this](DesktopSettings::ListSpan span) {
+        mDesk->Change([span](DesktopSettings& settings) { settings.listSpan = span; });
+    };
+    setSpan(DesktopSettings::ListSpan::Year);
+    window.Show(View::List);
+    window.SelectAll();
+    ASSERT_EQ(SelectedInModel(), 4);
+    setSpan(DesktopSettings::ListSpan::Week);
+    EXPECT_EQ(SelectedInModel(), 3);
+    EXPECT_EQ(window.Selected().size(), 3U);
+}
+
+TEST_F(SeenWorkTest, FoundInTheWholeLogThenTheSameWeek_NothingUnseenStaysSelected)
+{
+    Add("Alpha", "Older", "Writer", On(1, 9), On(1, 10));
+    auto& window = Open();
+    window.Show(View::List);
+    QTest::keyClicks(&window.Bar().SearchField(), "alpha");
+    QTest::keyClick(&window.Bar().SearchField(), Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.Foot().Title().contains("found in the whole log"); }));
+    window.SelectAll();
+    ASSERT_EQ(SelectedInModel(), 2);
+    window.Show(View::Week);
+    EXPECT_EQ(SelectedInModel(), 1);
+}
+
+TEST_F(SeenWorkTest, MovedOutOfTheDays_IsSelectedNoMore)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    const auto inbox = Number(window, "Inbox");
+    window.Select({ plan, inbox });
+    mDesk->Do([&] { LogDoings(mDesk->Session()).Move(plan, { On(25, 9), On(25, 10) }); });
+    EXPECT_EQ(SelectedInModel(), 1);
+    EXPECT_THAT(window.Selected(), ElementsAre(inbox));
+}
+
+TEST_F(SeenWorkTest, MovedDuringAJob_StaysSelectedUntilItIsOver)
+{
+    auto& window = Open();
+    const auto plan = Number(window, "Plan");
+    window.Select({ plan, Number(window, "Inbox") });
+    mDesk->Do([&] {
+        LogDoings(mDesk->Session()).Move(plan, { On(25, 9), On(25, 10) });
+        mDesk->Show();
+        EXPECT_EQ(SelectedInModel(), 2);
+    });
+    EXPECT_EQ(SelectedInModel(), 1);
+}
+
 TEST_F(SeenWorkTest, DeletedOneInTheSelection_TheOthersGetTheProject)
 {
     auto& window = Open();
@@ -111,6 +165,14 @@ TEST_F(SeenWorkTest, OpenOneInTheSelection_IsPassedOverAndTheBarSaysSo)
     window.Say({});
     window.SetProject("Alpha");
     EXPECT_EQ(window.Foot().Said(), "") << "the open one has that project";
+}
+
+TEST_F(SeenWorkTest, SortOut_SelectAll_TakesThoseWithoutAProject)
+{
+    auto& window = Open();
+    window.Show(View::SortOut);
+    window.SelectAll();
+    EXPECT_THAT(window.Selected(), ElementsAre(Number(window, "Inbox"), Number(window, "News")));
 }
 
 TEST_F(SeenWorkTest, OtherViewOfTheSameDays_KeepsTheSelection)
