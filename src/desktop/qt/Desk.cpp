@@ -83,6 +83,9 @@ std::string Desk::UsualSettingsPath()
 
 void Desk::Quit()
 {
+    if (!CloseItems()) {
+        return;
+    }
     // Windows are asked to close during this.
     const auto stays = std::exchange(mStaysWhenClosed, false);
     QCoreApplication::quit();

@@ -45,6 +45,9 @@ public:
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
 
+    /// How `CloseItems` is done by whoever has these windows.
+    std::function<bool()> mCloseItems;
+
     /// The user's folder of configurations; fails with `ProfileError` when the environment names no home.
     static std::string ConfigFolder();
     /// The path of the user's settings; fails with `ProfileError` when the environment names no home.
@@ -84,6 +87,8 @@ public:
     /// True when the last window is only hidden when it is closed, since the tray brings it back.
     bool StaysWhenClosed() const { return mStaysWhenClosed; }
     void SetStaysWhenClosed(bool stays) { mStaysWhenClosed = stays; }
+    /// Asks the windows of items to close, and what of them is unsaved is asked about; false when one stays.
+    bool CloseItems() const { return !mCloseItems || mCloseItems(); }
     /// Ends the program, unless a window refuses to close.
     void Quit();
 

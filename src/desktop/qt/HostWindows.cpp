@@ -47,6 +47,7 @@ HostWindows::HostWindows(Desk& desk, Beginning beginning)
     , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
 {
     InstallAccess();
+    desk.mCloseItems = [this] { return CloseItems(); };
     desk.Windows().SetOwnerCommands(ForModels());
     Follow();
 }
@@ -56,21 +57,28 @@ HostWindows::~HostWindows()
     if (mDesk.Session().IsStarted()) {
         mDesk.Windows().SetOwnerCommands({});
     }
+    mDesk.mCloseItems = nullptr;
+    // The loop of events in which they would go may have ended, and what they hold of the mailbox must not outlive it.
+    const auto deleteAll = [](auto& windows) {
+        for (auto& [number, window] : windows) {
+            delete window.release();
+        }
+    };
+    deleteAll(mItems);
+    deleteAll(mForms);
+    deleteAll(mExplorers);
 }
 
 void HostWindows::Follow()
 {
     const auto& explorers = mDesk.Windows().OpenExplorers();
-    const bool hadAny = HasAny();
+    const bool hadAny = !mExplorers.empty();
     DropGone(mExplorers, explorers);
     for (const auto& explorer : explorers) {
         auto& window = mExplorers[explorer->Number()];
         if (!window) {
             window.reset(new MainWindow(mDesk, explorer));
-            window->mRemoveExample = [this] {
-                mRemovesExample = true;
-                mDesk.Quit();
-            };
+            window->mRemoveExample = [this] { RemoveExample(); };
             if (const auto notice = mDesk.Notice(); !notice.empty()) {
                 window->Say(ToQt(notice));
             }
@@ -79,34 +87,44 @@ void HostWindows::Follow()
     }
     FollowForms();
     FollowItems();
-    if (hadAny && !HasAny() && mWhenAllClosed) {
+    if (hadAny && mExplorers.empty() && mWhenAllClosed) {
         mWhenAllClosed();
     }
 }
 
-bool HostWindows::HasAny() const
+bool HostWindows::CloseItems()
 {
-    return !mExplorers.empty() || !mItems.empty()
-        || std::any_of(mForms.begin(), mForms.end(), [](const auto& form) { return form.second->isVisible(); });
+    // A copy, since a window that closes takes itself out.
+    const auto inspectors = mDesk.Windows().OpenInspectors();
+    for (auto inspector = inspectors.rbegin(); inspector != inspectors.rend(); ++inspector) {
+        auto* window = WindowOf(*inspector);
+        if (window != nullptr && !window->close()) {
+            window->raise();
+            window->activateWindow();
+            return false;
+        }
+    }
+    return true;
+}
+
+void HostWindows::RemoveExample()
+{
+    mRemovesExample = true;
+    mDesk.Quit();
+    // A window that stays keeps the example, also when the program ends later.
+    mRemovesExample = mDesk.Windows().OpenExplorers().empty();
 }
 
 void HostWindows::Raise()
 {
     mIsHidden = false;
-    if (auto* window = Front()) {
+    const auto active = mDesk.Windows().ActiveExplorer().As<HostExplorer>();
+    if (auto* window = active ? WindowOf(active) : nullptr) {
         window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
         window->show();
         window->raise();
         window->activateWindow();
     }
-}
-
-QWidget* HostWindows::Front() const
-{
-    if (const auto active = mDesk.Windows().ActiveExplorer().As<HostExplorer>()) {
-        return WindowOf(active);
-    }
-    return mItems.empty() ? nullptr : mItems.rbegin()->second.get();
 }
 
 void HostWindows::FollowForms()

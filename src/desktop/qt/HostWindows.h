@@ -29,7 +29,7 @@ public:
     HostWindows(const HostWindows&) = delete;
     HostWindows& operator=(const HostWindows&) = delete;
 
-    /// Called when the last window has gone.
+    /// Called when the last main window has gone.
     std::function<void()> mWhenAllClosed;
 
     /// True when a person wants the example to go that was shown, once the program has ended.
@@ -53,9 +53,10 @@ private:
     };
     template <class Window> using Numbered = std::map<std::int32_t, std::unique_ptr<Window, Later>>;
 
-    bool HasAny() const;
-    /// The window that a person meant last, null without one.
-    QWidget* Front() const;
+    /// Asks the windows of items to close, the newest first; false when one stays, which then is in front.
+    bool CloseItems();
+    /// Ends the program so that the example goes, unless a window stays.
+    void RemoveExample();
     void FollowForms();
     void FollowItems();
     ItemWindow* NewWindow(const Ref<HostInspector>& inspector);

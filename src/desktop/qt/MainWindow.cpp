@@ -477,6 +477,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
         hide();
         return;
     }
+    // With its last window the product ends, and asks about nothing any more.
+    if (mDesk.Windows().OpenExplorers().size() == 1 && !mDesk.CloseItems()) {
+        event->ignore();
+        return;
+    }
     mDesk.Do([this] { mDesk.Windows().CloseExplorer(mExplorer); });
     // The model says whether the window goes.
     event->setAccepted(mExplorer->IsGone());

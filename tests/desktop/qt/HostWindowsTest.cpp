@@ -1,12 +1,17 @@
 #include "desktop/qt/HostWindows.h"
 
 #include "DesktopFixture.h"
-#include "desktop/qt/ItemWindow.h"
+#include "desktop/qt/InspectorWindow.h"
+#include "desktop/qt/PageView.h"
 #include "review/ActivityReader.h"
 #include "session/WorkLogFolder.h"
 
 #include <QCoreApplication>
+#include <QLineEdit>
+#include <QPointer>
+#include <QTest>
 #include <QTimer>
+#include <functional>
 
 namespace tempodial {
 
@@ -25,38 +30,110 @@ protected:
         mInspector = mDesk->Windows().OpenInspectors().front();
     }
 
+    void OpenAnother()
+    {
+        mDesk->Do([this] { mDesk->Windows().OpenExplorer(WorkLogOf(mDesk->Profile())); });
+    }
+    /// Types into the activity's page, and leaves it there.
+    void Retype(const char* text)
+    {
+        auto& window = dynamic_cast<InspectorWindow&>(*mWindows->WindowOf(mInspector));
+        auto& line = *qobject_cast<QLineEdit*>(window.Page()->WidgetOf("SubjectBox"));
+        line.selectAll();
+        QTest::keyClicks(&line, text);
+    }
+    /// True when the program ends of itself at something that is done.
+    static bool IsEndedBy(const std::function<void()>& work)
+    {
+        constexpr int Patience = 1000;
+        QTimer patience;
+        QObject::connect(&patience, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+        QTimer::singleShot(0, [&] {
+            work();
+            patience.start(Patience);
+        });
+        return QCoreApplication::exec() == 0;
+    }
+
     MainWindow* mMain = nullptr;
     Ref<HostInspector> mInspector;
     int mClosed = 0;
 };
 
-TEST_F(HostWindowsTest, MainWindowCloses_ProgramEndsOnlyWithTheLastWindow)
+TEST_F(HostWindowsTest, MainWindowCloses_TheItemsWindowClosesBeforeAndTheProgramEnds)
 {
-    auto* item = mWindows->WindowOf(mInspector);
     EXPECT_TRUE(mMain->close());
-    EXPECT_EQ(mClosed, 0);
-    EXPECT_TRUE(item->isVisible());
-    EXPECT_TRUE(item->close());
+    EXPECT_TRUE(mDesk->Windows().OpenInspectors().empty());
+    EXPECT_TRUE(mDesk->Windows().OpenExplorers().empty());
     EXPECT_EQ(mClosed, 1);
 }
 
-TEST_F(HostWindowsTest, OnlyAnItemsWindowIsLeft_RaisingShowsIt)
+TEST_F(HostWindowsTest, MainWindowCloses_UnsavedAndAskedToStay_BothStay)
 {
-    auto* item = mWindows->WindowOf(mInspector);
-    mMain->close();
-    item->hide();
-    mWindows->Raise();
-    EXPECT_TRUE(item->isVisible());
+    Retype("Site plan");
+    mMessages->NextAnswer(Answer::Cancel);
+    EXPECT_FALSE(mMain->close());
+    EXPECT_EQ(mMessages->shown.size(), 1U);
+    EXPECT_TRUE(mMain->isVisible());
+    EXPECT_TRUE(mWindows->WindowOf(mInspector)->isVisible());
+    EXPECT_EQ(mClosed, 0);
+    mMessages->NextAnswer(Answer::Yes);
+    EXPECT_TRUE(mMain->close());
+    EXPECT_EQ(ActivityAt(mDesk->Profile(), On(15, 9, 10))->description, "Site plan");
+    EXPECT_EQ(mClosed, 1);
+}
+
+TEST_F(HostWindowsTest, OneOfTwoMainWindowsCloses_TheItemsWindowStays)
+{
+    OpenAnother();
+    EXPECT_TRUE(mMain->close());
+    EXPECT_FALSE(mInspector->IsGone());
+    EXPECT_EQ(mClosed, 0);
+}
+
+TEST_F(HostWindowsTest, Quit_UnsavedAndAskedToStay_NothingCloses)
+{
+    OpenAnother();
+    Retype("Site plan");
+    mMessages->NextAnswer(Answer::Cancel);
+    EXPECT_FALSE(IsEndedBy([this] { mDesk->Quit(); }));
+    EXPECT_EQ(mMessages->shown.size(), 1U);
+    EXPECT_EQ(mDesk->Windows().OpenExplorers().size(), 2U);
+    EXPECT_FALSE(mInspector->IsGone());
+}
+
+TEST_F(HostWindowsTest, RemoveExample_RefusedByAWindow_KeepsItAlsoWhenTheProgramEndsLater)
+{
+    Retype("Site plan");
+    mMessages->NextAnswer(Answer::Cancel);
+    EXPECT_FALSE(IsEndedBy([this] { mMain->mRemoveExample(); }));
+    EXPECT_FALSE(mWindows->RemovesExample());
+    mMessages->NextAnswer(Answer::No);
+    EXPECT_TRUE(IsEndedBy([this] { mDesk->Quit(); }));
+    EXPECT_FALSE(mWindows->RemovesExample());
+}
+
+TEST_F(HostWindowsTest, RemoveExample_AllWindowsClose_LetsItGo)
+{
+    EXPECT_TRUE(IsEndedBy([this] { mMain->mRemoveExample(); }));
+    EXPECT_TRUE(mWindows->RemovesExample());
+}
+
+TEST_F(HostWindowsTest, End_WhileHidden_TakesTheWindowsAlongAtOnce)
+{
+    const QPointer<QWidget> main(mMain);
+    const QPointer<QWidget> item(mWindows->WindowOf(mInspector));
+    mMain->hide();
+    mWindows.reset();
+    EXPECT_TRUE(main.isNull()) << "it would hold the mailbox";
+    EXPECT_TRUE(item.isNull());
 }
 
 TEST_F(HostWindowsTest, Quit_TwoMainWindows_ClosesBoth)
 {
-    mDesk->Do([this] { mDesk->Windows().OpenExplorer(WorkLogOf(mDesk->Profile())); });
+    OpenAnother();
     ASSERT_EQ(mDesk->Windows().OpenExplorers().size(), 2U);
-    constexpr int Patience = 5000;
-    QTimer::singleShot(0, mMain, [this] { mDesk->Quit(); });
-    QTimer::singleShot(Patience, mMain, [] { QCoreApplication::exit(1); });
-    EXPECT_EQ(QCoreApplication::exec(), 0) << "it isn't quit";
+    EXPECT_TRUE(IsEndedBy([this] { mDesk->Quit(); }));
     EXPECT_TRUE(mDesk->Windows().OpenExplorers().empty());
     EXPECT_TRUE(mDesk->Windows().OpenInspectors().empty());
     EXPECT_EQ(mClosed, 1);

@@ -52,7 +52,9 @@ WidgetHand::WidgetHand(DriverHost& host, Desk& desk, Windows windows)
 
 void WidgetHand::Close(const Ref<HostExplorer>& window)
 {
-    if (auto* shown = WindowOf(window)) {
+    // The last one takes the windows of items along, which the model leaves.
+    const bool takesItems = mDesk.Windows().OpenExplorers().size() == 1 && !mDesk.Windows().OpenInspectors().empty();
+    if (auto* shown = takesItems ? nullptr : WindowOf(window)) {
         WorkAt(mDesk, [shown] { shown->close(); });
     } else {
         ModelHand::Close(window);
