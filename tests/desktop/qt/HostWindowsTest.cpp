@@ -95,6 +95,8 @@ TEST_F(HostWindowsTest, Quit_UnsavedAndAskedToStay_NothingCloses)
 {
     OpenAnother();
     Retype("Site plan");
+    // Such a window the toolkit doesn't close by itself.
+    mWindows->WindowOf(mInspector)->hide();
     mMessages->NextAnswer(Answer::Cancel);
     EXPECT_FALSE(IsEndedBy([this] { mDesk->Quit(); }));
     EXPECT_EQ(mMessages->shown.size(), 1U);
