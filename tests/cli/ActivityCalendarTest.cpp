@@ -1,4 +1,4 @@
-#include "cli/ActivityCalendar.h"
+#include "review/ActivityCalendar.h"
 
 #include "cli/ReadBack.h"
 #include "support/TempFolder.h"

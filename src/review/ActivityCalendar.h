@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/ActivityRecord.h"
+#include "review/ActivityRecord.h"
 
 #include <string>
 #include <vector>

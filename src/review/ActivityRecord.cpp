@@ -1,4 +1,4 @@
-#include "cli/ActivityRecord.h"
+#include "review/ActivityRecord.h"
 
 #include "host/store/StoreItem.h"
 #include "host/system/LocalTime.h"

@@ -1,4 +1,4 @@
-#include "cli/ActivityCalendar.h"
+#include "review/ActivityCalendar.h"
 
 #include "base/Number.h"
 #include "base/Text.h"
