@@ -10,6 +10,7 @@ namespace {
 
 /// Stands between what is said one after the other.
 constexpr auto SpokenSeparator = ", ";
+constexpr int DaysOfWeek = 7;
 
 /// Adds a part of a line, unless it is empty.
 void AddPart(std::string& line, const std::string& part, const char* separator = PartSeparator)
@@ -52,9 +53,12 @@ std::string ActivityWords::Times(const Activity& activity) const
     return mFormats->ShortTime(activity.start) + RangeDash + mFormats->ShortTime(activity.end);
 }
 
-std::string ActivityWords::Summary(const Activity& activity) const
+std::string ActivityWords::Summary(const Activity& activity, const Period& shown) const
 {
-    auto line = WeekdayText(activity.start.Weekday()) + " " + Times(activity);
+    const auto day = activity.start.Day();
+    const bool isTold = DaysBetween(shown.first, shown.last) < DaysOfWeek && shown.first <= day && day <= shown.last;
+    auto line = WeekdayText(activity.start.Weekday()) + " " + (isTold ? "" : mFormats->ShortDate(day) + " ")
+        + Times(activity);
     AddPart(line, LengthText(activity.duration));
     AddPart(line, activity.type);
     return line;
@@ -120,7 +124,6 @@ std::string ActivityWords::PeriodTitle(const Period& days) const
 
 std::string ActivityWords::WeekTitle(const Period& days)
 {
-    constexpr int DaysOfWeek = 7;
     if (days.last != days.first.AddDays(DaysOfWeek - 1)) {
         return "";
     }

@@ -24,8 +24,9 @@ public:
     std::string Detail(const Activity& activity, Coloured coloured) const;
     /// From when to when.
     std::string Times(const Activity& activity) const;
-    /// Day, times, length and application: what the selection bar says of one.
-    std::string Summary(const Activity& activity) const;
+    /// Day, times, length and application: what the selection bar says of one. The day is that of the week, with its
+    /// date unless the days that are shown are so few that this tells it.
+    std::string Summary(const Activity& activity, const Period& shown) const;
     /// The same of several: how many, and how long together.
     static std::string Summary(const std::vector<Activity>& activities);
     /// What a screen reader says: name, day, times and project.

@@ -1,5 +1,7 @@
 #include "desktop/AgendaScene.h"
 
+#include <algorithm>
+
 namespace tempodial {
 
 AgendaScene::AgendaScene(
@@ -19,6 +21,14 @@ void AgendaScene::Put(const Place& place)
     mGeometry = AgendaGeometry(place.scale, mLayout.Days(), place.left, place.width);
     mRuns = ShortRunsOf(mActivities, mLayout, mGeometry);
     mLabelHeight = place.labelHeight;
+}
+
+std::optional<std::size_t> AgendaScene::RunOf(std::size_t piece) const
+{
+    const auto found = std::find_if(mRuns.begin(), mRuns.end(), [piece](const ShortRun& run) {
+        return piece >= run.pieces.begin && piece < run.pieces.end && run.pieces.end - run.pieces.begin > 1;
+    });
+    return found == mRuns.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - mRuns.begin()));
 }
 
 AgendaHits AgendaScene::Hits() const

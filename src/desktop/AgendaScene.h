@@ -7,6 +7,7 @@
 #include "desktop/AgendaWalk.h"
 #include "desktop/ShortRuns.h"
 
+#include <optional>
 #include <vector>
 
 namespace tempodial {
@@ -46,6 +47,8 @@ public:
     double LabelHeight() const { return mLabelHeight; }
     AgendaHits Hits() const;
     AgendaWalk Walk() const { return AgendaWalk(mLayout); }
+    /// The run of several short ones that a piece is part of; nothing when it is part of none.
+    std::optional<std::size_t> RunOf(std::size_t piece) const;
     /// The activity of a piece.
     const Activity& ActivityOf(const AgendaPiece& piece) const { return mActivities[piece.activity]; }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <optional>
 #include <string>
-#include <utility>
 
 namespace tempodial {
 
@@ -9,16 +9,15 @@ namespace tempodial {
 class Autostart
 {
 public:
-    /// Its path in the user's folder of configurations.
+    /// The path of the usual profile's in the user's folder of configurations.
     static constexpr auto FileName = "autostart/io.github.tempodial.Tempodial.desktop";
 
-    /// Takes the path of that file and of the program.
-    Autostart(std::string path, std::string program)
-        : mPath(std::move(path))
-        , mProgram(std::move(program))
-    {
-    }
+    /// Takes the user's folder of configurations, and the program's path; that of a profile unless it is the one that
+    /// the program takes by itself. Each profile has a file of its own.
+    Autostart(const std::string& configFolder, std::string program, std::optional<std::string> profile);
 
+    /// Where the file is, or would be.
+    const std::string& Path() const { return mPath; }
     bool IsOn() const;
     /// Writes the file or takes it away; fails as files do.
     void Set(bool isOn) const;
@@ -26,6 +25,7 @@ public:
 private:
     std::string mPath;
     std::string mProgram;
+    std::optional<std::string> mProfile;
 };
 
 }

@@ -23,6 +23,9 @@ constexpr SettingWord<DesktopSettings::View> ViewWords[] { { "day", DesktopSetti
     { "sort-out", DesktopSettings::View::SortOut } };
 constexpr SettingWord<DesktopSettings::ListSpan> ListSpanWords[] { { "week", DesktopSettings::ListSpan::Week },
     { "month", DesktopSettings::ListSpan::Month }, { "year", DesktopSettings::ListSpan::Year } };
+/// More would be too many groups to be sorted out.
+constexpr SettingWord<DesktopSettings::ListSpan> SortOutSpanWords[] { { "week", DesktopSettings::ListSpan::Week },
+    { "month", DesktopSettings::ListSpan::Month } };
 constexpr SettingWord<DesktopSettings::FirstDay> FirstDayWords[] { { "locale", DesktopSettings::FirstDay::Locale },
     { "monday", DesktopSettings::FirstDay::Monday }, { "saturday", DesktopSettings::FirstDay::Saturday },
     { "sunday", DesktopSettings::FirstDay::Sunday } };
@@ -105,6 +108,7 @@ template <class Settings, class Visitor> void VisitSettings(Settings& settings, 
     visit("appearance", settings.appearance, AppearanceWords);
     visit("view", settings.view, ViewWords);
     visit("list", settings.listSpan, ListSpanWords);
+    visit("sort-out", settings.sortOutSpan, SortOutSpanWords);
     visit("colours", settings.colours, ColourWords);
     visit("locale", settings.locale);
     visit("first-day", settings.firstDay, FirstDayWords);
@@ -119,6 +123,7 @@ template <class Settings, class Visitor> void VisitSettings(Settings& settings, 
     visit("width", settings.width, PixelRange);
     visit("height", settings.height, PixelRange);
     visit("screen", settings.screen);
+    visit("maximised", settings.isMaximised);
 }
 
 }

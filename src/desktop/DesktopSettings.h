@@ -25,6 +25,8 @@ struct DesktopSettings
     Appearance appearance = Appearance::System;
     View view = View::Week;
     ListSpan listSpan = ListSpan::Week;
+    /// How much time is sorted out, a week or a month.
+    ListSpan sortOutSpan = ListSpan::Week;
     ColourChoice colours = ColourChoice::Automatic;
     /// The locale whose forms are shown; that of the system when it is empty.
     std::string locale;
@@ -46,9 +48,13 @@ struct DesktopSettings
     std::int64_t width = 0;
     std::int64_t height = 0;
     std::string screen;
+    /// It filled that.
+    bool isMaximised = false;
 
     friend bool operator==(const DesktopSettings&, const DesktopSettings&) = default;
 
+    /// How much time a view shows; of days and weeks it says nothing.
+    ListSpan SpanOf(View shown) const { return shown == View::SortOut ? sortOutSpan : listSpan; }
     /// The day with which a week begins, as `Date::Weekday` counts; takes that of the locale.
     int FirstDayOfWeek(int usual) const;
 

@@ -14,6 +14,8 @@ std::string EmptyText(EmptyView reason)
         return "Nothing is recorded yet: start your tracker, or add an activity by a double-click.";
     case EmptyView::NothingInPeriod:
         return "Nothing was recorded in these days.";
+    case EmptyView::NothingInLog:
+        return "No activity of the whole log matches: search for fewer words, or press Escape to show these days.";
     default:
         return "No activity of these days matches: press Enter to search all, or Escape to show all of these days.";
     }

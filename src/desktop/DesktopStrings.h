@@ -26,7 +26,7 @@ inline constexpr auto MayGrowText = "The tracker may still make this activity lo
 inline constexpr auto NotFinalText = "may still grow";
 
 /// Why a view is empty.
-enum class EmptyView { NothingRecorded, NothingInPeriod, NothingFound };
+enum class EmptyView { NothingRecorded, NothingInPeriod, NothingFound, NothingInLog };
 
 /// The sentence that stands in an empty view.
 std::string EmptyText(EmptyView reason);

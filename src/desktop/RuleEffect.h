@@ -39,6 +39,8 @@ public:
 
     /// The activities that would change, newest first, as they are now.
     const std::vector<Activity>& Changes() const { return mChanges; }
+    /// The same gathered by the project that they have now.
+    std::vector<ProjectMoves::Move> Moves() const { return mMoves.LargestFirst(); }
     /// What would change, in a sentence.
     std::string Title() const;
     /// What else is to be known of it, a sentence each.

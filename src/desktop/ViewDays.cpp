@@ -15,6 +15,12 @@ constexpr int DaysOfLongYear = 366;
 constexpr int MonthsOfYear = 12;
 constexpr int LastDay = 31;
 
+/// A person chooses how much such a view shows.
+bool HasSpan(LogView view)
+{
+    return view == LogView::List || view == LogView::SortOut;
+}
+
 /// The day of the same number so many months later, or the month's last.
 Date InMonth(Date day, int months)
 {
@@ -30,10 +36,10 @@ Period DaysOfView(LogView view, ListSpan span, Date day, const Period::WeekStart
     if (view == LogView::Day) {
         return { day.Day(), day.Day() };
     }
-    if (view == LogView::List && span == ListSpan::Month) {
+    if (HasSpan(view) && span == ListSpan::Month) {
         return Period::MonthOf(day);
     }
-    if (view == LogView::List && span == ListSpan::Year) {
+    if (HasSpan(view) && span == ListSpan::Year) {
         const auto year = day.ToParts().year;
         return { Date::FromYearMonthDay(year, 1, 1), Date::FromYearMonthDay(year, MonthsOfYear, LastDay) };
     }
@@ -47,7 +53,7 @@ Date PagedDay(LogView view, ListSpan span, Date day, int pages)
     const auto isWithin = [&always](Date paged, std::int64_t days) {
         return paged >= always.first.AddDays(days) && paged <= always.last.AddDays(-days);
     };
-    if (view == LogView::List && span != ListSpan::Week) {
+    if (HasSpan(view) && span != ListSpan::Week) {
         const auto reach = day.AddDays(std::int64_t { pages } * DaysOfLongYear);
         const auto months = span == ListSpan::Year ? pages * MonthsOfYear : pages;
         return isWithin(reach, DaysOfLongYear) ? InMonth(day, months) : day;

@@ -5,8 +5,8 @@
 
 namespace tempodial {
 
-/// The days that a view shows around one of them: that day alone, or its week, and in the list as much as a person
-/// wants.
+/// The days that a view shows around one of them: that day alone, or its week, and in the list and in what is sorted
+/// out as much as a person wants.
 Period DaysOfView(
     DesktopSettings::View view, DesktopSettings::ListSpan span, Date day, const Period::WeekStart& weekStart);
 

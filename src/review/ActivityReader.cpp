@@ -58,6 +58,11 @@ std::optional<Activity> ActivityAt(const Profile& profile, Date moment)
     return found.empty() ? std::nullopt : std::optional(std::move(found.back()));
 }
 
+std::string SubjectNumbered(const Profile& profile, std::int64_t number)
+{
+    return ActivityNumbered(profile, number) ? ItemNumbered(profile, number)->Subject() : std::string();
+}
+
 Ref<StoreItem> ItemNumbered(const Profile& profile, std::int64_t number)
 {
     return profile.Mailbox()->Store()->Item(number);

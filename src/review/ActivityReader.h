@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace tempodial {
@@ -27,6 +28,9 @@ std::optional<Date> LastStartBefore(const Profile& profile, Date moment);
 std::optional<Activity> ActivityNumbered(const Profile& profile, std::int64_t number);
 /// The one during which a moment is; of several the one that starts last.
 std::optional<Activity> ActivityAt(const Profile& profile, Date moment);
+/// The subject of the one of that number as other programs show it, with its project in brackets; empty when it is
+/// gone.
+std::string SubjectNumbered(const Profile& profile, std::int64_t number);
 /// The item of an activity of that number, to work on; fails (-2147221233) when it is gone.
 Ref<StoreItem> ItemNumbered(const Profile& profile, std::int64_t number);
 

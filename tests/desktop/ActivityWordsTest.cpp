@@ -53,7 +53,12 @@ TEST_F(ActivityWordsTest, Times_Locale_GivesTheirForm)
 
 TEST_F(ActivityWordsTest, Summary_OneOrSeveral_SayTheirLength)
 {
-    EXPECT_EQ(mWords.Summary(mActivity), "Mon 09:05 – 10:20 · 1 h 15 · Word");
+    const auto monday = mActivity.start.Day();
+    const auto dated
+        = "Mon " + MakeRef<IcuLocaleFormats>("en_GB")->ShortDate(monday) + " 09:05 – 10:20 · 1 h 15 · Word";
+    EXPECT_EQ(mWords.Summary(mActivity, { monday, monday.AddDays(6) }), "Mon 09:05 – 10:20 · 1 h 15 · Word");
+    EXPECT_EQ(mWords.Summary(mActivity, { monday.AddDays(1), monday.AddDays(7) }), dated);
+    EXPECT_EQ(mWords.Summary(mActivity, { monday, monday.AddDays(7) }), dated) << "two such days are shown";
     EXPECT_EQ(ActivityWords::Summary({ mActivity, mActivity }), "2 activities · 2 h 30");
 }
 

@@ -43,6 +43,7 @@ TEST_F(DesktopSettingsTest, Keep_EverySetting_IsReadAgain)
     settings.appearance = DesktopSettings::Appearance::HighContrast;
     settings.view = DesktopSettings::View::SortOut;
     settings.listSpan = DesktopSettings::ListSpan::Year;
+    settings.sortOutSpan = DesktopSettings::ListSpan::Month;
     settings.colours = ColourChoice::Application;
     settings.locale = "de_DE";
     settings.firstDay = DesktopSettings::FirstDay::Sunday;
@@ -56,6 +57,7 @@ TEST_F(DesktopSettingsTest, Keep_EverySetting_IsReadAgain)
     settings.notifies = false;
     settings.width = 1440;
     settings.height = 900;
+    settings.isMaximised = true;
     settings.screen = "HDMI \"1\"";
     WriteSettingsFile(settings.Keep(mFolder.Path("kept.toml")));
     EXPECT_EQ(DesktopSettings::Read(ReadSettingsFile(mFolder.Path("kept.toml"))), settings);

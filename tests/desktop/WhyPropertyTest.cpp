@@ -82,7 +82,7 @@ TEST_F(WhyPropertyTest, WhySentence_RandomActivities_NamesTheProductsProjectAndA
         auto activity = MakeActivity();
         const auto subject = RuledSubject(activity);
         activity.project = mSession.AddIn().WhatProject(subject, activity.people);
-        const auto why = WhySentence(activity, RuleTrial(RuledProject::ReadAll(mSession.Profile())));
+        const auto why = WhySentence(activity, RuleTrial(RuledProject::ReadAll(mSession.Profile())), Titles::Shown);
         SCOPED_TRACE(subject + " with " + activity.people + ": " + why);
         std::smatch said;
         if (EqualIgnoringCase(activity.project, NoProject)) {

@@ -44,6 +44,7 @@ ActivityList::ActivityList(Desk& desk, QWidget* parent)
     : QTreeView(parent)
     , mDesk(desk)
     , mModel(new ActivityListModel(desk, this))
+    , mNote(new EmptyNote(*this))
 {
     setModel(mModel);
     setFrameShape(QFrame::NoFrame);

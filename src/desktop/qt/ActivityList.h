@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/qt/ActivityListModel.h"
+#include "desktop/qt/EmptyNote.h"
 #include "host/windows/HostExplorer.h"
 
 #include <QTreeView>
@@ -32,6 +33,8 @@ public:
 
     /// Shows activities, which must live until others are shown.
     void Show(const std::vector<Activity>& activities, Coloured coloured);
+    /// Says why there is nothing.
+    EmptyNote& Note() { return *mNote; }
     void ShowSelected(const Numbers& numbers);
     const ActivityListModel& Model() const { return *mModel; }
 
@@ -48,6 +51,7 @@ private:
 
     Desk& mDesk;
     ActivityListModel* mModel;
+    EmptyNote* mNote;
     /// True while what is selected is shown and not chosen.
     bool mIsShowing = true;
 };

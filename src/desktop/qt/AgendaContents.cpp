@@ -5,6 +5,7 @@
 #include "desktop/DragGesture.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ShownLine.h"
+#include "review/ActivityReader.h"
 
 #include <algorithm>
 
@@ -134,10 +135,26 @@ QString AgendaContents::LineOf(const Activity& activity) const
         + IsolatedText(words.Detail(activity, Coloured::Project));
 }
 
+std::string AgendaContents::SubjectOf(const Activity& activity) const
+{
+    const auto bracket = "[" + ProjectNameOf(activity) + "] ";
+    if (mDesk.ShownTitles() == Titles::Hidden) {
+        return bracket + activity.type;
+    }
+    try {
+        if (auto subject = SubjectNumbered(mDesk.Profile(), activity.number); !subject.empty()) {
+            return subject;
+        }
+    } catch (const Failure&) {
+        // Whoever asks for a tip isn't told of a mailbox that can't be read; what is done next tells.
+    }
+    return bracket + RuledSubject(activity);
+}
+
 QString AgendaContents::ToolTipOf(const Activity& activity) const
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    return IsolatedText(words.Title(activity)) + "\n" + IsolatedText(words.Detail(activity, Coloured::Project)) + "\n"
+    return IsolatedText(SubjectOf(activity)) + "\n" + IsolatedText(words.Detail(activity, Coloured::Project)) + "\n"
         + ToQt(words.Times(activity) + PartSeparator + LengthText(activity.duration));
 }
 
@@ -175,7 +192,7 @@ QString AgendaContents::WordsOf(const TimeSpan& times, Date endBefore) const
     shown.start = times.start;
     shown.end = times.end;
     shown.duration = MinutesBetween(times.start, times.end);
-    auto text = words.Summary(shown);
+    auto text = words.Summary(shown, mLog.Days());
     if (DragGesture::MayGrow(endBefore, mDesk.Now())) {
         text += PartSeparator + std::string(MayGrowText);
     }

@@ -56,6 +56,8 @@ public:
     QString WordsOf(const TimeSpan& times, Date endBefore) const;
 
 private:
+    /// What other programs show of an activity; project and application alone where titles are hidden.
+    std::string SubjectOf(const Activity& activity) const;
     StackedBar BarOf(std::size_t day) const;
     bool IsFaded(const Activity& activity) const;
 

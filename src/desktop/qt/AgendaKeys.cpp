@@ -4,7 +4,6 @@
 #include "desktop/qt/AgendaView.h"
 
 #include <QKeyEvent>
-#include <algorithm>
 
 namespace tempodial {
 
@@ -38,7 +37,7 @@ bool AgendaKeys::Press(const QKeyEvent& event)
         return true;
     }
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
-        if (const auto run = RunOf(*focus)) {
+        if (const auto run = mView.Scene().RunOf(*focus)) {
             mView.ShowRun(*run);
         } else {
             mView.mWishes.open(mView.ActivityOf(*focus).number);
@@ -46,15 +45,6 @@ bool AgendaKeys::Press(const QKeyEvent& event)
         return true;
     }
     return false;
-}
-
-std::optional<std::size_t> AgendaKeys::RunOf(std::size_t piece) const
-{
-    const auto& runs = mView.Scene().Runs();
-    const auto found = std::find_if(runs.begin(), runs.end(), [piece](const ShortRun& run) {
-        return piece >= run.pieces.begin && piece < run.pieces.end && run.pieces.end - run.pieces.begin > 1;
-    });
-    return found == runs.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - runs.begin()));
 }
 
 std::optional<std::size_t> AgendaKeys::First() const

@@ -26,8 +26,6 @@ private:
     /// The piece to which a key leads; nothing for other keys and where the way ends.
     std::optional<std::size_t> Goal(int key) const;
     std::optional<std::size_t> First() const;
-    /// The run of several short ones to which a piece belongs; nothing for another.
-    std::optional<std::size_t> RunOf(std::size_t piece) const;
     void GoTo(std::size_t piece, const QKeyEvent& event);
     void Toggle();
     bool Nudge(const QKeyEvent& event);

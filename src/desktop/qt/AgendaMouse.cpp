@@ -44,6 +44,7 @@ AgendaHit AgendaMouse::HitAt(const QPointF& place) const
 
 void AgendaMouse::Press(const QMouseEvent& event)
 {
+    EndRest();
     mHit = HitAt(event.position());
     const bool adds = event.modifiers().testFlag(Qt::ControlModifier);
     if (event.button() == Qt::RightButton) {
@@ -114,7 +115,9 @@ void AgendaMouse::SelectRun(const AgendaHit& hit, bool adds)
 void AgendaMouse::Move(const QMouseEvent& event)
 {
     if (!mIsDown) {
-        ShowCursor(HitAt(event.position()));
+        const auto hit = HitAt(event.position());
+        ShowCursor(hit);
+        FollowRest(hit);
         return;
     }
     const auto moved = mView.InScene(event.position()) - mFrom;
@@ -212,21 +215,46 @@ void AgendaMouse::DoubleClick(const QMouseEvent& event)
     }
 }
 
-void AgendaMouse::ToolTip(const QHelpEvent& event) const
+std::optional<std::size_t> AgendaMouse::RunAt(const AgendaHit& hit) const
+{
+    if (IsOnPiece(hit)) {
+        return mView.Scene().RunOf(hit.index);
+    }
+    return hit.part == AgendaHit::Part::Label ? std::optional(hit.index) : std::nullopt;
+}
+
+void AgendaMouse::FollowRest(const AgendaHit& hit) const
+{
+    if (auto* bubble = mView.Bubble(); bubble != nullptr && RunAt(hit) == mRested) {
+        bubble->Stay();
+    } else if (bubble != nullptr) {
+        bubble->LeaveSoon();
+    }
+}
+
+void AgendaMouse::EndRest() const
+{
+    if (mView.Bubble() != nullptr && mView.Bubble()->IsResting()) {
+        mView.Bubble()->close();
+    }
+}
+
+void AgendaMouse::ToolTip(const QHelpEvent& event)
 {
     const auto hit = HitAt(event.pos());
+    if (const auto run = RunAt(hit)) {
+        if (mView.Bubble() == nullptr || mRested != *run) {
+            mRested = *run;
+            mView.ShowRun(*run, ShortBubble::Opening::Resting);
+        }
+        return;
+    }
     const auto& scene = mView.Scene();
     QString text;
     PixelBox box;
     if (IsOnPiece(hit)) {
         text = mView.ToolTipOf(mView.ActivityOf(hit.index));
         box = scene.Geometry().BoxOf(scene.Layout().Pieces()[hit.index]);
-    } else if (hit.part == AgendaHit::Part::Label) {
-        const auto& run = scene.Runs()[hit.index];
-        box = run.LabelBox(scene.LabelHeight()).value_or(run.room);
-        for (auto i = run.pieces.begin; i < run.pieces.end; ++i) {
-            text += (text.isEmpty() ? "" : "\n\n") + mView.ToolTipOf(mView.ActivityOf(i));
-        }
     } else if (hit.part == AgendaHit::Part::Gap) {
         text = ToQt(GapText(scene.Gaps()[hit.index].minutes));
         box = { static_cast<double>(event.x()), mView.InScene(event.pos()).y(), 1, 1 };
@@ -236,6 +264,10 @@ void AgendaMouse::ToolTip(const QHelpEvent& event) const
 
 bool AgendaMouse::Key(const QKeyEvent& event)
 {
+    if (event.key() == Qt::Key_Escape && mView.Bubble() != nullptr) {
+        EndRest();
+        return true;
+    }
     if (event.key() != Qt::Key_Escape || !mHasMoved) {
         return false;
     }

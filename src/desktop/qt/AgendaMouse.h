@@ -30,7 +30,10 @@ public:
     void Move(const QMouseEvent& event);
     void Release(const QMouseEvent& event);
     void DoubleClick(const QMouseEvent& event);
-    void ToolTip(const QHelpEvent& event) const;
+    /// The pointer rests: short ones open their list, other things say what they are.
+    void ToolTip(const QHelpEvent& event);
+    /// A list that has opened by that goes.
+    void EndRest() const;
     /// Escape ends what has been begun; true when there was something.
     bool Key(const QKeyEvent& event);
     /// True while something is dragged or selected by a band.
@@ -40,6 +43,10 @@ private:
     AgendaHit HitAt(const QPointF& place) const;
     void PressOn(std::size_t piece, const QMouseEvent& event);
     void SelectRun(const AgendaHit& hit, bool adds);
+    /// The run of short ones whose stripe or label was hit.
+    std::optional<std::size_t> RunAt(const AgendaHit& hit) const;
+    /// The pointer is on something else, perhaps no more on what has opened a list by resting.
+    void FollowRest(const AgendaHit& hit) const;
     void ShowCursor(const AgendaHit& hit) const;
     void Drag(const QMouseEvent& event);
     void Band(const QMouseEvent& event);
@@ -49,6 +56,8 @@ private:
 
     AgendaView& mView;
     bool mIsDown = false;
+    /// The run whose list has opened by resting on it.
+    std::size_t mRested = 0;
     bool mHasMoved = false;
     QPointF mFrom;
     AgendaHit mHit;

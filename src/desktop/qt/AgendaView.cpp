@@ -6,7 +6,6 @@
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QLabel>
 #include <QNativeGestureEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -32,7 +31,7 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     , mContents(desk, log)
     , mPainter(desk.Look())
     , mHead(new DayHead(desk.Look(), this))
-    , mNote(new QLabel(this))
+    , mNote(new EmptyNote(*this))
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
@@ -43,13 +42,7 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setMouseTracking(true);
     constexpr int Step = 30;
-    constexpr int Margin = 16;
     verticalScrollBar()->setSingleStep(Step);
-    mNote->setMargin(Margin);
-    mNote->setTextFormat(Qt::RichText);
-    mNote->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    mNote->hide();
-    connect(mNote, &QLabel::linkActivated, this, [this] { mWishes.followLink(); });
     TakeFont();
     Follow();
 }
@@ -264,8 +257,11 @@ QString AgendaView::DescribedOf(std::size_t piece) const
     return described;
 }
 
-void AgendaView::ShowRun(std::size_t run)
+void AgendaView::ShowRun(std::size_t run, ShortBubble::Opening opening)
 {
+    if (mBubble) {
+        mBubble->close();
+    }
     const auto& pieces = mScene->Runs()[run].pieces;
     std::vector<ShortBubble::Row> rows;
     for (auto i = pieces.begin; i < pieces.end; ++i) {
@@ -275,11 +271,13 @@ void AgendaView::ShowRun(std::size_t run)
         { .select = [this](std::int64_t number) { mWishes.select({ number }); },
             .open = [this](std::int64_t number) { mWishes.open(number); },
             .key = [this](QKeyEvent& event) { return mWishes.key(event); } },
-        this);
+        opening, this);
     const auto box = mScene->Runs()[run].LabelBox(mScene->LabelHeight()).value_or(mScene->Runs()[run].room);
     mBubble->move(viewport()->mapToGlobal(InView(box).bottomLeft().toPoint()));
     mBubble->show();
-    mBubble->setFocus();
+    if (opening == ShortBubble::Opening::Asked) {
+        mBubble->setFocus();
+    }
 }
 
 void AgendaView::SetFocusOn(std::optional<std::size_t> piece)
@@ -419,6 +417,9 @@ bool AgendaView::viewportEvent(QEvent* event)
     if (event->type() == QEvent::NativeGesture && Pinch(*static_cast<QNativeGestureEvent*>(event))) {
         return true;
     }
+    if (event->type() == QEvent::Leave && mBubble) {
+        mBubble->LeaveSoon();
+    }
     if (event->type() == QEvent::ToolTip) {
         mMouse.ToolTip(*static_cast<QHelpEvent*>(event));
         return true;
@@ -426,29 +427,8 @@ bool AgendaView::viewportEvent(QEvent* event)
     return QAbstractScrollArea::viewportEvent(event);
 }
 
-void AgendaView::ShowNote(const QString& text, const QString& link)
-{
-    const auto step = link.isEmpty() ? QString() : "<br><br><a href=\"#\">" + link.toHtmlEscaped() + "</a>";
-    const auto shown = "<center>" + text.toHtmlEscaped() + step + "</center>";
-    if (shown != mNote->text()) {
-        mNote->setText(shown);
-        mNote->setAccessibleName(link.isEmpty() ? text : text + " " + link);
-    }
-    mNote->setVisible(!text.isEmpty());
-    PlaceNote();
-}
-
-void AgendaView::PlaceNote()
-{
-    mNote->adjustSize();
-    auto place = mNote->rect();
-    place.moveCenter(viewport()->geometry().center());
-    mNote->move(place.topLeft());
-}
-
 void AgendaView::resizeEvent(QResizeEvent* /*event*/)
 {
-    PlaceNote();
     Put();
     if (mFitted != mLog.Days()) {
         Fit();
@@ -458,6 +438,9 @@ void AgendaView::resizeEvent(QResizeEvent* /*event*/)
 void AgendaView::changeEvent(QEvent* event)
 {
     QAbstractScrollArea::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        mMouse.EndRest();
+    }
     if (mScene && (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)) {
         TakeFont();
         Follow();
@@ -466,6 +449,7 @@ void AgendaView::changeEvent(QEvent* event)
 
 void AgendaView::scrollContentsBy(int /*dx*/, int dy)
 {
+    mMouse.EndRest();
     // The gutter and the columns scroll as they are; only the strip that appears is painted.
     viewport()->scroll(0, dy);
 }

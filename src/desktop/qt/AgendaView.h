@@ -9,6 +9,7 @@
 #include "desktop/qt/AgendaPainter.h"
 #include "desktop/qt/DayHead.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/EmptyNote.h"
 #include "desktop/qt/ShortBubble.h"
 
 #include <QAbstractScrollArea>
@@ -20,7 +21,6 @@
 #include <string>
 #include <vector>
 
-class QLabel;
 class QNativeGestureEvent;
 
 namespace tempodial {
@@ -54,8 +54,6 @@ public:
         /// What is selected gets a project, or goes.
         std::function<void()> chooseProject;
         std::function<void()> remove;
-        /// The step that the note offers.
-        std::function<void()> followLink;
     };
     Wishes mWishes;
 
@@ -73,8 +71,8 @@ public:
     bool HidesAny() const;
     /// Only the activities with those names of what gives them their colour are shown in full; none for all.
     void ShowOnly(const std::set<std::string>& names);
-    /// Says in the middle why there is nothing, with the step that helps; nothing ends it.
-    void ShowNote(const QString& text, const QString& link);
+    /// Says why there is nothing.
+    EmptyNote& Note() { return *mNote; }
     /// Zooms by notches, so that the moment at a place of the viewport stays there; nothing for its middle.
     void Zoom(double notches, std::optional<double> place = std::nullopt);
     /// Zooms so that all can be seen.
@@ -106,7 +104,7 @@ public:
     /// Why there is nothing; hidden when there is something.
     QLabel& Note() const { return *mNote; }
     /// Opens the list of a run of short ones.
-    void ShowRun(std::size_t run);
+    void ShowRun(std::size_t run, ShortBubble::Opening opening = ShortBubble::Opening::Asked);
     /// The list that is open; null when none is.
     ShortBubble* Bubble() const { return mBubble; }
     /// Shows times that something would have, and a band around what is being selected.
@@ -141,7 +139,6 @@ private:
     void ScrollToFirst();
     void FindFocus();
     void PaintGhost(QPainter& painter) const;
-    void PlaceNote();
     /// Zooms as two fingers do on a touch pad; false for other gestures.
     bool Pinch(const QNativeGestureEvent& event);
     void ApplyZoom(double pixelsPerMinute, double place);
@@ -151,7 +148,7 @@ private:
     AgendaContents mContents;
     AgendaPainter mPainter;
     DayHead* mHead;
-    QLabel* mNote;
+    EmptyNote* mNote;
     std::unique_ptr<AgendaScene> mScene;
     Numbers mSelected;
     std::optional<std::size_t> mFocus;

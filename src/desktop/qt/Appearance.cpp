@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QPalette>
 #include <QToolTip>
+#include <utility>
 
 namespace tempodial {
 
@@ -16,7 +17,7 @@ void Appearance::Apply(Choice choice)
         mIsSystemDark = tempodial::IsDark(FromQt(QApplication::palette().color(QPalette::Window)));
         QApplication::setStyle(new ThemeStyle);
     }
-    mIsHighContrast = choice == Choice::HighContrast;
+    mIsHighContrast = choice == Choice::HighContrast || (choice == Choice::System && mIsSystemHighContrast);
     mIsDark = choice == Choice::Dark || (choice != Choice::Light && *mIsSystemDark);
     if (mIsHighContrast) {
         mColours = &ThemeColours::HighContrast(mIsDark);
@@ -31,6 +32,11 @@ bool Appearance::SetSystemDark(bool isDark)
     const bool isOther = mIsSystemDark != isDark;
     mIsSystemDark = isDark;
     return isOther;
+}
+
+bool Appearance::SetSystemContrast(bool isHigh)
+{
+    return std::exchange(mIsSystemHighContrast, isHigh) != isHigh;
 }
 
 void Appearance::SetPalette() const

@@ -20,6 +20,8 @@ public:
     void Apply(Choice choice);
     /// Says that the desktop is dark, or light; true when it was taken for the other.
     bool SetSystemDark(bool isDark);
+    /// Says that the desktop wants high contrast, or not; true when it was taken for the other.
+    bool SetSystemContrast(bool isHigh);
 
     const ThemeColours& Colours() const { return *mColours; }
     bool IsDark() const { return mIsDark; }
@@ -33,6 +35,7 @@ private:
 
     /// Whether the desktop is dark; nothing before it was looked at.
     std::optional<bool> mIsSystemDark;
+    bool mIsSystemHighContrast = false;
     const ThemeColours* mColours = &ThemeColours::Light();
     bool mIsDark = false;
     bool mIsHighContrast = false;

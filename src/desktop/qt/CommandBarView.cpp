@@ -1,8 +1,11 @@
 #include "desktop/qt/CommandBarView.h"
 
+#include "desktop/ActivityWords.h"
 #include "desktop/qt/QtText.h"
+#include "desktop/qt/ShownLine.h"
 #include "forms/FormRules.h"
 #include "host/windows/BuiltInCommand.h"
+#include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
 
 #include <QAction>
@@ -99,14 +102,24 @@ void CommandBarView::FillWithItems(QMenu& menu, std::int32_t command)
     menu.clear();
     mDesk.Do([&] {
         for (const auto& item : mInspector->ItemsBeside(command)) {
-            auto text = mDesk.Formats()->General(item->Start()) + "  " + item->Subject();
-            auto* action = menu.addAction(ToQt(text).replace("&", "&&"));
+            auto* action = menu.addAction(LineOf(item).replace("&", "&&"));
             connect(action, &QAction::triggered, this, [this, item] { Run([&] { mInspector->GoTo(item); }); });
         }
     });
     if (menu.isEmpty()) {
         menu.addAction("There is none")->setEnabled(false);
     }
+}
+
+QString CommandBarView::LineOf(const Ref<StoreItem>& item) const
+{
+    const auto moment = mDesk.Formats()->General(item->Start()) + "  ";
+    if (mDesk.ShownTitles() == Titles::Shown) {
+        return ToQt(moment) + ShownLine(item->Subject());
+    }
+    const auto activity = ActivityNumbered(mDesk.Profile(), item->Number());
+    const ActivityWords words(mDesk.Formats(), Titles::Hidden);
+    return ToQt(moment) + (activity ? ShownLine(words.Title(*activity)) : QString());
 }
 
 void CommandBarView::Run(const std::function<void()>& work)

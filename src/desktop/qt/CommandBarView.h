@@ -26,6 +26,8 @@ public:
 
 private:
     void AddCommand(const Ref<HostCommandBarControl>& command);
+    /// An item in those lists: when it begins, and what it is.
+    QString LineOf(const Ref<StoreItem>& item) const;
     void FillWithItems(QMenu& menu, std::int32_t command);
     /// Does something at the window unless something holds it back.
     void Run(const std::function<void()>& work);

@@ -129,9 +129,15 @@ WorkingHours Desk::Hours() const
     return { week.start, week.end, week.days };
 }
 
-CardStyle Desk::StyleOf(Coloured kind, const std::string& name)
+void Desk::ChooseTone(Coloured kind, const std::string& name, std::size_t tone)
 {
-    const auto use = mColours.ToneOf(kind, name);
+    mColours.Choose(kind, name, tone);
+    KeepColours();
+    mEvents.Raise(&DeskEvents::Restyled);
+}
+
+CardStyle Desk::StyleOf(const std::optional<ToneUse>& use) const
+{
     return { .colours = mAppearance.CardOf(use),
         .isHatched = !use,
         .hatch = mAppearance.Colours().hatch,
@@ -158,9 +164,21 @@ void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
 void Desk::FollowSystem(bool isDark)
 {
     if (mAppearance.SetSystemDark(isDark)) {
-        mAppearance.Apply(mSettings.appearance);
-        Guarded([this] { mEvents.Raise(&DeskEvents::Restyled); });
+        Restyle();
     }
+}
+
+void Desk::FollowSystemContrast(bool isHigh)
+{
+    if (mAppearance.SetSystemContrast(isHigh)) {
+        Restyle();
+    }
+}
+
+void Desk::Restyle()
+{
+    mAppearance.Apply(mSettings.appearance);
+    Guarded([this] { mEvents.Raise(&DeskEvents::Restyled); });
 }
 
 void Desk::Remember(const std::function<void(DesktopSettings& settings)>& change)

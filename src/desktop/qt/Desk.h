@@ -19,6 +19,7 @@
 #include <chrono>
 #include <exception>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tempodial {
@@ -72,7 +73,13 @@ public:
     WorkingHours Hours() const;
     const Appearance& Look() const { return mAppearance; }
     /// How what has that name is drawn.
-    CardStyle StyleOf(Coloured kind, const std::string& name);
+    CardStyle StyleOf(Coloured kind, const std::string& name) { return StyleOf(ToneOf(kind, name)); }
+    /// How what has that tone is drawn; nothing for what has no project.
+    CardStyle StyleOf(const std::optional<ToneUse>& use) const;
+    /// The tone of a name; nothing for what is no project.
+    std::optional<ToneUse> ToneOf(Coloured kind, const std::string& name) { return mColours.ToneOf(kind, name); }
+    /// Gives a name another tone in all views, and keeps that.
+    void ChooseTone(Coloured kind, const std::string& name, std::size_t tone);
     Titles ShownTitles() const { return mSettings.hidesTitles ? Titles::Hidden : Titles::Shown; }
     const DesktopSettings& Settings() const { return mSettings; }
     /// What is to be said of settings and colours that can't be used; empty when all can.
@@ -101,6 +108,8 @@ public:
     void Follow();
     /// The desktop is dark, or light, which matters when the program is to look as it does.
     void FollowSystem(bool isDark);
+    /// The same of a wish of the desktop for high contrast.
+    void FollowSystemContrast(bool isHigh);
     /// Brings the windows up to date at once.
     void Show() { mEvents.Raise(&DeskEvents::Changed); }
     /// Tells that something went wrong.
@@ -115,6 +124,8 @@ private:
     void Guarded(const std::function<void()>& work);
     /// Tells what the product has met and gone on all the same.
     void TellTroubles();
+    /// Looks as the settings and the desktop say, which has changed.
+    void Restyle();
     void KeepSettings();
     void KeepColours();
     /// Writes one of the program's own files, of which a person is told in such words when that fails.

@@ -33,6 +33,19 @@ constexpr std::chrono::seconds LongestWait(5);
 constexpr auto Description = "The work log in windows: what was done when, for which project, and what is to be\n"
                              "sorted out.\n";
 
+/// Does what who started the program wants, as soon as nothing else is being done.
+void Fulfil(Desk& desk, StartWish wish)
+{
+    constexpr std::chrono::milliseconds UntilTriedAgain(500);
+    if (desk.IsBusy()) {
+        QTimer::singleShot(UntilTriedAgain, qApp, [&desk, wish] { Fulfil(desk, wish); });
+    } else if (wish == StartWish::Refresh) {
+        desk.Do([&desk] { desk.Session().AddIn().SyncData(SavedDataDays, true); });
+    } else if (wish == StartWish::Report) {
+        desk.Do([&desk] { desk.Session().AddIn().ShowReportForm(); });
+    }
+}
+
 /// Tells why the toolkit can't go on, as when there is no screen, and ends as a program that hasn't done its work.
 void EndOnFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
@@ -70,12 +83,26 @@ DesktopProgram::DesktopProgram(std::ostream& out, std::ostream& error)
 {
 }
 
+void DesktopProgram::Declare(ArgumentList& arguments)
+{
+    arguments.Flag("--refresh", mRefreshes, "Import what the tracker has written, also where it runs already");
+    arguments.Flag("--report", mReports, "Show the form for a report, also where it runs already");
+}
+
+StartWish DesktopProgram::Wish() const
+{
+    if (mReports) {
+        return StartWish::Report;
+    }
+    return mRefreshes ? StartWish::Refresh : StartWish::None;
+}
+
 ExitStatus DesktopProgram::Work(const ProfileOptions& given)
 {
     auto options = given;
     options.wait = LongestWait;
     const auto path = PathOf(options);
-    if (InstanceSocket::RaiseOther(path)) {
+    if (InstanceSocket::RaiseOther(path, Wish())) {
         return ExitStatus::Done;
     }
     qInstallMessageHandler(EndOnFatal);
@@ -95,7 +122,7 @@ ExitStatus DesktopProgram::Work(const ProfileOptions& given)
             return ExitStatus::Done;
         } catch (const ProfileInUse& failure) {
             // Another start may have been quicker by a moment.
-            if (InstanceSocket::RaiseOther(path)) {
+            if (InstanceSocket::RaiseOther(path, Wish())) {
                 return ExitStatus::Done;
             }
             if (!IsTriedAgain(failure, options)) {
@@ -135,13 +162,19 @@ bool DesktopProgram::ShowWindows(Desk& desk, GuardedApplication& application)
     const bool isHidden = desk.Settings().hasTray && desk.Settings().startsHidden;
     HostWindows windows(desk, isHidden ? HostWindows::Beginning::Hidden : HostWindows::Beginning::Shown);
     const PeriodicImport import(desk);
-    const SystemTheme theme([&desk](bool isDark) { desk.FollowSystem(isDark); });
+    const SystemTheme theme({ .dark = [&desk](bool isDark) { desk.FollowSystem(isDark); },
+        .contrast = [&desk](bool isHigh) { desk.FollowSystemContrast(isHigh); } });
     windows.mWhenAllClosed = [] { QCoreApplication::quit(); };
     TrayIcon tray(desk, [&windows] { windows.Raise(); });
     const TrackerSilence silence(desk, [&tray](const std::string& text) { tray.Say(text); });
     if (socket) {
-        socket->mRaise = [&windows] { windows.Raise(); };
+        socket->mRaise = [&windows, &desk](StartWish wish) {
+            windows.Raise();
+            // Whoever calls waits for the answer.
+            QTimer::singleShot(0, qApp, [&desk, wish] { Fulfil(desk, wish); });
+        };
     }
+    QTimer::singleShot(0, qApp, [this, &desk] { Fulfil(desk, Wish()); });
     QApplication::exec();
     application.mFailed = nullptr;
     desk.Exit();

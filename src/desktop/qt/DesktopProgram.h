@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/StartWish.h"
 #include "session/ProductFacts.h"
 #include "terminal/ProfileProgram.h"
 
@@ -19,6 +20,7 @@ public:
     DesktopProgram(std::ostream& out, std::ostream& error);
 
 protected:
+    void Declare(ArgumentList& arguments) override;
     ExitStatus Work(const ProfileOptions& given) override;
 
 private:
@@ -26,6 +28,10 @@ private:
     bool RunWindows(const ProfileOptions& options, GuardedApplication& application);
     /// Starts the desk and shows its windows until a person quits; true as above.
     bool ShowWindows(Desk& desk, GuardedApplication& application);
+    StartWish Wish() const;
+
+    bool mRefreshes = false;
+    bool mReports = false;
 };
 
 }

@@ -4,9 +4,12 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ShownLine.h"
+#include "session/ProductFacts.h"
 #include "terminal/TerminalText.h"
 
+#include <QFont>
 #include <array>
+#include <utility>
 
 namespace tempodial {
 
@@ -16,27 +19,44 @@ EffectModel::EffectModel(Desk& desk, QObject* parent)
 {
 }
 
-void EffectModel::Show(const std::vector<Activity>& activities)
+void EffectModel::Show(const RuleEffect& effect)
 {
     beginResetModel();
-    mActivities = &activities;
-    mCount = static_cast<int>(activities.size());
+    mEffect = &effect;
+    mMoves = effect.Moves();
+    mCount = static_cast<int>(effect.Changes().size());
     endResetModel();
 }
 
 void EffectModel::ShowMore()
 {
-    const auto count = static_cast<int>(mActivities->size());
-    if (count > mCount) {
-        beginInsertRows({}, mCount, count - 1);
-        mCount = count;
-        endInsertRows();
+    const auto count = static_cast<int>(mEffect->Changes().size());
+    if (count == mCount) {
+        return;
     }
+    auto moves = mEffect->Moves();
+    const auto gathered = static_cast<int>(moves.size());
+    if (gathered > Gathered()) {
+        beginInsertRows({}, Gathered(), gathered - 1);
+        mMoves = std::move(moves);
+        endInsertRows();
+    } else {
+        mMoves = std::move(moves);
+    }
+    beginInsertRows({}, gathered + mCount, gathered + count - 1);
+    mCount = count;
+    endInsertRows();
+    dataChanged(index(0, 0), index(gathered - 1, Columns - 1));
+}
+
+const Activity* EffectModel::ActivityOf(int row) const
+{
+    return row < Gathered() ? nullptr : &mEffect->Changes()[static_cast<std::size_t>(row - Gathered())];
 }
 
 int EffectModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : mCount;
+    return parent.isValid() ? 0 : Gathered() + mCount;
 }
 
 int EffectModel::columnCount(const QModelIndex& parent) const
@@ -49,10 +69,19 @@ QVariant EffectModel::data(const QModelIndex& index, int role) const
     if (role == Qt::ToolTipRole) {
         return PlainToolTip(data(index, Qt::DisplayRole).toString());
     }
+    const auto* shown = ActivityOf(index.row());
+    if (role == Qt::FontRole && shown == nullptr) {
+        QFont bold;
+        bold.setWeight(QFont::DemiBold);
+        return bold;
+    }
     if (role != Qt::DisplayRole) {
         return {};
     }
-    const auto& activity = ActivityOf(index.row());
+    if (shown == nullptr) {
+        return MoveText(mMoves[static_cast<std::size_t>(index.row())], index.column());
+    }
+    const auto& activity = *shown;
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
     switch (index.column()) {
     case Title:
@@ -62,6 +91,18 @@ QVariant EffectModel::data(const QModelIndex& index, int role) const
             + mDesk.Formats()->ShortTime(activity.start) + PartSeparator + LengthText(activity.duration)));
     default:
         return ShownLine(ProjectNameOf(activity));
+    }
+}
+
+QVariant EffectModel::MoveText(const ProjectMoves::Move& move, int column)
+{
+    switch (column) {
+    case Title:
+        return QString::number(move.activities) + "  " + ShownLine(move.from) + " \u2192 " + ShownLine(move.to);
+    case When:
+        return ToQt(LengthText(move.minutes));
+    default:
+        return move.from == NoProject ? QString() : QString("! overwritten");
     }
 }
 

@@ -1,24 +1,25 @@
 #pragma once
 
+#include "desktop/RuleEffect.h"
 #include "desktop/qt/Desk.h"
-#include "review/Activity.h"
 
 #include <QAbstractTableModel>
 #include <vector>
 
 namespace tempodial {
 
-/// The activities that rules would change, as lines of a list.
+/// The activities that rules would change, as lines of a list: first how many come from which project, then each.
 class EffectModel final : public QAbstractTableModel
 {
 public:
     EffectModel(Desk& desk, QObject* parent);
 
-    /// Shows other activities, which must live until others are shown.
-    void Show(const std::vector<Activity>& activities);
-    /// More of them have come at the end.
+    /// Shows another effect, which must live until another is shown.
+    void Show(const RuleEffect& effect);
+    /// More has been found out of it.
     void ShowMore();
-    const Activity& ActivityOf(int row) const { return (*mActivities)[static_cast<std::size_t>(row)]; }
+    /// The activity of a line; null for one that gathers several.
+    const Activity* ActivityOf(int row) const;
 
     int rowCount(const QModelIndex& parent) const override;
     int columnCount(const QModelIndex& parent) const override;
@@ -29,7 +30,11 @@ private:
     enum Column { Title, When, Project, Columns };
 
     Desk& mDesk;
-    const std::vector<Activity>* mActivities = nullptr;
+    int Gathered() const { return static_cast<int>(mMoves.size()); }
+    static QVariant MoveText(const ProjectMoves::Move& move, int column);
+
+    const RuleEffect* mEffect = nullptr;
+    std::vector<ProjectMoves::Move> mMoves;
     int mCount = 0;
 };
 

@@ -16,6 +16,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QSpinBox>
 #include <QTreeView>
 
 namespace tempodial {
@@ -24,6 +25,9 @@ namespace {
 
 constexpr auto SubjectRuleBox = "SubjectText";
 constexpr int PaneWidth = 460;
+/// The days that are looked at first, and at most.
+constexpr int UsualDays = 21;
+constexpr int MostDays = 3660;
 
 }
 
@@ -32,6 +36,7 @@ EffectPane::EffectPane(Desk& desk, const Ref<FormModel>& form, QWidget* parent)
     , mDesk(desk)
     , mNumber(form->Number())
     , mForm(form)
+    , mDays(new QSpinBox(this))
     , mTitle(new QLabel(this))
     , mNotes(new QLabel(this))
     , mList(new QTreeView(this))
@@ -45,7 +50,16 @@ EffectPane::EffectPane(Desk& desk, const Ref<FormModel>& form, QWidget* parent)
     auto bold = font();
     bold.setWeight(QFont::DemiBold);
     heading->setFont(bold);
-    layout->addWidget(heading);
+    auto* top = new QHBoxLayout;
+    top->addWidget(heading, 1);
+    mDays->setRange(1, MostDays);
+    mDays->setValue(UsualDays);
+    mDays->setPrefix("last ");
+    mDays->setSuffix(" days");
+    mDays->setAccessibleName("Days that are looked at");
+    connect(mDays, &QSpinBox::valueChanged, this, [this] { Follow(); });
+    top->addWidget(mDays);
+    layout->addLayout(top);
     for (auto* label : { mTitle, mNotes }) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
@@ -62,8 +76,9 @@ EffectPane::EffectPane(Desk& desk, const Ref<FormModel>& form, QWidget* parent)
     mList->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     mList->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     connect(mList, &QTreeView::activated, this, [this](const QModelIndex& index) {
-        const auto number = mModel->ActivityOf(index.row()).number;
-        mDesk.Do([&] { LogDoings(mDesk.Session()).Open(number); });
+        if (const auto* activity = mModel->ActivityOf(index.row())) {
+            mDesk.Do([this, number = activity->number] { LogDoings(mDesk.Session()).Open(number); });
+        }
     });
     layout->addWidget(mList, 1);
     layout->addWidget(mNotes);
@@ -74,9 +89,20 @@ EffectPane::EffectPane(Desk& desk, const Ref<FormModel>& form, QWidget* parent)
     connect(&mTimer, &QTimer::timeout, this, [this] { GoOn(); });
 }
 
+RuleEdit EffectPane::Edit()
+{
+    auto edit = mForm.Edit();
+    // Where the form says how far it is applied back, that is what happens.
+    mDays->setVisible(!edit.isAppliedBack);
+    if (!edit.isAppliedBack) {
+        edit.days = mDays->value();
+    }
+    return edit;
+}
+
 EffectPane::Basis EffectPane::Now()
 {
-    Basis basis { .edit = mForm.Edit(),
+    Basis basis { .edit = Edit(),
         .projects = mDesk.Profile().Registry()->Get(Hive::CurrentUser, ProductKey, ProjectsValue).ToText(),
         .open = {},
         .log = mDesk.Log().Count(),
@@ -92,13 +118,15 @@ EffectPane::Basis EffectPane::Now()
 void EffectPane::Follow()
 {
     FollowOffers();
+    // Titles may be hidden now.
+    mList->viewport()->update();
     auto basis = Now();
     if (mBasis == basis) {
         return;
     }
     mBasis = std::move(basis);
     mEffect.emplace(mBasis->edit, RuledProject::ReadAll(mDesk.Profile()), mBasis->open, mBasis->today);
-    mModel->Show(mEffect->Changes());
+    mModel->Show(*mEffect);
     GoOn();
     if (!mEffect->IsDone()) {
         mTimer.start();
@@ -135,7 +163,8 @@ void EffectPane::FollowOffers()
     std::vector<std::string> words;
     const auto explorer = mDesk.Windows().ActiveExplorer().As<HostExplorer>();
     const auto selected = explorer ? SelectedNumbers(*explorer) : std::set<std::int64_t>();
-    if (!selected.empty()) {
+    // What is offered are words of a title.
+    if (!selected.empty() && mDesk.ShownTitles() == Titles::Shown) {
         if (auto activity = ActivityNumbered(mDesk.Profile(), *selected.begin())) {
             // The form has no rule for people.
             activity->people.clear();

@@ -15,6 +15,7 @@
 
 class QBoxLayout;
 class QLabel;
+class QSpinBox;
 class QTreeView;
 
 namespace tempodial {
@@ -34,6 +35,8 @@ public:
     /// What is shown; nothing before the form was.
     const std::optional<RuleEffect>& Effect() const { return mEffect; }
     QTreeView& List() { return *mList; }
+    /// For how many days it is told what would change, as long as the form applies nothing back.
+    QSpinBox& Days() { return *mDays; }
 
 private:
     /// What the effect was found by.
@@ -48,6 +51,8 @@ private:
         bool operator==(const Basis&) const = default;
     };
 
+    /// What stands in the form, over the days that are looked at.
+    RuleEdit Edit();
     Basis Now();
     void GoOn();
     void ShowWords();
@@ -57,6 +62,7 @@ private:
     Desk& mDesk;
     std::int32_t mNumber;
     RuleForm mForm;
+    QSpinBox* mDays;
     QLabel* mTitle;
     QLabel* mNotes;
     QTreeView* mList;

@@ -24,7 +24,7 @@ FormWindow::FormWindow(Desk& desk, const Ref<FormModel>& form)
                                                   mView->repaint();
                                               },
           .BroughtToFront = [this] { mComesToFront = true; } }))
-    , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); } }))
+    , mEvents(desk.Subscribe({ .Changed = [this] { Follow(); }, .Restyled = [this] { Follow(); } }))
 {
     setModal(false);
     auto* layout = new QHBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "desktop/qt/InspectorWindow.h"
 
+#include "desktop/ActivityWords.h"
 #include "desktop/DesktopStrings.h"
 #include "desktop/WhyWords.h"
 #include "desktop/qt/CommandBarView.h"
@@ -8,6 +9,7 @@
 #include "desktop/qt/WindowRoom.h"
 #include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
+#include "session/ProductFacts.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -58,6 +60,17 @@ InspectorWindow::InspectorWindow(Desk& desk, Ref<HostInspector> inspector)
     GiveRoom(*this);
 }
 
+QString InspectorWindow::Title() const
+{
+    const auto& item = *Model().ShownItem();
+    if (OwnDesk().ShownTitles() == Titles::Shown) {
+        return ItemWindow::Title();
+    }
+    const auto activity = ActivityNumbered(OwnDesk().Profile(), item.Number());
+    const ActivityWords words(OwnDesk().Formats(), Titles::Hidden);
+    return activity ? ToQt(words.Title(*activity)) : QString(ProductName);
+}
+
 void InspectorWindow::FollowContent()
 {
     mCommands->Follow();
@@ -81,7 +94,7 @@ void InspectorWindow::ShowWhy()
     mWhy->setVisible(activity.has_value());
     if (activity) {
         const RuleTrial rules(RuledProject::ReadAll(OwnDesk().Profile()));
-        mWhy->setText("Why? " + ToQt(WhySentence(*activity, rules)));
+        mWhy->setText("Why? " + ToQt(WhySentence(*activity, rules, OwnDesk().ShownTitles())));
     }
 }
 

@@ -28,6 +28,7 @@ public:
     const QPlainTextEdit& Body() const { return *mBody; }
 
 protected:
+    QString Title() const override;
     void FollowContent() override;
     bool TakeIn() override;
 

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <algorithm>
 #include <array>
 
 namespace tempodial {
@@ -10,6 +11,9 @@ namespace {
 
 constexpr auto CommandKey = "command";
 constexpr auto RaiseCommand = "raise";
+constexpr auto WishKey = "then";
+/// The wishes in their order; none is left out.
+constexpr std::array WishWords { "", "refresh", "report" };
 constexpr auto TokenKey = "token";
 /// By these a desktop hands on the right to come to the front.
 constexpr std::array TokenVariables { "XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID" };
@@ -40,15 +44,22 @@ std::string InstanceSocket::Answer(const std::string& line) const
             qputenv(variable, token);
         }
     }
+    const auto wish = std::find(WishWords.begin(), WishWords.end(), call[WishKey].toString());
+    if (wish == WishWords.end()) {
+        return Line({ { "ok", false }, { "error", "\"then\" can be refresh or report" } });
+    }
     if (mRaise) {
-        mRaise();
+        mRaise(static_cast<StartWish>(wish - WishWords.begin()));
     }
     return Line({ { "ok", true } });
 }
 
-bool InstanceSocket::RaiseOther(const std::string& profile)
+bool InstanceSocket::RaiseOther(const std::string& profile, StartWish wish)
 {
     QJsonObject call { { CommandKey, RaiseCommand } };
+    if (wish != StartWish::None) {
+        call[WishKey] = WishWords[static_cast<std::size_t>(wish)];
+    }
     for (const auto* variable : TokenVariables) {
         if (const auto token = qEnvironmentVariable(variable); !token.isEmpty() && !call.contains(TokenKey)) {
             call[TokenKey] = token;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/StartWish.h"
 #include "session/DesktopSocket.h"
 
 #include <QSocketNotifier>
@@ -15,14 +16,14 @@ public:
     /// Listens for a profile that this process holds; fails as `DesktopSocket` does.
     explicit InstanceSocket(const std::string& profile);
 
-    /// Called when somebody wants the windows in front.
-    std::function<void()> mRaise;
+    /// Called when somebody wants the windows in front, and perhaps something done then.
+    std::function<void(StartWish wish)> mRaise;
 
     /// Answers a call, a JSON object in a line, by such a one.
     std::string Answer(const std::string& line) const;
 
-    /// Brings the windows of the profile's program to the front; false when there is none.
-    static bool RaiseOther(const std::string& profile);
+    /// Brings the windows of the profile's program to the front, and hands a wish on to it; false when there is none.
+    static bool RaiseOther(const std::string& profile, StartWish wish = StartWish::None);
 
 private:
     DesktopSocket mSocket;

@@ -47,6 +47,11 @@ void ItemWindow::Say(const QString& text)
     mNotice->setVisible(!text.isEmpty());
 }
 
+QString ItemWindow::Title() const
+{
+    return ToQt(mInspector->Caption());
+}
+
 void ItemWindow::Follow()
 {
     if (mInspector->IsGone()) {
@@ -54,7 +59,7 @@ void ItemWindow::Follow()
     }
     const auto& item = mInspector->ShownItem();
     const bool isUnsaved = item && item->HasChanges();
-    setWindowTitle((isUnsaved ? UnsavedDot : "") + ToQt(mInspector->Caption()));
+    setWindowTitle((isUnsaved ? UnsavedDot : "") + Title());
     FollowContent();
     if (std::exchange(mComesToFront, false) && isVisible() && !isActiveWindow()) {
         raise();

@@ -27,6 +27,8 @@ public:
     QString Notice() const;
 
 protected:
+    /// What the window's title says of what is shown.
+    virtual QString Title() const;
     /// Shows the content as it is now; the window isn't gone.
     virtual void FollowContent() = 0;
     /// Takes in what was typed before the window closes; false keeps it.

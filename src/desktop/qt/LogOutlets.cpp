@@ -1,5 +1,6 @@
 #include "desktop/qt/LogOutlets.h"
 
+#include "desktop/ActivityTable.h"
 #include "desktop/ActivityWords.h"
 #include "desktop/qt/LogPage.h"
 #include "desktop/qt/MainWindow.h"
@@ -15,12 +16,6 @@
 
 namespace tempodial {
 
-namespace {
-
-constexpr auto TextEnding = ".txt";
-
-}
-
 LogOutlets::LogOutlets(MainWindow& window, Desk& desk)
     : mWindow(window)
     , mDesk(desk)
@@ -30,12 +25,6 @@ LogOutlets::LogOutlets(MainWindow& window, Desk& desk)
 QString LogOutlets::Title() const
 {
     return ToQt(ActivityWords(mDesk.Formats(), mDesk.ShownTitles()).PeriodTitle(mWindow.Log().Days()));
-}
-
-ActivityTable LogOutlets::Table() const
-{
-    const auto selected = mWindow.SelectedActivities();
-    return { mDesk.Formats(), mDesk.ShownTitles(), selected.empty() ? mWindow.ShownActivities() : selected };
 }
 
 void LogOutlets::Print()
@@ -61,23 +50,25 @@ void LogOutlets::Copy()
     mWindow.Say("Copied: " + ToQt(ActivityWords::Summary(selected)));
 }
 
-void LogOutlets::AskWhereToExport()
+void LogOutlets::AskWhereToExport(const LogExport::FormWords& form)
 {
     const auto folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const auto path = QFileDialog::getSaveFileName(
-        &mWindow, "Export", folder + "/" + Title().replace('/', '-') + ".csv", "Table (*.csv);;Text (*.txt)");
+        &mWindow, "Export", folder + "/" + Title().replace('/', '-') + form.ending, form.filter);
     if (!path.isEmpty()) {
         mDesk.Do([&] {
-            Export(FromQt(path));
+            Export(FromQt(path), form.form);
             mWindow.Say("Saved as " + path);
         });
     }
 }
 
-void LogOutlets::Export(const std::string& path) const
+void LogOutlets::Export(const std::string& path, LogExport::Form form) const
 {
-    const auto table = Table();
-    SaveFile(path, path.ends_with(TextEnding) ? table.Text() : table.Csv());
+    const auto selected = mWindow.SelectedActivities();
+    SaveFile(path,
+        LogExport(mDesk.Profile(), mDesk.ShownTitles(), selected.empty() ? mWindow.ShownActivities() : selected)
+            .In(form));
 }
 
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/ActivityTable.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/LogExport.h"
 
 #include <QString>
 #include <string>
@@ -21,15 +21,13 @@ public:
     void Print();
     /// Copies what is selected.
     void Copy();
-    /// Lets a person choose a file for what is selected, or else for all that is shown.
-    void AskWhereToExport();
-    /// Writes that into a file: a table for spreadsheets, or plain lines where its name says so. Fails as the file
-    /// does.
-    void Export(const std::string& path) const;
+    /// Lets a person choose a file of a form for what is selected, or else for all that is shown.
+    void AskWhereToExport(const LogExport::FormWords& form);
+    /// Writes that into a file; fails as the store and the file do.
+    void Export(const std::string& path, LogExport::Form form) const;
 
 private:
     QString Title() const;
-    ActivityTable Table() const;
 
     MainWindow& mWindow;
     Desk& mDesk;

@@ -2,7 +2,9 @@
 
 #include "desktop/UserGuide.h"
 #include "desktop/qt/AgendaView.h"
+#include "desktop/qt/ColourMenu.h"
 #include "desktop/qt/FoldersDialog.h"
+#include "desktop/qt/KeysDialog.h"
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/QtText.h"
@@ -11,6 +13,7 @@
 #include "desktop/qt/SidePanel.h"
 #include "host/windows/BuiltInCommand.h"
 #include "platform/objectmodel/Views.h"
+#include "session/OpenProfile.h"
 #include "session/ProductFacts.h"
 
 #include <QAction>
@@ -21,6 +24,17 @@
 #include <array>
 
 namespace tempodial {
+
+namespace {
+
+/// A profile's path, unless it is the one that the program takes in any session.
+std::optional<std::string> NamedProfile(const std::string& path)
+{
+    const bool isUsual = !qEnvironmentVariableIsSet("TEMPODIAL_PROFILE") && path == ProfilePath({});
+    return isUsual ? std::nullopt : std::optional(path);
+}
+
+}
 
 MainCommands::MainCommands(MainWindow& window, Desk& desk)
     : mWindow(window)
@@ -37,7 +51,7 @@ void MainCommands::MakeActions()
     using Command = BuiltInCommand;
     mActions.Add(Command::FileMenu, "New &Window", QKeySequence::New,
         [this] { mDesk.Do([this] { mDesk.Windows().OpenExplorer(mWindow.Explorer()->CurrentFolder()); }); });
-    mActions.Add(Command::FileMenu, "&Export\u2026", QKeySequence("Ctrl+E"), [this] { mOutlets.AskWhereToExport(); });
+    AddExports();
     mActions.Add(Command::FileMenu, "Open &Data Folder", {},
         [this] { mDesk.Do([this] { mDesk.Profile().Surroundings().shell->Open(mDesk.Profile().DataFolder()); }); });
     mActions.Add(Command::FileMenu, "&Close", QKeySequence::Close, [this] { mWindow.close(); });
@@ -59,11 +73,24 @@ void MainCommands::MakeActions()
         }
     });
     mActions.Add(Command::ActionsMenu, "&Why This Project?", {}, [this] { mWindow.AskWhy(); });
+    mActions.Add(Command::ActionsMenu, "Why, for &All Projects", {}, [this] { mWindow.ShowWhyTable(); });
     mActions.Add(Command::ActionsMenu, "Make a &Rule\u2026", {}, [this] { mWindow.MakeRule(); });
     mActions.Add(Command::ToolsMenu, "Refresh &Now", QKeySequence("F5"),
         [this] { mDesk.Do([this] { mDesk.Session().AddIn().SyncData(SavedDataDays, true); }); });
     mActions.AddLine(Command::ToolsMenu);
     mActions.Add(Command::ToolsMenu, "&Settings\u2026", QKeySequence("Ctrl+,"), [this] { ShowSettings(); });
+    mActions.Add(Command::HelpMenu, "&Keys", {}, [this] { (new KeysDialog(&mWindow))->show(); });
+}
+
+void MainCommands::AddExports()
+{
+    auto* menu = new QMenu("&Export", &mWindow);
+    for (const auto& form : LogExport::Forms) {
+        auto* action = menu->addAction(form.caption);
+        QObject::connect(action, &QAction::triggered, &mWindow, [this, &form] { mOutlets.AskWhereToExport(form); });
+    }
+    menu->actions().front()->setShortcut(QKeySequence("Ctrl+E"));
+    mActions.AddMenu(BuiltInCommand::FileMenu, *menu);
 }
 
 void MainCommands::Run(std::int32_t command)
@@ -95,7 +122,7 @@ void MainCommands::ShowGuide()
 void MainCommands::ShowSettings()
 {
     const Autostart autostart(
-        Desk::ConfigFolder() + "/" + Autostart::FileName, FromQt(QCoreApplication::applicationFilePath()));
+        Desk::ConfigFolder(), FromQt(QCoreApplication::applicationFilePath()), NamedProfile(mDesk.Profile().Path()));
     (new SettingsDialog(mDesk, autostart, &mWindow))->show();
 }
 
@@ -131,6 +158,9 @@ void MainCommands::MakeViewActions()
     mActions.Add(Menu, "Zoom &Out", QKeySequence::ZoomOut, [this] { mWindow.Agenda().Zoom(-1); });
     mActions.Add(Menu, "Zoom to &Fit", QKeySequence("Ctrl+0"), [this] { mWindow.Agenda().ZoomToFit(); });
     mActions.AddLine(Menu);
+    auto* colours = new QMenu("&Colour By", &mWindow);
+    FillColouredBy(*colours, mDesk);
+    mActions.AddMenu(Menu, *colours);
     const auto addSetting = [this](const char* text, const char* keys, bool DesktopSettings::*setting) {
         mActions.AddSwitch(
             Menu, text, QKeySequence(keys), [this, setting] { return mDesk.Settings().*setting; },
@@ -186,10 +216,22 @@ void MainCommands::ShowMenu(const QPoint& place)
     QObject::connect(menu.addAction("&Why This Project?"), &QAction::triggered, &mWindow, [this] { mWindow.AskWhy(); });
     QObject::connect(
         menu.addAction("Make a &Rule\u2026"), &QAction::triggered, &mWindow, [this] { mWindow.MakeRule(); });
+    const bool isByProject = mWindow.Log().ColouredBy() == Coloured::Project;
+    QObject::connect(menu.addAction(isByProject ? "O&nly This Project" : "O&nly This Application"), &QAction::triggered,
+        &mWindow, [this] { ShowOnlySelected(); });
     menu.addSeparator();
     QObject::connect(menu.addAction("&Copy"), &QAction::triggered, &mWindow, [this] { mOutlets.Copy(); });
     QObject::connect(menu.addAction("&Delete"), &QAction::triggered, &mWindow, [this] { mWindow.DeleteSelected(); });
     menu.exec(place);
+}
+
+void MainCommands::ShowOnlySelected()
+{
+    ProjectRows::Names names;
+    for (const auto& activity : mWindow.SelectedActivities()) {
+        names.insert(mWindow.Log().ColourNameOf(activity));
+    }
+    mWindow.Side().Projects().ShowOnly(names);
 }
 
 bool MainCommands::TakeKey(const QKeyEvent& event)
@@ -222,7 +264,7 @@ bool MainCommands::TakeKey(const QKeyEvent& event)
     default:
         break;
     }
-    return mDesk.Settings().hasLetterKeys && TakeLetter(event.key());
+    return TakeLetter(event.key()) || (mDesk.Settings().hasLetterKeys && TakeViewLetter(event.key()));
 }
 
 bool MainCommands::TakeDigit(std::size_t place)
@@ -236,6 +278,23 @@ bool MainCommands::TakeDigit(std::size_t place)
 }
 
 bool MainCommands::TakeLetter(int key)
+{
+    switch (key) {
+    case Qt::Key_N:
+        mWindow.SetNewProject();
+        return true;
+    case Qt::Key_R:
+        mWindow.MakeRule();
+        return true;
+    case Qt::Key_Y:
+        mWindow.AskWhy();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool MainCommands::TakeViewLetter(int key)
 {
     switch (key) {
     case Qt::Key_T:
@@ -252,15 +311,6 @@ bool MainCommands::TakeLetter(int key)
         return true;
     case Qt::Key_S:
         mWindow.Show(View::SortOut);
-        return true;
-    case Qt::Key_N:
-        mWindow.SetNewProject();
-        return true;
-    case Qt::Key_R:
-        mWindow.MakeRule();
-        return true;
-    case Qt::Key_Y:
-        mWindow.AskWhy();
         return true;
     default:
         return false;

@@ -38,12 +38,18 @@ private:
 
     void MakeActions();
     void MakeViewActions();
+    void AddExports();
     void ShowSettings();
     void FocusSearch();
     void ShowGuide();
     /// Lists the views of the folder that the window shows.
     void FillViews(QMenu& menu);
+    /// Shows what has the colours of the selected ones alone.
+    void ShowOnlySelected();
+    /// Takes a letter that does something to what is selected.
     bool TakeLetter(int key);
+    /// Takes one that goes elsewhere, which a person can switch off.
+    bool TakeViewLetter(int key);
     bool TakeDigit(std::size_t place);
 
     MainWindow& mWindow;

@@ -4,7 +4,6 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/EastAsianLetters.h"
 #include "desktop/ViewDays.h"
-#include "desktop/WhyWords.h"
 #include "desktop/WindowTitle.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
@@ -18,6 +17,7 @@
 #include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
 #include "desktop/qt/WelcomePage.h"
+#include "desktop/qt/WindowPlace.h"
 #include "review/ActivityReader.h"
 #include "review/LikelyProjects.h"
 #include "session/ActivityGesture.h"
@@ -29,7 +29,6 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QTimer>
 
@@ -37,21 +36,12 @@ namespace tempodial {
 
 namespace {
 
-constexpr QSize UsualSize(1440, 900);
-/// What the frame that a desktop draws takes of the screen.
-constexpr QSize RoomOfFrame(8, 40);
 /// The days before today whose week an example shows, so that some of its work is seen on every day of the week.
 constexpr int ExampleDaysBack = 3;
 /// Below it the side panel gives way to the days.
 constexpr int LeastWidthWithPanel = 900;
 /// The days whose activities say which projects are likely.
 constexpr int DaysLookedBack = 28;
-
-/// A size as far as the screen has room for it; one in memory has any.
-QSize InScreen(const QSize& size, const QScreen& screen)
-{
-    return QGuiApplication::platformName() == "offscreen" ? size : size.boundedTo(screen.availableSize() - RoomOfFrame);
-}
 
 }
 
@@ -70,7 +60,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     setWindowTitle(ToQt(WindowTitle(desk.Profile(), *mExplorer).value_or(ProductName)));
     mLog.Colour(desk.Settings().colours);
     mRead = desk.Log().Count();
-    mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
+    mLog.Show(DaysOfView(mView, mDesk.Settings().SpanOf(mView), mDay, mDesk.WeekStart()));
     Assemble();
     Connect();
     ConnectAgenda();
@@ -81,9 +71,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
         .Restyled = [this] { FollowSettings(); },
         .Failed = [this](const std::string& message) { mFoot->Say(ToQt(message)); } });
     FollowLog();
-    const auto& settings = desk.Settings();
-    const QSize kept(static_cast<int>(settings.width), static_cast<int>(settings.height));
-    resize(InScreen(settings.width == 0 ? UsualSize : kept, *screen()));
+    PutWhereLeft(*this, desk.Settings());
     mAgenda->setFocus();
 }
 
@@ -137,7 +125,7 @@ void MainWindow::Show(View view, Date day)
     const bool isOther = view != mView;
     mSearch.End();
     mDesk.Do([&] {
-        mLog.Show(DaysOfView(view, mDesk.Settings().listSpan, day, mDesk.WeekStart()));
+        mLog.Show(DaysOfView(view, mDesk.Settings().SpanOf(view), day, mDesk.WeekStart()));
         mIsDrawn = false;
         DropUnseen();
         mView = view;
@@ -158,7 +146,7 @@ void MainWindow::GoToToday()
 
 void MainWindow::Page(int pages)
 {
-    Show(mView, PagedDay(mView, mDesk.Settings().listSpan, mDay, pages));
+    Show(mView, PagedDay(mView, mDesk.Settings().SpanOf(mView), mDay, pages));
 }
 
 void MainWindow::Select(const Numbers& numbers)
@@ -235,14 +223,6 @@ void MainWindow::Redo()
     mDesk.Do([&] { said = mDoings.Redo(); });
     if (!said.empty()) {
         mFoot->Say(ToQt(said));
-    }
-}
-
-void MainWindow::AskWhy()
-{
-    const auto selected = SelectedActivities();
-    if (!selected.empty()) {
-        mFoot->Say(ToQt(WhySentence(selected.front(), RuleTrial(RuledProject::ReadAll(mDesk.Profile())))));
     }
 }
 
@@ -411,7 +391,7 @@ void MainWindow::FollowSelection()
             hasFewProjects ? NoProjectsYetHelp : "", hasFewProjects);
         return;
     }
-    mFoot->Show(selected, LikelyProjects(mDoings.Projects(), selected, PastActivities()));
+    mFoot->Show(selected, LikelyProjects(mDoings.Projects(), selected, PastActivities()), mLog.Days());
 }
 
 const std::vector<Activity>& MainWindow::PastActivities()
@@ -423,23 +403,6 @@ const std::vector<Activity>& MainWindow::PastActivities()
         mPastRead = now;
     }
     return mPast;
-}
-
-void MainWindow::ShowEmpty()
-{
-    if (!mLog.Activities().empty()) {
-        mAgenda->ShowNote({}, {});
-        return;
-    }
-    const auto before = LastStartBefore(mDesk.Profile(), mLog.Days().first);
-    if (mLog.HasAny()) {
-        mAgenda->ShowNote(ToQt(EmptyText(EmptyView::NothingFound)), {});
-    } else if (before || LastStartBefore(mDesk.Profile(), Period::Always().last)) {
-        mAgenda->ShowNote(ToQt(EmptyText(EmptyView::NothingInPeriod)),
-            before ? "Show " + ToQt(mDesk.Formats()->LongDate(*before)) : QString());
-    } else {
-        mAgenda->ShowNote(ToQt(EmptyText(EmptyView::NothingRecorded)), {});
-    }
 }
 
 void MainWindow::ShowSidePanel()
@@ -468,10 +431,7 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    mDesk.Remember([this](DesktopSettings& settings) {
-        settings.width = width();
-        settings.height = height();
-    });
+    mDesk.Remember([this](DesktopSettings& settings) { NotePlace(*this, settings); });
     if (mDesk.StaysWhenClosed() && mDesk.Windows().OpenExplorers().size() == 1) {
         event->ignore();
         hide();

@@ -10,6 +10,7 @@
 #include "host/windows/HostExplorer.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -33,6 +34,7 @@ class SelectionBar;
 class SidePanel;
 class SortOutView;
 class WelcomePage;
+class WhyBubble;
 
 /// The window of an explorer: the activities of some days, and what can be done with them.
 class MainWindow final : public QMainWindow
@@ -80,7 +82,9 @@ public:
     void DeleteSelected();
     void Undo();
     void Redo();
+    /// Says why the first one that is selected has its project; asked again, shows what the rules of all projects say.
     void AskWhy();
+    void ShowWhyTable();
     /// Opens the settings of the project that is likeliest for what is selected.
     void MakeRule();
     /// Opens what has the focus, or the one that is selected.
@@ -91,6 +95,8 @@ public:
     void NextPane(int step);
     /// Says something at the foot.
     void Say(const QString& text);
+    /// The table that is open; null when none is.
+    WhyBubble* WhyTable() const;
     MainCommands& Commands() { return mCommands; }
     /// What is shown: the days, or what a search has found.
     const std::vector<Activity>& ShownActivities() const;
@@ -129,6 +135,8 @@ private:
     /// Anything else may have changed.
     void FollowModel();
     void FollowSelection();
+    /// Why what is shown is empty, and the step that helps; nothing when there is something.
+    std::pair<QString, QString> WhyEmpty() const;
     void ShowEmpty();
     /// Says so when letters are shown for which there is no font.
     void SeeToFonts();
@@ -168,6 +176,7 @@ private:
     std::unique_ptr<MainMenu> mMenu;
     LogSearch mSearch;
     QTimer* mClock;
+    QPointer<WhyBubble> mWhyTable;
     bool mComesToFront = false;
     Subscription mChanges;
     Subscription mEvents;

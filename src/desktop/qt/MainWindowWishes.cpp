@@ -1,5 +1,6 @@
 #include "desktop/DesktopStrings.h"
 #include "desktop/ViewDays.h"
+#include "desktop/WhyWords.h"
 #include "desktop/qt/ActivityList.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/ExampleProgram.h"
@@ -10,6 +11,7 @@
 #include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
 #include "desktop/qt/WelcomePage.h"
+#include "desktop/qt/WhyBubble.h"
 #include "review/ActivityReader.h"
 #include "session/ActivityGesture.h"
 #include "terminal/TerminalText.h"
@@ -31,6 +33,7 @@ void MainWindow::Connect()
     mSearch.mWhenFound = [this] {
         FollowPages();
         FollowSelection();
+        ShowEmpty();
     };
     mSide->Month().mGoTo = [this](Date day) { Show(mView, day); };
     mSide->Projects().mShowOnly = [this](const auto& names) { mAgenda->ShowOnly(names); };
@@ -68,11 +71,14 @@ void MainWindow::ConnectAgenda()
     wishes.say = [this](const QString& text) { mFoot->Say(text); };
     wishes.chooseProject = [this] { mFoot->ShowAllProjects(); };
     wishes.remove = [this] { DeleteSelected(); };
-    wishes.followLink = [this] {
+    const auto goBack = [this] {
         if (const auto last = LastStartBefore(mDesk.Profile(), mLog.Days().first)) {
             Show(mView, last->Day());
         }
     };
+    for (auto* note : { &mAgenda->Note(), &mList->Note(), &mSortOut->Note() }) {
+        note->mFollowLink = goBack;
+    }
     mAgenda->Head().mWhenChosen
         = [this](std::size_t day) { Show(View::Day, mLog.Days().first.AddDays(static_cast<int>(day))); };
 }
@@ -90,6 +96,7 @@ void MainWindow::ConnectOthers()
     mWelcome->mShowExample = [this] { mDesk.Do([this] { ExampleProgram::Open(mDesk.Profile()); }); };
     mSortOut->mSelect = select;
     mSortOut->mOpen = open;
+    mSortOut->mMenu = [this](const QPoint& place) { mCommands.ShowMenu(place); };
     mSortOut->mKey = key;
 }
 
@@ -166,7 +173,7 @@ void MainWindow::FollowSettings()
     }
     mIsDrawn = false;
     // The week may begin with another day.
-    mLog.Show(DaysOfView(mView, mDesk.Settings().listSpan, mDay, mDesk.WeekStart()));
+    mLog.Show(DaysOfView(mView, mDesk.Settings().SpanOf(mView), mDay, mDesk.WeekStart()));
     mDesk.Do([this] { DropUnseen(); });
 }
 
@@ -183,6 +190,67 @@ void MainWindow::Search(const QString& words)
     mLog.Search(SearchTerms(FromQt(words)));
     mIsDrawn = false;
     mDesk.Do([this] { DropUnseen(); });
+}
+
+void MainWindow::AskWhy()
+{
+    const auto selected = SelectedActivities();
+    if (selected.empty()) {
+        return;
+    }
+    const RuleTrial rules(RuledProject::ReadAll(mDesk.Profile()));
+    const auto sentence = ToQt(WhySentence(selected.front(), rules, mDesk.ShownTitles()));
+    if (mFoot->Said() == sentence) {
+        ShowWhyTable();
+    } else {
+        mFoot->Say(sentence);
+    }
+}
+
+void MainWindow::ShowWhyTable()
+{
+    const auto selected = SelectedActivities();
+    if (selected.empty()) {
+        return;
+    }
+    const RuleTrial rules(RuledProject::ReadAll(mDesk.Profile()));
+    const auto titles = mDesk.ShownTitles();
+    mWhyTable
+        = new WhyBubble(WhySentence(selected.front(), rules, titles), WhyLines(selected.front(), rules, titles), this);
+    mWhyTable->OpenAbove(mFoot->mapToGlobal(QPoint(0, 0)));
+}
+
+WhyBubble* MainWindow::WhyTable() const
+{
+    return mWhyTable;
+}
+
+std::pair<QString, QString> MainWindow::WhyEmpty() const
+{
+    if (mSearch.IsOn()) {
+        const bool isVain = mSearch.IsDone() && mSearch.Found().empty();
+        return { isVain ? ToQt(EmptyText(EmptyView::NothingInLog)) : QString(), QString() };
+    }
+    if (!mLog.Activities().empty()) {
+        return {};
+    }
+    if (mLog.HasAny()) {
+        return { ToQt(EmptyText(EmptyView::NothingFound)), QString() };
+    }
+    const auto before = LastStartBefore(mDesk.Profile(), mLog.Days().first);
+    if (before || LastStartBefore(mDesk.Profile(), Period::Always().last)) {
+        return { ToQt(EmptyText(EmptyView::NothingInPeriod)),
+            before ? "Show " + ToQt(mDesk.Formats()->LongDate(*before)) : QString() };
+    }
+    return { ToQt(EmptyText(EmptyView::NothingRecorded)), QString() };
+}
+
+void MainWindow::ShowEmpty()
+{
+    const auto [text, link] = WhyEmpty();
+    for (auto* note : { &mAgenda->Note(), &mList->Note(), &mSortOut->Note() }) {
+        note->Say(text, link);
+    }
 }
 
 }

@@ -1,11 +1,11 @@
 #include "desktop/qt/ProjectRows.h"
 
 #include "desktop/DesktopStrings.h"
+#include "desktop/qt/ColourMenu.h"
 #include "desktop/qt/QtText.h"
 #include "desktop/qt/ShownLine.h"
 #include "session/ProductFacts.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
@@ -37,24 +37,7 @@ ProjectRows::ProjectRows(Desk& desk, const ShownLog& log, QWidget* parent)
     mColours->setFlat(true);
     mColours->setMenu(new QMenu(mColours));
     mColours->setAccessibleDescription("Chooses by what activities are coloured");
-    ChooseColours();
-}
-
-void ProjectRows::ChooseColours()
-{
-    auto* menu = mColours->menu();
-    auto* group = new QActionGroup(menu);
-    for (const auto& [choice, words] : { std::pair(ColourChoice::Automatic, "As Is Best"),
-             std::pair(ColourChoice::Project, "By Project"), std::pair(ColourChoice::Application, "By Application") }) {
-        auto* action = menu->addAction(words);
-        action->setCheckable(true);
-        group->addAction(action);
-        connect(action, &QAction::triggered, this, [this, choice = choice] {
-            mDesk.Change([choice](DesktopSettings& settings) { settings.colours = choice; });
-        });
-    }
-    connect(menu, &QMenu::aboutToShow, this,
-        [this, group] { group->actions()[static_cast<int>(mDesk.Settings().colours)]->setChecked(true); });
+    FillColouredBy(*mColours->menu(), desk);
 }
 
 void ProjectRows::Follow(const QString& title)
@@ -103,7 +86,10 @@ void ProjectRows::FillRows()
         mRows[i]->Show(contents[i]);
     }
     if (std::erase_if(mOnly,
-            [this](const std::string& name) { return std::find(mNames.begin(), mNames.end(), name) == mNames.end(); })
+            [this](const std::string& name) {
+                // What has no project stands above the rows.
+                return name != NoProject && std::find(mNames.begin(), mNames.end(), name) == mNames.end();
+            })
         > 0) {
         mShowOnly(mOnly);
     }
@@ -120,6 +106,9 @@ void ProjectRows::MakeRows(std::size_t count)
         auto* row = new ProjectRow(mDesk.Look(), this);
         const auto place = mRows.size();
         connect(row, &QPushButton::clicked, this, [this, place] { Choose(mNames[place]); });
+        row->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(row, &QWidget::customContextMenuRequested, this,
+            [this, place, row](const QPoint& point) { ShowMenu(mNames[place], row->mapToGlobal(point)); });
         mLayout->insertWidget(mLayout->count() - 1, row);
         mRows.push_back(row);
     }
@@ -141,14 +130,28 @@ void ProjectRows::Choose(const std::string& name)
     mShowOnly(mOnly);
 }
 
+void ProjectRows::ShowOnly(const Names& names)
+{
+    mOnly = names;
+    ShowChosen();
+    mShowOnly(mOnly);
+}
+
+void ProjectRows::ShowMenu(const std::string& name, const QPoint& place)
+{
+    QMenu menu(this);
+    connect(menu.addAction(mOnly == Names { name } ? "Show &All" : "Show &Only This"), &QAction::triggered, this,
+        [this, name] { ShowOnly(mOnly == Names { name } ? Names() : Names { name }); });
+    FillTones(*menu.addMenu("&Colour"), mDesk, mLog.ColouredBy(), name);
+    menu.exec(place);
+}
+
 bool ProjectRows::ShowAll()
 {
     if (mOnly.empty()) {
         return false;
     }
-    mOnly.clear();
-    ShowChosen();
-    mShowOnly(mOnly);
+    ShowOnly({});
     return true;
 }
 

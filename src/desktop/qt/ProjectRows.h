@@ -32,6 +32,8 @@ public:
 
     /// The log has changed, or how things look. The title says which days are shown.
     void Follow(const QString& title);
+    /// Shows only what has one of those names; all for none.
+    void ShowOnly(const Names& names);
     /// Shows all again; true when that is a change.
     bool ShowAll();
     /// The name of the project in the row at a point of the screen; nothing when there is none.
@@ -44,7 +46,8 @@ private:
     void MakeRows(std::size_t count);
     void Choose(const std::string& name);
     void ShowChosen();
-    void ChooseColours();
+    /// Opens the menu of a row, at a point of the screen.
+    void ShowMenu(const std::string& name, const QPoint& place);
 
     Desk& mDesk;
     const ShownLog& mLog;

@@ -62,7 +62,7 @@ SelectionBar::SelectionBar(Desk& desk, QWidget* parent)
     inner->addWidget(mMore);
     inner->addSpacing(FootSpacing);
     Button(*inner, "Always, by a rule\u2026", &Wishes::makeRule)->setToolTip("R");
-    Button(*inner, "Why?", &Wishes::askWhy)->setToolTip("Y");
+    Button(*inner, "Why?", &Wishes::askWhy)->setToolTip("Y; again for all projects in a table");
     layout->addWidget(mActions);
     mEnds = Group(this, inner);
     mOpen = Button(*inner, "Open", &Wishes::open);
@@ -91,12 +91,12 @@ void SelectionBar::ShowGroups(bool hasSelection, bool offersSorting)
     mOffers->setVisible(offersSorting);
 }
 
-void SelectionBar::Show(const std::vector<Activity>& selected, std::vector<std::string> projects)
+void SelectionBar::Show(const std::vector<Activity>& selected, std::vector<std::string> projects, const Period& days)
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
     const bool isOne = selected.size() == 1;
     mTitleText = isOne ? ShownLine(words.Title(selected.front())) : ToQt(ActivityWords::Summary(selected));
-    mPlainText = isOne ? ShownLine(words.Summary(selected.front())) : QString();
+    mPlainText = isOne ? ShownLine(words.Summary(selected.front(), days)) : QString();
     Forget(selected);
     mProjects = std::move(projects);
     for (std::size_t i = 0; i < Chips; ++i) {

@@ -41,8 +41,9 @@ public:
 
     Wishes mWishes;
 
-    /// Shows what is selected, and the projects in the order in which they are likely for that.
-    void Show(const std::vector<Activity>& selected, std::vector<std::string> projects);
+    /// Shows what is selected of the days that are shown, and the projects in the order in which they are likely for
+    /// that.
+    void Show(const std::vector<Activity>& selected, std::vector<std::string> projects, const Period& days);
     /// Shows what is to be said while nothing is selected.
     void ShowNothing(const QString& title, const QString& text, bool offersSorting);
     /// Says something for a while, or until something else is selected, in up to four lines; nothing ends it.

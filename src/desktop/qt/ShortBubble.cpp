@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace tempodial {
@@ -17,9 +18,10 @@ constexpr int ShortOneRole = Qt::UserRole;
 
 }
 
-ShortBubble::ShortBubble(const std::vector<Row>& rows, Wishes wishes, QWidget* parent)
-    : QFrame(parent, Qt::Popup)
+ShortBubble::ShortBubble(const std::vector<Row>& rows, Wishes wishes, Opening opening, QWidget* parent)
+    : QFrame(parent, opening == Opening::Asked ? Qt::Popup : Qt::ToolTip)
     , mWishes(std::move(wishes))
+    , mOpening(opening)
     , mList(new QListWidget(this))
 {
     constexpr int MostRows = 12;
@@ -43,8 +45,15 @@ ShortBubble::ShortBubble(const std::vector<Row>& rows, Wishes wishes, QWidget* p
     const auto shown = std::min(mList->count(), MostRows);
     mList->setFixedSize(std::min(mList->sizeHintForColumn(0) + 2 * mList->frameWidth() + MostRows, WidestPixels),
         shown * mList->sizeHintForRow(0) + 2);
-    // All of the run are selected until a person chooses one.
-    mList->setCurrentRow(0);
+    if (IsResting()) {
+        setAttribute(Qt::WA_ShowWithoutActivating);
+        mList->setFocusPolicy(Qt::NoFocus);
+        mLeaving.setSingleShot(true);
+        connect(&mLeaving, &QTimer::timeout, this, [this] { close(); });
+    } else {
+        // All of the run are selected until a person chooses one.
+        mList->setCurrentRow(0);
+    }
     mList->installEventFilter(this);
     connect(mList, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
         if (item != nullptr) {
@@ -57,6 +66,25 @@ ShortBubble::ShortBubble(const std::vector<Row>& rows, Wishes wishes, QWidget* p
         mWishes.open(number);
     });
     setFocusProxy(mList);
+}
+
+void ShortBubble::LeaveSoon()
+{
+    // The pointer takes a moment from one to the other.
+    constexpr std::chrono::milliseconds Moment(300);
+    if (IsResting() && !mLeaving.isActive()) {
+        mLeaving.start(Moment);
+    }
+}
+
+void ShortBubble::enterEvent(QEnterEvent* /*event*/)
+{
+    Stay();
+}
+
+void ShortBubble::leaveEvent(QEvent* /*event*/)
+{
+    LeaveSoon();
 }
 
 std::int64_t ShortBubble::Current() const

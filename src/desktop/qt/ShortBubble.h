@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QTimer>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -27,18 +28,30 @@ public:
         std::function<bool(QKeyEvent& event)> key;
     };
 
-    ShortBubble(const std::vector<Row>& rows, Wishes wishes, QWidget* parent);
+    /// Whether a person has asked for it, so that it takes the focus, or only rests where it belongs: then it goes when
+    /// the pointer has left it and what it belongs to.
+    enum class Opening { Asked, Resting };
+
+    ShortBubble(const std::vector<Row>& rows, Wishes wishes, Opening opening, QWidget* parent);
 
     QListWidget& List() { return *mList; }
+    bool IsResting() const { return mOpening == Opening::Resting; }
+    /// The pointer is on what a resting one belongs to, or has left that.
+    void Stay() { mLeaving.stop(); }
+    void LeaveSoon();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
     std::int64_t Current() const;
 
     Wishes mWishes;
+    Opening mOpening;
     QListWidget* mList;
+    QTimer mLeaving;
 };
 
 }

@@ -7,6 +7,7 @@
 #include "desktop/qt/ShownLine.h"
 
 #include <QBoxLayout>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -29,15 +30,26 @@ SortOutView::SortOutView(Desk& desk, const ShownLog& log, QWidget* parent)
     , mDesk(desk)
     , mLog(log)
     , mTitle(new QLabel(this))
+    , mSpan(new QComboBox(this))
     , mLeft(new QProgressBar(this))
     , mList(new QTreeWidget(this))
+    , mNote(new EmptyNote(*mList))
 {
     constexpr int Margin = 16;
     constexpr int BarHeight = 8;
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, 0);
     layout->setSpacing(Margin / 2);
-    layout->addWidget(mTitle);
+    auto* top = new QHBoxLayout;
+    top->addWidget(mTitle, 1);
+    mSpan->addItems({ "A week", "A month" });
+    mSpan->setAccessibleName("Days to sort out");
+    connect(mSpan, &QComboBox::activated, this, [this](int span) {
+        mDesk.Change(
+            [span](DesktopSettings& settings) { settings.sortOutSpan = static_cast<DesktopSettings::ListSpan>(span); });
+    });
+    top->addWidget(mSpan);
+    layout->addLayout(top);
     layout->addWidget(mLeft);
     layout->addWidget(mList, 1);
     mLeft->setTextVisible(false);
@@ -51,6 +63,8 @@ SortOutView::SortOutView(Desk& desk, const ShownLog& log, QWidget* parent)
     mList->setAccessibleName("Without a project, largest first");
     mList->setObjectName("sort-out");
     mList->installEventFilter(this);
+    mList->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(mList, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) { ShowMenu(place); });
     connect(mList, &QTreeWidget::currentItemChanged, this, [this] { SelectCurrent(); });
     connect(mList, &QTreeWidget::itemDoubleClicked, this, [this](const QTreeWidgetItem* item) {
         if (item->parent() != nullptr) {
@@ -59,15 +73,27 @@ SortOutView::SortOutView(Desk& desk, const ShownLog& log, QWidget* parent)
     });
 }
 
+void SortOutView::ShowMenu(const QPoint& place)
+{
+    // Beside the lines there is nothing to do anything with.
+    if (auto* item = mList->itemAt(place)) {
+        mList->setCurrentItem(item);
+        SelectCurrent();
+        mMenu(mList->viewport()->mapToGlobal(place));
+    }
+}
+
 void SortOutView::Follow()
 {
+    mSpan->setCurrentIndex(static_cast<int>(mDesk.Settings().sortOutSpan));
     auto title = font();
     title.setWeight(QFont::DemiBold);
     mTitle->setFont(title);
     const auto total = mLog.Sums().total;
     const auto unassigned = mLog.UnassignedMinutes();
-    mTitle->setText(unassigned == 0 ? QString("All of these days has a project.")
-                                    : ToQt("No project: " + LengthText(unassigned) + " of " + LengthText(total)));
+    mTitle->setText(total == 0 ? QString()
+            : unassigned == 0  ? QString("All of these days has a project.")
+                               : ToQt("No project: " + LengthText(unassigned) + " of " + LengthText(total)));
     mLeft->setRange(0, static_cast<int>(std::max<std::int64_t>(total, 1)));
     mLeft->setValue(static_cast<int>(unassigned));
     Fill();
@@ -101,7 +127,7 @@ void SortOutView::Fill()
                 && activity.description == group.description) {
                 auto* single = new QTreeWidgetItem(item);
                 single->setText(0, ToQt(LengthText(activity.duration)));
-                single->setText(2, ShownLine(words.Summary(activity)));
+                single->setText(2, ShownLine(words.Summary(activity, mLog.Days())));
                 single->setData(0, NumberRole, static_cast<qlonglong>(activity.number));
             }
         }

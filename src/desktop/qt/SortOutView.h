@@ -2,6 +2,7 @@
 
 #include "desktop/ShownLog.h"
 #include "desktop/qt/Desk.h"
+#include "desktop/qt/EmptyNote.h"
 #include "review/ActivityGroup.h"
 
 #include <QWidget>
@@ -13,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+class QComboBox;
 class QLabel;
 class QProgressBar;
 class QTreeWidget;
@@ -30,6 +32,8 @@ public:
 
     std::function<void(const Numbers& numbers)> mSelect;
     std::function<void(std::int64_t number)> mOpen;
+    /// The menu of what is selected, at a point of the screen.
+    std::function<void(const QPoint& place)> mMenu;
     /// A key that means nothing to the view itself; true when it was taken.
     std::function<bool(QKeyEvent& event)> mKey;
 
@@ -39,6 +43,10 @@ public:
     void Begin();
     const std::vector<ActivityGroup>& Groups() const { return mGroups; }
     QTreeWidget& List() { return *mList; }
+    /// How much time is sorted out.
+    QComboBox& Span() { return *mSpan; }
+    /// Says why there is nothing.
+    EmptyNote& Note() { return *mNote; }
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -56,6 +64,8 @@ private:
     };
 
     void Fill();
+    /// Opens the menu of the line at a place of the list.
+    void ShowMenu(const QPoint& place);
     static GroupName NameOf(const ActivityGroup& group) { return { group.application, group.description }; }
     Place CurrentPlace() const;
     void GoBackTo(const Place& place);
@@ -67,8 +77,10 @@ private:
     Desk& mDesk;
     const ShownLog& mLog;
     QLabel* mTitle;
+    QComboBox* mSpan;
     QProgressBar* mLeft;
     QTreeWidget* mList;
+    EmptyNote* mNote;
     std::vector<ActivityGroup> mGroups;
     bool mIsFilling = false;
     /// What was last selected here.

@@ -5,6 +5,8 @@
 #include "desktop/qt/SidePanel.h"
 #include "review/ActivityReader.h"
 
+#include <gmock/gmock.h>
+
 #include <QScrollBar>
 #include <QTest>
 
@@ -305,6 +307,19 @@ TEST_F(AgendaViewTest, Zoom_SmallSteps_AddUp)
         View().Zoom(0.01);
     }
     EXPECT_GT(View().Scene().Scale().PixelsPerMinute(), before * 1.05);
+}
+
+TEST_F(AgendaViewTest, ToolTip_IsTheSubjectThatOtherProgramsShow)
+{
+    auto& view = mWindow->Agenda();
+    const auto& activity = view.ActivityOf(0);
+    const auto subject = ItemNumbered(mDesk->Profile(), activity.number)->Subject();
+    EXPECT_THAT(subject, testing::StartsWith("[Alpha] "));
+    EXPECT_THAT(view.ToolTipOf(activity).toStdString(), testing::HasSubstr(subject));
+    EXPECT_THAT(view.ToolTipOf(activity).toStdString(), testing::HasSubstr("09:00 – 10:00 · 1 h"));
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    EXPECT_THAT(view.ToolTipOf(activity).toStdString(), testing::HasSubstr("[Alpha] Writer"));
+    EXPECT_THAT(view.ToolTipOf(activity).toStdString(), testing::Not(testing::HasSubstr("Plan")));
 }
 
 }

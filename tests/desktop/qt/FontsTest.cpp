@@ -1,6 +1,7 @@
 #include "ScreensFixture.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -42,8 +43,10 @@ protected:
         for (auto* widget : window.findChildren<QWidget*>()) {
             const bool holdsWords = dynamic_cast<QAbstractButton*>(widget) != nullptr
                 || dynamic_cast<QLabel*>(widget) != nullptr || dynamic_cast<QComboBox*>(widget) != nullptr
+                || dynamic_cast<QAbstractSpinBox*>(widget) != nullptr
                 || (dynamic_cast<QLineEdit*>(widget) != nullptr
-                    && dynamic_cast<QComboBox*>(widget->parentWidget()) == nullptr);
+                    && dynamic_cast<QComboBox*>(widget->parentWidget()) == nullptr
+                    && dynamic_cast<QAbstractSpinBox*>(widget->parentWidget()) == nullptr);
             if (holdsWords && widget->isVisible() && widget->window() == &window) {
                 controls.push_back(widget);
             }

@@ -21,6 +21,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QTreeView>
 #include <algorithm>
@@ -249,9 +250,14 @@ TEST_F(FormWindowTest, ProjectSettings_RuleTyped_ListsWhatItWouldChangeAndThenCh
     EXPECT_TRUE(pane.Effect()->Changes().empty());
     QTest::keyClicks(&Find<QLineEdit>(window, "SubjectText"), "river plan");
     ASSERT_EQ(pane.Effect()->Changes().size(), 1U);
-    EXPECT_EQ(pane.List().model()->rowCount(), 1);
-    EXPECT_EQ(pane.List().model()->index(0, 0).data().toString(), "river plan");
-    EXPECT_EQ(pane.List().model()->index(0, 2).data().toString(), "No Project");
+    const auto cell
+        = [&pane](int row, int column) { return pane.List().model()->index(row, column).data().toString(); };
+    EXPECT_EQ(pane.List().model()->rowCount(), 2);
+    EXPECT_EQ(cell(0, 0), "1  No Project \u2192 Riverside");
+    EXPECT_EQ(cell(0, 1), "30 min");
+    EXPECT_EQ(cell(0, 2), "");
+    EXPECT_EQ(cell(1, 0), "river plan");
+    EXPECT_EQ(cell(1, 2), "No Project");
     const auto number = pane.Effect()->Changes().front().number;
     Picture(window, "effect-pane");
     Find<QCheckBox>(window, "ApplyPastCheck").click();
@@ -268,8 +274,31 @@ TEST_F(FormWindowTest, ProjectSettings_ActivityOpenedFromTheList_IsPassedOver)
     auto& pane = *window.Effect();
     ASSERT_EQ(pane.Effect()->Changes().size(), 1U);
     pane.List().activated(pane.List().model()->index(0, 0));
+    EXPECT_TRUE(mDesk->Windows().OpenInspectors().empty()) << "it gathers several";
+    pane.List().activated(pane.List().model()->index(1, 0));
     EXPECT_EQ(mDesk->Windows().OpenInspectors().size(), 1U);
     EXPECT_TRUE(pane.Effect()->Changes().empty());
+}
+
+TEST_F(FormWindowTest, ProjectSettings_DaysLookedAt_AreThePanesOwnUntilTheFormAppliesBack)
+{
+    Add("", "river plan", "Writer", On(17, 7), On(17, 7, 30));
+    Add("Other", "river bank", "Writer", On(1, 7), On(1, 9));
+    mDesk->Session().AddIn().UpdateorAddProject("Riverside", "river", "", "", "2", false);
+    auto& window = ShowSettings("Riverside");
+    auto& pane = *window.Effect();
+    EXPECT_EQ(pane.Days().value(), 21);
+    EXPECT_EQ(pane.Effect()->Title(),
+        "Saving changes new activities only. Applied back to the last 21 days: 2 activities \u00b7 2 h 30");
+    EXPECT_EQ(pane.List().model()->index(0, 0).data().toString(), "1  Other \u2192 Riverside");
+    EXPECT_EQ(pane.List().model()->index(0, 2).data().toString(), "! overwritten");
+    pane.Days().setValue(3);
+    EXPECT_EQ(pane.Effect()->Changes().size(), 1U);
+    EXPECT_EQ(pane.List().model()->rowCount(), 2);
+    pane.Days().setValue(21);
+    Find<QCheckBox>(window, "ApplyPastCheck").click();
+    EXPECT_FALSE(pane.Days().isVisible());
+    EXPECT_EQ(pane.Effect()->Title(), "Saving changes, in the last 7 days: 1 activity \u00b7 30 min");
 }
 
 TEST_F(FormWindowTest, ProjectSettings_SomethingSelected_OffersItsWordsForTheRule)
@@ -279,6 +308,10 @@ TEST_F(FormWindowTest, ProjectSettings_SomethingSelected_OffersItsWordsForTheRul
     mDesk->Do([] {});
     mMain.SelectAll();
     auto& window = ShowSettings("Riverside");
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    Settle();
+    EXPECT_EQ(window.Effect()->findChildren<QPushButton*>().size(), 0) << "they are words of its title";
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = false; });
     const auto offers = window.Effect()->findChildren<QPushButton*>();
     ASSERT_EQ(offers.size(), 2);
     offers.front()->click();

@@ -247,4 +247,22 @@ TEST_F(InspectorWindowTest, Dragged_Unsaved_StaysAndSavesNothing)
     EXPECT_TRUE(Item()->HasChanges());
 }
 
+TEST_F(InspectorWindowTest, TitlesHidden_StandNeitherInTheWindowsTitleNorInItsListsNorInWhy)
+{
+    mDesk->Session().AddIn().UpdateorAddProject("Alpha", "plan", "", "", "1", false);
+    auto& window = OpenItem(1);
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    EXPECT_EQ(window.windowTitle(), "Mail");
+    auto* menu = window.Commands().ButtonOf("Previous Item")->menu();
+    Q_EMIT menu->aboutToShow();
+    QString texts = window.Why().text();
+    for (const auto* action : menu->actions()) {
+        texts += action->text();
+    }
+    EXPECT_TRUE(texts.contains("Writer")) << texts.toStdString();
+    EXPECT_FALSE(texts.contains("plan", Qt::CaseInsensitive)) << texts.toStdString();
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = false; });
+    EXPECT_EQ(window.windowTitle().toStdString(), mDesk->Windows().OpenInspectors().back()->Caption());
+}
+
 }

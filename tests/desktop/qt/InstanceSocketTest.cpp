@@ -27,15 +27,18 @@ TEST_F(InstanceSocketTest, SecondStart_RaisesTheFirst)
     window.hide();
     InstanceSocket socket(Profile());
     bool isRaised = false;
-    socket.mRaise = [&] {
+    StartWish wish = StartWish::None;
+    socket.mRaise = [&](StartWish told) {
         mWindows->Raise();
         isRaised = true;
+        wish = told;
     };
     bool isReached = false;
-    std::thread second([&] { isReached = InstanceSocket::RaiseOther(Profile()); });
+    std::thread second([&] { isReached = InstanceSocket::RaiseOther(Profile(), StartWish::Report); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return isRaised; }, 10000));
     second.join();
     EXPECT_TRUE(isReached);
+    EXPECT_EQ(wish, StartWish::Report);
     EXPECT_TRUE(window.isVisible());
 }
 
@@ -54,7 +57,8 @@ TEST_F(InstanceSocketTest, Raise_WithAToken_HandsItOnToTheToolkit)
 TEST_F(InstanceSocketTest, OtherCommandsAndNoJson_AreRefused)
 {
     const InstanceSocket socket(Profile());
-    for (const auto* line : { R"({"command": "stop"})", "raise", "", "[]" }) {
+    for (const auto* line :
+        { R"({"command": "raise", "then": "stop"})", R"({"command": "stop"})", "raise", "", "[]" }) {
         EXPECT_NE(socket.Answer(line).find(R"("ok":false)"), std::string::npos) << line;
     }
 }

@@ -1,12 +1,15 @@
 #include "desktop/qt/MainCommands.h"
 
 #include "DesktopFixture.h"
+#include "desktop/KeyGuide.h"
 #include "desktop/qt/AgendaView.h"
+#include "desktop/qt/KeysDialog.h"
 #include "desktop/qt/LogPage.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
+#include "desktop/qt/WhyBubble.h"
 #include "host/windows/BuiltInCommand.h"
 #include "review/ActivityReader.h"
 
@@ -64,6 +67,39 @@ protected:
         });
     }
 
+    /// Does something with the menu that comes, and closes it.
+    void AtMenu(std::function<void(QMenu&)> work)
+    {
+        QTimer::singleShot(0, [this, work = std::move(work)] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            mHasCome = true;
+            work(*menu);
+            menu->close();
+        });
+    }
+    static void Choose(const QMenu& menu, const QString& caption)
+    {
+        for (auto* action : menu.actions()) {
+            if (action->text() == caption) {
+                action->trigger();
+                return;
+            }
+        }
+        ADD_FAILURE() << caption.toStdString();
+    }
+    /// Chooses an entry of the window's own menus.
+    static void Trigger(const MainWindow& window, const QString& caption)
+    {
+        for (auto* action : window.findChildren<QAction*>()) {
+            if (action->text() == caption) {
+                action->trigger();
+                return;
+            }
+        }
+        ADD_FAILURE() << caption.toStdString();
+    }
+
     bool mHasCome = false;
 };
 
@@ -114,13 +150,22 @@ TEST_F(MainCommandsTest, Copy_PutsWhatIsSelectedOnTheClipboard)
         "16/11/2006\t09:00 – 09:30\t30 min\tNo Project\tMail\tInbox\n");
 }
 
-TEST_F(MainCommandsTest, Export_WritesWhatIsShownInTheFormOfItsName)
+TEST_F(MainCommandsTest, Export_WritesWhatIsShownInItsForm)
 {
     auto& window = OpenWithWork();
-    window.Commands().Outlets().Export(mFolder.Path("a.csv"));
+    using ExportForm = LogExport::Form;
+    window.Commands().Outlets().Export(mFolder.Path("a.csv"), ExportForm::Table);
     EXPECT_THAT(mFolder.Read("a.csv"), testing::HasSubstr("2006-11-15T09:00:00,2006-11-15T10:00:00,60,Alpha"));
-    window.Commands().Outlets().Export(mFolder.Path("a.txt"));
+    window.Commands().Outlets().Export(mFolder.Path("a.txt"), ExportForm::Text);
     EXPECT_THAT(mFolder.Read("a.txt"), testing::StartsWith("15/11/2006\t"));
+    window.Commands().Outlets().Export(mFolder.Path("a.ics"), ExportForm::Calendar);
+    EXPECT_THAT(mFolder.Read("a.ics"),
+        testing::AllOf(testing::HasSubstr("DTSTART:20061115T090000\r\n"), testing::HasSubstr("CATEGORIES:Alpha\r\n"),
+            testing::HasSubstr("Plan")));
+    window.Commands().Outlets().Export(mFolder.Path("a.json"), ExportForm::Fields);
+    EXPECT_THAT(mFolder.Read("a.json"),
+        testing::AllOf(testing::StartsWith("["), testing::HasSubstr("\"start\": \"2006-11-15T09:00:00\""),
+            testing::HasSubstr("\"Description\": \"Plan\"")));
 }
 
 TEST_F(MainCommandsTest, ListOfAMonth_ShowsAndPagesMonths)
@@ -227,6 +272,124 @@ TEST_F(MainCommandsTest, N_NameThatTheProductRefuses_ChangesNothing)
     window.SetNewProject();
     EXPECT_FALSE(window.Foot().Said().isEmpty());
     EXPECT_EQ(ActivityAt(mDesk->Profile(), On(15, 9, 10))->project, "Alpha");
+}
+
+TEST_F(MainCommandsTest, Export_TitlesHidden_KeepsThemAtHome)
+{
+    auto& window = OpenWithWork();
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    for (const auto& form : LogExport::Forms) {
+        window.Commands().Outlets().Export(mFolder.Path("hidden"), form.form);
+        EXPECT_THAT(mFolder.Read("hidden"), testing::AllOf(testing::HasSubstr("Writer"), testing::HasSubstr("Alpha")));
+        EXPECT_THAT(mFolder.Read("hidden"),
+            testing::AllOf(testing::Not(testing::HasSubstr("Plan")), testing::Not(testing::HasSubstr("Inbox"))))
+            << form.ending;
+    }
+}
+
+TEST_F(MainCommandsTest, ColourBy_Chosen_IsThatOfThePanel)
+{
+    auto& window = OpenWithWork();
+    Trigger(window, "By &Application");
+    EXPECT_EQ(window.Log().ColouredBy(), Coloured::Application);
+    Trigger(window, "By &Project");
+    EXPECT_EQ(window.Log().ColouredBy(), Coloured::Project);
+}
+
+TEST_F(MainCommandsTest, Keys_ListsAllOfThem)
+{
+    auto& window = OpenWithWork();
+    Trigger(window, "&Keys");
+    auto* dialog = window.findChild<KeysDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    int count = 0;
+    for (int place = 0; place < dialog->List().topLevelItemCount(); ++place) {
+        count += dialog->List().topLevelItem(place)->childCount();
+    }
+    EXPECT_EQ(count, static_cast<int>(KeyGuide().size()));
+    Picture(*dialog, "keys");
+    dialog->close();
+}
+
+TEST_F(MainCommandsTest, OnlyThisProject_FadesTheOthersUntilEscape)
+{
+    auto& window = OpenWithWork();
+    mDesk->Change([](DesktopSettings& settings) { settings.colours = ColourChoice::Project; });
+    window.Select({ ActivityAt(mDesk->Profile(), On(15, 9, 10))->number });
+    AtMenu([](QMenu& menu) { Choose(menu, "O&nly This Project"); });
+    window.Commands().ShowMenu(window.mapToGlobal(QPoint(9, 9)));
+    EXPECT_TRUE(mHasCome);
+    EXPECT_FALSE(window.Agenda().Cards()[0].isFaded);
+    EXPECT_TRUE(window.Agenda().Cards()[1].isFaded);
+    QTest::keyClick(&window.Agenda(), Qt::Key_Escape);
+    EXPECT_FALSE(window.Agenda().Cards()[1].isFaded);
+    // The same of what has none.
+    window.Select({ ActivityAt(mDesk->Profile(), On(16, 9, 10))->number });
+    AtMenu([](QMenu& menu) { Choose(menu, "O&nly This Project"); });
+    window.Commands().ShowMenu(window.mapToGlobal(QPoint(9, 9)));
+    mDesk->Do([] {});
+    EXPECT_TRUE(window.Agenda().Cards()[0].isFaded);
+    EXPECT_FALSE(window.Agenda().Cards()[1].isFaded);
+}
+
+TEST_F(MainCommandsTest, ProjectRow_OtherTone_IsSeenEverywhereAndKept)
+{
+    auto& window = OpenWithWork();
+    mDesk->Change([](DesktopSettings& settings) { settings.colours = ColourChoice::Project; });
+    const auto before = window.Agenda().Cards()[0].style.colours;
+    const auto plum = mLook.CardOf(ToneUse { ToneCount - 1, false });
+    AtMenu([](QMenu& menu) { Choose(*menu.findChild<QMenu*>(), "Plum"); });
+    auto& row = *window.Side().Projects().Rows().front();
+    row.customContextMenuRequested(QPoint(5, 5));
+    EXPECT_TRUE(mHasCome);
+    EXPECT_EQ(window.Agenda().Cards()[0].style.colours, plum);
+    EXPECT_NE(window.Agenda().Cards()[0].style.colours, before);
+    EXPECT_EQ(window.Side().Projects().Rows().front()->Shown().style.colours, plum);
+    EXPECT_THAT(mFolder.Read("profile/colours.toml"), testing::HasSubstr("plum"));
+}
+
+TEST_F(MainCommandsTest, SortOutRow_HasTheMenuOfWhatIsSelected)
+{
+    auto& window = OpenWithWork();
+    window.Show(View::SortOut);
+    Settle();
+    AtMenu([](QMenu& menu) { EXPECT_GT(menu.actions().size(), 5); });
+    auto& list = window.SortOut().List();
+    list.customContextMenuRequested(list.visualItemRect(list.topLevelItem(0)).center());
+    EXPECT_TRUE(mHasCome);
+}
+
+TEST_F(MainCommandsTest, LettersOff_OnlyThoseThatGoElsewhereAreOff)
+{
+    auto& window = OpenWithWork();
+    mDesk->Change([](DesktopSettings& settings) { settings.hasLetterKeys = false; });
+    window.SelectAll();
+    QTest::keyClick(&window.Agenda(), Qt::Key_D);
+    EXPECT_EQ(window.ShownView(), View::Week);
+    QTest::keyClick(&window.Agenda(), Qt::Key_Y);
+    EXPECT_FALSE(window.Foot().Said().isEmpty());
+    mDesk->Change([](DesktopSettings& settings) { settings.hasLetterKeys = true; });
+    QTest::keyClick(&window.Agenda(), Qt::Key_D);
+    EXPECT_EQ(window.ShownView(), View::Day);
+}
+
+TEST_F(MainCommandsTest, Y_PressedAgain_ShowsWhatTheRulesOfAllProjectsSay)
+{
+    mDesk->Session().AddIn().UpdateorAddProject("Alpha", "plan", "", "", "1", false);
+    auto& window = OpenWithWork();
+    window.Select({ ActivityAt(mDesk->Profile(), On(15, 9, 10))->number });
+    QTest::keyClick(&window.Agenda(), Qt::Key_Y);
+    EXPECT_EQ(window.WhyTable(), nullptr);
+    QTest::keyClick(&window.Agenda(), Qt::Key_Y);
+    ASSERT_NE(window.WhyTable(), nullptr);
+    const auto& list = window.WhyTable()->List();
+    ASSERT_GE(list.topLevelItemCount(), 1);
+    EXPECT_EQ(list.topLevelItem(0)->text(0), "Alpha");
+    EXPECT_EQ(list.topLevelItem(0)->text(2), "\"plan\" in the subject");
+    Picture(*window.WhyTable(), "why");
+    QTest::keyClick(&window.WhyTable()->List(), Qt::Key_Escape);
+    Settle();
+    EXPECT_EQ(window.WhyTable(), nullptr);
 }
 
 }

@@ -5,10 +5,14 @@
 #include "desktop/qt/FlatButton.h"
 #include "desktop/qt/NavigationBar.h"
 #include "desktop/qt/SelectionBar.h"
+#include "desktop/qt/SystemTheme.h"
 #include "desktop/qt/WelcomePage.h"
+#include "desktop/qt/WindowPlace.h"
 
 #include <QClipboard>
+#include <QDBusVariant>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 
@@ -191,6 +195,59 @@ TEST_F(MainWindowTest, Appearance_Changed_ShowsTheSameActivities)
         Picture(window, std::string("week-") + name);
         EXPECT_EQ(window.Agenda().Cards().size(), window.Log().Activities().size());
     }
+}
+
+TEST_F(MainWindowTest, SystemTheme_HighContrast_IsFollowedUnlessAnAppearanceIsChosen)
+{
+    Open();
+    const SystemTheme theme({ .dark = [this](bool isDark) { mDesk->FollowSystem(isDark); },
+        .contrast = [this](bool isHigh) { mDesk->FollowSystemContrast(isHigh); } });
+    const auto nested = [](uint value) { return QVariant::fromValue(QDBusVariant(value)); };
+    theme.Take(SystemTheme::Contrast, nested(1));
+    EXPECT_TRUE(mLook.IsHighContrast());
+    EXPECT_FALSE(mLook.IsDark());
+    theme.Take(SystemTheme::ColourScheme, 1U);
+    EXPECT_TRUE(mLook.IsHighContrast());
+    EXPECT_TRUE(mLook.IsDark());
+    theme.Take(SystemTheme::ColourScheme, 0U);
+    EXPECT_TRUE(mLook.IsDark()) << "no wish changes nothing";
+    mDesk->Change([](DesktopSettings& settings) { settings.appearance = DesktopSettings::Appearance::Dark; });
+    EXPECT_FALSE(mLook.IsHighContrast());
+    mDesk->Change([](DesktopSettings& settings) { settings.appearance = DesktopSettings::Appearance::System; });
+    theme.Take(SystemTheme::Contrast, nested(0));
+    EXPECT_FALSE(mLook.IsHighContrast());
+}
+
+TEST_F(MainWindowTest, Closed_NotesSizeAndScreenForTheNext)
+{
+    auto& first = Open();
+    first.resize(1000, 700);
+    const auto screen = first.screen()->name().toStdString();
+    first.close();
+    Settle();
+    EXPECT_EQ(mDesk->Settings().width, 1000);
+    EXPECT_EQ(mDesk->Settings().screen, screen);
+    EXPECT_FALSE(mDesk->Settings().isMaximised);
+    QWidget next;
+    PutWhereLeft(next, mDesk->Settings());
+    EXPECT_EQ(next.size(), QSize(1000, 700));
+    EXPECT_FALSE(next.isMaximized());
+}
+
+TEST_F(MainWindowTest, WindowLeftMaximised_IsSoAgainAndKeepsItsOtherSize)
+{
+    DesktopSettings settings;
+    settings.width = 1000;
+    settings.height = 700;
+    settings.isMaximised = true;
+    settings.screen = "one that was taken away";
+    QWidget window;
+    PutWhereLeft(window, settings);
+    EXPECT_TRUE(window.isMaximized());
+    NotePlace(window, settings);
+    EXPECT_TRUE(settings.isMaximised);
+    EXPECT_EQ(settings.width, 1000);
+    EXPECT_EQ(settings.screen, window.screen()->name().toStdString());
 }
 
 }

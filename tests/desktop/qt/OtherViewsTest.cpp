@@ -136,4 +136,28 @@ TEST_F(OtherViewsTest, JobStrip_JobTakesAWhile_IsShownAndCancels)
     EXPECT_TRUE(window.Job().isHidden());
 }
 
+TEST_F(OtherViewsTest, EmptyDays_EachViewSaysSoAndLeadsToTheLast)
+{
+    auto& window = Open();
+    for (const auto view : { View::Week, View::List, View::SortOut }) {
+        window.Show(view, On(27, 0));
+        auto& note = view == View::Week ? window.Agenda().Note()
+                                        : (view == View::List ? window.List().Note() : window.SortOut().Note());
+        EXPECT_TRUE(note.isVisible());
+        EXPECT_TRUE(note.text().contains("Nothing was recorded in these days.")) << note.text().toStdString();
+        note.linkActivated("#");
+        EXPECT_FALSE(note.isVisible());
+        EXPECT_EQ(window.Log().Days().first, On(13, 0));
+    }
+}
+
+TEST_F(OtherViewsTest, SearchInTheWholeLog_InVain_SaysSo)
+{
+    auto& window = Open();
+    window.Bar().SearchField().setText("nowhere");
+    QTest::keyClick(&window.Bar().SearchField(), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.List().Note().text().contains("the whole log"); }));
+    EXPECT_TRUE(window.List().Note().isVisible());
+}
+
 }

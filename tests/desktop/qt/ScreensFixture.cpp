@@ -152,7 +152,7 @@ QWidget& ScreensFixture::Report()
 
 QWidget& ScreensFixture::Settings()
 {
-    mAutostart = std::make_unique<Autostart>(mFolder.Path("autostart/a.desktop"), "/bin/a");
+    mAutostart = std::make_unique<Autostart>(mFolder.Path(), "/bin/a", std::nullopt);
     mDialog = std::make_unique<SettingsDialog>(*mDesk, *mAutostart, nullptr);
     mDialog->setAttribute(Qt::WA_DeleteOnClose, false);
     mDialog->show();

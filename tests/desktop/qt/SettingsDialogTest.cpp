@@ -29,7 +29,7 @@ protected:
     QCheckBox& Check(const char* name) { return *qobject_cast<QCheckBox*>(mDialog->ControlOf(name)); }
     ~SettingsDialogTest() override { delete mDialog; }
 
-    Autostart mAutostart { mFolder.Path("autostart/a.desktop"), "/bin/a" };
+    Autostart mAutostart { mFolder.Path(), "/bin/a", std::nullopt };
     QPointer<SettingsDialog> mDialog;
 };
 

@@ -5,6 +5,7 @@
 #include "desktop/qt/SelectionBar.h"
 #include "review/ActivityReader.h"
 
+#include <QHelpEvent>
 #include <QListWidget>
 #include <QNativeGestureEvent>
 #include <QPointingDevice>
@@ -33,6 +34,14 @@ protected:
         const auto box = View().InView(*scene.Runs().front().LabelBox(scene.LabelHeight()));
         QTest::mouseClick(View().viewport(), Qt::LeftButton, {}, box.center().toPoint());
         return View().Bubble()->List();
+    }
+    /// A person rests with the pointer on the label of the run.
+    void Rest()
+    {
+        const auto& scene = View().Scene();
+        const auto place = View().InView(*scene.Runs().front().LabelBox(scene.LabelHeight())).center().toPoint();
+        QHelpEvent rest(QEvent::ToolTip, place, View().viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(View().viewport(), &rest);
     }
 
     MainWindow* mWindow;
@@ -82,6 +91,44 @@ TEST_F(ShortBubbleTest, Pinch_Zooms)
         View().viewport()->mapToGlobal(place), 0.3, {});
     QCoreApplication::sendEvent(View().viewport(), &pinch);
     EXPECT_GT(View().Scene().Scale().PixelsPerMinute(), before * 1.2);
+}
+
+TEST_F(ShortBubbleTest, RestingOnTheLabel_OpensTheListWithoutTheFocusUntilThePointerLeaves)
+{
+    mWindow->activateWindow();
+    View().setFocus();
+    Settle();
+    Rest();
+    ASSERT_NE(View().Bubble(), nullptr);
+    EXPECT_TRUE(View().Bubble()->IsResting());
+    EXPECT_EQ(View().Bubble()->List().count(), 3);
+    EXPECT_TRUE(View().hasFocus());
+    EXPECT_TRUE(mWindow->Selected().empty());
+    // Into the list it goes by what lies between, and from there away.
+    QTest::mouseMove(View().viewport(), QPoint(2, 2));
+    QEnterEvent enter({}, {}, {});
+    QCoreApplication::sendEvent(View().Bubble(), &enter);
+    QTest::qWait(500);
+    ASSERT_NE(View().Bubble(), nullptr);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(View().Bubble(), &leave);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return View().Bubble() == nullptr; }));
+}
+
+TEST_F(ShortBubbleTest, RestingOnTheLabel_AClickOpensTheListWithTheFocus)
+{
+    Rest();
+    OpenList();
+    EXPECT_FALSE(View().Bubble()->IsResting());
+    EXPECT_EQ(mWindow->Selected().size(), 3U);
+}
+
+TEST_F(ShortBubbleTest, RestingOnTheLabel_EscapeEndsIt)
+{
+    Rest();
+    QTest::keyClick(&View(), Qt::Key_Escape);
+    Settle();
+    EXPECT_EQ(View().Bubble(), nullptr);
 }
 
 }

@@ -3,6 +3,7 @@
 #include "DesktopFixture.h"
 #include "desktop/qt/AgendaView.h"
 
+#include <QComboBox>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -51,6 +52,24 @@ TEST_F(SortOutViewTest, HundredGroups_ByKeyboardAlone_TakeOneStrokeEach)
     for (const auto& activity : window.Log().Activities()) {
         EXPECT_TRUE(activity.isProjectByHand) << activity.description;
     }
+}
+
+TEST_F(SortOutViewTest, Span_AMonth_SortsOutAllOfItAndPagesMonths)
+{
+    Add("", "Early", "Writer", On(1, 8), On(1, 9));
+    Add("", "Late", "Writer", On(15, 8), On(15, 9));
+    auto& window = Open();
+    window.Show(DesktopSettings::View::SortOut);
+    auto& view = window.SortOut();
+    EXPECT_EQ(view.Groups().size(), 1U);
+    view.Span().setCurrentIndex(1);
+    view.Span().activated(1);
+    EXPECT_EQ(view.Groups().size(), 2U);
+    EXPECT_EQ(mDesk->Settings().sortOutSpan, DesktopSettings::ListSpan::Month);
+    window.Page(-1);
+    EXPECT_EQ(window.Log().Days().last, Date::FromYearMonthDay(2006, 10, 31));
+    window.Show(DesktopSettings::View::Week);
+    EXPECT_EQ(window.Log().DayCount(), 7);
 }
 
 }
