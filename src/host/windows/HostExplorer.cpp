@@ -63,6 +63,7 @@ void HostExplorer::SetCurrentView(const std::string& name)
     }
     mViews[mFolder->EntryID()] = view->Name();
     Changed();
+    mWindowEvents.Raise(&HostWindowEvents::ViewApplied);
 }
 
 Ref<Selection> HostExplorer::Selection()

@@ -15,6 +15,9 @@ struct HostWindowEvents
     std::function<void()> BroughtToFront;
     /// The window is gone for good.
     std::function<void()> Ended;
+    /// A view was applied to the folder of an explorer, perhaps the one that it had; it is only to be taken note of
+    /// too.
+    std::function<void()> ViewApplied;
 };
 
 /// What whoever draws the host's windows of a kind wants to know.
