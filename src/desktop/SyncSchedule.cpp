@@ -21,7 +21,8 @@ constexpr std::int64_t Sleep = 2 * LongestWait;
 }
 
 SyncSchedule::SyncSchedule(Date start)
-    : mDue(start.AddSeconds(AfterStart))
+    : mEarliest(start.AddSeconds(AfterStart))
+    , mDue(mEarliest)
     , mLastRun(start)
     , mLastAsked(start)
 {
@@ -32,6 +33,7 @@ bool SyncSchedule::IsDue(Date now)
     const auto silence = SecondsBetween(mLastAsked, now);
     mLastAsked = now;
     if (silence < 0 || silence > Sleep) {
+        mEarliest = std::min(mEarliest, now);
         BringForward(now);
     }
     return now >= mDue;
@@ -64,7 +66,7 @@ void SyncSchedule::FileGrew(Date now)
 
 void SyncSchedule::BringForward(Date moment)
 {
-    mDue = std::min(mDue, moment);
+    mDue = std::min(mDue, std::max(moment, mEarliest));
 }
 
 }

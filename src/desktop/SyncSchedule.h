@@ -24,12 +24,13 @@ public:
     void Ran(Date now);
     /// The window came to the front.
     void CameToFront(Date now);
-    /// Today's tracker file grew.
+    /// Today's tracker file grew, or is there now.
     void FileGrew(Date now);
 
 private:
     void BringForward(Date moment);
 
+    Date mEarliest;
     Date mDue;
     Date mLastRun;
     Date mLastAsked;

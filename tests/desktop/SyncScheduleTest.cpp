@@ -64,6 +64,12 @@ TEST_F(SyncScheduleTest, FileGrew_Again_DoesNotPutItOff)
     EXPECT_EQ(DueFrom(ClockAt(9, 0, 31)), ClockAt(9, 0, 32));
 }
 
+TEST_F(SyncScheduleTest, FileGrew_InTheFirstMoments_WaitsForTheirEnd)
+{
+    mSchedule.FileGrew(ClockAt(9, 0, 0));
+    EXPECT_EQ(DueFrom(ClockAt(9, 0, 0)), ClockAt(9, 0, 6));
+}
+
 TEST_F(SyncScheduleTest, IsDue_AfterSleep_IsAtOnce)
 {
     mSchedule.Ran(ClockAt(9, 0, 20));

@@ -64,8 +64,8 @@ void PeriodicImport::Watch()
     if (!watched.isEmpty()) {
         mWatcher.removePaths(watched);
     }
-    if (QFileInfo::exists(path)) {
-        mWatcher.addPath(path);
+    if (QFileInfo::exists(path) && mWatcher.addPath(path)) {
+        mSchedule.FileGrew(mDesk.Now());
     }
 }
 
