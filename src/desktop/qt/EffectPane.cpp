@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QSpinBox>
 #include <QTreeView>
+#include <exception>
 
 namespace tempodial {
 
@@ -127,13 +128,26 @@ void EffectPane::Follow()
     mBasis = std::move(basis);
     mEffect.emplace(mBasis->edit, RuledProject::ReadAll(mDesk.Profile()), mBasis->open, mBasis->today);
     mModel->Show(*mEffect);
+    mTimer.start();
     GoOn();
-    if (!mEffect->IsDone()) {
-        mTimer.start();
-    }
 }
 
 void EffectPane::GoOn()
+{
+    try {
+        Read();
+    } catch (const std::exception& failure) {
+        mTimer.stop();
+        mDesk.Fail(failure);
+        return;
+    }
+    if (mEffect->IsDone()) {
+        mTimer.stop();
+    }
+    ShowWords();
+}
+
+void EffectPane::Read()
 {
     if (!mEffect->IsDone()) {
         const auto& profile = mDesk.Profile();
@@ -141,10 +155,6 @@ void EffectPane::GoOn()
             .lastStartBefore = [&profile](Date moment) { return LastStartBefore(profile, moment); } });
         mModel->ShowMore();
     }
-    if (mEffect->IsDone()) {
-        mTimer.stop();
-    }
-    ShowWords();
 }
 
 void EffectPane::ShowWords()

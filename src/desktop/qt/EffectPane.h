@@ -55,6 +55,7 @@ private:
     RuleEdit Edit();
     Basis Now();
     void GoOn();
+    void Read();
     void ShowWords();
     void FollowOffers();
     void AddTerm(const std::string& term);

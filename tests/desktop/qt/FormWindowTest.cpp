@@ -10,6 +10,7 @@
 #include "platform/controls/OptionButton.h"
 #include "platform/controls/TextBox.h"
 #include "review/ActivityReader.h"
+#include "support/TestDatabase.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -264,6 +265,26 @@ TEST_F(FormWindowTest, ProjectSettings_RuleTyped_ListsWhatItWouldChangeAndThenCh
     EXPECT_EQ(pane.Effect()->Title(), "Saving changes, in the last 7 days: 1 activity · 30 min");
     QTest::mouseClick(&Find<QPushButton>(window, "SaveandCloseButton"), Qt::LeftButton);
     EXPECT_EQ(ActivityNumbered(mDesk->Profile(), number)->project, "Riverside");
+}
+
+TEST_F(FormWindowTest, ProjectSettings_LogCantBeRead_IsSaidOnce)
+{
+    Add("", "river plan", "Writer", On(17, 7), On(17, 7, 30));
+    Add("", "river walk", "Writer", On(17, 7).AddDays(-30), On(17, 8).AddDays(-30));
+    mDesk->Session().AddIn().UpdateorAddProject("Riverside", "river", "", "", "2", false);
+    auto& window = ShowSettings("Riverside");
+    Find<QCheckBox>(window, "ApplyPastCheck").click();
+    auto& days = Find<QLineEdit>(window, "DaysText");
+    days.selectAll();
+    QTest::keyClicks(&days, "60");
+    ASSERT_FALSE(window.Effect()->Effect()->IsDone());
+    int failures = 0;
+    const auto failed = mDesk->Subscribe({ .Failed = [&failures](const std::string&) { ++failures; } });
+    auto& database = TestDatabase(mDesk->Session().Mailbox());
+    database.Execute("ALTER TABLE item RENAME TO away");
+    QTest::qWait(100);
+    EXPECT_EQ(failures, 1);
+    database.Execute("ALTER TABLE away RENAME TO item");
 }
 
 TEST_F(FormWindowTest, ProjectSettings_ActivityOpenedFromTheList_IsPassedOver)
