@@ -81,6 +81,79 @@ TEST_F(OtherViewsTest, SearchField_Enter_FindsInTheWholeLog)
     auto& window = Open();
     QTest::keyClicks(&window.Bar().SearchField(), "letter");
     QTest::keyClick(&window.Bar().SearchField(), Qt::Key_Return);
+TEST_F(OtherViewsTest, List_OthersComeAndGo_TheCurrentRowStaysOnItsActivity)
+{
+    auto& window = Open();
+    window.Show(View::List, On(15, 0));
+    auto& list = window.List();
+    const auto current = [&list] { return *list.Model().ActivityOf(list.currentIndex().row()); };
+    list.setCurrentIndex(list.model()->index(1, 0));
+    const auto plan = current().number;
+    mDesk->Do([this] { Add("Alpha", "Earlier", "Writer", On(14, 9), On(14, 10)); });
+    EXPECT_EQ(current().number, plan);
+    list.setCurrentIndex(list.model()->index(4, 0));
+    const auto news = current();
+    EXPECT_EQ(news.description, "News");
+    mDesk->Do([&] { LogDoings(mDesk->Session()).Delete({ plan }); });
+    EXPECT_EQ(current().number, news.number);
+}
+
+TEST_F(OtherViewsTest, List_ViewIsRefreshed_HasItsWidthsAndElseThoseOfThePerson)
+{
+    auto& window = Open();
+    window.Show(View::List, On(15, 0));
+    constexpr int Dragged = 77;
+    auto* header = window.List().header();
+    header->resizeSection(1, Dragged);
+    mDesk->Do([this] { Add("Alpha", "Sheet", "Calc", On(15, 13), On(15, 14)); });
+    EXPECT_EQ(header->sectionSize(1), Dragged);
+    const auto views = WorkLogOf(mDesk->Profile())->Views();
+    const auto view = views->ItemNamed(std::string(ProductName) + " List");
+    ASSERT_TRUE(view);
+    auto xml = view->XML();
+    const auto width = std::to_string(window.List().Model().Layout().columns[1].width);
+    const auto place = xml.find("<width>" + width + "</width>");
+    ASSERT_NE(place, std::string::npos) << xml;
+    mDesk->Do([&] {
+        view->SetXML(xml.replace(place, width.size() + 15, "<width>123</width>"));
+        view->Save();
+        Add("Alpha", "Sheet", "Calc", On(15, 14), On(15, 15));
+    });
+    EXPECT_EQ(header->sectionSize(1), 123);
+}
+
+TEST_F(OtherViewsTest, List_Shown_TheAgendaBehindItHoldsNothing)
+{
+    auto& window = Open();
+    window.Show(View::List, On(15, 0));
+    EXPECT_TRUE(window.Agenda().Scene().Activities().empty());
+    EXPECT_TRUE(window.Agenda().Cards().empty());
+    window.Agenda().Zoom(1);
+    mDesk->Change([](DesktopSettings& settings) { settings.appearance = DesktopSettings::Appearance::Dark; });
+    mDesk->Do([this] { Add("Alpha", "Sheet", "Calc", On(15, 13), On(15, 14)); });
+    EXPECT_TRUE(window.Agenda().Cards().empty());
+    window.Agenda().Zoom(-1);
+    window.Show(View::Week);
+    EXPECT_EQ(window.Agenda().Cards().size(), 5U);
+    EXPECT_EQ(window.Agenda().Cards().size(), window.Agenda().Scene().Activities().size());
+}
+
+TEST_F(OtherViewsTest, List_ShownForAMoment_TheAgendaIsScrolledAsItWas)
+{
+    auto& window = Open();
+    window.resize(900, 400);
+    Settle();
+    auto* bar = window.Agenda().verticalScrollBar();
+    bar->setValue(bar->maximum());
+    const auto scrolled = bar->value();
+    ASSERT_GT(scrolled, 0);
+    window.Show(View::List, On(15, 0));
+    Settle();
+    window.Show(View::Week);
+    Settle();
+    EXPECT_EQ(bar->value(), scrolled);
+}
+
     ASSERT_TRUE(QTest::qWaitFor([&] { return window.Foot().Title().contains("found in the whole log"); }));
     EXPECT_THAT(Lines(window.List()), testing::Contains(QString("Old letter")));
     window.Bar().SearchField().clear();
