@@ -108,8 +108,22 @@ void AgendaMouse::SelectRun(const AgendaHit& hit, bool adds)
     for (auto i = run.pieces.begin; i < run.pieces.end; ++i) {
         selected.insert(mView.ActivityOf(i).number);
     }
+    mNumber = mView.ActivityOf(run.pieces.begin).number;
     mView.SetFocusOn(run.pieces.begin);
     mView.mWishes.select(selected);
+}
+
+void AgendaMouse::ShowRunOf(std::int64_t number)
+{
+    const auto& runs = mView.Scene().Runs();
+    for (std::size_t run = 0; run < runs.size(); ++run) {
+        for (auto i = runs[run].pieces.begin; i < runs[run].pieces.end; ++i) {
+            if (mView.ActivityOf(i).number == number) {
+                mView.ShowRun(run);
+                return;
+            }
+        }
+    }
 }
 
 void AgendaMouse::Move(const QMouseEvent& event)
@@ -190,7 +204,8 @@ void AgendaMouse::Release(const QMouseEvent& event)
         if (IsOnPiece(mHit) && mIsAloneOnRelease) {
             mView.mWishes.select({ mNumber });
         } else if (mHit.part == AgendaHit::Part::Label && !event.modifiers().testFlag(Qt::ControlModifier)) {
-            mView.ShowRun(mHit.index);
+            // Others may have come since the press.
+            ShowRunOf(mNumber);
         }
     } else if (!IsOnPiece(mHit)) {
         mView.mWishes.select(mView.Selected());

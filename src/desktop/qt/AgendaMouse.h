@@ -47,6 +47,8 @@ private:
     std::optional<std::size_t> RunAt(const AgendaHit& hit) const;
     /// The pointer is on something else, perhaps no more on what has opened a list by resting.
     void FollowRest(const AgendaHit& hit) const;
+    /// Opens the list of the run that the one of that number is in; does nothing when it is in none any more.
+    void ShowRunOf(std::int64_t number);
     void ShowCursor(const AgendaHit& hit) const;
     void Drag(const QMouseEvent& event);
     void Band(const QMouseEvent& event);
@@ -63,6 +65,7 @@ private:
     AgendaHit mHit;
     std::optional<DragGesture> mDrag;
     std::optional<TimeSpan> mTimes;
+    /// The activity that was pressed on, or the first of the run whose label was.
     std::int64_t mNumber = 0;
     /// A click without a drag selects this one alone of several.
     bool mIsAloneOnRelease = false;

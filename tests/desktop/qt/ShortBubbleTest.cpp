@@ -58,6 +58,33 @@ TEST_F(ShortBubbleTest, Label_Clicked_ListsTheShortOnes)
     Picture(list, "short-bubble");
 }
 
+TEST_F(ShortBubbleTest, Label_OthersComeDuringTheClick_ListsThoseThatWereClickedOn)
+{
+    const auto& scene = View().Scene();
+    const auto place = View().InView(*scene.Runs().front().LabelBox(scene.LabelHeight())).center().toPoint();
+    QTest::mousePress(View().viewport(), Qt::LeftButton, {}, place);
+    mDesk->Do([this] {
+        for (int i = 0; i < 3; ++i) {
+            Add("", "Chat " + std::to_string(i), "Chat", On(14, 10, 2 * i), On(14, 10, 2 * i + 2));
+        }
+    });
+    ASSERT_EQ(View().Scene().Runs().size(), 2U);
+    QTest::mouseRelease(View().viewport(), Qt::LeftButton, {}, place);
+    ASSERT_NE(View().Bubble(), nullptr);
+    EXPECT_TRUE(View().Bubble()->List().item(0)->text().startsWith("Mail 0"));
+}
+
+TEST_F(ShortBubbleTest, Label_TheyGoDuringTheClick_OpensNothing)
+{
+    const auto& scene = View().Scene();
+    const auto place = View().InView(*scene.Runs().front().LabelBox(scene.LabelHeight())).center().toPoint();
+    QTest::mousePress(View().viewport(), Qt::LeftButton, {}, place);
+    mWindow->DeleteSelected();
+    EXPECT_TRUE(View().Scene().Runs().empty());
+    QTest::mouseRelease(View().viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(View().Bubble(), nullptr);
+}
+
 TEST_F(ShortBubbleTest, Key_SetsTheProjectOfTheRow)
 {
     auto& list = OpenList();
