@@ -164,4 +164,19 @@ SettingsFile DesktopSettings::Keep(const std::string& path) const
     return file;
 }
 
+SettingsFile DesktopSettings::KeepOver(
+    const DesktopSettings& others, const DesktopSettings& before, const std::string& path) const
+{
+    auto file = others.Keep(path);
+    const auto kept = before.Keep(path);
+    const auto now = Keep(path);
+    for (std::size_t i = 0; i < file.records.front().settings.size(); ++i) {
+        const auto& value = now.records.front().settings[i].value;
+        if (value != kept.records.front().settings[i].value) {
+            file.records.front().settings[i].value = value;
+        }
+    }
+    return file;
+}
+
 }

@@ -62,6 +62,8 @@ struct DesktopSettings
     static DesktopSettings Read(const SettingsFile& file);
     /// The file with that path that holds them.
     SettingsFile Keep(const std::string& path) const;
+    /// The file with that path that holds others, and of these what is different from what they were.
+    SettingsFile KeepOver(const DesktopSettings& others, const DesktopSettings& before, const std::string& path) const;
 };
 
 }

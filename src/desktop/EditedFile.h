@@ -18,7 +18,9 @@ public:
     template <class Take> auto TakenBy(const Take& take)
     {
         try {
-            return take(ReadSettingsFile(mPath));
+            auto taken = take(ReadSettingsFile(mPath));
+            mRefusal.clear();
+            return taken;
         } catch (const SettingsFileError& error) {
             mRefusal = error.what();
         }

@@ -63,6 +63,23 @@ TEST_F(DesktopSettingsTest, Keep_EverySetting_IsReadAgain)
     EXPECT_EQ(DesktopSettings::Read(ReadSettingsFile(mFolder.Path("kept.toml"))), settings);
 }
 
+TEST_F(DesktopSettingsTest, KeepOver_Others_ChangesOnlyWhatIsDifferentFromBefore)
+{
+    DesktopSettings before;
+    before.zoom = 200;
+    auto settings = before;
+    settings.hidesTitles = true;
+    settings.locale = "de_DE";
+    DesktopSettings others;
+    others.locale = "fr_FR";
+    others.width = 800;
+    WriteSettingsFile(settings.KeepOver(others, before, mFolder.Path("kept.toml")));
+    auto expected = others;
+    expected.hidesTitles = true;
+    expected.locale = "de_DE";
+    EXPECT_EQ(DesktopSettings::Read(ReadSettingsFile(mFolder.Path("kept.toml"))), expected);
+}
+
 TEST_F(DesktopSettingsTest, FirstDayOfWeek_Set_GoesBeforeTheLocale)
 {
     DesktopSettings settings;

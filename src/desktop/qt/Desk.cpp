@@ -51,6 +51,7 @@ Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& 
     , mSettingsFile(std::move(settingsPath))
     , mSettings(mSettingsFile.TakenBy(DesktopSettings::Read))
     , mSession(Localised(options, mSettings))
+    , mKeptSettings(mSettings)
     , mLog(mSession.Profile())
     , mColoursFile(mSession.Profile().Path() + "/" + ColourBook::FileName)
     , mColours(mColoursFile.TakenBy([](const SettingsFile& file) { return ColourBook(file); }))
@@ -152,9 +153,12 @@ void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
     const auto before = mSettings;
     change(mSettings);
     if (mSettings != before) {
-        Write("settings", mSettingsFile, [this] { mSettingsFile.PutAside(); });
         KeepSettings();
     }
+        if (!mSettingsFile.Refusal().empty()) {
+            Write("settings", mSettingsFile, [this] { mSettingsFile.PutAside(); });
+            KeepSettings();
+        }
     if (mSettings.appearance != before.appearance) {
         mAppearance.Apply(mSettings.appearance);
     }
@@ -214,7 +218,14 @@ std::string Desk::Notice() const
 void Desk::KeepSettings()
 {
     mSettingsTimer.stop();
-    Write("settings", mSettingsFile, [this] { mSettingsFile.Keep(mSettings.Keep(mSettingsFile.Path())); });
+    Write("settings", mSettingsFile, [this] {
+        mSettingsFile.Keep(mSettingsFile.TakenBy([this](const SettingsFile& file) {
+            // Where there is no file all is kept.
+            return file.records.empty() ? mSettings.Keep(file.path)
+                                        : mSettings.KeepOver(DesktopSettings::Read(file), mKeptSettings, file.path);
+        }));
+        mKeptSettings = mSettings;
+    });
 }
 
 void Desk::KeepColours()

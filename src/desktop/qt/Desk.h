@@ -126,6 +126,7 @@ private:
     void TellTroubles();
     /// Looks as the settings and the desktop say, which has changed.
     void Restyle();
+    /// Puts what has changed into the file, in which another program may have put its own.
     void KeepSettings();
     void KeepColours();
     /// Writes one of the program's own files, of which a person is told in such words when that fails.
@@ -134,6 +135,8 @@ private:
     Appearance& mAppearance;
     EditedFile mSettingsFile;
     DesktopSettings mSettings;
+    /// As they were when they were read or kept last.
+    DesktopSettings mKeptSettings;
     QTimer mSettingsTimer;
     tempodial::Session mSession;
     LogWatch mLog;

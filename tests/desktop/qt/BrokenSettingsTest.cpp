@@ -66,6 +66,45 @@ TEST_F(BrokenSettingsTest, ASettingIsChanged_KeepsTheFileBeside)
     EXPECT_EQ(Open().Foot().Said(), "");
 }
 
+TEST_F(BrokenSettingsTest, AnotherProgramsSettings_StayBesideOwnChanges)
+{
+    mFolder.Write("config/desktop.toml", "[[desktop]]\nappearance = \"dark\"\nzoom = 200\n");
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    EXPECT_NE(mDesk->Settings().appearance, DesktopSettings::Appearance::Dark) << "this window stays as it is";
+    mDesk->Remember([](DesktopSettings& settings) { settings.view = DesktopSettings::View::Day; });
+    Restart();
+    EXPECT_EQ(mDesk->Settings().appearance, DesktopSettings::Appearance::Dark);
+    EXPECT_TRUE(mDesk->Settings().hidesTitles);
+    EXPECT_EQ(mDesk->Settings().view, DesktopSettings::View::Day);
+    EXPECT_EQ(mDesk->Settings().zoom, 200);
+}
+
+TEST_F(BrokenSettingsTest, SettingsThatBreakMeanwhile_AreKeptBesideWhenOneIsChanged)
+{
+    mFolder.Write("config/desktop.toml", Broken);
+    mDesk->Remember([](DesktopSettings& settings) { settings.view = DesktopSettings::View::Day; });
+    EXPECT_EQ(mFolder.Read("config/desktop.toml"), Broken);
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    EXPECT_EQ(mFolder.Read("config/desktop.toml.broken"), Broken);
+    Restart();
+    EXPECT_THAT(mDesk->Notice(), IsEmpty());
+    EXPECT_EQ(mDesk->Settings().view, DesktopSettings::View::Day);
+    EXPECT_EQ(mDesk->Settings().zoom, 200);
+    EXPECT_TRUE(mDesk->Settings().hidesTitles);
+}
+
+TEST_F(BrokenSettingsTest, SettingsCorrectedMeanwhile_AreTheOnesThatAChangeGoesInto)
+{
+    mFolder.Write("config/desktop.toml", Broken);
+    Restart();
+    mFolder.Write("config/desktop.toml", "[[desktop]]\nzoom = 300\n");
+    mDesk->Change([](DesktopSettings& settings) { settings.hidesTitles = true; });
+    EXPECT_FALSE(mFolder.Has("config/desktop.toml.broken"));
+    Restart();
+    EXPECT_EQ(mDesk->Settings().zoom, 300);
+    EXPECT_TRUE(mDesk->Settings().hidesTitles);
+}
+
 TEST_F(BrokenSettingsTest, SettingsThatAreAFolder_AreToldToo)
 {
     ASSERT_EQ(std::remove(mSettingsPath.c_str()), 0);
