@@ -12,6 +12,7 @@
 #include "session/WorkWeek.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <optional>
@@ -50,8 +51,8 @@ Desk::Desk(const ProfileOptions& options, std::string settingsPath, Appearance& 
     : mAppearance(appearance)
     , mSettingsFile(std::move(settingsPath))
     , mSettings(mSettingsFile.TakenBy(DesktopSettings::Read))
-    , mSession(Localised(options, mSettings))
     , mKeptSettings(mSettings)
+    , mSession(Localised(options, mSettings))
     , mLog(mSession.Profile())
     , mColoursFile(mSession.Profile().Path() + "/" + ColourBook::FileName)
     , mColours(mColoursFile.TakenBy([](const SettingsFile& file) { return ColourBook(file); }))
@@ -154,11 +155,11 @@ void Desk::Change(const std::function<void(DesktopSettings& settings)>& change)
     change(mSettings);
     if (mSettings != before) {
         KeepSettings();
-    }
         if (!mSettingsFile.Refusal().empty()) {
             Write("settings", mSettingsFile, [this] { mSettingsFile.PutAside(); });
             KeepSettings();
         }
+    }
     if (mSettings.appearance != before.appearance) {
         mAppearance.Apply(mSettings.appearance);
     }
@@ -295,11 +296,13 @@ void Desk::Guarded(const std::function<void()>& work)
 
 void Desk::Follow()
 {
-    const auto now = std::chrono::steady_clock::now();
-    if (now - mFollowed >= BetweenFollows) {
-        mFollowed = now;
+    using Steady = std::chrono::steady_clock;
+    const auto begin = Steady::now();
+    if (begin >= mNextFollow) {
         // The job goes on although a window couldn't be drawn.
         Guarded([this] { mEvents.Raise(&DeskEvents::Changed); });
+        const auto end = Steady::now();
+        mNextFollow = end + std::max<Steady::duration>(BetweenFollows, end - begin);
     }
 }
 

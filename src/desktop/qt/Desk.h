@@ -104,7 +104,7 @@ public:
     void Do(const std::function<void()>& work) noexcept;
     /// True while something is being done.
     bool IsBusy() const { return mDepth > 0; }
-    /// Brings the windows up to date during a job, a few times a second.
+    /// Brings the windows up to date during a job, a few times a second, and for at most half of the time.
     void Follow();
     /// The desktop is dark, or light, which matters when the program is to look as it does.
     void FollowSystem(bool isDark);
@@ -146,7 +146,8 @@ private:
     Period::WeekStart mWeekStart;
     int mDepth = 0;
     bool mStaysWhenClosed = false;
-    std::chrono::steady_clock::time_point mFollowed;
+    /// From when on the windows follow a job again.
+    std::chrono::steady_clock::time_point mNextFollow;
     EventSource<DeskEvents> mEvents;
 };
 

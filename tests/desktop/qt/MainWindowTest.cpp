@@ -16,6 +16,8 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include <chrono>
+#include <thread>
 namespace tempodial {
 
 class MainWindowTest : public DesktopFixture
@@ -101,6 +103,45 @@ TEST_F(MainWindowTest, Search_Words_ShowsWhatMatchesAndKeepsTheSums)
 }
 
 TEST_F(MainWindowTest, Log_Changed_IsShownAtOnce)
+TEST_F(MainWindowTest, Foot_WordsAreSearched_CountsWhatIsFound)
+{
+    Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 13));
+    Add("", "Inbox", "Mail", On(15, 13), On(15, 13, 30));
+    auto& window = Open();
+    EXPECT_EQ(window.Foot().Title(), "2 activities");
+    window.Search("inb");
+    EXPECT_EQ(window.Foot().Title(), "1 activity") << "most of the week has a project";
+}
+
+TEST_F(MainWindowTest, Foot_WordsAreSearchedWhereFewHaveAProject_CountsWhatIsFound)
+{
+    Add("", "Plan", "Writer", On(15, 9), On(15, 13));
+    Add("", "Inbox", "Mail", On(15, 13), On(15, 13, 30));
+    auto& window = Open();
+    const auto advice = window.Foot().Title();
+    EXPECT_EQ(advice, NoProjectsYet);
+    window.Search("inb");
+    EXPECT_EQ(window.Foot().Title(), "1 activity");
+    window.Search("");
+    EXPECT_EQ(window.Foot().Title(), advice);
+}
+
+TEST_F(MainWindowTest, Job_WindowsTakeLongToFollow_GoesOnMeanwhile)
+{
+    constexpr std::chrono::milliseconds Long(400);
+    int follows = 0;
+    const auto slow = mDesk->Subscribe({ .Changed = [&] {
+        ++follows;
+        std::this_thread::sleep_for(Long);
+    } });
+    mDesk->Follow();
+    mDesk->Follow();
+    EXPECT_EQ(follows, 1) << "the time goes from the end of it on";
+    std::this_thread::sleep_for(2 * Long);
+    mDesk->Follow();
+    EXPECT_EQ(follows, 2);
+}
+
 {
     auto& window = Open();
     mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10)); });
