@@ -90,14 +90,9 @@ std::string Sentence(const char* verb, const UndoneStep& undone)
 
 std::vector<Ref<OutlookItem>> LogDoings::ItemsOf(const Numbers& numbers) const
 {
-    std::vector<Ref<OutlookItem>> items;
-    for (const auto number : numbers) {
-        // What is gone since it was drawn isn't selected any more.
-        if (ActivityNumbered(mSession.Profile(), number)) {
-            items.emplace_back(ItemNumbered(mSession.Profile(), number));
-        }
-    }
-    return items;
+    // What is gone since it was drawn isn't selected any more.
+    const auto items = ItemsNumbered(mSession.Profile(), numbers);
+    return { items.begin(), items.end() };
 }
 
 void LogDoings::AsStep(const Numbers& numbers, const std::string& caption, const std::function<void()>& work) const

@@ -58,23 +58,26 @@ bool LogWatch::HasChanged(std::int64_t since, const Period& days, const std::vec
     for (const auto& activity : shown) {
         numbers.insert(activity.number);
     }
-    return std::any_of(
-        mChanges.end() - news, mChanges.end(), [&](const Change& change) { return Concerns(change, days, numbers); });
-}
-
-bool LogWatch::Concerns(const Change& change, const Period& days, const std::set<std::int64_t>& shown) const
-{
-    const auto isShown = [&shown](std::int64_t number) { return shown.count(number) > 0; };
-    if (change.isAnything || std::any_of(change.gone.begin(), change.gone.end(), isShown)) {
-        return true;
-    }
-    return std::any_of(change.saved.begin(), change.saved.end(), [&](std::int64_t number) {
-        if (isShown(number)) {
+    const auto isShown = [&numbers](std::int64_t number) { return numbers.count(number) > 0; };
+    std::set<std::int64_t> others;
+    for (auto change = mChanges.end() - news; change != mChanges.end(); ++change) {
+        if (change->isAnything || std::any_of(change->gone.begin(), change->gone.end(), isShown)
+            || std::any_of(change->saved.begin(), change->saved.end(), isShown)) {
             return true;
         }
-        const auto activity = ActivityNumbered(mProfile, number);
-        return activity && activity->start < days.last.AddDays(1) && activity->end >= days.first;
+        others.insert(change->saved.begin(), change->saved.end());
+    }
+    return HasAnyIn(days, { others.begin(), others.end() });
+}
+
+bool LogWatch::HasAnyIn(const Period& days, const std::vector<std::int64_t>& numbers) const
+{
+    bool isFound = false;
+    EachNumbered(mProfile, numbers, [&](const Activity& activity) {
+        isFound = activity.start < days.last.AddDays(1) && activity.end >= days.first;
+        return !isFound;
     });
+    return isFound;
 }
 
 }

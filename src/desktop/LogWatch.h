@@ -35,7 +35,8 @@ private:
 
     void Take(const ItemChanges& changes);
     void Note(Change change);
-    bool Concerns(const Change& change, const Period& days, const std::set<std::int64_t>& shown) const;
+    /// True when one of those begins or ends in the days.
+    bool HasAnyIn(const Period& days, const std::vector<std::int64_t>& numbers) const;
 
     const Profile& mProfile;
     std::int64_t mCount = 0;

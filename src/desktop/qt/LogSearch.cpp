@@ -3,6 +3,7 @@
 #include "review/ActivityReader.h"
 
 #include <chrono>
+#include <cstdint>
 
 namespace tempodial {
 
@@ -65,12 +66,16 @@ void LogSearch::GoOn()
 
 void LogSearch::Refresh()
 {
-    std::vector<Activity> found;
+    std::vector<std::int64_t> numbers;
+    numbers.reserve(mFound.size());
     for (const auto& activity : mFound) {
-        if (auto now = ActivityNumbered(mDesk.Profile(), activity.number)) {
-            found.push_back(std::move(*now));
-        }
+        numbers.push_back(activity.number);
     }
+    std::vector<Activity> found;
+    EachNumbered(mDesk.Profile(), numbers, [&found](Activity& activity) {
+        found.push_back(std::move(activity));
+        return true;
+    });
     mFound = std::move(found);
 }
 
