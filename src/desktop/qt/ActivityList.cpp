@@ -87,7 +87,7 @@ TableViewLayout ActivityList::Definition() const
 
 void ActivityList::Show(const std::vector<Activity>& activities, Coloured coloured)
 {
-    const auto before = mModel->Layout().columns.size();
+    const auto before = mModel->Layout().columns;
     const auto current = currentIndex().row();
     const auto key = current < 0 ? std::nullopt : std::optional(mModel->KeyOf(current));
     const auto scroll = verticalScrollBar()->value();
@@ -103,12 +103,18 @@ void ActivityList::Show(const std::vector<Activity>& activities, Coloured colour
     }
     verticalScrollBar()->setValue(scroll);
     mIsShowing = false;
+    Widen(before);
+}
+
+void ActivityList::Widen(const std::vector<TableColumn>& before)
+{
     const auto& columns = mModel->Layout().columns;
-    if (columns.size() != before) {
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            if (columns[i].width > 0) {
-                header()->resizeSection(static_cast<int>(i), columns[i].width + (i == 0 ? RoomOfMark : 0));
-            }
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        // What a person has dragged stays so until the view says something else.
+        const bool isOther = columns.size() != before.size() || columns[i].field != before[i].field
+            || columns[i].width != before[i].width;
+        if (isOther && columns[i].width > 0) {
+            header()->resizeSection(static_cast<int>(i), columns[i].width + (i == 0 ? RoomOfMark : 0));
         }
     }
 }

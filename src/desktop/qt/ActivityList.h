@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <set>
+#include <vector>
 
 namespace tempodial {
 
@@ -48,6 +49,8 @@ private:
     TableViewLayout Definition() const;
     void Fold(int row);
     void Span();
+    /// Gives columns the widths that the view says, as far as it didn't say them before.
+    void Widen(const std::vector<TableColumn>& before);
 
     Desk& mDesk;
     ActivityListModel* mModel;

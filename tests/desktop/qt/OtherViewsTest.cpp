@@ -7,9 +7,13 @@
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SortOutView.h"
 #include "platform/controls/Button.h"
+#include "platform/objectmodel/Views.h"
+#include "session/ProductFacts.h"
+#include "session/WorkLogFolder.h"
 
 #include <gmock/gmock.h>
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
