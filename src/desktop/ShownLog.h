@@ -33,6 +33,8 @@ public:
     void Read() { Show(mDays); }
     /// Shows only what is searched for; the sums stay those of all.
     void Search(const SearchTerms& terms);
+    /// True while something is searched for, whether that leaves any out or not.
+    bool IsSearched() const { return !mTerms.AreEmpty(); }
     /// Puts by what activities are coloured.
     void Colour(ColourChoice choice);
 

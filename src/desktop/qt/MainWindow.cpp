@@ -379,8 +379,8 @@ void MainWindow::FollowSelection()
     mAgenda->ShowSelected(mSelected);
     mList->ShowSelected(mSelected);
     if (selected.empty()) {
-        const bool hasFewProjects
-            = mLog.HasAny() && ColouredBy(ColourChoice::Automatic, mLog.Activities()) == Coloured::Application;
+        const bool hasFewProjects = !IsSearched() && mLog.HasAny()
+            && ColouredBy(ColourChoice::Automatic, mLog.All()) == Coloured::Application;
         const bool hasNone = mLog.UnassignedMinutes() == mLog.Sums().total;
         auto count = ActivitiesText(static_cast<std::int64_t>(ShownActivities().size()));
         if (mSearch.IsOn()) {

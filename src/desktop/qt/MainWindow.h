@@ -104,6 +104,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// True when that is what a search has found.
+    bool IsSearched() const { return mSearch.IsOn() || mLog.IsSearched(); }
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 

@@ -1,6 +1,7 @@
 #include "desktop/qt/MainWindow.h"
 
 #include "DesktopFixture.h"
+#include "desktop/DesktopStrings.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/FlatButton.h"
 #include "desktop/qt/NavigationBar.h"
