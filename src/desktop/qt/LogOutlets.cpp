@@ -2,6 +2,7 @@
 
 #include "desktop/ActivityTable.h"
 #include "desktop/ActivityWords.h"
+#include "desktop/DesktopStrings.h"
 #include "desktop/qt/LogPage.h"
 #include "desktop/qt/MainWindow.h"
 #include "desktop/qt/QtText.h"
@@ -54,13 +55,36 @@ void LogOutlets::AskWhereToExport(const LogExport::FormWords& form)
 {
     const auto folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const auto path = QFileDialog::getSaveFileName(
-        &mWindow, "Export", folder + "/" + Title().replace('/', '-') + form.ending, form.filter);
+        &mWindow, "Export " + Scope(), folder + "/" + FileName() + form.ending, form.filter);
     if (!path.isEmpty()) {
-        mDesk.Do([&] {
-            Export(FromQt(path), form.form);
-            mWindow.Say("Saved as " + path);
-        });
+        ExportAndSay(path, form.form);
     }
+}
+
+void LogOutlets::ExportAndSay(const QString& path, LogExport::Form form)
+{
+    mDesk.Do([&] {
+        const auto scope = Scope();
+        Export(FromQt(path), form);
+        mWindow.Say("Saved " + scope + " as " + path);
+    });
+}
+
+QString LogOutlets::Scope() const
+{
+    const auto selected = mWindow.SelectedActivities().size();
+    const auto shown = mWindow.ShownActivities().size();
+    const auto all = ToQt(ActivitiesText(static_cast<std::int64_t>(shown)));
+    if (selected == 0) {
+        return mWindow.IsSearched() ? all + " that the search has found" : all + " of " + Title();
+    }
+    return QString::number(selected) + " selected of " + all;
+}
+
+QString LogOutlets::FileName() const
+{
+    const bool isPart = !mWindow.SelectedActivities().empty() || mWindow.IsSearched();
+    return Title().replace('/', '-') + (isPart ? ", in part" : "");
 }
 
 void LogOutlets::Export(const std::string& path, LogExport::Form form) const

@@ -23,6 +23,12 @@ public:
     void Copy();
     /// Lets a person choose a file of a form for what is selected, or else for all that is shown.
     void AskWhereToExport(const LogExport::FormWords& form);
+    /// Writes that into a file, and says what was written.
+    void ExportAndSay(const QString& path, LogExport::Form form);
+    /// What would be written: how many, and which.
+    QString Scope() const;
+    /// The name that is offered for the file, without its ending.
+    QString FileName() const;
     /// Writes that into a file; fails as the store and the file do.
     void Export(const std::string& path, LogExport::Form form) const;
 

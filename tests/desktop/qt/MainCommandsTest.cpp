@@ -6,6 +6,7 @@
 #include "desktop/qt/KeysDialog.h"
 #include "desktop/qt/LogPage.h"
 #include "desktop/qt/NavigationBar.h"
+#include "desktop/qt/QtText.h"
 #include "desktop/qt/SelectionBar.h"
 #include "desktop/qt/SidePanel.h"
 #include "desktop/qt/SortOutView.h"
@@ -166,6 +167,24 @@ TEST_F(MainCommandsTest, Export_WritesWhatIsShownInItsForm)
     EXPECT_THAT(mFolder.Read("a.json"),
         testing::AllOf(testing::StartsWith("["), testing::HasSubstr("\"start\": \"2006-11-15T09:00:00\""),
             testing::HasSubstr("\"Description\": \"Plan\"")));
+}
+
+TEST_F(MainCommandsTest, Export_SaysHowManyAndWhich)
+{
+    auto& window = OpenWithWork();
+    auto& outlets = window.Commands().Outlets();
+    EXPECT_EQ(outlets.Scope(), "2 activities of 13 – 19 Nov 2006");
+    EXPECT_EQ(outlets.FileName(), "13 – 19 Nov 2006");
+    window.Select({ window.ShownActivities().front().number });
+    EXPECT_EQ(outlets.Scope(), "1 selected of 2 activities");
+    EXPECT_EQ(outlets.FileName(), "13 – 19 Nov 2006, in part");
+    const auto path = ToQt(mFolder.Path("part.csv"));
+    outlets.ExportAndSay(path, LogExport::Form::Csv);
+    EXPECT_EQ(window.Foot().Said(), "Saved 1 selected of 2 activities as " + path);
+    EXPECT_TRUE(mFolder.Has("part.csv"));
+    window.Search("inb");
+    EXPECT_EQ(outlets.Scope(), "1 activity that the search has found");
+    EXPECT_EQ(outlets.FileName(), "13 – 19 Nov 2006, in part");
 }
 
 TEST_F(MainCommandsTest, ListOfAMonth_ShowsAndPagesMonths)
