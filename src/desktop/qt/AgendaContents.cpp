@@ -43,6 +43,21 @@ void AgendaContents::Fill()
     }
 }
 
+void AgendaContents::FollowClock()
+{
+    FillHours();
+    for (std::size_t i = 0; i < mCards.size(); ++i) {
+        mCards[i].isSoft = DragGesture::MayGrow(mLog.Activities()[i].end, mDesk.Now());
+    }
+}
+
+void AgendaContents::Clear()
+{
+    mCards.clear();
+    mLabels.clear();
+    mGaps.clear();
+}
+
 void AgendaContents::FillHours()
 {
     const auto& formats = mDesk.Formats();

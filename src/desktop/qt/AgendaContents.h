@@ -36,7 +36,9 @@ public:
     /// All fade but those with such names of what gives them their colour; none for all.
     void ShowOnly(const Names& names);
     /// The present moment has moved on.
-    void FillHours();
+    void FollowClock();
+    /// Nothing is written until the log is shown again.
+    void Clear();
 
     const std::vector<AgendaCard>& Cards() const { return mCards; }
     const std::vector<QString>& Labels() const { return mLabels; }
@@ -58,6 +60,7 @@ public:
 private:
     /// What other programs show of an activity; project and application alone where titles are hidden.
     std::string SubjectOf(const Activity& activity) const;
+    void FillHours();
     StackedBar BarOf(std::size_t day) const;
     bool IsFaded(const Activity& activity) const;
 

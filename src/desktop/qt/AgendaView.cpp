@@ -87,8 +87,10 @@ void AgendaView::Follow()
 
 void AgendaView::FollowClock()
 {
-    mContents.FillHours();
-    Put();
+    if (!mIsResting) {
+        mContents.FollowClock();
+        Put();
+    }
 }
 
 void AgendaView::FindFocus()

@@ -112,7 +112,7 @@ void MainWindow::Assemble()
     setCentralWidget(content);
     constexpr int Minute = 60000;
     mClock->start(Minute);
-    connect(mClock, &QTimer::timeout, this, [this] { mAgenda->FollowClock(); });
+    connect(mClock, &QTimer::timeout, this, [this] { FollowClock(); });
 }
 
 const std::vector<Activity>& MainWindow::ShownActivities() const
@@ -295,20 +295,12 @@ void MainWindow::ReadChanges()
 void MainWindow::FollowLog()
 {
     const ActivityWords words(mDesk.Formats(), mDesk.ShownTitles());
-    const auto days = ToQt(words.PeriodTitle(mLog.Days()));
-    mBar->Follow(days, ToQt(ActivityWords::WeekTitle(mLog.Days())), mView, mLog.UnassignedMinutes());
-    const auto isNow = mDesk.Now().Day() >= mLog.Days().first && mDesk.Now().Day() <= mLog.Days().last;
+    mBar->Follow(ToQt(words.PeriodTitle(mLog.Days())), ToQt(ActivityWords::WeekTitle(mLog.Days())), mView,
+        mLog.UnassignedMinutes());
     mIsDrawn = true;
     mAgenda->Follow();
     FollowPages();
-    constexpr int DaysOfWeek = 7;
-    auto title = days;
-    if (isNow && mLog.DayCount() == 1) {
-        title = "Today";
-    } else if (isNow && mLog.DayCount() == DaysOfWeek) {
-        title = "This week";
-    }
-    mSide->Follow(title);
+    mSide->Follow(TitleOfDays());
     FollowModel();
     SeeToFonts();
 }

@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <cstdint>
+#include <QString>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -141,6 +142,10 @@ private:
     std::pair<QString, QString> WhyEmpty() const;
     void ShowEmpty();
     /// Says so when letters are shown for which there is no font.
+    /// A minute has gone.
+    void FollowClock();
+    /// The days that are shown, as they stand above their time.
+    QString TitleOfDays() const;
     void SeeToFonts();
     void ShowSidePanel();
     /// The activities by which projects are likely.

@@ -1,3 +1,4 @@
+#include "desktop/ActivityWords.h"
 #include "desktop/DesktopStrings.h"
 #include "desktop/ViewDays.h"
 #include "desktop/WhyWords.h"
@@ -254,3 +255,27 @@ void MainWindow::ShowEmpty()
 }
 
 }
+QString MainWindow::TitleOfDays() const
+{
+    constexpr int DaysOfWeek = 7;
+    const auto today = mDesk.Now().Day();
+    const bool isNow = today >= mLog.Days().first && today <= mLog.Days().last;
+    if (isNow && mLog.DayCount() == 1) {
+        return "Today";
+    }
+    if (isNow && mLog.DayCount() == DaysOfWeek) {
+        return "This week";
+    }
+    return ToQt(ActivityWords(mDesk.Formats(), mDesk.ShownTitles()).PeriodTitle(mLog.Days()));
+}
+
+void MainWindow::FollowClock()
+{
+    // What was read and isn't drawn yet is drawn with the time that it is then.
+    if (mIsDrawn) {
+        mAgenda->FollowClock();
+        mSide->Follow(TitleOfDays());
+        mSide->Month().update();
+    }
+}
+

@@ -58,6 +58,7 @@ void MiniMonth::Follow(const Period& shown)
         mShown = shown;
         mCursor = shown.first;
         mMonth = Period::MonthOf(shown.last).first;
+        update();
     }
     Read();
     Say();
@@ -247,6 +248,7 @@ void MiniMonth::keyPressEvent(QKeyEvent* event)
         Read();
         Say();
         MonthAccess::TellFocus(*this);
+        update();
     };
     switch (event->key()) {
     case Qt::Key_Left:

@@ -1,6 +1,7 @@
 #include "desktop/qt/MiniMonth.h"
 
 #include "DesktopFixture.h"
+#include "PaintCounter.h"
 #include "desktop/qt/SidePanel.h"
 
 #include <QTest>
@@ -39,6 +40,19 @@ protected:
     Date mGone;
 };
 
+/// The same month on the screen, with how often it is painted.
+class ShownMonthTest : public MiniMonthTest
+{
+protected:
+    ShownMonthTest()
+    {
+        mMonth.show();
+        Settle();
+    }
+
+    PaintCounter mPaints { mMonth };
+};
+
 TEST_F(MiniMonthTest, Wheel_ANotch_PagesAMonth)
 {
     EXPECT_EQ(FirstShown(), Date::FromYearMonthDay(2006, 10, 30));
@@ -72,6 +86,22 @@ TEST_F(MiniMonthTest, Keys_GoByDaysAndChooseOne)
     QTest::keyClick(&mMonth, Qt::Key_Return);
     EXPECT_EQ(mGone, On(21, 0));
     EXPECT_TRUE(mMonth.accessibleDescription().contains("21"));
+}
+
+TEST_F(ShownMonthTest, Follow_AnotherWeekOfTheMonth_PaintsTheBandAnew)
+{
+    mPaints.Take();
+    mMonth.Follow({ On(13, 0), On(19, 0) });
+    EXPECT_EQ(mPaints.Take(), 0) << "nothing has changed";
+    mMonth.Follow({ On(20, 0), On(26, 0) });
+    EXPECT_EQ(mPaints.Take(), 1);
+}
+
+TEST_F(ShownMonthTest, Keys_WithinTheMonth_PaintTheFrameAnew)
+{
+    mPaints.Take();
+    QTest::keyClick(&mMonth, Qt::Key_Right);
+    EXPECT_EQ(mPaints.Take(), 1);
 }
 
 }
