@@ -135,7 +135,7 @@ void MainCommands::MakeViewActions()
         const auto key = QKeySequence("Ctrl+" + QString::number(static_cast<int>(view) + 1));
         mActions.AddSwitch(
             Menu, text, key, [this, view = view] { return mWindow.ShownView() == view; },
-            [this, view = view](bool) { mWindow.Show(view); });
+            [this, view = view](bool) { mWindow.Choose(view); });
     }
     mActions.AddLine(Menu);
     using Span = DesktopSettings::ListSpan;
@@ -145,7 +145,7 @@ void MainCommands::MakeViewActions()
             Menu, text, {}, [this, span = span] { return mDesk.Settings().listSpan == span; },
             [this, span = span](bool) {
                 mDesk.Change([span](DesktopSettings& settings) { settings.listSpan = span; });
-                mWindow.Show(View::List);
+                mWindow.Choose(View::List);
             });
     }
     mActions.AddLine(Menu);
@@ -301,16 +301,16 @@ bool MainCommands::TakeViewLetter(int key)
         mWindow.GoToToday();
         return true;
     case Qt::Key_D:
-        mWindow.Show(View::Day);
+        mWindow.Choose(View::Day);
         return true;
     case Qt::Key_W:
-        mWindow.Show(View::Week);
+        mWindow.Choose(View::Week);
         return true;
     case Qt::Key_L:
-        mWindow.Show(View::List);
+        mWindow.Choose(View::List);
         return true;
     case Qt::Key_S:
-        mWindow.Show(View::SortOut);
+        mWindow.Choose(View::SortOut);
         return true;
     default:
         return false;

@@ -49,6 +49,7 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     : mDesk(desk)
     , mExplorer(std::move(explorer))
     , mDoings(desk.Session())
+    , mModelView(desk.Profile(), mExplorer)
     , mLog([&desk](const Period& days) { return ActivitiesTouching(desk.Profile(), days); })
     , mView(desk.Settings().view)
     , mDay(ExampleProgram::Is(desk.Profile()) ? desk.Now().Day().AddDays(-ExampleDaysBack) : desk.Now().Day())
@@ -66,7 +67,9 @@ MainWindow::MainWindow(Desk& desk, Ref<HostExplorer> explorer)
     ConnectAgenda();
     ConnectOthers();
     mMenu = std::make_unique<MainMenu>(desk, mExplorer, *menuBar(), mBar->Buttons(), mCommands.Actions().All());
-    mChanges = mExplorer->SubscribeToChanges({ .Changed = {}, .BroughtToFront = [this] { mComesToFront = true; } });
+    mModelView.Begin(mView);
+    mChanges = mExplorer->SubscribeToChanges(
+        { .BroughtToFront = [this] { mComesToFront = true; }, .ViewApplied = [this] { mHasOtherView = true; } });
     mEvents = desk.Subscribe({ .Changed = [this] { Follow(); },
         .Restyled = [this] { FollowSettings(); },
         .Failed = [this](const std::string& message) { mFoot->Say(ToQt(message)); } });
@@ -122,6 +125,12 @@ const std::vector<Activity>& MainWindow::ShownActivities() const
 
 void MainWindow::Show(View view, Date day)
 {
+    Turn(view, day);
+    mDesk.Remember([this](DesktopSettings& settings) { settings.view = mView; });
+}
+
+void MainWindow::Turn(View view, Date day)
+{
     const bool isOther = view != mView;
     mSearch.End();
     mDesk.Do([&] {
@@ -130,7 +139,6 @@ void MainWindow::Show(View view, Date day)
         DropUnseen();
         mView = view;
         mDay = day;
-        mDesk.Remember([view](DesktopSettings& settings) { settings.view = view; });
     });
     if (isOther && view == View::SortOut) {
         mSortOut->Begin();
@@ -259,6 +267,13 @@ void MainWindow::Follow()
 {
     if (mExplorer->IsGone()) {
         return;
+    }
+    // A command that applies a view may go on behind that.
+    if (mHasOtherView && !mDesk.IsBusy()) {
+        mHasOtherView = false;
+        if (const auto wanted = mModelView.Wanted(mView); wanted != mView) {
+            Turn(wanted, mDay);
+        }
     }
     const auto selected = mSelected;
     ReadChanges();

@@ -2,6 +2,7 @@
 
 #include "base/Ref.h"
 #include "desktop/LogDoings.h"
+#include "desktop/ModelView.h"
 #include "desktop/ShownLog.h"
 #include "desktop/qt/Desk.h"
 #include "desktop/qt/LogSearch.h"
@@ -11,8 +12,8 @@
 
 #include <QMainWindow>
 #include <QPointer>
-#include <cstdint>
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -68,6 +69,8 @@ public:
     void Show(View view, Date day);
     /// The same days in another view, and the same view around another day.
     void Show(View view) { Show(view, mDay); }
+    /// The same as a person's choice, which the model hears of.
+    void Choose(View view);
     void Page(int pages);
     void GoToToday();
     /// Goes to a day that a person types.
@@ -101,16 +104,18 @@ public:
     MainCommands& Commands() { return mCommands; }
     /// What is shown: the days, or what a search has found.
     const std::vector<Activity>& ShownActivities() const;
+    /// True when that is what a search has found.
+    bool IsSearched() const { return mSearch.IsOn() || mLog.IsSearched(); }
     std::vector<Activity> SelectedActivities() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    /// True when that is what a search has found.
-    bool IsSearched() const { return mSearch.IsOn() || mLog.IsSearched(); }
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    /// Shows the days around one of them in a view, as this window alone does.
+    void Turn(View view, Date day);
     void Assemble();
     void Connect();
     void ConnectAgenda();
@@ -135,6 +140,10 @@ private:
     void ReadChanges();
     /// What is shown of the log has changed, or how it looks.
     void FollowLog();
+    /// A minute has gone.
+    void FollowClock();
+    /// The days that are shown, as they stand above their time.
+    QString TitleOfDays() const;
     /// Anything else may have changed.
     void FollowModel();
     void FollowSelection();
@@ -142,10 +151,6 @@ private:
     std::pair<QString, QString> WhyEmpty() const;
     void ShowEmpty();
     /// Says so when letters are shown for which there is no font.
-    /// A minute has gone.
-    void FollowClock();
-    /// The days that are shown, as they stand above their time.
-    QString TitleOfDays() const;
     void SeeToFonts();
     void ShowSidePanel();
     /// The activities by which projects are likely.
@@ -154,6 +159,7 @@ private:
     Desk& mDesk;
     Ref<HostExplorer> mExplorer;
     LogDoings mDoings;
+    ModelView mModelView;
     ShownLog mLog;
     View mView;
     Date mDay;
@@ -185,6 +191,7 @@ private:
     QTimer* mClock;
     QPointer<WhyBubble> mWhyTable;
     bool mComesToFront = false;
+    bool mHasOtherView = false;
     Subscription mChanges;
     Subscription mEvents;
 };

@@ -28,7 +28,7 @@ void MainWindow::Connect()
 {
     mBar->mPage = [this](int pages) { Page(pages); };
     mBar->mGoToToday = [this] { GoToToday(); };
-    mBar->mShow = [this](View view) { Show(view, mDay); };
+    mBar->mShow = [this](View view) { Choose(view); };
     mBar->mSearch = [this](const QString& words) { Search(words); };
     mBar->mSearchAll = [this] { SearchAll(); };
     mSearch.mWhenFound = [this] {
@@ -99,6 +99,12 @@ void MainWindow::ConnectOthers()
     mSortOut->mOpen = open;
     mSortOut->mMenu = [this](const QPoint& place) { mCommands.ShowMenu(place); };
     mSortOut->mKey = key;
+}
+
+void MainWindow::Choose(View view)
+{
+    Show(view);
+    mDesk.Do([&] { mModelView.Choose(view); });
 }
 
 void MainWindow::SearchAll()
@@ -254,7 +260,6 @@ void MainWindow::ShowEmpty()
     }
 }
 
-}
 QString MainWindow::TitleOfDays() const
 {
     constexpr int DaysOfWeek = 7;
@@ -279,3 +284,4 @@ void MainWindow::FollowClock()
     }
 }
 
+}

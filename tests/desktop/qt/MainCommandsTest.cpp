@@ -179,7 +179,7 @@ TEST_F(MainCommandsTest, Export_SaysHowManyAndWhich)
     EXPECT_EQ(outlets.Scope(), "1 selected of 2 activities");
     EXPECT_EQ(outlets.FileName(), "13 – 19 Nov 2006, in part");
     const auto path = ToQt(mFolder.Path("part.csv"));
-    outlets.ExportAndSay(path, LogExport::Form::Csv);
+    outlets.ExportAndSay(path, LogExport::Form::Table);
     EXPECT_EQ(window.Foot().Said(), "Saved 1 selected of 2 activities as " + path);
     EXPECT_TRUE(mFolder.Has("part.csv"));
     window.Search("inb");

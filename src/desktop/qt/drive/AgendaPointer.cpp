@@ -14,8 +14,10 @@ namespace tempodial {
 
 bool AgendaPointer::Reach(std::int64_t number, Date day)
 {
-    if (!mWindow.Log().PlaceOf(number)) {
-        mWindow.Show(DesktopSettings::View::Week, day);
+    using LogView = DesktopSettings::View;
+    const bool isAgenda = mWindow.ShownView() == LogView::Day || mWindow.ShownView() == LogView::Week;
+    if (!isAgenda || !mWindow.Log().PlaceOf(number)) {
+        mWindow.Show(LogView::Week, day);
     }
     const auto piece = PieceOf(number);
     if (!piece || !mWindow.Agenda().isVisible()) {
