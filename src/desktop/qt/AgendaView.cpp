@@ -44,7 +44,7 @@ AgendaView::AgendaView(Desk& desk, const ShownLog& log, QWidget* parent)
     constexpr int Step = 30;
     verticalScrollBar()->setSingleStep(Step);
     TakeFont();
-    Follow();
+    Rest();
 }
 
 AgendaView::~AgendaView() = default;
@@ -68,6 +68,7 @@ void AgendaView::Follow()
         // What it lists may be gone.
         mBubble->close();
     }
+    mIsResting = false;
     mScene = std::make_unique<AgendaScene>(mLog.Activities(), mLog.All(), mLog.Days(), Place());
     mContents.Fill();
     mGutter = mPainter.GutterFor(mContents.HourNames());
@@ -82,6 +83,25 @@ void AgendaView::Follow()
     }
     if (mFitted != mLog.Days()) {
         Fit();
+    }
+}
+
+void AgendaView::Rest()
+{
+    static const std::vector<Activity> none;
+    if (mIsResting) {
+        return;
+    }
+    if (mBubble) {
+        mBubble->close();
+    }
+    mIsResting = true;
+    mScene = std::make_unique<AgendaScene>(none, none, mLog.Days(), Place());
+    mContents.Clear();
+    mHead->Show(mContents.Heads(*mScene));
+    mFocus.reset();
+    if (mWhenFollowed) {
+        mWhenFollowed();
     }
 }
 
@@ -135,6 +155,9 @@ void AgendaView::Put()
 {
     const bool isFitted = mFitted && verticalScrollBar()->value() == mFittedValue;
     mScene->Put(Place());
+    if (mIsResting) {
+        return;
+    }
     mContents.FillPlaced(*mScene);
     mHead->Show(mContents.Heads(*mScene));
     mHead->setGeometry(0, 0, viewport()->width(), mHead->sizeHint().height());
@@ -190,7 +213,7 @@ void AgendaView::paintEvent(QPaintEvent* event)
         // The window has come to another screen, or its screen to another scale. What lies on whole device pixels is
         // laid out behind this.
         TakePixels();
-        QTimer::singleShot(0, this, [this] { Follow(); });
+        QTimer::singleShot(0, this, [this] { FollowLook(); });
     }
     QPainter painter(viewport());
     const auto scroll = verticalScrollBar()->value();
@@ -445,7 +468,7 @@ void AgendaView::changeEvent(QEvent* event)
     }
     if (mScene && (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)) {
         TakeFont();
-        Follow();
+        FollowLook();
     }
 }
 

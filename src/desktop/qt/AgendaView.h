@@ -29,7 +29,7 @@ namespace tempodial {
 class AgendaView final : public QAbstractScrollArea
 {
 public:
-    /// The log must live as long as this.
+    /// Rests until it follows. The log must live as long as this.
     AgendaView(Desk& desk, const ShownLog& log, QWidget* parent);
     ~AgendaView() override;
 
@@ -62,6 +62,8 @@ public:
 
     /// The log has changed, or how things look.
     void Follow();
+    /// Shows nothing of the log, which may change meanwhile, until it follows again; for while nobody sees it.
+    void Rest();
     /// The present moment has moved on.
     void FollowClock();
     /// The activities of those numbers are selected.
@@ -130,6 +132,13 @@ protected:
 
 private:
     void TakeFont();
+    /// How things look has changed.
+    void FollowLook()
+    {
+        if (!mIsResting) {
+            Follow();
+        }
+    }
     /// The pictures that are kept are for the screen that the window is on now.
     void TakePixels();
     /// Lays the scene out anew for the width and the zoom.
@@ -150,6 +159,7 @@ private:
     DayHead* mHead;
     EmptyNote* mNote;
     std::unique_ptr<AgendaScene> mScene;
+    bool mIsResting = false;
     Numbers mSelected;
     std::optional<std::size_t> mFocus;
     /// The activity whose piece it is, by which it is found again when the log has changed.

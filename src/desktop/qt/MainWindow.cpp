@@ -313,7 +313,6 @@ void MainWindow::FollowLog()
     mBar->Follow(ToQt(words.PeriodTitle(mLog.Days())), ToQt(ActivityWords::WeekTitle(mLog.Days())), mView,
         mLog.UnassignedMinutes());
     mIsDrawn = true;
-    mAgenda->Follow();
     FollowPages();
     mSide->Follow(TitleOfDays());
     FollowModel();
@@ -370,6 +369,11 @@ void MainWindow::FollowPages()
     }
     mPages->setCurrentWidget(page);
     // Those that aren't seen hold nothing of the log, which may change without them.
+    if (page == mAgenda) {
+        mAgenda->Follow();
+    } else {
+        mAgenda->Rest();
+    }
     mList->Show(page == mList ? ShownActivities() : none, mLog.ColouredBy());
     if (page == mSortOut) {
         mSortOut->Follow();

@@ -41,6 +41,7 @@ TEST_F(BadDaysTest, HostileCaption_IsDrawnAsALineAndQuickly)
     Add("", hostile, "<i>App</i>", On(15, 9), On(15, 10));
     auto& window = Open();
     EXPECT_LT(Milliseconds([&] { DrawAll(window); }), 4000);
+    window.Show(View::Week, On(15, 0));
     const auto& card = window.Agenda().Cards().front();
     EXPECT_LE(card.title.size(), 410);
     EXPECT_FALSE(card.title.contains('\n'));

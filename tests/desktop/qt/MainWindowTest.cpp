@@ -16,9 +16,9 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
-
 #include <chrono>
 #include <thread>
+
 namespace tempodial {
 
 class MainWindowTest : public DesktopFixture
@@ -103,7 +103,6 @@ TEST_F(MainWindowTest, Search_Words_ShowsWhatMatchesAndKeepsTheSums)
     EXPECT_EQ(window.Agenda().Head().Days()[2].total, "2 h");
 }
 
-TEST_F(MainWindowTest, Log_Changed_IsShownAtOnce)
 TEST_F(MainWindowTest, Foot_WordsAreSearched_CountsWhatIsFound)
 {
     Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 13));
@@ -143,6 +142,7 @@ TEST_F(MainWindowTest, Job_WindowsTakeLongToFollow_GoesOnMeanwhile)
     EXPECT_EQ(follows, 2);
 }
 
+TEST_F(MainWindowTest, Log_Changed_IsShownAtOnce)
 {
     auto& window = Open();
     mDesk->Do([this] { Add("Alpha", "Plan", "Writer", On(15, 9), On(15, 10)); });
