@@ -123,12 +123,6 @@ const std::vector<Activity>& MainWindow::ShownActivities() const
     return mSearch.IsOn() ? mSearch.Found() : mLog.Activities();
 }
 
-void MainWindow::Show(View view, Date day)
-{
-    Turn(view, day);
-    mDesk.Remember([this](DesktopSettings& settings) { settings.view = mView; });
-}
-
 void MainWindow::Turn(View view, Date day)
 {
     const bool isOther = view != mView;

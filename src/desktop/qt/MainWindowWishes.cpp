@@ -101,6 +101,12 @@ void MainWindow::ConnectOthers()
     mSortOut->mKey = key;
 }
 
+void MainWindow::Show(View view, Date day)
+{
+    Turn(view, day);
+    mDesk.Remember([this](DesktopSettings& settings) { settings.view = mView; });
+}
+
 void MainWindow::Choose(View view)
 {
     Show(view);
