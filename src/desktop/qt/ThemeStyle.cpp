@@ -14,7 +14,8 @@ void DrawOutline(const QStyleOption& option, QPainter& painter, bool isRound)
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(option.palette.color(QPalette::PlaceholderText));
+    const auto hasFocus = (option.state & QStyle::State_HasFocus) != 0;
+    painter.setPen(option.palette.color(hasFocus ? QPalette::Highlight : QPalette::PlaceholderText));
     if (isRound) {
         painter.drawEllipse(box);
     } else {
@@ -29,7 +30,7 @@ void ThemeStyle::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (control == CC_ComboBox && (option->state & State_HasFocus) == 0) {
+    if (control == CC_ComboBox) {
         DrawOutline(*option, *painter, false);
     }
 }
@@ -46,8 +47,7 @@ void ThemeStyle::drawPrimitive(
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isRound = element == PE_IndicatorRadioButton;
-    const bool hasNoFocus = (option->state & State_HasFocus) == 0;
-    if (isRound || element == PE_IndicatorCheckBox || (element == PE_FrameLineEdit && hasNoFocus)) {
+    if (isRound || element == PE_IndicatorCheckBox || element == PE_FrameLineEdit) {
         DrawOutline(*option, *painter, isRound);
     }
 }

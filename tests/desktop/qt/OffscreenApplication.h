@@ -15,7 +15,9 @@ inline GuardedApplication& OffscreenApplication()
         = (qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:")
               || qputenv(
                   "QT_QPA_PLATFORM", "offscreen:configfile=" TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/screen.json"))
-        && qputenv("FONTCONFIG_FILE", TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/fonts.conf");
+        && qputenv("FONTCONFIG_FILE", TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/fonts.conf")
+        // No bus of a session that the tests may run in.
+        && qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     static int count = 1;
     static std::string name = "tests";
     static std::array<char*, 2> values { name.data(), nullptr };
