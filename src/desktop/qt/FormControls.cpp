@@ -166,7 +166,8 @@ QComboBox* NewComboBox(QWidget* parent)
     box->lineEdit()->setMaxLength(AnyLength);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // The other policy shrinks a box out of its layout a moment after each change of its list or of how things look.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
     box->setMinimumContentsLength(LeastCharacters);
     // An entry may be a title of any length.
     box->setMaximumWidth(box->fontMetrics().averageCharWidth() * MostCharacters);

@@ -342,6 +342,29 @@ TEST_F(FormWindowTest, ProjectSettings_SomethingSelected_OffersItsWordsForTheRul
     EXPECT_EQ(window.Effect()->findChildren<QPushButton*>().size(), 1) << "what the rule has isn't offered";
 }
 
+TEST_F(FormWindowTest, Boxes_AreStyledAnew_KeepTheWidthThatTheyWereGiven)
+{
+    struct Resizes : QObject
+    {
+        bool eventFilter(QObject* /*object*/, QEvent* event) override
+        {
+            count += event->type() == QEvent::Resize ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    };
+    using Look = DesktopSettings::Appearance;
+    Resizes resizes;
+    for (auto* box : ShowSettings().View().findChildren<QComboBox*>()) {
+        box->installEventFilter(&resizes);
+    }
+    mDesk->Change([](DesktopSettings& settings) { settings.appearance = Look::Dark; });
+    // The toolkit would take its time over it.
+    constexpr int While = 60;
+    QTest::qWait(While);
+    EXPECT_EQ(resizes.count, 0);
+}
+
 TEST_F(FormWindowTest, ProductsForms_InAllColours_AreDrawnWhole)
 {
     AddWeek();
