@@ -3,6 +3,7 @@
 #include "desktop/qt/OffscreenApplication.h"
 #include "session/ProductFacts.h"
 
+#include <QPalette>
 #include <QPixmap>
 #include <QWidget>
 #include <array>
@@ -53,6 +54,8 @@ DesktopFixture::~DesktopFixture()
     mWindows.reset();
     Settle();
     mDesk->Exit();
+    // The next one begins with the colours of a desktop, and not with those that this one chose.
+    QApplication::setPalette({});
 }
 
 void DesktopFixture::Add(
