@@ -39,6 +39,8 @@ class TrayTest(unittest.TestCase):
     def Close(self):
         self.program.Window()
         WaitFor(lambda: Hand.Front() == self.program.process.pid, "the window in front")
+        # Keys pressed as soon as a window is in front may reach nobody.
+        time.sleep(0.5)
         Hand().Keys("alt+F4")
 
     def test_NoTray_ClosingTheLastWindowEndsIt(self):
