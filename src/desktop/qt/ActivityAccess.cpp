@@ -16,7 +16,7 @@ constexpr auto DeleteAction = "Delete";
 }
 
 ActivityAccess::ActivityAccess(AgendaView& view, const PaintedTable& table, std::size_t piece)
-    : PaintedCell(view, table)
+    : ActionCell(view, table)
     , mView(view)
     , mPiece(piece)
 {
@@ -24,7 +24,7 @@ ActivityAccess::ActivityAccess(AgendaView& view, const PaintedTable& table, std:
 
 bool ActivityAccess::isValid() const
 {
-    return PaintedCell::isValid() && mPiece < mView.Scene().Layout().Pieces().size();
+    return ActionCell::isValid() && mPiece < mView.Scene().Layout().Pieces().size();
 }
 
 QString ActivityAccess::Name() const
@@ -39,7 +39,7 @@ QString ActivityAccess::Description() const
 
 QString ActivityAccess::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Help && isValid() ? mView.ToolTipOf(mView.ActivityOf(mPiece)) : PaintedCell::text(kind);
+    return kind == QAccessible::Help && isValid() ? mView.ToolTipOf(mView.ActivityOf(mPiece)) : ActionCell::text(kind);
 }
 
 QRectF ActivityAccess::Box() const
@@ -58,7 +58,7 @@ QRect ActivityAccess::rect() const
 
 QAccessible::State ActivityAccess::state() const
 {
-    auto state = PaintedCell::state();
+    auto state = ActionCell::state();
     if (state.invalid) {
         return state;
     }
@@ -69,12 +69,6 @@ QAccessible::State ActivityAccess::state() const
     state.focused = mView.hasFocus() && mView.Focus() == mPiece;
     state.offscreen = !Box().intersects(mView.viewport()->rect());
     return state;
-}
-
-void* ActivityAccess::interface_cast(QAccessible::InterfaceType type)
-{
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : PaintedCell::interface_cast(type);
 }
 
 int ActivityAccess::columnIndex() const

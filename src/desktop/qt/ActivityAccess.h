@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/qt/PaintedCell.h"
+#include "desktop/qt/ActionCell.h"
 
 #include <cstddef>
 
@@ -9,7 +9,7 @@ namespace tempodial {
 class AgendaView;
 
 /// An activity of an agenda as assistive programs see it, with what can be done to it.
-class ActivityAccess final : public PaintedCell, public QAccessibleActionInterface
+class ActivityAccess final : public ActionCell
 {
 public:
     /// The place of a piece of the agenda.
@@ -23,14 +23,12 @@ public:
     QString text(QAccessible::Text kind) const override;
     QRect rect() const override;
     QAccessible::State state() const override;
-    void* interface_cast(QAccessible::InterfaceType type) override;
 
     int columnIndex() const override;
     int rowIndex() const override;
 
     QStringList actionNames() const override;
     void doAction(const QString& name) override;
-    QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
 protected:
     QString Name() const override;

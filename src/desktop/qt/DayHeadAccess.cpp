@@ -8,7 +8,7 @@
 namespace tempodial {
 
 DayHeadAccess::DayHeadAccess(AgendaView& view, const PaintedTable& table, int day)
-    : PaintedCell(view, table)
+    : ActionCell(view, table)
     , mView(view)
     , mDay(day)
 {
@@ -33,12 +33,6 @@ QRect DayHeadAccess::rect() const
     const auto& day = head.Days()[static_cast<std::size_t>(mDay)];
     const QRectF box(day.left, 0, day.width, head.height());
     return { head.mapToGlobal(box.topLeft().toPoint()), box.size().toSize() };
-}
-
-void* DayHeadAccess::interface_cast(QAccessible::InterfaceType type)
-{
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : PaintedCell::interface_cast(type);
 }
 
 QStringList DayHeadAccess::actionNames() const

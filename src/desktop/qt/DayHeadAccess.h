@@ -1,20 +1,19 @@
 #pragma once
 
-#include "desktop/qt/PaintedCell.h"
+#include "desktop/qt/ActionCell.h"
 
 namespace tempodial {
 
 class AgendaView;
 
 /// The head of a day of an agenda as assistive programs see it: which day, how long, and where the time went.
-class DayHeadAccess final : public PaintedCell, public QAccessibleActionInterface
+class DayHeadAccess final : public ActionCell
 {
 public:
     DayHeadAccess(AgendaView& view, const PaintedTable& table, int day);
 
     QRect rect() const override;
     QAccessible::Role role() const override { return QAccessible::ColumnHeader; }
-    void* interface_cast(QAccessible::InterfaceType type) override;
 
     int columnIndex() const override { return mDay; }
     /// Above all rows.
@@ -22,7 +21,6 @@ public:
 
     QStringList actionNames() const override;
     void doAction(const QString& name) override;
-    QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
 protected:
     QString Name() const override;

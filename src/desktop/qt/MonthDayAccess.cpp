@@ -8,7 +8,7 @@
 namespace tempodial {
 
 MonthDayAccess::MonthDayAccess(MiniMonth& month, const PaintedTable& table, Date day)
-    : PaintedCell(month, table)
+    : ActionCell(month, table)
     , mMonth(month)
     , mDay(day)
 {
@@ -16,7 +16,7 @@ MonthDayAccess::MonthDayAccess(MiniMonth& month, const PaintedTable& table, Date
 
 bool MonthDayAccess::isValid() const
 {
-    return PaintedCell::isValid() && mMonth.PlaceOf(mDay).has_value();
+    return ActionCell::isValid() && mMonth.PlaceOf(mDay).has_value();
 }
 
 QString MonthDayAccess::Name() const
@@ -40,7 +40,7 @@ QRect MonthDayAccess::rect() const
 
 QAccessible::State MonthDayAccess::state() const
 {
-    auto state = PaintedCell::state();
+    auto state = ActionCell::state();
     if (!state.invalid) {
         state.focusable = true;
         state.focused = mMonth.hasFocus() && mMonth.Cursor() == mDay;
@@ -48,12 +48,6 @@ QAccessible::State MonthDayAccess::state() const
         state.selected = mMonth.IsShown(mDay);
     }
     return state;
-}
-
-void* MonthDayAccess::interface_cast(QAccessible::InterfaceType type)
-{
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                : PaintedCell::interface_cast(type);
 }
 
 int MonthDayAccess::columnIndex() const

@@ -1,11 +1,11 @@
 #include "DesktopFixture.h"
+#include "OwnProcess.h"
 #include "desktop/qt/AgendaView.h"
 #include "desktop/qt/CardCache.h"
 #include "desktop/qt/TextCache.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -117,20 +117,10 @@ TEST_F(OtherScreenTest, Window_ComesToADenseScreenAndBack_IsSharpOnBoth)
 /// What screens there are is settled when a process begins.
 TEST(ScreensTest, TwoOfThem_AreTriedInAProcessOfTheirOwn)
 {
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(
-        "QT_QPA_PLATFORM", "offscreen:configfile=" TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/screens.json");
-    for (const auto* shard : { "GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX", "GTEST_OUTPUT" }) {
-        environment.remove(shard);
-    }
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start("/proc/self/exe", { "--gtest_brief=1", "--gtest_filter=OtherScreenTest.*" });
-    constexpr int Long = 60000;
-    ASSERT_TRUE(process.waitForFinished(Long));
-    const auto said = process.readAllStandardOutput().toStdString();
-    EXPECT_EQ(process.exitCode(), 0) << said;
-    EXPECT_EQ(said.find("SKIPPED"), std::string::npos) << said;
+    const OwnProcess alone("OtherScreenTest.*", "QT_QPA_PLATFORM",
+        "offscreen:configfile=" TEMPODIAL_SOURCE_DIR "/tests/desktop/qt/data/screens.json");
+    EXPECT_TRUE(alone.HasPassed()) << alone.Said();
+    EXPECT_EQ(alone.Said().find("SKIPPED"), std::string::npos) << alone.Said();
 }
 
 }

@@ -1,10 +1,10 @@
 #include "KeptPicture.h"
+#include "OwnProcess.h"
 #include "ScreensFixture.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
-#include <QProcess>
 #include <cstdlib>
 
 namespace tempodial {
@@ -95,17 +95,8 @@ TEST(PicturesAtOtherScalesTest, Scale_OneAndAHalf_IsHeldToo)
     if (qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
         GTEST_SKIP() << "this is another scale";
     }
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_SCALE_FACTOR", "1.5");
-    for (const auto* shard : { "GTEST_TOTAL_SHARDS", "GTEST_SHARD_INDEX", "GTEST_OUTPUT" }) {
-        environment.remove(shard);
-    }
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start("/proc/self/exe", { "--gtest_brief=1", "--gtest_filter=*/PicturesTest.*" });
-    constexpr int Long = 300000;
-    ASSERT_TRUE(process.waitForFinished(Long));
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardOutput().toStdString();
+    const OwnProcess alone("*/PicturesTest.*", "QT_SCALE_FACTOR", "1.5");
+    EXPECT_TRUE(alone.HasPassed()) << alone.Said();
 }
 
 }
